@@ -1,0 +1,28 @@
+# add_type_library(TARGET IDL): NAME.tlb for the target's bitness and NAME.h with its interfaces, as INTERFACE library
+# TARGET that carries the header's folder; the type library's path is its property TYPE_LIBRARY.
+
+find_file(STDOLE2_TLB stdole2.tlb
+    PATHS /usr/lib/x86_64-linux-gnu/wine/x86_64-windows /usr/lib/i386-linux-gnu/wine/i386-windows
+    NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+cmake_path(GET STDOLE2_TLB PARENT_PATH STDOLE2_FOLDER)
+
+function(add_type_library target idl)
+    cmake_path(GET idl STEM name)
+    set(folder ${CMAKE_CURRENT_BINARY_DIR}/type_library)
+    file(MAKE_DIRECTORY ${folder})
+    set(widl ${WIDL} -I${CMAKE_CURRENT_SOURCE_DIR} -I${WINE_WINDOWS_HEADERS} -L${STDOLE2_FOLDER})
+    file(GLOB_RECURSE included CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.idl")
+
+    add_custom_command(
+        OUTPUT ${folder}/${name}.tlb ${folder}/${name}.h
+        COMMAND ${widl} -t -o ${folder}/${name}.tlb ${CMAKE_CURRENT_SOURCE_DIR}/${idl}
+        COMMAND ${widl} -h -H ${folder}/${name}.h ${CMAKE_CURRENT_SOURCE_DIR}/${idl}
+        DEPENDS ${included}
+        VERBATIM)
+    add_custom_target(${target}_files DEPENDS ${folder}/${name}.tlb ${folder}/${name}.h)
+
+    add_library(${target} INTERFACE)
+    add_dependencies(${target} ${target}_files)
+    target_include_directories(${target} SYSTEM INTERFACE ${folder})
+    set_target_properties(${target} PROPERTIES TYPE_LIBRARY ${folder}/${name}.tlb)
+endfunction()
