@@ -1,0 +1,39 @@
+// The one exception of the library, and the check that every call to the platform goes through.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace platform {
+
+// A failure as a COM client sees it. `source` is empty until the failure leaves the library, unless the callee gave
+// one.
+class ComError {
+public:
+    ComError(HRESULT number, std::wstring description, std::wstring source = {});
+
+    HRESULT Number() const { return number_; }
+    const std::wstring& Description() const { return description_; }
+    const std::wstring& Source() const { return source_; }
+
+private:
+    HRESULT number_;
+    std::wstring description_;
+    std::wstring source_;
+};
+
+// The failure `number` with the description that the callee left, else the system's own text for it.
+ComError LastError(HRESULT number);
+
+// Raises LastError when `result` is a failure.
+inline void Check(HRESULT result) {
+    if (FAILED(result)) throw LastError(result);
+}
+
+// What clients of Visual Basic's kind know as errors 424, 13 and 6.
+ComError ObjectRequired();
+ComError TypeMismatch();
+ComError Overflow();
+
+}  // namespace platform

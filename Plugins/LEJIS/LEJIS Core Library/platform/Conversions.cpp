@@ -1,0 +1,110 @@
+#include "platform/Conversions.h"
+
+#include "platform/ComError.h"
+#include "platform/Text.h"
+
+#include <oleauto.h>
+
+#include <cmath>
+
+namespace platform {
+namespace {
+
+constexpr LCID kUserLocale = LOCALE_USER_DEFAULT;
+
+// mingw-w64 declares the source texts of these functions as writable; none of them writes.
+OLECHAR* Source(const std::wstring& text) { return const_cast<OLECHAR*>(text.c_str()); }
+
+// A number that is none converts to nothing everywhere; the platforms disagree on what it becomes.
+bool IsNoNumber(const VARIANT& value) {
+    return (V_VT(&value) == VT_R8 && std::isnan(V_R8(&value))) || (V_VT(&value) == VT_R4 && std::isnan(V_R4(&value)));
+}
+
+bool Convert(const VARIANT& value, VARTYPE type, _variant_t& result) {
+    if (IsNoNumber(value)) return false;
+    return SUCCEEDED(VariantChangeTypeEx(&result, const_cast<VARIANT*>(&value), kUserLocale, VARIANT_ALPHABOOL, type));
+}
+
+}  // namespace
+
+_variant_t Dereference(const VARIANT& value) {
+    _variant_t copy;
+    Check(VariantCopyInd(&copy, const_cast<VARIANT*>(&value)));
+    return copy;
+}
+
+_variant_t Null() {
+    _variant_t null;
+    V_VT(&null) = VT_NULL;
+    return null;
+}
+
+std::wstring ToText(const VARIANT& value) {
+    if (V_VT(&value) == VT_NULL) return {};
+    if (V_VT(&value) == VT_BSTR) return CopyText(V_BSTR(&value));
+    _variant_t text;
+    if (!Convert(value, VT_BSTR, text)) throw TypeMismatch();
+    return CopyText(V_BSTR(&text));
+}
+
+std::optional<DATE> ParseDate(const std::wstring& text) {
+    DATE date = 0;
+    if (FAILED(VarDateFromStr(Source(text), kUserLocale, 0, &date))) return std::nullopt;
+    return date;
+}
+
+std::optional<double> ParseNumber(const std::wstring& text) {
+    double number = 0;
+    if (FAILED(VarR8FromStr(Source(text), kUserLocale, 0, &number))) return std::nullopt;
+    return number;
+}
+
+std::optional<bool> ParseBoolean(const std::wstring& text) {
+    VARIANT_BOOL flag = VARIANT_FALSE;
+    if (FAILED(VarBoolFromStr(Source(text), kUserLocale, 0, &flag))) return std::nullopt;
+    return flag != VARIANT_FALSE;
+}
+
+long ParseLong(const std::wstring& text) {
+    LONG number = 0;
+    const HRESULT result = VarI4FromStr(Source(text), kUserLocale, 0, &number);
+    if (result == DISP_E_OVERFLOW) throw Overflow();
+    if (FAILED(result)) throw TypeMismatch();
+    return number;
+}
+
+std::optional<short> ParseShort(const std::wstring& text) {
+    SHORT number = 0;
+    if (FAILED(VarI2FromStr(Source(text), kUserLocale, 0, &number))) return std::nullopt;
+    return number;
+}
+
+template <>
+std::optional<short> RoundTo<short>(const VARIANT& number) {
+    _variant_t rounded;
+    if (!Convert(number, VT_I2, rounded)) return std::nullopt;
+    return V_I2(&rounded);
+}
+
+template <>
+std::optional<long> RoundTo<long>(const VARIANT& number) {
+    _variant_t rounded;
+    if (!Convert(number, VT_I4, rounded)) return std::nullopt;
+    return V_I4(&rounded);
+}
+
+SYSTEMTIME CalendarTime(DATE date) {
+    SYSTEMTIME time{};
+    if (!VariantTimeToSystemTime(date, &time)) throw Overflow();
+    return time;
+}
+
+DATE Now() {
+    SYSTEMTIME time{};
+    GetLocalTime(&time);
+    DATE now = 0;
+    SystemTimeToVariantTime(&time, &now);
+    return now;
+}
+
+}  // namespace platform

@@ -1,0 +1,45 @@
+#include "platform/Text.h"
+
+#include <oleauto.h>
+
+#include <cwctype>
+#include <memory>
+#include <new>
+
+namespace platform {
+
+std::wstring CopyText(BSTR text) { return text ? std::wstring(text, SysStringLen(text)) : std::wstring(); }
+
+std::wstring TakeText(BSTR text) {
+    const std::unique_ptr<OLECHAR, void (*)(BSTR)> owner(text, [](BSTR owned) { SysFreeString(owned); });
+    return CopyText(text);
+}
+
+_bstr_t ToBstr(std::wstring_view text) {
+    const BSTR copy = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+    if (!copy) throw std::bad_alloc();
+    return _bstr_t(copy, false);
+}
+
+std::wstring_view TrimBlanks(std::wstring_view text) {
+    const size_t first = text.find_first_not_of(L' ');
+    if (first == std::wstring_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(L' ') - first + 1);
+}
+
+bool EqualIgnoringCase(std::wstring_view one, std::wstring_view other) {
+    return CompareStringOrdinal(one.data(), static_cast<int>(one.size()), other.data(), static_cast<int>(other.size()),
+                                TRUE) == CSTR_EQUAL;
+}
+
+std::wstring ProperCase(std::wstring text) {
+    CharLowerBuffW(text.data(), static_cast<DWORD>(text.size()));
+    bool wordBegins = true;
+    for (wchar_t& character : text) {
+        if (wordBegins) CharUpperBuffW(&character, 1);
+        wordBegins = std::iswspace(character) != 0;
+    }
+    return text;
+}
+
+}  // namespace platform

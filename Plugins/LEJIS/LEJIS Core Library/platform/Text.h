@@ -1,0 +1,29 @@
+// Texts between the platform's BSTR and std::wstring, and the few changes of text that the library makes.
+#pragma once
+
+#include <comutil.h>
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+// Takes over `text`, which may be null: no text.
+std::wstring TakeText(BSTR text);
+
+// A copy of `text`, which stays the caller's and may be null: no text.
+std::wstring CopyText(BSTR text);
+
+// All of `text`, null characters included. Raises when memory is short.
+_bstr_t ToBstr(std::wstring_view text);
+
+// `text` without the blanks at its ends; other white space stays.
+std::wstring_view TrimBlanks(std::wstring_view text);
+
+bool EqualIgnoringCase(std::wstring_view one, std::wstring_view other);
+
+// Each word with its first letter in upper case and the others in lower case; white space separates words.
+std::wstring ProperCase(std::wstring text);
+
+}  // namespace platform

@@ -1,0 +1,46 @@
+// The ordered, 1-based collection that the library hands out.
+#pragma once
+
+#include "platform/com/ComObject.h"
+#include "platform/com/Inside.h"
+
+#include <comutil.h>
+#include <TVLejisCore.h>
+
+#include <string_view>
+#include <vector>
+
+namespace platform {
+
+// Clients may add a value of any kind; who reads the items decides what is a fault.
+class Collection final : public ComObject<::Collection, ICollection> {
+public:
+    STDMETHODIMP Add(VARIANT newItem) override;
+    STDMETHODIMP get_Count(long* result) override;
+    STDMETHODIMP get_Item(long index, VARIANT* result) override;
+    STDMETHODIMP Remove(long index) override;
+    STDMETHODIMP get__NewEnum(IUnknown** result) override;
+
+    void AddText(std::wstring_view text);
+    void AddObject(IDispatch* object);
+
+    size_t Count() const { return items_.size(); }
+    const _variant_t& Item(long index) const;
+
+    // All items as objects of one class of this library. Raises the type mismatch when one is something else.
+    template <typename Class>
+    std::vector<Microsoft::WRL::ComPtr<Class>> ItemsAs() const {
+        std::vector<Microsoft::WRL::ComPtr<Class>> objects;
+        objects.reserve(items_.size());
+        for (const _variant_t& item : items_) objects.push_back(Inside<Class>(ObjectIn(item)));
+        return objects;
+    }
+
+private:
+    static IUnknown* ObjectIn(const _variant_t& item);
+    size_t Position(long index) const;
+
+    std::vector<_variant_t> items_;
+};
+
+}  // namespace platform

@@ -1,0 +1,92 @@
+// What every public class of the library is built on: automation through the type library, class information and
+// errors.
+#pragma once
+
+#include "platform/com/Guard.h"
+#include "platform/com/TypeLibrary.h"
+#include "platform/com/UnknownObject.h"
+#include "platform/ComError.h"
+
+#include <ocidl.h>
+
+namespace platform {
+
+// `Coclass` is the class in the type library, `Interface` its default interface.
+template <typename Coclass, typename Interface, typename... MoreInterfaces>
+class ComObject : public UnknownObject<Interface, MoreInterfaces..., ISupportErrorInfo, IProvideClassInfo2> {
+    using Base = UnknownObject<Interface, MoreInterfaces..., ISupportErrorInfo, IProvideClassInfo2>;
+
+public:
+    using DefaultInterface = Interface;
+
+    static REFCLSID ClassId() { return __uuidof(Coclass); }
+
+    // Needed where this object has several interfaces that are automation's.
+    IDispatch* Dispatch() { return static_cast<Interface*>(this); }
+
+    STDMETHODIMP GetTypeInfoCount(UINT* count) override {
+        if (!count) return E_POINTER;
+        *count = 1;
+        return S_OK;
+    }
+
+    STDMETHODIMP GetTypeInfo(UINT index, LCID, ITypeInfo** information) override {
+        if (!information) return E_POINTER;
+        *information = nullptr;
+        if (index != 0) return DISP_E_BADINDEX;
+        return Guard(information, [] { return Microsoft::WRL::ComPtr<ITypeInfo>(InterfaceInfo()); });
+    }
+
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* numbers) override {
+        if (!names || !numbers || count == 0) return E_INVALIDARG;
+        HRESULT found = S_OK;
+        const HRESULT result = Guard([&] { found = InterfaceInfo()->GetIDsOfNames(names, count, numbers); });
+        return FAILED(result) ? result : found;
+    }
+
+    STDMETHODIMP Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
+                        EXCEPINFO* exception, UINT* argument) override {
+        if (!parameters) return E_INVALIDARG;
+        const Microsoft::WRL::ComPtr<Interface> self(this->First());
+        HRESULT outcome = S_OK;
+        const HRESULT entered = Guard([&] {
+            outcome = InterfaceInfo()->Invoke(self.Get(), member, flags, parameters, result, exception, argument);
+        });
+        return FAILED(entered) ? entered : outcome;
+    }
+
+    STDMETHODIMP InterfaceSupportsErrorInfo(REFIID iid) override { return this->Find(iid) ? S_OK : S_FALSE; }
+
+    STDMETHODIMP GetClassInfo(ITypeInfo** information) override {
+        return Guard(information, [] { return TypeInfoOf(ClassId()); });
+    }
+
+    STDMETHODIMP GetGUID(DWORD kind, GUID* guid) override {
+        if (!guid) return E_POINTER;
+        *guid = GUID_NULL;
+        if (kind != GUIDKIND_DEFAULT_SOURCE_DISP_IID) return E_INVALIDARG;
+        return Guard([&] { *guid = DefaultEventsOf(ClassId()); });
+    }
+
+protected:
+    template <typename... Arguments>
+    HRESULT Guard(Arguments&&... arguments) const noexcept {
+        return platform::Guard(ClassId(), std::forward<Arguments>(arguments)...);
+    }
+
+    void* Find(REFIID iid) override {
+        if (iid == __uuidof(IDispatch)) return Dispatch();
+        if (iid == __uuidof(IProvideClassInfo)) return static_cast<IProvideClassInfo*>(this);
+        // Asked for its own class identifier, an object hands out its inside: see Inside.h.
+        if (iid == ClassId()) return this->First();
+        return Base::Find(iid);
+    }
+
+private:
+    static ITypeInfo* InterfaceInfo() {
+        static const Microsoft::WRL::ComPtr<ITypeInfo> information = TypeInfoOf(__uuidof(Interface));
+        return information.Get();
+    }
+};
+
+}  // namespace platform

@@ -1,0 +1,59 @@
+#include "platform/com/Module.h"
+
+#include "platform/ComError.h"
+
+#include <atomic>
+#include <cstring>
+
+namespace platform::module {
+namespace {
+
+std::atomic<long> uses{0};
+
+// The fixed part of a version resource stands behind the header and the key "VS_VERSION_INFO", at this offset.
+constexpr size_t kFixedInfoOffset = 40;
+
+void CheckFound(bool found) {
+    if (!found) Check(HRESULT_FROM_WIN32(GetLastError()));
+}
+
+}  // namespace
+
+void Retain() noexcept { ++uses; }
+void Release() noexcept { --uses; }
+bool InUse() noexcept { return uses.load() != 0; }
+
+HMODULE Handle() {
+    HMODULE handle = nullptr;
+    CheckFound(GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                                  reinterpret_cast<LPCWSTR>(&uses), &handle));
+    return handle;
+}
+
+std::wstring Path() {
+    std::wstring path(MAX_PATH, L'\0');
+    for (;;) {
+        const DWORD length = GetModuleFileNameW(Handle(), path.data(), static_cast<DWORD>(path.size()));
+        CheckFound(length != 0);
+        if (length < path.size()) {
+            path.resize(length);
+            return path;
+        }
+        path.resize(path.size() * 2);
+    }
+}
+
+Version ReadVersion() {
+    const HMODULE self = Handle();
+    const HRSRC resource = FindResourceW(self, MAKEINTRESOURCEW(VS_VERSION_INFO), RT_VERSION);
+    CheckFound(resource != nullptr);
+    const HGLOBAL loaded = LoadResource(self, resource);
+    CheckFound(loaded != nullptr);
+    if (SizeofResource(self, resource) < kFixedInfoOffset + sizeof(VS_FIXEDFILEINFO)) Check(E_UNEXPECTED);
+    VS_FIXEDFILEINFO info;
+    std::memcpy(&info, static_cast<const char*>(LockResource(loaded)) + kFixedInfoOffset, sizeof info);
+    return {HIWORD(info.dwFileVersionMS), LOWORD(info.dwFileVersionMS), HIWORD(info.dwFileVersionLS),
+            LOWORD(info.dwFileVersionLS)};
+}
+
+}  // namespace platform::module

@@ -1,0 +1,120 @@
+#include "platform/com/Registration.h"
+
+#include "platform/com/Module.h"
+#include "platform/com/TypeLibrary.h"
+#include "platform/ComError.h"
+#include "platform/Registry.h"
+#include "platform/Text.h"
+
+#include <oleauto.h>
+
+#include <vector>
+
+using Microsoft::WRL::ComPtr;
+
+namespace platform {
+namespace {
+
+struct RegisteredClass {
+    CLSID id;
+    std::wstring name;
+    std::wstring description;
+};
+
+std::wstring GuidText(REFGUID guid) {
+    wchar_t text[40];
+    StringFromGUID2(guid, text, ARRAYSIZE(text));
+    return text;
+}
+
+// The library's attributes; `read` sees them only while they are held.
+TLIBATTR LibraryAttributes(ITypeLib* library) {
+    TLIBATTR* attributes = nullptr;
+    Check(library->GetLibAttr(&attributes));
+    const TLIBATTR copy = *attributes;
+    library->ReleaseTLibAttr(attributes);
+    return copy;
+}
+
+bool IsCreatable(ITypeInfo* information, CLSID& id) {
+    TYPEATTR* attributes = nullptr;
+    Check(information->GetTypeAttr(&attributes));
+    id = attributes->guid;
+    const bool creatable = attributes->typekind == TKIND_COCLASS && (attributes->wTypeFlags & TYPEFLAG_FCANCREATE);
+    information->ReleaseTypeAttr(attributes);
+    return creatable;
+}
+
+std::vector<RegisteredClass> CreatableClasses(ITypeLib* library) {
+    std::vector<RegisteredClass> classes;
+    for (UINT index = 0; index < library->GetTypeInfoCount(); ++index) {
+        ComPtr<ITypeInfo> information;
+        CLSID id;
+        Check(library->GetTypeInfo(index, information.GetAddressOf()));
+        if (!IsCreatable(information.Get(), id)) continue;
+        BSTR name = nullptr;
+        BSTR description = nullptr;
+        Check(information->GetDocumentation(MEMBERID_NIL, &name, &description, nullptr, nullptr));
+        classes.push_back({id, TakeText(name), TakeText(description)});
+    }
+    return classes;
+}
+
+std::wstring ClassKey(const RegisteredClass& one) { return L"CLSID\\" + GuidText(one.id); }
+
+void RegisterClassKeys(const RegisteredClass& one, const TLIBATTR& library) {
+    const std::wstring progId = ProgIdOf(one.id);
+    const std::wstring version = std::to_wstring(library.wMajorVerNum) + L"." + std::to_wstring(library.wMinorVerNum);
+    const std::wstring classKey = ClassKey(one);
+    const struct {
+        std::wstring key, value, text;
+    } entries[] = {
+        {classKey, L"", one.description},
+        {classKey + L"\\InprocServer32", L"", module::Path()},
+        {classKey + L"\\InprocServer32", L"ThreadingModel", L"Apartment"},
+        {classKey + L"\\ProgID", L"", progId},
+        {classKey + L"\\Programmable", L"", L""},
+        {classKey + L"\\TypeLib", L"", GuidText(library.guid)},
+        {classKey + L"\\Version", L"", version},
+        {progId, L"", one.description},
+        {progId + L"\\CLSID", L"", GuidText(one.id)},
+    };
+    for (const auto& entry : entries) WriteRegistryText(HKEY_CLASSES_ROOT, entry.key, entry.value, entry.text);
+}
+
+// The classes' keys are separate for each bitness, their ProgIDs are not.
+bool OtherBitnessHas(const RegisteredClass& one) {
+    const REGSAM other = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+    HKEY key = nullptr;
+    if (RegOpenKeyExW(HKEY_CLASSES_ROOT, ClassKey(one).c_str(), 0, KEY_READ | other, &key) != ERROR_SUCCESS)
+        return false;
+    RegCloseKey(key);
+    return true;
+}
+
+void UnregisterClassKeys(const RegisteredClass& one) {
+    DeleteRegistryTree(HKEY_CLASSES_ROOT, ClassKey(one));
+    if (!OtherBitnessHas(one)) DeleteRegistryTree(HKEY_CLASSES_ROOT, ProgIdOf(one.id));
+}
+
+}  // namespace
+
+void RegisterModule() {
+    const ComPtr<ITypeLib> library = LoadModuleTypeLibrary();
+    std::wstring path = module::Path();
+    Check(RegisterTypeLib(library.Get(), path.data(), nullptr));
+    const TLIBATTR attributes = LibraryAttributes(library.Get());
+    for (const RegisteredClass& one : CreatableClasses(library.Get())) RegisterClassKeys(one, attributes);
+}
+
+void UnregisterModule() {
+    const ComPtr<ITypeLib> library = LoadModuleTypeLibrary();
+    for (const RegisteredClass& one : CreatableClasses(library.Get())) UnregisterClassKeys(one);
+    const TLIBATTR attributes = LibraryAttributes(library.Get());
+    const HRESULT result = UnRegisterTypeLib(attributes.guid, attributes.wMajorVerNum, attributes.wMinorVerNum,
+                                             attributes.lcid, attributes.syskind);
+    // Taking out what is not there is no failure.
+    if (result != TYPE_E_REGISTRYACCESS) Check(result);
+}
+
+}  // namespace platform

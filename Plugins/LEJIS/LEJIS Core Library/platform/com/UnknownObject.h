@@ -1,0 +1,68 @@
+// Identity and lifetime of a COM object with the given interfaces, the first of which stands for the object itself.
+#pragma once
+
+#include "platform/com/Module.h"
+
+#include <unknwn.h>
+#include <windows.h>
+#include <wrl/client.h>
+
+#include <atomic>
+#include <tuple>
+#include <utility>
+
+namespace platform {
+
+template <typename... Interfaces>
+class UnknownObject : public Interfaces... {
+public:
+    UnknownObject(const UnknownObject&) = delete;
+    UnknownObject& operator=(const UnknownObject&) = delete;
+
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
+        if (!object) return E_POINTER;
+        *object = Find(iid);
+        if (!*object) return E_NOINTERFACE;
+        AddRef();
+        return S_OK;
+    }
+
+    STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
+
+    STDMETHODIMP_(ULONG) Release() override {
+        const ULONG left = --references_;
+        if (left == 0) {
+            // Code that runs during destruction may still take and drop references.
+            references_ = kBeingDestroyed;
+            delete this;
+        }
+        return left;
+    }
+
+protected:
+    UnknownObject() { module::Retain(); }
+    virtual ~UnknownObject() { module::Release(); }
+
+    // The object as this interface, without a new reference; null when it has none such.
+    virtual void* Find(REFIID iid) {
+        void* found = nullptr;
+        ((iid == __uuidof(Interfaces) ? (found = static_cast<Interfaces*>(this), true) : false) || ...);
+        if (!found && iid == __uuidof(IUnknown)) found = First();
+        return found;
+    }
+
+    auto* First() { return static_cast<std::tuple_element_t<0, std::tuple<Interfaces...>>*>(this); }
+
+private:
+    static constexpr ULONG kBeingDestroyed = 0x40000000;
+
+    std::atomic<ULONG> references_{0};
+};
+
+// A new object of a COM class of this library.
+template <typename Class, typename... Arguments>
+Microsoft::WRL::ComPtr<Class> Create(Arguments&&... arguments) {
+    return Microsoft::WRL::ComPtr<Class>(new Class(std::forward<Arguments>(arguments)...));
+}
+
+}  // namespace platform

@@ -1,0 +1,42 @@
+#include "platform/host/SuiteEnvironment.h"
+
+#include "platform/com/LateBound.h"
+#include "platform/ComError.h"
+#include "platform/Conversions.h"
+#include "platform/host/HostComponent.h"
+
+#include <windows.h>
+
+#include <filesystem>
+
+using Microsoft::WRL::ComPtr;
+
+namespace platform::host {
+namespace {
+
+thread_local HostComponent environment(L"TalvexSuite.SuiteEnvironment");
+
+std::wstring BuiltInFolder() {
+    wchar_t base[MAX_PATH];
+    const DWORD length = GetEnvironmentVariableW(L"LOCALAPPDATA", base, ARRAYSIZE(base));
+    if (length == 0 || length >= ARRAYSIZE(base)) Check(HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND));
+    const std::filesystem::path folder = std::filesystem::path(base) / L"TalvexSuite" / L"Diagnostics";
+    // A folder that cannot be made is reported by the write into it.
+    std::error_code ignored;
+    std::filesystem::create_directories(folder, ignored);
+    return folder.wstring();
+}
+
+}  // namespace
+
+std::wstring DiagnosticsFolder() {
+    const ComPtr<IDispatch> host = environment.Get();
+    if (!host) return BuiltInFolder();
+    const _variant_t folders = GetMember(host.Get(), L"Folders");
+    if (V_VT(&folders) != VT_DISPATCH || !V_DISPATCH(&folders)) throw ObjectRequired();
+    return ToText(GetMember(V_DISPATCH(&folders), L"Diagnostics"));
+}
+
+void ReleaseEnvironment() noexcept { environment.Release(); }
+
+}  // namespace platform::host

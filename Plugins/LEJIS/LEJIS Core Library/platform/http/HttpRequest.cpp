@@ -1,0 +1,124 @@
+#include "platform/http/HttpRequest.h"
+
+#include "platform/ComError.h"
+#include "platform/Text.h"
+
+#include <comutil.h>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+using Microsoft::WRL::ComPtr;
+
+namespace platform {
+namespace {
+
+// What `open` reports for an address that is empty or none.
+constexpr HRESULT kAddressRefused[] = {kInvalidUrl, E_INVALIDARG, static_cast<HRESULT>(0x800C0002),
+                                       static_cast<HRESULT>(0x800C000D)};
+
+// What Wine's `send` reports for a server that cannot be reached; Windows means something else by it.
+constexpr HRESULT kDownloadFailure = static_cast<HRESULT>(0x800C0008);
+
+bool UnderWine() {
+    static const bool wine = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+    return wine;
+}
+
+HttpRequestFactory& Factory() {
+    static HttpRequestFactory factory;
+    return factory;
+}
+
+ComPtr<IXMLHTTPRequest> CreateRequest() {
+    if (Factory()) return Factory()();
+    ComPtr<IXMLHTTPRequest> request;
+    Check(CoCreateInstance(__uuidof(XMLHTTP60), nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(request.GetAddressOf())));
+    return request;
+}
+
+// Raises the failure `result` under the number `number`.
+void CheckAs(HRESULT result, HRESULT number) {
+    if (SUCCEEDED(result)) return;
+    const ComError error = LastError(result);
+    throw ComError(number, error.Description(), error.Source());
+}
+
+}  // namespace
+
+void SetHttpRequestFactory(HttpRequestFactory factory) { Factory() = std::move(factory); }
+
+HttpRequest HttpRequest::Create() {
+    HttpRequest request;
+    request.request_ = CreateRequest();
+    return request;
+}
+
+IXMLHTTPRequest& HttpRequest::Request() const {
+    if (!request_) throw ObjectRequired();
+    return *request_.Get();
+}
+
+void HttpRequest::SetReadyStateHandler(IDispatch* handler) { Check(Request().put_onreadystatechange(handler)); }
+
+void HttpRequest::ClearReadyStateHandler() noexcept {
+    if (request_) request_->put_onreadystatechange(nullptr);
+}
+
+void HttpRequest::Open(const wchar_t* method, const std::wstring& url, bool asynchronous) {
+    const _variant_t none(DISP_E_PARAMNOTFOUND, VT_ERROR);
+    const HRESULT result = Request().open(ToBstr(method), ToBstr(url), _variant_t(asynchronous), none, none);
+    const bool refused =
+        std::find(std::begin(kAddressRefused), std::end(kAddressRefused), result) != std::end(kAddressRefused);
+    CheckAs(result, refused ? kInvalidUrl : result);
+}
+
+void HttpRequest::SetHeader(const wchar_t* name, const std::wstring& value) {
+    Check(Request().setRequestHeader(ToBstr(name), ToBstr(value)));
+}
+
+void HttpRequest::Send() { SendBody(_variant_t()); }
+
+// By value: a text by reference is sent as an empty body by some implementations.
+void HttpRequest::Send(const std::wstring& body) { SendBody(_variant_t(ToBstr(body))); }
+
+void HttpRequest::SendBody(const VARIANT& body) {
+    const HRESULT result = Request().send(body);
+    const bool unreachable = result == kDownloadFailure && UnderWine();
+    CheckAs(result, unreachable ? kServerUnreachable : result);
+}
+
+long HttpRequest::ReadyState() const {
+    long state = 0;
+    Check(Request().get_readyState(&state));
+    return state;
+}
+
+long HttpRequest::Status() const {
+    long status = 0;
+    Check(Request().get_status(&status));
+    return status;
+}
+
+std::wstring HttpRequest::StatusText() const {
+    BSTR text = nullptr;
+    Check(Request().get_statusText(&text));
+    return TakeText(text);
+}
+
+std::wstring HttpRequest::ResponseText() const {
+    BSTR text = nullptr;
+    Check(Request().get_responseText(&text));
+    return TakeText(text);
+}
+
+msxml::Document HttpRequest::ResponseXml() const {
+    ComPtr<IDispatch> response;
+    msxml::Document document;
+    Check(Request().get_responseXML(response.GetAddressOf()));
+    if (response) response.As(&document);
+    return document;
+}
+
+}  // namespace platform

@@ -1,0 +1,58 @@
+// One HTTP exchange through MSXML. The only place that knows how implementations of it differ.
+#pragma once
+
+#include "platform/msxml/MsXml.h"
+
+#include <functional>
+#include <string>
+
+namespace platform {
+
+// The two failures of a send that callers tell apart, whatever number the implementation reports for them.
+inline constexpr HRESULT kInvalidUrl = MK_E_SYNTAX;  // 0x800401E4
+inline constexpr HRESULT kServerUnreachable = static_cast<HRESULT>(0x800C0005);
+
+// Failures are raised as ComError. On Windows a server that cannot be reached fails a synchronous send with
+// kServerUnreachable and completes an asynchronous one with a status of 12029 or its like; under Wine an asynchronous
+// one never completes.
+class HttpRequest {
+public:
+    static constexpr long kComplete = 4;
+
+    // No request yet; everything but the test for it raises the object error. Copies are the same request.
+    HttpRequest() = default;
+    static HttpRequest Create();
+    explicit operator bool() const { return request_ != nullptr; }
+
+    // `handler`'s default member is called on each change of state, inside of calls to this class too.
+    void SetReadyStateHandler(IDispatch* handler);
+    // Lets go of the handler, which as a rule holds this request in turn.
+    void ClearReadyStateHandler() noexcept;
+
+    void Open(const wchar_t* method, const std::wstring& url, bool asynchronous);
+    void SetHeader(const wchar_t* name, const std::wstring& value);
+    void Send();
+    void Send(const std::wstring& body);
+
+    long ReadyState() const;
+
+    // The HTTP status, or the WinINet error number of a connection that failed; 0 when the server closed it early.
+    long Status() const;
+    // May be empty.
+    std::wstring StatusText() const;
+    std::wstring ResponseText() const;
+    // Null when the implementation offers no document; without a root when the answer is empty or no XML.
+    msxml::Document ResponseXml() const;
+
+private:
+    IXMLHTTPRequest& Request() const;
+    void SendBody(const VARIANT& body);
+
+    Microsoft::WRL::ComPtr<IXMLHTTPRequest> request_;
+};
+
+// What makes the underlying requests; null puts MSXML's own back.
+using HttpRequestFactory = std::function<Microsoft::WRL::ComPtr<IXMLHTTPRequest>()>;
+void SetHttpRequestFactory(HttpRequestFactory factory);
+
+}  // namespace platform

@@ -1,0 +1,11 @@
+#include "platform/http/Wait.h"
+
+#include "platform/host/SuiteServices.h"
+
+namespace platform {
+
+void WaitUntilComplete(const HttpRequest& request) {
+    while (request.ReadyState() != HttpRequest::kComplete) host::YieldToHost();
+}
+
+}  // namespace platform

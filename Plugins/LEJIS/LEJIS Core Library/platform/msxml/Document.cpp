@@ -1,0 +1,82 @@
+#include "platform/msxml/Document.h"
+
+#include "platform/ComError.h"
+#include "platform/Text.h"
+
+#include <comutil.h>
+
+using Microsoft::WRL::ComPtr;
+using platform::Check;
+using platform::ToBstr;
+
+namespace msxml {
+namespace {
+
+template <typename Interface>
+ComPtr<Interface> From(IDispatch* client) {
+    if (!client) throw platform::ObjectRequired();
+    ComPtr<Interface> object;
+    if (FAILED(client->QueryInterface(IID_PPV_ARGS(object.GetAddressOf())))) throw platform::TypeMismatch();
+    return object;
+}
+
+}  // namespace
+
+Document CreateDocument() {
+    Document document;
+    Check(CoCreateInstance(__uuidof(DOMDocument60), nullptr, CLSCTX_INPROC_SERVER,
+                           IID_PPV_ARGS(document.GetAddressOf())));
+    Check(document->put_async(VARIANT_FALSE));
+    Check(document->put_resolveExternals(VARIANT_FALSE));
+    Check(document->put_validateOnParse(VARIANT_FALSE));
+    return document;
+}
+
+bool LoadXml(const Document& document, const std::wstring& text) {
+    VARIANT_BOOL loaded = VARIANT_FALSE;
+    Check(document->loadXML(ToBstr(text), &loaded));
+    if (loaded == VARIANT_FALSE) return false;
+    if (!HasDoctype(document)) return true;
+    // Text that does not parse empties the document.
+    Check(document->loadXML(ToBstr(L""), &loaded));
+    return false;
+}
+
+bool LoadCopy(const Document& document, const Document& original) {
+    VARIANT_BOOL loaded = VARIANT_FALSE;
+    if (!original || HasDoctype(original)) return false;
+    // As unknown object: passed as automation object, some implementations do not see the document in it.
+    Check(document->load(_variant_t(static_cast<IUnknown*>(original.Get())), &loaded));
+    return loaded != VARIANT_FALSE;
+}
+
+bool HasDoctype(const Document& document) {
+    ComPtr<IXMLDOMDocumentType> doctype;
+    Check(document->get_doctype(doctype.GetAddressOf()));
+    return doctype != nullptr;
+}
+
+Element Root(const Document& document) {
+    Element root;
+    Check(document->get_documentElement(root.GetAddressOf()));
+    return root;
+}
+
+void SetProperty(const Document& document, const wchar_t* name, const std::wstring& value) {
+    Check(document->setProperty(ToBstr(name), _variant_t(ToBstr(value))));
+}
+
+void Save(const Document& document, const std::wstring& path) {
+    const HRESULT result = document->save(_variant_t(ToBstr(path)));
+    if (FAILED(result)) {
+        const platform::ComError error = platform::LastError(result);
+        throw platform::ComError(result, L"Cannot write '" + path + L"': " + error.Description(), error.Source());
+    }
+}
+
+Document DocumentFrom(IDispatch* client) { return From<IXMLDOMDocument2>(client); }
+Element ElementFrom(IDispatch* client) { return From<IXMLDOMElement>(client); }
+
+ComPtr<IDispatch> ToClient(const Node& node) { return ComPtr<IDispatch>(node.Get()); }
+
+}  // namespace msxml

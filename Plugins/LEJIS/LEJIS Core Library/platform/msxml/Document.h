@@ -1,0 +1,38 @@
+// DOM documents: made, loaded, saved, and taken from clients.
+#pragma once
+
+#include "platform/msxml/MsXml.h"
+
+#include <string>
+
+namespace msxml {
+
+// A new, empty document that loads at once and resolves nothing external.
+Document CreateDocument();
+
+// Loads text. False when it is not well-formed or carries a DOCTYPE; the document is empty then.
+bool LoadXml(const Document& document, const std::wstring& text);
+
+// Loads a copy of another document, which may be null. False when that has no root or carries a DOCTYPE.
+bool LoadCopy(const Document& document, const Document& original);
+
+// Whether the document carries a DOCTYPE. MSXML 6 refuses one by itself; other implementations do not.
+bool HasDoctype(const Document& document);
+
+// The root element; null for an empty document.
+Element Root(const Document& document);
+
+void SetProperty(const Document& document, const wchar_t* name, const std::wstring& value);
+
+// Writes the document to a file, replacing it. Raises when that fails.
+void Save(const Document& document, const std::wstring& path);
+
+// The document or element behind what a client passed. Raises the object error for no object, and the type mismatch
+// for something else.
+Document DocumentFrom(IDispatch* client);
+Element ElementFrom(IDispatch* client);
+
+// What clients get of a document or element.
+Microsoft::WRL::ComPtr<IDispatch> ToClient(const Microsoft::WRL::ComPtr<IXMLDOMNode>& node);
+
+}  // namespace msxml

@@ -1,0 +1,15 @@
+// MSXML 6. Nothing else in the library includes its header.
+#pragma once
+
+#include <msxml6.h>
+#include <ole2.h>
+#include <windows.h>
+#include <wrl/client.h>
+
+namespace msxml {
+
+using Document = Microsoft::WRL::ComPtr<IXMLDOMDocument2>;
+using Element = Microsoft::WRL::ComPtr<IXMLDOMElement>;
+using Node = Microsoft::WRL::ComPtr<IXMLDOMNode>;
+
+}  // namespace msxml

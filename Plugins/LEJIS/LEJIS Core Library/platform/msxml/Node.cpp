@@ -1,0 +1,111 @@
+#include "platform/msxml/Node.h"
+
+#include "platform/ComError.h"
+#include "platform/msxml/Document.h"
+#include "platform/Text.h"
+
+#include <comutil.h>
+
+using Microsoft::WRL::ComPtr;
+using platform::Check;
+using platform::TakeText;
+using platform::ToBstr;
+
+namespace msxml {
+namespace {
+
+using TextGetter = HRESULT (STDMETHODCALLTYPE IXMLDOMNode::*)(BSTR*);
+
+std::wstring GetText(const Node& node, TextGetter getter) {
+    BSTR text = nullptr;
+    Check((node.Get()->*getter)(&text));
+    return TakeText(text);
+}
+
+Node CreateNode(const Document& document, DOMNodeType type, const std::wstring& name, const std::wstring& uri) {
+    Node node;
+    Check(document->createNode(_variant_t(static_cast<long>(type)), ToBstr(name), ToBstr(uri), node.GetAddressOf()));
+    return node;
+}
+
+template <typename Interface>
+ComPtr<Interface> As(const Node& node) {
+    ComPtr<Interface> object;
+    if (node) Check(node.Get()->QueryInterface(IID_PPV_ARGS(object.GetAddressOf())));
+    return object;
+}
+
+}  // namespace
+
+Element CreateElement(const Document& document, const std::wstring& qualifiedName, const std::wstring& namespaceUri) {
+    return As<IXMLDOMElement>(CreateNode(document, NODE_ELEMENT, qualifiedName, namespaceUri));
+}
+
+void SetAttribute(const Document& document, const Element& element, const std::wstring& qualifiedName,
+                  const std::wstring& namespaceUri, const std::wstring& value) {
+    const Node attribute = CreateNode(document, NODE_ATTRIBUTE, qualifiedName, namespaceUri);
+    Check(attribute->put_text(ToBstr(value)));
+    Check(element->setAttributeNode(As<IXMLDOMAttribute>(attribute).Get(), nullptr));
+}
+
+void SetText(const Element& element, const std::wstring& text) { Check(element->put_text(ToBstr(text))); }
+
+void Append(const Node& parent, const Node& child) { Check(parent->appendChild(child.Get(), nullptr)); }
+
+std::wstring Text(const Node& node) { return GetText(node, &IXMLDOMNode::get_text); }
+
+std::wstring Attribute(const Element& element, const wchar_t* name) {
+    _variant_t value;
+    Check(element->getAttribute(ToBstr(name), &value));
+    return V_VT(&value) == VT_BSTR ? platform::CopyText(V_BSTR(&value)) : std::wstring();
+}
+
+Node SelectNode(const Node& node, const std::wstring& xpath) {
+    Node found;
+    Check(node->selectSingleNode(ToBstr(xpath), found.GetAddressOf()));
+    return found;
+}
+
+std::vector<Node> SelectNodes(const Node& node, const std::wstring& xpath) {
+    ComPtr<IXMLDOMNodeList> list;
+    Check(node->selectNodes(ToBstr(xpath), list.GetAddressOf()));
+    std::vector<Node> found;
+    for (Node next; list->nextNode(next.ReleaseAndGetAddressOf()) == S_OK && next;) found.push_back(next);
+    return found;
+}
+
+std::vector<Element> ChildElements(const Node& node) {
+    std::vector<Element> elements;
+    Node child;
+    Check(node->get_firstChild(child.GetAddressOf()));
+    while (child) {
+        DOMNodeType type = NODE_INVALID;
+        Check(child->get_nodeType(&type));
+        if (type == NODE_ELEMENT) elements.push_back(As<IXMLDOMElement>(child));
+        Node next;
+        Check(child->get_nextSibling(next.GetAddressOf()));
+        child = std::move(next);
+    }
+    return elements;
+}
+
+std::wstring LocalName(const Node& node) { return GetText(node, &IXMLDOMNode::get_baseName); }
+std::wstring NamespaceUri(const Node& node) { return GetText(node, &IXMLDOMNode::get_namespaceURI); }
+std::wstring Xml(const Node& node) { return GetText(node, &IXMLDOMNode::get_xml); }
+
+Document OwnerDocument(const Node& node) {
+    ComPtr<IXMLDOMDocument> owner;
+    Check(node->get_ownerDocument(owner.GetAddressOf()));
+    return As<IXMLDOMDocument2>(Node(owner.Get()));
+}
+
+std::wstring Markup(const Element& element) {
+    // Not every MSXML writes the ancestors' declarations with a subtree; the root of a document has none to miss.
+    Node copy;
+    Check(element->cloneNode(VARIANT_TRUE, copy.GetAddressOf()));
+    const Document alone = CreateDocument();
+    Append(alone, copy);
+    return Xml(Root(alone));
+}
+
+}  // namespace msxml

@@ -1,0 +1,47 @@
+// Elements and other nodes: built, found and read.
+#pragma once
+
+#include "platform/msxml/MsXml.h"
+
+#include <string>
+#include <vector>
+
+namespace msxml {
+
+// A new, unattached element; `qualifiedName` is written as it stands.
+Element CreateElement(const Document& document, const std::wstring& qualifiedName, const std::wstring& namespaceUri);
+
+// Sets an attribute that has a namespace.
+void SetAttribute(const Document& document, const Element& element, const std::wstring& qualifiedName,
+                  const std::wstring& namespaceUri, const std::wstring& value);
+
+void SetText(const Element& element, const std::wstring& text);
+
+// Puts `child` behind the last child of `parent`, taking it out of where it was.
+void Append(const Node& parent, const Node& child);
+
+// The text of a node and its descendants.
+std::wstring Text(const Node& node);
+
+// The value of an attribute without a namespace; empty when there is none.
+std::wstring Attribute(const Element& element, const wchar_t* name);
+
+// The first node, or all, that the expression selects relative to `node`; the document's selection namespaces hold.
+Node SelectNode(const Node& node, const std::wstring& xpath);
+std::vector<Node> SelectNodes(const Node& node, const std::wstring& xpath);
+
+// The element children, in document order.
+std::vector<Element> ChildElements(const Node& node);
+
+std::wstring LocalName(const Node& node);
+std::wstring NamespaceUri(const Node& node);
+
+Document OwnerDocument(const Node& node);
+
+// The node as XML text.
+std::wstring Xml(const Node& node);
+
+// The element as XML text that stands alone: with the declarations that it has from its ancestors.
+std::wstring Markup(const Element& element);
+
+}  // namespace msxml
