@@ -1,0 +1,42 @@
+// Writes the children of one element in the order of the calls, one line a child.
+#pragma once
+
+#include "platform/msxml/MsXml.h"
+
+#include <string>
+
+namespace lejis {
+
+class ElementWriter {
+public:
+    // A new, unattached element. The namespace of each name is that of its prefix in Constants.
+    ElementWriter(const msxml::Document& document, const std::wstring& qualifiedName);
+
+    // A text child, written even when its text is empty.
+    void Text(const std::wstring& name, const std::wstring& value);
+    // A text child, left out when its text is empty; blanks are a text.
+    void OptionalText(const std::wstring& name, const std::wstring& value);
+    void Boolean(const std::wstring& name, bool flag);
+
+    // A child that holds j:ID.
+    void Id(const std::wstring& name, const std::wstring& identifier);
+    void OptionalId(const std::wstring& name, const std::wstring& identifier);
+    // A child that holds j:ID and the code of the state that gave it; left out unless both are there.
+    void OptionalJurisdictionId(const std::wstring& name, const std::wstring& identifier, const std::wstring& state);
+
+    // A text child, left out when empty, whose value is in the NCIC unit, which the attribute says.
+    void OptionalMeasure(const std::wstring& name, const std::wstring& value, const std::wstring& unitAttribute);
+
+    // A child built elsewhere, or by another writer.
+    void Child(const msxml::Element& child);
+    void Child(const ElementWriter& child) { Child(child.Element()); }
+
+    const msxml::Document& Document() const { return document_; }
+    const msxml::Element& Element() const { return element_; }
+
+private:
+    msxml::Document document_;
+    msxml::Element element_;
+};
+
+}  // namespace lejis

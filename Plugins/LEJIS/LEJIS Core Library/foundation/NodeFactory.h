@@ -1,0 +1,34 @@
+// Builders of the elements that the library writes. None of them attaches what it builds.
+#pragma once
+
+#include "platform/msxml/MsXml.h"
+
+#include <comutil.h>
+
+#include <string>
+
+namespace lejis::NodeFactory {
+
+// An element in a namespace; its prefix is the one in the qualified name.
+msxml::Element CreateQualifiedElement(const msxml::Document& document, const std::wstring& qualifiedName,
+                                      const std::wstring& namespaceUri);
+
+// An element with a text, written as it stands. An empty text and a null value give an empty element, not none.
+msxml::Element CreateTextElement(const msxml::Document& document, const std::wstring& qualifiedName,
+                                 const std::wstring& value, const std::wstring& namespaceUri);
+msxml::Element CreateTextElement(const msxml::Document& document, const std::wstring& qualifiedName,
+                                 const _variant_t& value, const std::wstring& namespaceUri);
+
+// An element with the text "true" or "false".
+msxml::Element CreateBooleanElement(const msxml::Document& document, const std::wstring& qualifiedName, bool flag,
+                                    const std::wstring& namespaceUri);
+
+// An element that holds j:ID. Both are in the GJXDM namespace, whatever prefix the name carries.
+msxml::Element CreateIdElement(const msxml::Document& document, const std::wstring& qualifiedName,
+                               const std::wstring& identifier);
+
+// The same with j:IDJurisdictionCode.ncicLSTA behind j:ID.
+msxml::Element CreateJurisdictionIdElement(const msxml::Document& document, const std::wstring& qualifiedName,
+                                           const std::wstring& identifier, const std::wstring& jurisdictionCode);
+
+}  // namespace lejis::NodeFactory

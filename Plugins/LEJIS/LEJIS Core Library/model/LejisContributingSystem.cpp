@@ -1,0 +1,37 @@
+#include "model/LejisContributingSystem.h"
+
+#include "foundation/ElementReader.h"
+#include "foundation/ElementWriter.h"
+#include "platform/com/Module.h"
+
+namespace lejis {
+namespace {
+
+std::wstring LibraryVersion() {
+    const platform::module::Version version = platform::module::ReadVersion();
+    return std::to_wstring(version.majorNumber) + L"." + std::to_wstring(version.minorNumber) + L"." +
+           std::to_wstring(version.revision);
+}
+
+}  // namespace
+
+LejisContributingSystem::LejisContributingSystem()
+    : CompanyName(L"Talvex"), SystemName(L"TalvexSuite"), SystemVersion(LibraryVersion()) {}
+
+msxml::Element LejisContributingSystem::ToXmlElement(const msxml::Document& document) const {
+    // The names begin in lower case, unlike the GJXDM names around them.
+    ElementWriter system(document, L"lejis:ContributingSystem");
+    system.Text(L"ext:companyName", CompanyName);
+    system.Text(L"ext:systemName", SystemName);
+    system.Text(L"ext:systemVersion", SystemVersion);
+    return system.Element();
+}
+
+void LejisContributingSystem::FromXmlElement(const msxml::Element& element) {
+    const ElementReader system(element);
+    CompanyName = system.Text(L"ext:companyName");
+    SystemName = system.Text(L"ext:systemName");
+    SystemVersion = system.Text(L"ext:systemVersion");
+}
+
+}  // namespace lejis

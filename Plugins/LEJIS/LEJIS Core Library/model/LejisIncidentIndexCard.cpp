@@ -1,0 +1,116 @@
+#include "model/LejisIncidentIndexCard.h"
+
+#include "foundation/DateText.h"
+#include "foundation/ElementReader.h"
+#include "foundation/ElementWriter.h"
+#include "model/LenientReading.h"
+#include "platform/Conversions.h"
+#include "platform/Text.h"
+
+#include <algorithm>
+
+namespace lejis {
+namespace {
+
+template <typename Card>
+void WriteCards(ElementWriter& incident, const Collection& cards) {
+    for (const auto& card : cards.ItemsAs<Card>()) incident.Child(card->ToXmlElement(incident.Document()));
+}
+
+template <typename Card>
+Microsoft::WRL::ComPtr<Collection> ReadCardsOf(const std::vector<msxml::Element>& elements) {
+    auto cards = platform::Create<Collection>();
+    for (const msxml::Element& element : elements) {
+        const auto card = platform::Create<Card>();
+        try {
+            card->FromXmlElement(element);
+        } catch (const platform::ComError&) {
+            // Deliberate: a card that cannot be read to its end is kept as far as it could be read.
+        }
+        cards->AddObject(card->Dispatch());
+    }
+    return cards;
+}
+
+template <typename Card>
+bool AnyHasCaution(const Collection& cards) {
+    const auto all = cards.ItemsAs<Card>();
+    return std::any_of(all.begin(), all.end(), [](const auto& card) { return card->CautionIndicator; });
+}
+
+}  // namespace
+
+msxml::Element LejisIncidentIndexCard::ToXmlElement(const msxml::Document& document) const {
+    ElementWriter identifiers(document, L"card:LejisIndexUid");
+    identifiers.Id(L"j:OrganizationORIID", OrganizationORI);
+    identifiers.Id(L"j:ActivityID", ActivityID);
+    ElementWriter submitter(document, L"j:SubmissionSubmitter.Organization");
+    submitter.Text(L"j:OrganizationName", OrganizationName);
+    ElementWriter location(document, L"j:IncidentLocation");
+    location.Child(Location->ToXmlElement(document));
+
+    ElementWriter incident(document, L"lejis:RMSIncidentIndexCard");
+    incident.Child(identifiers);
+    incident.Text(L"j:SubmissionSubmittedDate", FormatNullableDate(*SubmittedDate.Get()));
+    incident.Child(submitter);
+    incident.OptionalText(L"j:ActivityDate", FormatNullableDate(*ActivityDateTime.Get()));
+    incident.OptionalText(L"j:ActivityTime", FormatNullableTime(*ActivityDateTime.Get()));
+    incident.Child(location);
+    incident.Text(L"j:CaveatText", CaveatText);
+    incident.OptionalText(L"j:ChargeNCICCode", ChargeNCICCode);
+    incident.OptionalText(L"j:ChargeDescriptionText", ChargeDescriptionText);
+    // Not the incident's own flag alone: the index shows the caution of any card at the incident.
+    incident.Boolean(L"ext:CautionIndicatorFlag", HasCaution());
+    // Vehicles are written before property and read after it; both orders are deliberate.
+    WriteCards<LejisPersonIndexCard>(incident, *PersonIndexCards.Get());
+    WriteCards<LejisVehicleIndexCard>(incident, *VehicleIndexCards.Get());
+    WriteCards<LejisPropertyIndexCard>(incident, *PropertyIndexCards.Get());
+    return incident.Element();
+}
+
+void LejisIncidentIndexCard::FromXmlElement(const msxml::Element& element) {
+    const ElementReader incident(element);
+    ReadIdentifiers(incident);
+    ReadActivityDateTime(incident);
+    if (const msxml::Element location = incident.Child(L"j:IncidentLocation")) Location->FromXmlElement(location);
+    ChargeNCICCode = incident.Text(L"j:ChargeNCICCode");
+    ChargeDescriptionText = incident.Text(L"j:ChargeDescriptionText");
+    CaveatText = incident.Text(L"j:CaveatText");
+    ReadFlag(incident.Text(L"ext:CautionIndicatorFlag"), CautionIndicator);
+    ReadCards(incident);
+}
+
+STDMETHODIMP LejisIncidentIndexCard::HasCaution(VARIANT_BOOL* result) {
+    return Guard(result, [&] { return HasCaution(); });
+}
+
+bool LejisIncidentIndexCard::HasCaution() const {
+    return CautionIndicator || AnyHasCaution<LejisPersonIndexCard>(*PersonIndexCards.Get()) ||
+           AnyHasCaution<LejisPropertyIndexCard>(*PropertyIndexCards.Get()) ||
+           AnyHasCaution<LejisVehicleIndexCard>(*VehicleIndexCards.Get());
+}
+
+void LejisIncidentIndexCard::ReadIdentifiers(const ElementReader& incident) {
+    const msxml::Element identifiers = incident.Child(L"card:LejisIndexUid");
+    LejisUtils::RequireElement(identifiers);
+    const ElementReader identifier(identifiers);
+    OrganizationORI = identifier.Text(L"j:OrganizationORIID/j:ID");
+    ActivityID = identifier.Text(L"j:ActivityID/j:ID");
+    SubmittedDate->Set(platform::ParseDate(incident.Text(L"j:SubmissionSubmittedDate")));
+    const msxml::Element submitter = incident.Child(L"j:SubmissionSubmitter.Organization");
+    LejisUtils::RequireElement(submitter);
+    OrganizationName = ElementReader(submitter).Text(L"j:OrganizationName");
+}
+
+void LejisIncidentIndexCard::ReadActivityDateTime(const ElementReader& incident) {
+    const std::wstring text = incident.Text(L"j:ActivityDate") + L" " + incident.Text(L"j:ActivityTime");
+    ActivityDateTime->Set(platform::ParseDate(std::wstring(platform::TrimBlanks(text))));
+}
+
+void LejisIncidentIndexCard::ReadCards(const ElementReader& incident) {
+    PersonIndexCards = ReadCardsOf<LejisPersonIndexCard>(incident.Children(L"card:RMSPersonIndexCards"));
+    PropertyIndexCards = ReadCardsOf<LejisPropertyIndexCard>(incident.Children(L"card:RMSPropertyIndexCards"));
+    VehicleIndexCards = ReadCardsOf<LejisVehicleIndexCard>(incident.Children(L"card:RMSVehicleIndexCards"));
+}
+
+}  // namespace lejis

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "foundation/NullableDate.h"
+#include "model/LejisPersonIndexCard.h"
+#include "model/LejisPropertyIndexCard.h"
+#include "model/LejisStreetAddress.h"
+#include "model/LejisVehicleIndexCard.h"
+#include "model/XmlMethods.h"
+#include "platform/com/Collection.h"
+#include "platform/com/ComObject.h"
+#include "platform/com/Properties.h"
+
+#include <TVLejisCore.h>
+
+namespace lejis {
+
+class ElementReader;
+using platform::Collection;
+
+// An incident as lejis:RMSIncidentIndexCard. It stores and writes what it is given: shaping is the formatter's affair,
+// required values the validator's.
+class LejisIncidentIndexCard final : public platform::ComObject<::LejisIncidentIndexCard, ILejisIncidentIndexCard> {
+public:
+    TEXT_PROPERTY(OrganizationName)
+    TEXT_PROPERTY(OrganizationORI)
+    TEXT_PROPERTY(ActivityID)
+    TEXT_PROPERTY(CaveatText)
+    TEXT_PROPERTY(ChargeNCICCode)
+    TEXT_PROPERTY(ChargeDescriptionText)
+    BOOLEAN_PROPERTY(CautionIndicator)
+    OBJECT_PROPERTY(NullableDate, SubmittedDate)
+    OBJECT_PROPERTY(NullableDate, ActivityDateTime)
+    OBJECT_PROPERTY(LejisStreetAddress, Location)
+    OBJECT_PROPERTY(Collection, PersonIndexCards)
+    OBJECT_PROPERTY(Collection, VehicleIndexCards)
+    OBJECT_PROPERTY(Collection, PropertyIndexCards)
+    XML_METHODS()
+
+    STDMETHODIMP HasCaution(VARIANT_BOOL* result) override;
+    bool HasCaution() const;
+
+private:
+    void ReadIdentifiers(const ElementReader& incident);
+    void ReadActivityDateTime(const ElementReader& incident);
+    void ReadCards(const ElementReader& incident);
+};
+
+}  // namespace lejis

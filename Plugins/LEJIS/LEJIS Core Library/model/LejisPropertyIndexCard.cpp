@@ -1,0 +1,42 @@
+#include "model/LejisPropertyIndexCard.h"
+
+#include "foundation/ElementReader.h"
+#include "foundation/ElementWriter.h"
+#include "model/LenientReading.h"
+
+namespace lejis {
+
+STDMETHODIMP LejisPropertyIndexCard::LoadDefaults() {
+    return Guard([&] { Reset(); });
+}
+
+msxml::Element LejisPropertyIndexCard::ToXmlElement(const msxml::Document& document) const {
+    ElementWriter card(document, L"card:RMSPropertyIndexCards");
+    card.OptionalText(L"j:PropertyCategoryCode.nibrsPropertyCategory", NibrsCategoryCode);
+    card.OptionalText(L"j:PropertyTypeText", Category);
+    card.OptionalText(L"j:PropertyMakeName", Make);
+    card.OptionalText(L"j:PropertyModelName", Model);
+    card.OptionalId(L"j:PropertySerialID", SerialID);
+    card.OptionalText(L"j:CaveatText", CaveatText);
+    card.Boolean(L"ext:CautionIndicatorFlag", CautionIndicator);
+    return card.Element();
+}
+
+void LejisPropertyIndexCard::FromXmlElement(const msxml::Element& element) {
+    Reset();
+    const ElementReader card(element);
+    NibrsCategoryCode = card.Text(L"j:PropertyCategoryCode.nibrsPropertyCategory");
+    Category = card.Text(L"j:PropertyTypeText");
+    Make = card.Text(L"j:PropertyMakeName");
+    Model = card.Text(L"j:PropertyModelName");
+    SerialID = card.Text(L"j:PropertySerialID/j:ID");
+    CaveatText = card.Text(L"j:CaveatText");
+    ReadFlag(card.Text(L"ext:CautionIndicatorFlag"), CautionIndicator);
+}
+
+void LejisPropertyIndexCard::Reset() {
+    for (std::wstring* text : {&NibrsCategoryCode, &Category, &Make, &Model, &SerialID, &CaveatText}) text->clear();
+    CautionIndicator = false;
+}
+
+}  // namespace lejis

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "model/LejisContributingSystem.h"
+#include "model/LejisIncidentIndexCard.h"
+#include "platform/com/Collection.h"
+#include "platform/com/ComObject.h"
+#include "platform/com/Properties.h"
+
+#include <TVLejisCore.h>
+
+namespace lejis {
+
+// The payload of a submission, as lejis:SubmitRmsIndex: incidents, and behind them the system that contributes them.
+class LejisSubmissionDocument final : public platform::ComObject<::LejisSubmissionDocument, ILejisSubmissionDocument> {
+public:
+    OBJECT_PROPERTY(Collection, IncidentIndexCards)
+    OBJECT_PROPERTY(LejisContributingSystem, ContributingSystem)
+    STDMETHODIMP ToXmlElement(IDispatch* doc, IDispatch** result) override;
+    STDMETHODIMP ToXmlDocument(IDispatch** result) override;
+
+    void Add(const Microsoft::WRL::ComPtr<LejisIncidentIndexCard>& incident);
+
+    // Becomes the root of the document. Raises when that has a root.
+    msxml::Element ToXmlElement(const msxml::Document& document) const;
+    msxml::Document ToXmlDocument() const;
+};
+
+}  // namespace lejis
