@@ -1,0 +1,39 @@
+#include "checking/LejisIncidentFormatter.h"
+
+#include "checking/FormattingRules.h"
+#include "platform/com/Inside.h"
+#include "platform/ComError.h"
+#include "platform/msxml/Document.h"
+
+using Microsoft::WRL::ComPtr;
+
+namespace lejis {
+namespace {
+
+// The copy holds what the card's XML form carries, blanks at the ends of texts included.
+ComPtr<LejisIncidentIndexCard> CopyOf(const LejisIncidentIndexCard& incident) {
+    const msxml::Document document = msxml::CreateDocument();
+    platform::Check(document->put_preserveWhiteSpace(VARIANT_TRUE));
+    auto copy = platform::Create<LejisIncidentIndexCard>();
+    copy->FromXmlElement(incident.ToXmlElement(document));
+    return copy;
+}
+
+}  // namespace
+
+STDMETHODIMP LejisIncidentFormatter::get_HasWarnings(VARIANT_BOOL* result) {
+    return Guard(result, [&] { return Warnings->Count() > 0; });
+}
+
+STDMETHODIMP LejisIncidentFormatter::Format(ILejisIncidentIndexCard* incident, ILejisIncidentIndexCard** result) {
+    return Guard(result, [&] { return Format(*platform::Inside<LejisIncidentIndexCard>(incident).Get()); });
+}
+
+ComPtr<LejisIncidentIndexCard> LejisIncidentFormatter::Format(const LejisIncidentIndexCard& incident) {
+    Warnings = platform::Create<Collection>();
+    auto copy = CopyOf(incident);
+    FormattingRules(*Warnings.Get()).Apply(*copy.Get());
+    return copy;
+}
+
+}  // namespace lejis

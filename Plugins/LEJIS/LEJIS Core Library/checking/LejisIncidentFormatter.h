@@ -1,0 +1,23 @@
+#pragma once
+
+#include "model/LejisIncidentIndexCard.h"
+#include "platform/com/Collection.h"
+#include "platform/com/ComObject.h"
+#include "platform/com/Properties.h"
+
+#include <TVLejisCore.h>
+
+namespace lejis {
+
+// Shapes a copy of an incident to what LEJIS takes, and warns of each change. What cannot be mended is left to the
+// validator.
+class LejisIncidentFormatter final : public platform::ComObject<::LejisIncidentFormatter, ILejisIncidentFormatter> {
+public:
+    OBJECT_PROPERTY(Collection, Warnings)
+    STDMETHODIMP get_HasWarnings(VARIANT_BOOL* result) override;
+    STDMETHODIMP Format(ILejisIncidentIndexCard* incident, ILejisIncidentIndexCard** result) override;
+
+    Microsoft::WRL::ComPtr<LejisIncidentIndexCard> Format(const LejisIncidentIndexCard& incident);
+};
+
+}  // namespace lejis

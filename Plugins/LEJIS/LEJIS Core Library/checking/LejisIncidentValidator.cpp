@@ -1,0 +1,86 @@
+#include "checking/LejisIncidentValidator.h"
+
+#include "checking/CautionCaveat.h"
+#include "checking/RecordLabels.h"
+#include "platform/com/Inside.h"
+#include "platform/Conversions.h"
+#include "platform/Text.h"
+
+namespace lejis {
+namespace {
+
+constexpr size_t kLongestId = 30;
+constexpr size_t kOriLength = 9;
+constexpr size_t kZipLength = 5;
+constexpr size_t kSsnLength = 9;
+
+bool IsBlank(const std::wstring& text) { return platform::TrimBlanks(text).empty(); }
+
+// Only the length is looked at, not that the characters are digits.
+bool IsEmptyOrHasLength(const std::wstring& text, size_t length) { return text.empty() || text.size() == length; }
+
+}  // namespace
+
+STDMETHODIMP LejisIncidentValidator::get_HasErrors(VARIANT_BOOL* result) {
+    return Guard(result, [&] { return HasErrors(); });
+}
+
+STDMETHODIMP LejisIncidentValidator::Validate(ILejisIncidentIndexCard* incident, VARIANT_BOOL* result) {
+    return Guard(result, [&] { return Validate(*platform::Inside<LejisIncidentIndexCard>(incident).Get()); });
+}
+
+bool LejisIncidentValidator::Validate(const LejisIncidentIndexCard& incident) {
+    Errors = platform::Create<Collection>();
+    CheckIdentifiers(incident);
+    // Organization name, caveat, charge description and charge code are accepted as they are, here and for persons.
+    CheckAddress(kMainRecordLabel, *incident.Location.Get());
+    for (const auto& person : incident.PersonIndexCards->ItemsAs<LejisPersonIndexCard>()) CheckPerson(*person.Get());
+    // Every property and vehicle card is accepted; an object of another class is not.
+    incident.PropertyIndexCards->ItemsAs<LejisPropertyIndexCard>();
+    incident.VehicleIndexCards->ItemsAs<LejisVehicleIndexCard>();
+    return HasErrors();
+}
+
+void LejisIncidentValidator::CheckIdentifiers(const LejisIncidentIndexCard& incident) {
+    if (IsBlank(incident.ActivityID)) AddError(L"ID is required.");
+    if (incident.ActivityID.size() > kLongestId) {
+        AddError(L"ID is too long. Records submitted to LEJIS must have ID's between 1 and 30 characters long.");
+    }
+    if (!incident.SubmittedDate->Date()) AddError(L"Submission date is missing.");
+    if (IsBlank(incident.OrganizationORI)) {
+        AddError(L"Agency ORI number cannot be blank. Check Agency settings in Administration.");
+    }
+    // A blank ORI is reported a second time here, on purpose.
+    if (incident.OrganizationORI.size() != kOriLength) {
+        AddError(L"'" + incident.OrganizationORI +
+                 L"' is not a valid ORI number. An ORI number must be 9 characters long. Check Agency settings in "
+                 L"Administration.");
+    }
+}
+
+void LejisIncidentValidator::CheckAddress(const std::wstring& label, const LejisStreetAddress& address) {
+    if (IsEmptyOrHasLength(address.ZIP, kZipLength)) return;
+    AddLabelledError(label, L"'" + address.ZIP +
+                                L"' is not a valid ZIP code. ZIP codes submitted to LEJIS must be 5 digits long, or "
+                                L"left blank.");
+}
+
+void LejisIncidentValidator::CheckPerson(const LejisPersonIndexCard& person) {
+    const std::wstring label = LabelOf(person);
+    CheckAddress(label, *person.address.Get());
+    if (!IsEmptyOrHasLength(person.SSN, kSsnLength)) {
+        AddLabelledError(label, L"'" + person.SSN +
+                                    L"' is not a valid SSN. SSN's submitted to LEJIS must be 9 digits long, or left "
+                                    L"blank.");
+    }
+    if (person.BirthDate->Date() > platform::Now()) AddLabelledError(label, L"DOB cannot be in the future.");
+    if (const auto message = CautionCaveatMessage(person)) AddLabelledError(label, *message);
+}
+
+void LejisIncidentValidator::AddError(const std::wstring& message) { Errors->AddText(message); }
+
+void LejisIncidentValidator::AddLabelledError(const std::wstring& label, const std::wstring& message) {
+    AddError(Labelled(label, message));
+}
+
+}  // namespace lejis

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/com/ComObject.h"
+#include "platform/host/SuiteTimer.h"
+
+#include <TVLejisCore.h>
+#include <wrl/client.h>
+
+#include <memory>
+
+namespace lejis {
+
+// One deferred call. Whoever wants it to happen keeps the future alive: one that is released before its tick never
+// runs.
+class Future final : public platform::ComObject<::Future, IFuture> {
+public:
+    STDMETHODIMP Execute(IRunnable* runnable, IFutureObserver* observer) override;
+    STDMETHODIMP get_Completed(VARIANT_BOOL* result) override;
+
+    void Schedule(IRunnable* runnable, IFutureObserver* observer);
+
+private:
+    void OnElapsed();
+
+    Microsoft::WRL::ComPtr<IRunnable> runnable_;
+    Microsoft::WRL::ComPtr<IFutureObserver> observer_;
+    bool completed_ = false;
+    std::unique_ptr<platform::host::SuiteTimer> invokeTimer_;
+};
+
+}  // namespace lejis
