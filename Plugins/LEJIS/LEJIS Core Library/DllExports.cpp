@@ -1,0 +1,59 @@
+// The four standard exports, and the classes that clients can create.
+#include "checking/LejisIncidentFormatter.h"
+#include "checking/LejisIncidentValidator.h"
+#include "deferred/FutureManager.h"
+#include "foundation/LejisCommon.h"
+#include "foundation/NullableDate.h"
+#include "foundation/NullableInteger.h"
+#include "foundation/NullableLong.h"
+#include "model/LejisSubmissionDocument.h"
+#include "platform/com/ClassFactory.h"
+#include "platform/com/Guard.h"
+#include "platform/com/Module.h"
+#include "platform/com/Registration.h"
+#include "platform/host/HostComponents.h"
+#include "services/LejisSubmissionWebService.h"
+#include "services/SOAPEnvelope.h"
+
+using platform::Creatable;
+
+namespace {
+
+std::span<const platform::CreatableClass> CreatableClasses() {
+    static const platform::CreatableClass classes[] = {
+        Creatable<lejis::NullableDate>(),
+        Creatable<lejis::NullableInteger>(),
+        Creatable<lejis::NullableLong>(),
+        Creatable<lejis::LejisCommon>(),
+        Creatable<lejis::LejisStreetAddress>(),
+        Creatable<lejis::LejisPersonIndexCard>(),
+        Creatable<lejis::LejisVehicleIndexCard>(),
+        Creatable<lejis::LejisPropertyIndexCard>(),
+        Creatable<lejis::LejisIncidentIndexCard>(),
+        Creatable<lejis::LejisContributingSystem>(),
+        Creatable<lejis::LejisSubmissionDocument>(),
+        Creatable<lejis::Future>(),
+        Creatable<lejis::FutureManager>(),
+        Creatable<lejis::LejisIncidentValidator>(),
+        Creatable<lejis::LejisIncidentFormatter>(),
+        Creatable<lejis::SOAPEnvelope>(),
+        Creatable<lejis::LejisSubmissionWebService>(),
+    };
+    return classes;
+}
+
+}  // namespace
+
+STDAPI DllGetClassObject(REFCLSID classId, REFIID iid, void** factory) {
+    return platform::GetClassFactory(CreatableClasses(), classId, iid, factory);
+}
+
+STDAPI DllCanUnloadNow() {
+    if (platform::module::InUse()) return S_FALSE;
+    platform::host::ReleaseComponents();
+    return S_OK;
+}
+
+STDAPI DllRegisterServer() { return platform::Guard(GUID_NULL, platform::RegisterModule); }
+
+STDAPI DllUnregisterServer() { return platform::Guard(GUID_NULL, platform::UnregisterModule); }

@@ -1,0 +1,90 @@
+#include "services/LejisSubmissionWebService.h"
+
+#include "checking/LejisIncidentFormatter.h"
+#include "checking/LejisIncidentValidator.h"
+#include "foundation/Constants.h"
+#include "platform/com/Inside.h"
+#include "platform/Conversions.h"
+#include "platform/http/Wait.h"
+#include "platform/msxml/Document.h"
+#include "platform/msxml/Node.h"
+#include "services/SchemaUtils.h"
+#include "services/SubmissionEnvelope.h"
+#include "services/SubmissionErrors.h"
+#include "services/SubmissionResponse.h"
+
+using Microsoft::WRL::ComPtr;
+using platform::ComError;
+
+namespace lejis {
+
+STDMETHODIMP LejisSubmissionWebService::SubmitIncident(ILejisIncidentIndexCard* incident, ICollection** result) {
+    return Guard(result, [&] { return SubmitIncident(*platform::Inside<LejisIncidentIndexCard>(incident).Get()); });
+}
+
+STDMETHODIMP LejisSubmissionWebService::DeleteIncident(ILejisIncidentIndexCard* incident) {
+    return Guard([&] { DeleteIncident(*platform::Inside<LejisIncidentIndexCard>(incident).Get()); });
+}
+
+ComPtr<Collection> LejisSubmissionWebService::SubmitIncident(const LejisIncidentIndexCard& incident) {
+    const auto formatter = platform::Create<LejisIncidentFormatter>();
+    const auto copy = formatter->Format(incident);
+    const auto validator = platform::Create<LejisIncidentValidator>();
+    if (validator->Validate(*copy.Get())) throw FatalError(platform::ToText(validator->Errors->Item(1)));
+    const auto document = platform::Create<LejisSubmissionDocument>();
+    document->Add(copy);
+    Submit(*document.Get());
+    return formatter->Warnings;
+}
+
+void LejisSubmissionWebService::DeleteIncident(const LejisIncidentIndexCard& incident) {
+    const auto bare = platform::Create<LejisIncidentIndexCard>();
+    bare->ActivityID = incident.ActivityID;
+    bare->OrganizationName = incident.OrganizationName;
+    bare->OrganizationORI = incident.OrganizationORI;
+    bare->SubmittedDate->Set(incident.SubmittedDate->Date());
+    const auto document = platform::Create<LejisSubmissionDocument>();
+    document->Add(bare);
+    Submit(*document.Get());
+}
+
+void LejisSubmissionWebService::Submit(const LejisSubmissionDocument& document) {
+    int step = 1;
+    try {
+        DoSubmit(document, false);
+        step = 2;
+        ProcessResponse(request_);
+    } catch (...) {
+        throw SubmissionFailure(platform::CaughtError(), URL, step);
+    }
+}
+
+void LejisSubmissionWebService::DoSubmit(const LejisSubmissionDocument& document, bool asynchronous) {
+    int step = 1;
+    try {
+        const msxml::Document envelope = WrapInEnvelope(msxml::Root(document.ToXmlDocument()));
+        step = 2;
+        LejisUtils::SaveDebugDocument(envelope, L"LejisSubmitRequest.xml");
+        step = 3;
+        if (ValidateSchema) SchemaUtils::ValidateSchemaFromWSDL(envelope, URL + L"?wsdl");
+        step = 4;
+        request_ = platform::HttpRequest::Create();
+        if (asynchronous) request_.SetReadyStateHandler(Dispatch());
+        step = 5;
+        request_.Open(L"POST", URL, asynchronous);
+        step = 6;
+        request_.SetHeader(L"SOAPAction", Constants::kSubmitAction);
+        request_.SetHeader(L"Content-Type", L"text/xml;charset=utf-8");
+        step = 7;
+        request_.Send(msxml::Xml(envelope));
+        step = 8;
+        if (!asynchronous) platform::WaitUntilComplete(request_);
+    } catch (...) {
+        const ComError error = platform::CaughtError();
+        throw ComError(error.Number(),
+                       L"Error in DoSubmit (line " + std::to_wstring(step) + L"): " + error.Description(),
+                       error.Source());
+    }
+}
+
+}  // namespace lejis

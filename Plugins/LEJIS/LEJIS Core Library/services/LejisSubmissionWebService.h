@@ -1,0 +1,49 @@
+#pragma once
+
+#include "model/LejisIncidentIndexCard.h"
+#include "model/LejisSubmissionDocument.h"
+#include "platform/com/EventSource.h"
+#include "platform/com/Properties.h"
+#include "platform/http/HttpRequest.h"
+
+#include <TVLejisCore.h>
+
+namespace lejis {
+
+// Sends incidents to the LEJIS index and turns every outcome into success, an error that says whether trying again can
+// help, or, for a submission that nobody waits for, an event.
+class LejisSubmissionWebService final
+    : public platform::EventSource<::LejisSubmissionWebService, ILejisSubmissionWebService,
+                                   _LejisSubmissionWebServiceEvents, IRunnable> {
+public:
+    BOOLEAN_PROPERTY(ValidateSchema)
+    TEXT_PROPERTY(URL)
+    // Kept for the client and applied nowhere: the request has no time-outs, and the wait for it has no end of its own.
+    LONG_PROPERTY(Timeout)
+    STDMETHODIMP SubmitIncident(ILejisIncidentIndexCard* incident, ICollection** result) override;
+    STDMETHODIMP DeleteIncident(ILejisIncidentIndexCard* incident) override;
+    STDMETHODIMP OnReadyStateChange() override;
+    STDMETHODIMP Run() override { return IRunnable_Run(); }
+
+    // Shapes, checks and sends the incident; returns the warnings.
+    Microsoft::WRL::ComPtr<Collection> SubmitIncident(const LejisIncidentIndexCard& incident);
+    // Sends the incident's identifiers alone, which withdraws it.
+    void DeleteIncident(const LejisIncidentIndexCard& incident);
+
+    // Sends without waiting. Every outcome, failures of the sending included, is an event.
+    void SubmitAsync(const LejisSubmissionDocument& document);
+
+private:
+    STDMETHODIMP IRunnable_Run();
+
+    void Submit(const LejisSubmissionDocument& document);
+    void DoSubmit(const LejisSubmissionDocument& document, bool asynchronous);
+    void RaiseOutcome();
+    void RaiseServiceError();
+    void FireReason(DISPID event, const std::wstring& reasonMessage);
+
+    // That of the last send, kept until the next one.
+    platform::HttpRequest request_;
+};
+
+}  // namespace lejis

@@ -1,0 +1,88 @@
+// The submission that nobody waits for: its outcome is one event.
+#include "services/LejisSubmissionWebService.h"
+
+#include "deferred/InvokeLater.h"
+#include "foundation/LejisUtils.h"
+#include "platform/msxml/Document.h"
+#include "services/SOAPEnvelope.h"
+#include "services/SubmissionErrors.h"
+#include "services/SubmissionResponse.h"
+
+using platform::ComError;
+
+namespace lejis {
+namespace {
+
+// The events by their numbers in the interface.
+constexpr DISPID kSubmissionCompleted = 1;
+constexpr DISPID kConfigurationError = 2;
+constexpr DISPID kNetworkError = 3;
+constexpr DISPID kServiceError = 5;
+
+constexpr long kOk = 200;
+
+}  // namespace
+
+void LejisSubmissionWebService::SubmitAsync(const LejisSubmissionDocument& document) {
+    try {
+        DoSubmit(document, true);
+    } catch (...) {
+        const ComError error = platform::CaughtError();
+        switch (error.Number()) {
+            case platform::kInvalidUrl:
+                // With a full stop at its end, unlike the text of a submission that is waited for.
+                return FireReason(kConfigurationError, L"Invalid URL '" + URL + L"'.");
+            case platform::kServerUnreachable:
+                return FireReason(kNetworkError, L"The server is down.");
+            default:
+                return FireReason(kConfigurationError, InternalError(error));
+        }
+    }
+}
+
+STDMETHODIMP LejisSubmissionWebService::OnReadyStateChange() {
+    return Guard([&] {
+        // Inside of the request's callback nothing is processed: the answer is read a moment later.
+        if (request_ && request_.ReadyState() == platform::HttpRequest::kComplete) LejisUtils::InvokeLater(this);
+    });
+}
+
+STDMETHODIMP LejisSubmissionWebService::IRunnable_Run() {
+    return Guard([&] {
+        try {
+            // The request and this object hold each other until here.
+            request_.ClearReadyStateHandler();
+            RaiseOutcome();
+        } catch (...) {
+            FireReason(kServiceError, InternalServiceError(platform::CaughtError()));
+        }
+    });
+}
+
+void LejisSubmissionWebService::RaiseOutcome() {
+    const long status = request_.Status();
+    if (status == kOk) {
+        // The response code is looked at only where somebody waits for it.
+        Fire(kSubmissionCompleted);
+    } else if (LejisUtils::IsTransientStatus(status)) {
+        FireReason(kNetworkError, LejisUtils::GetNetworkErrorMessage(request_));
+    } else {
+        RaiseServiceError();
+    }
+}
+
+void LejisSubmissionWebService::RaiseServiceError() {
+    const msxml::Document response = request_.ResponseXml();
+    if (!response) return;
+    if (!msxml::Root(response)) return FireReason(kServiceError, kUnexpectedResponse);
+    LejisUtils::SaveDebugDocument(response, L"LejisSubmitResponse.xml");
+    const auto envelope = platform::Create<SOAPEnvelope>();
+    envelope->FromXmlDocument(response);
+    FireReason(kServiceError, envelope->IsFault() ? envelope->FaultMessage() : L"Unknown error");
+}
+
+void LejisSubmissionWebService::FireReason(DISPID event, const std::wstring& reasonMessage) {
+    Fire(event, {_variant_t(platform::ToBstr(reasonMessage))});
+}
+
+}  // namespace lejis

@@ -1,0 +1,110 @@
+#include "services/SOAPEnvelope.h"
+
+#include "foundation/ElementWriter.h"
+#include "foundation/LejisUtils.h"
+#include "platform/msxml/Document.h"
+#include "platform/msxml/Node.h"
+
+namespace lejis {
+
+STDMETHODIMP SOAPEnvelope::get_Body(BSTR* result) {
+    return Guard(result, [&] { return Body(); });
+}
+
+STDMETHODIMP SOAPEnvelope::put_Body(BSTR newValue) {
+    return Guard([&] {
+        bodyText_ = platform::CopyText(newValue);
+        readBody_.Reset();
+    });
+}
+
+STDMETHODIMP SOAPEnvelope::IsFault(VARIANT_BOOL* result) {
+    return Guard(result, [&] { return IsFault(); });
+}
+
+STDMETHODIMP SOAPEnvelope::FaultMessage(BSTR* result) {
+    return Guard(result, [&] { return FaultMessage(); });
+}
+
+STDMETHODIMP SOAPEnvelope::FaultCode(BSTR* result) {
+    return Guard(result, [&] { return FaultCode(); });
+}
+
+STDMETHODIMP SOAPEnvelope::BodyXml(IDispatch** result) {
+    return Guard(result, [&] { return msxml::ToClient(BodyXml()); });
+}
+
+STDMETHODIMP SOAPEnvelope::ToXmlElement(IDispatch* doc, IDispatch** result) {
+    return Guard(result, [&] { return msxml::ToClient(ToXmlElement(msxml::DocumentFrom(doc))); });
+}
+
+STDMETHODIMP SOAPEnvelope::FromXmlElement(IDispatch* elem) {
+    return Guard([&] { FromXmlElement(msxml::ElementFrom(elem)); });
+}
+
+STDMETHODIMP SOAPEnvelope::FromXmlDocument(IDispatch* doc) {
+    return Guard([&] { FromXmlDocument(msxml::DocumentFrom(doc)); });
+}
+
+std::wstring SOAPEnvelope::Body() const { return readBody_ ? msxml::Markup(readBody_) : bodyText_; }
+
+bool SOAPEnvelope::IsFault() const { return msxml::SelectNode(BodyElement(), L"soap:Fault") != nullptr; }
+
+std::wstring SOAPEnvelope::FaultMessage() const { return FaultText(L"soap:Fault/faultstring"); }
+
+std::wstring SOAPEnvelope::FaultCode() const { return FaultText(L"soap:Fault/faultcode"); }
+
+std::wstring SOAPEnvelope::FaultText(const wchar_t* path) const {
+    const msxml::Node found = msxml::SelectNode(BodyElement(), path);
+    return found ? msxml::Text(found) : std::wstring();
+}
+
+msxml::Document SOAPEnvelope::BodyXml() const {
+    msxml::Document document = msxml::CreateDocument();
+    LejisUtils::SetSelectionNamespaces(document);
+    // A body that does not parse leaves the document without a root.
+    msxml::LoadXml(document, Body());
+    return document;
+}
+
+msxml::Element SOAPEnvelope::BodyElement() const {
+    msxml::Element body = readBody_ ? readBody_ : msxml::Root(BodyXml());
+    if (!body) throw platform::ObjectRequired();
+    return body;
+}
+
+msxml::Element SOAPEnvelope::ToXmlElement(const msxml::Document& document) const {
+    ElementWriter envelope(document, L"soap:Envelope");
+    if (!Username.empty()) {
+        ElementWriter token(document, L"wsse:UsernameToken");
+        token.Text(L"wsse:Username", Username);
+        ElementWriter security(document, L"wsse:Security");
+        security.Child(token);
+        ElementWriter header(document, L"soap:Header");
+        header.Child(security);
+        envelope.Child(header);
+    }
+    // As text, on purpose: markup in it is written escaped.
+    envelope.Text(L"soap:Body", Body());
+    return envelope.Element();
+}
+
+void SOAPEnvelope::FromXmlElement(const msxml::Element& element) {
+    LejisUtils::SetSelectionNamespaces(msxml::OwnerDocument(element));
+    Username.clear();
+    bodyText_.clear();
+    readBody_.Reset();
+    if (const msxml::Node body = msxml::SelectNode(element, L"soap:Body")) platform::Check(body.As(&readBody_));
+}
+
+void SOAPEnvelope::FromXmlDocument(const msxml::Document& document) {
+    if (msxml::HasDoctype(document)) throw platform::ObjectRequired();
+    LejisUtils::SetSelectionNamespaces(document);
+    const msxml::Node envelope = msxml::SelectNode(document, L"soap:Envelope");
+    if (!envelope) throw platform::ObjectRequired();
+    msxml::Element element;
+    platform::Check(envelope.As(&element));
+    FromXmlElement(element);
+}
+
+}  // namespace lejis

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/com/ComObject.h"
+#include "platform/com/Properties.h"
+#include "platform/msxml/MsXml.h"
+
+#include <TVLejisCore.h>
+
+#include <optional>
+#include <string>
+
+namespace lejis {
+
+// Reads SOAP 1.1 answers, and writes envelopes with a WS-Security user name. The web services write their requests
+// themselves. The markup of a body that was read is made when it is asked for: large answers never need it.
+class SOAPEnvelope final : public platform::ComObject<::SOAPEnvelope, ISOAPEnvelope> {
+public:
+    TEXT_PROPERTY(Username)
+    STDMETHODIMP get_Body(BSTR* result) override;
+    STDMETHODIMP put_Body(BSTR newValue) override;
+    STDMETHODIMP IsFault(VARIANT_BOOL* result) override;
+    STDMETHODIMP FaultMessage(BSTR* result) override;
+    STDMETHODIMP FaultCode(BSTR* result) override;
+    STDMETHODIMP BodyXml(IDispatch** result) override;
+    STDMETHODIMP ToXmlElement(IDispatch* doc, IDispatch** result) override;
+    STDMETHODIMP FromXmlElement(IDispatch* elem) override;
+    STDMETHODIMP FromXmlDocument(IDispatch* doc) override;
+
+    std::wstring Body() const;
+    bool IsFault() const;
+    std::wstring FaultMessage() const;
+    std::wstring FaultCode() const;
+    msxml::Document BodyXml() const;
+
+    msxml::Element ToXmlElement(const msxml::Document& document) const;
+    void FromXmlElement(const msxml::Element& element);
+    // Raises for a document whose root is no soap:Envelope, and for one with a DOCTYPE.
+    void FromXmlDocument(const msxml::Document& document);
+
+    // The soap:Body element, for reading; raises when there is none.
+    msxml::Element BodyElement() const;
+
+private:
+    std::wstring FaultText(const wchar_t* path) const;
+
+    // One of the two: the body as it was read, or the text that a client has set.
+    msxml::Element readBody_;
+    std::wstring bodyText_;
+};
+
+}  // namespace lejis

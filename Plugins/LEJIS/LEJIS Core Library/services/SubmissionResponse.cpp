@@ -1,0 +1,102 @@
+#include "services/SubmissionResponse.h"
+
+#include "foundation/LejisUtils.h"
+#include "platform/com/Guard.h"
+#include "platform/Conversions.h"
+#include "platform/msxml/Node.h"
+#include "services/SOAPEnvelope.h"
+#include "services/SubmissionErrors.h"
+
+#include <cwchar>
+
+using platform::ComError;
+using platform::HttpRequest;
+
+namespace lejis {
+namespace {
+
+constexpr long kOk = 200;
+constexpr long kForbidden = 403;
+
+constexpr short kAccepted = 0;
+constexpr short kCoreOffline = 100;
+
+bool IsSoapResponse(const msxml::Document& response) {
+    try {
+        if (!response) return false;
+        platform::Create<SOAPEnvelope>()->FromXmlDocument(response);
+        return true;
+    } catch (const ComError&) {
+        return false;
+    }
+}
+
+// The number that the text's first word begins with; 0 when it begins with none, which makes a bare word of
+// acknowledgement a success on purpose. An empty text has no first word.
+short ResponseCode(const std::wstring& text) {
+    if (text.empty()) throw ComError(DISP_E_BADINDEX, L"Subscript out of range");
+    const std::wstring word = text.substr(0, text.find(L' '));
+    const size_t digits = word.find_first_not_of(L"0123456789.", word.starts_with(L'-') || word.starts_with(L'+'));
+    const auto code = platform::RoundTo<short>(_variant_t(std::wcstod(word.substr(0, digits).c_str(), nullptr)));
+    if (!code) throw platform::Overflow();
+    return *code;
+}
+
+void RequireSoap(const HttpRequest& request, long status) {
+    if (IsSoapResponse(request.ResponseXml())) return;
+    throw TransientError(L"The LEJIS core server appears to be partially offline. It returned a " +
+                         std::to_wstring(status) + L" HTTP status code but did not return a valid SOAP XML response.");
+}
+
+[[noreturn]] void RaiseFault(const SOAPEnvelope& envelope) {
+    if (envelope.IsFault()) throw FatalError(envelope.FaultMessage());
+    throw TransientError(kUnexpectedResponse);
+}
+
+std::wstring ResponseText(const SOAPEnvelope& envelope) {
+    const msxml::Node response = msxml::SelectNode(envelope.BodyElement(), L"lejis:submissionResponse");
+    if (!response) throw TransientError(L"The server did not return a submissionResponse code.");
+    return msxml::Text(response);
+}
+
+void RequireAccepted(const std::wstring& text) {
+    switch (ResponseCode(text)) {
+        case kAccepted:
+            return;
+        case kCoreOffline:
+            throw TransientError(L"LEJIS server is up, but LEJIS core system is offline.");
+        default:
+            throw TransientError(L"Unexpected error returned from LEJIS: " + text);
+    }
+}
+
+}  // namespace
+
+void ProcessResponse(const HttpRequest& request) {
+    int step = 1;
+    try {
+        const long status = request.Status();
+        if (LejisUtils::IsTransientStatus(status)) throw TransientError(LejisUtils::GetNetworkErrorMessage(request));
+        step = 2;
+        if (status == kForbidden) throw FatalError(request.StatusText());
+        step = 3;
+        RequireSoap(request, status);
+        step = 4;
+        const auto envelope = platform::Create<SOAPEnvelope>();
+        LejisUtils::SaveDebugDocument(request.ResponseXml(), L"LejisSubmitResponse.xml");
+        envelope->FromXmlDocument(request.ResponseXml());
+        step = 5;
+        if (status != kOk) RaiseFault(*envelope.Get());
+        step = 6;
+        const std::wstring text = ResponseText(*envelope.Get());
+        step = 7;
+        RequireAccepted(text);
+    } catch (...) {
+        const ComError error = platform::CaughtError();
+        // What is raised above on purpose leaves as it is.
+        if (IsSubmissionError(error)) throw error;
+        throw FatalError(InternalServiceError(error) + InLine(step));
+    }
+}
+
+}  // namespace lejis

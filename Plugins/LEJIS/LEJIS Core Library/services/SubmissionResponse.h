@@ -1,0 +1,11 @@
+#pragma once
+
+#include "platform/http/HttpRequest.h"
+
+namespace lejis {
+
+// Judges the answer to a submission: returns when LEJIS has taken it, and raises one of the two submission errors
+// otherwise.
+void ProcessResponse(const platform::HttpRequest& request);
+
+}  // namespace lejis
