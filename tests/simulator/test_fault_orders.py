@@ -1,0 +1,88 @@
+"""How faults are ordered, listed, used up and dropped."""
+
+import unittest
+
+from simulator_case import SimulatorCase
+
+from faults.fault_kinds import FAULT_KINDS
+from lejis.namespaces import SUBMISSION_PATH
+
+
+class FaultOrdersTest(SimulatorCase):
+    """Mostly seen through the HTTP status that a fault leads to."""
+
+    def statuses(self, times: int) -> list[int]:
+        return [self.submit()[0] for _ in range(times)]
+
+    def test_next_ones_are_used_once_and_in_order(self) -> None:
+        for status in (502, 503):
+            self.order("http-status", when="next", status=status)
+        self.assertEqual([502, 503, 200], self.statuses(3))
+
+    def test_equal_ones_count_one_each(self) -> None:
+        for status in (502, 503, 502):
+            self.order("http-status", status=status)
+        self.assertEqual([502, 503, 502, 200], self.statuses(4))
+
+    def test_count(self) -> None:
+        self.order("http-status", status=502, count=2)
+        self.assertEqual([502, 502, 200], self.statuses(3))
+
+    def test_every_lasts_behind_next_until_cleared(self) -> None:
+        self.order("http-status", when="every", status=502)
+        self.order("http-status", when="next", status=503)
+        self.assertEqual([503, 502, 502], self.statuses(3))
+        self.assertEqual({"forgotten": 1}, self.control("DELETE", "faults"))
+        self.assertEqual([200], self.statuses(1))
+
+    def test_latest_every_wins(self) -> None:
+        for status in (502, 503):
+            self.order("http-status", when="every", status=status)
+        self.assertEqual([503, 503], self.statuses(2))
+
+    def test_targets(self) -> None:
+        self.order("http-status", target="wsdl", status=502)
+        self.order("http-status", target="any", status=503)
+        self.assertEqual([503, 200], self.statuses(2))
+        self.assertEqual(502, self.call("GET", SUBMISSION_PATH + "?wsdl")[0])
+
+    def test_unknown_addresses_use_no_fault_up(self) -> None:
+        self.order("http-status", target="any", status=502)
+        self.assertEqual(404, self.call("GET", "/nowhere")[0])
+        self.assertEqual(405, self.call("GET", SUBMISSION_PATH)[0])
+        self.assertEqual([502], self.statuses(1))
+
+    def test_list(self) -> None:
+        self.order("slow", seconds=2, count=3)
+        self.order("no-types", when="every")
+        self.assertEqual([
+            {"when": "next", "count": 3, "target": "submission", "kind": "slow", "seconds": 2},
+            {"when": "every", "target": "wsdl", "kind": "no-types"},
+        ], self.control("GET", "faults"))
+
+    def test_orders_that_make_no_sense(self) -> None:
+        for body in (b"", b"[]", b'"slow"', b"[" * 100_000, b'{"kind": "slow", "when": "later"}',
+                     b"{}", b'{"kind": "unheard-of"}', b'{"kind": ["slow"]}',
+                     b'{"kind": "slow", "target": "moon"}', b'{"kind": "slow", "seconds": "1"}',
+                     b'{"kind": "slow", "seconds": 1e9}', b'{"kind": "slow", "seconds": NaN}',
+                     b'{"kind": "slow", "seconds": true}', b'{"kind": "slow", "minutes": 1}',
+                     b'{"kind": "slow", "count": 0}', b'{"kind": "http-status", "status": 100}',
+                     b'{"kind": "http-status", "status": "404"}',
+                     b'{"kind": "http-status", "reason": "a\\r\\nX: y"}',
+                     b'{"kind": "http-status", "content_type": "\\u4e2d"}',
+                     b'{"kind": "response-code", "text": "\\u0001"}',
+                     b'{"kind": "no-types", "target": "submission"}'):
+            with self.subTest(body=body[:60]):
+                status, answer = self.call("POST", "/control/faults", body)
+                self.assertEqual(400, status)
+                self.assertRegex(answer.decode(), r"^['A-Z].*\.\n$")
+        self.assertEqual([], self.control("GET", "faults"))
+
+    def test_every_kind_can_be_ordered_with_its_defaults(self) -> None:
+        for kind in FAULT_KINDS:
+            self.order(kind)
+        self.assertEqual(list(FAULT_KINDS), [one["kind"] for one in self.control("GET", "faults")])
+
+
+if __name__ == "__main__":
+    unittest.main()

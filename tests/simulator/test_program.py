@@ -1,0 +1,143 @@
+"""The program as it is started and stopped."""
+
+import http.client
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+from pathlib import Path
+
+import documents
+from simulator_case import GOOD_HEADERS
+
+from lejis.namespaces import SUBMISSION_PATH
+
+PROGRAM = Path(documents.__file__).resolve().parents[2] / "tools/simulator/lejis_simulator.py"
+
+
+class ProgramTest(unittest.TestCase):
+    """Every start is on a free port of this machine; what a test leaves running is killed."""
+
+    def setUp(self) -> None:
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = Path(folder.name)
+        self.port_file = self.folder / "port"
+
+    def start(self, *words: str) -> subprocess.Popen:
+        program = subprocess.Popen(
+            [sys.executable, "-B", str(PROGRAM), "--port-file", str(self.port_file), *words],
+            stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+        self.addCleanup(program.communicate)
+        self.addCleanup(program.kill)
+        return program
+
+    def started(self, *words: str) -> subprocess.Popen:
+        program = self.start("--data", str(self.folder / "data"), *words)
+        self.line = program.stdout.readline()
+        self.port = int(self.port_file.read_text())
+        return program
+
+    def ends(self, program: subprocess.Popen, within: float = 3) -> None:
+        began = time.monotonic()
+        self.assertEqual(0, program.wait(within + 5))
+        self.assertLess(time.monotonic() - began, within)
+        self.assertEqual("", program.stderr.read())
+
+    def post(self, path: str, body: bytes = b"", headers: dict | None = None) -> int:
+        connection = http.client.HTTPConnection("127.0.0.1", self.port, timeout=10)
+        self.addCleanup(connection.close)
+        connection.request("POST", path, body, headers or {})
+        answer = connection.getresponse()
+        answer.read()
+        return answer.status
+
+    def test_announces_itself(self) -> None:
+        self.port_file.write_text("1\n")
+        program = self.started()
+        self.assertEqual(f"LEJIS Interface simulator listening on http://127.0.0.1:{self.port}\n",
+                         self.line)
+        self.assertEqual({"port", "data"}, {file.name for file in self.folder.iterdir()})
+        self.assertEqual(200, self.post(SUBMISSION_PATH, documents.FULL, GOOD_HEADERS))
+        program.terminate()
+        self.ends(program)
+
+    def test_lejis_host(self) -> None:
+        self.started("--lejis-host", "core.lejis.test")
+        self.assertEqual(500, self.post(SUBMISSION_PATH, documents.FULL, GOOD_HEADERS))
+        other = {name: value.replace("lejis.example", "core.lejis.test")
+                 for name, value in GOOD_HEADERS.items()}
+        body = documents.FULL.replace(b"lejis.example", b"core.lejis.test")
+        self.assertEqual(200, self.post(SUBMISSION_PATH, body, other))
+
+    def test_signals(self) -> None:
+        for number in (signal.SIGTERM, signal.SIGINT):
+            with self.subTest(number=number):
+                program = self.started()
+                program.send_signal(number)
+                self.ends(program)
+
+    def test_stops_on_request_with_connections_open_and_answers_pending(self) -> None:
+        program = self.started()
+        order = b'{"kind": "slow", "seconds": 60}'
+        self.assertEqual(200, self.post("/control/faults", order))
+        pending = http.client.HTTPConnection("127.0.0.1", self.port, timeout=10)
+        self.addCleanup(pending.close)
+        pending.request("POST", SUBMISSION_PATH, documents.FULL, GOOD_HEADERS)
+        half = http.client.HTTPConnection("127.0.0.1", self.port, timeout=10)
+        self.addCleanup(half.close)
+        half.putrequest("POST", SUBMISSION_PATH)
+        half.putheader("Content-Length", "100")
+        half.endheaders(b"half")
+        self.assertEqual(200, self.post("/control/stop"))
+        self.ends(program)
+
+    def test_stops_when_idle_but_not_before(self) -> None:
+        program = self.started("--stop-after", "1")
+        for _ in range(4):
+            time.sleep(0.4)
+            self.post("/control/nothing")
+        self.assertIsNone(program.poll())
+        self.ends(program)
+
+    def test_stops_with_its_parent(self) -> None:
+        parent = subprocess.Popen(["sleep", "60"])
+        self.addCleanup(parent.wait)
+        self.addCleanup(parent.kill)
+        program = self.started("--parent", str(parent.pid))
+        time.sleep(0.6)
+        self.assertIsNone(program.poll())
+        # Not waited for, so that it stays behind as a process that has ended.
+        parent.kill()
+        self.ends(program)
+
+    def test_passing_folder_is_removed(self) -> None:
+        with tempfile.TemporaryDirectory() as temporary:
+            program = subprocess.Popen([sys.executable, "-B", str(PROGRAM)], text=True,
+                                       stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+                                       env={"TMPDIR": temporary})
+            self.addCleanup(program.communicate)
+            self.addCleanup(program.kill)
+            program.stdout.readline()
+            self.assertEqual(1, len(list(Path(temporary).iterdir())))
+            program.terminate()
+            self.ends(program)
+            self.assertEqual([], list(Path(temporary).iterdir()))
+
+    def test_starts_that_cannot_be(self) -> None:
+        self.started()
+        (self.folder / "file").touch()
+        for words in (("--port", str(self.port)), ("--port", "70000"), ("--lejis-host", "a b"),
+                      ("--data", str(self.folder / "file")), ("--host", "203.0.113.1")):
+            with self.subTest(words=words):
+                program = self.start(*words)
+                _, errors = program.communicate(timeout=10)
+                self.assertEqual(1, program.returncode)
+                self.assertRegex(errors, r"\AThe LEJIS Interface simulator cannot start: .+\n\Z")
+                self.assertFalse(self.port_file.exists())
+
+
+if __name__ == "__main__":
+    unittest.main()

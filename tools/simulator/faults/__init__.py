@@ -1,0 +1,1 @@
+"""Misbehaviour on request."""

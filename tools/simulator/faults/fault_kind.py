@@ -1,0 +1,35 @@
+"""One way to misbehave."""
+
+from __future__ import annotations
+
+from collections.abc import Callable
+from dataclasses import dataclass, field
+from typing import Any
+
+from wire.delivery import Delivery
+from wire.http_response import HttpResponse
+from lejis.namespaces import Namespaces
+
+Play = Callable[[HttpResponse, dict[str, Any], Namespaces], Delivery]
+
+
+@dataclass(frozen=True)
+class Parameter:
+    """A parameter's check, which gives the value to use or raises ValueError, and its default."""
+
+    check: Callable[[Any], Any]
+    default: Any
+
+
+@dataclass(frozen=True)
+class FaultKind:
+    """Turns the right answer into the one that is sent.
+
+    `honest` kinds delay the answer but mean it: the request has its effect. `target` binds a kind
+    to the one target where it makes sense.
+    """
+
+    play: Play
+    parameters: dict[str, Parameter] = field(default_factory=dict)
+    honest: bool = False
+    target: str | None = None

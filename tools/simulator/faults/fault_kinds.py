@@ -1,0 +1,155 @@
+"""All the ways to misbehave: a table, and a small function for each row."""
+
+from __future__ import annotations
+
+from dataclasses import replace
+from typing import Any
+
+from lxml import etree
+
+from lejis import soap
+from lejis.namespaces import WSDL, XSD, Namespaces
+from lejis.schema_set import REFUSING_SCHEMA, SERVICE_SCHEMA
+from wire.delivery import Delivery
+from wire.http_response import HttpResponse
+
+from . import parameter_checks as check
+from .fault_kind import FaultKind, Parameter
+
+_Values = dict[str, Any]
+
+
+def _response_code(_: HttpResponse, values: _Values, names: Namespaces) -> Delivery:
+    return _xml(soap.submission_response(names, values["text"]))
+
+
+def _soap_fault(_: HttpResponse, values: _Values, __: Namespaces) -> Delivery:
+    return _xml(soap.fault(values["code"], values["message"]), values["status"])
+
+
+def _http_status(_: HttpResponse, values: _Values, __: Namespaces) -> Delivery:
+    return Delivery(HttpResponse(values["status"], values["body"].encode(),
+                                 values["content_type"], values["reason"]))
+
+
+def _slow(answer: HttpResponse, values: _Values, _: Namespaces) -> Delivery:
+    return Delivery(answer, pause=values["seconds"])
+
+
+def _trickle(answer: HttpResponse, values: _Values, _: Namespaces) -> Delivery:
+    return Delivery(answer, spread=values["seconds"])
+
+
+def _truncated(answer: HttpResponse, *_: Any) -> Delivery:
+    return Delivery(answer, body_share=0.5, closes=True)
+
+
+def _truncated_headers(answer: HttpResponse, *_: Any) -> Delivery:
+    return Delivery(answer, head_share=0.5, closes=True)
+
+
+def _close(answer: HttpResponse, *_: Any) -> Delivery:
+    return Delivery(answer, head_share=0, closes=True)
+
+
+def _reset(answer: HttpResponse, *_: Any) -> Delivery:
+    return Delivery(answer, head_share=0, resets=True)
+
+
+def _not_xml(*_: Any) -> Delivery:
+    return _xml(b"This is no XML at all.")
+
+
+def _invalid_xml(answer: HttpResponse, *_: Any) -> Delivery:
+    """Begins like the right answer and never closes what it opens."""
+    return Delivery(replace(answer, status=200, body=answer.body + b"<unclosed>"))
+
+
+def _empty(*_: Any) -> Delivery:
+    return _xml(b"")
+
+
+def _no_response_element(_: HttpResponse, __: _Values, names: Namespaces) -> Delivery:
+    return _xml(soap.envelope(f'<lejis:somethingElse xmlns:lejis="{names.service}"/>'))
+
+
+def _no_body(*_: Any) -> Delivery:
+    return _xml(soap.envelope("").replace(b"<soap:Body></soap:Body>", b"<soap:Header/>"))
+
+
+def _doctype(_: HttpResponse, __: _Values, names: Namespaces) -> Delivery:
+    """An entity in the place of the answer's text: who resolves it reads a success."""
+    body = soap.submission_response(names, "ANSWER").replace(b"ANSWER", b"&answer;")
+    declaration, rest = body.split(b"\n", 1)
+    doctype = b'<!DOCTYPE soap:Envelope [<!ENTITY answer "0 Accepted">]>'
+    return _xml(b"\n".join((declaration, doctype, rest)))
+
+
+def _no_types(answer: HttpResponse, *_: Any) -> Delivery:
+    return _without(answer, f"{{{WSDL}}}types")
+
+
+def _no_include(answer: HttpResponse, *_: Any) -> Delivery:
+    return _without(answer, f"{{{XSD}}}include")
+
+
+def _https_include(answer: HttpResponse, *_: Any) -> Delivery:
+    return _relocated(answer, "http://", "HTTPS://")
+
+
+def _wrong_schema(answer: HttpResponse, *_: Any) -> Delivery:
+    return _relocated(answer, SERVICE_SCHEMA, REFUSING_SCHEMA)
+
+
+def _xml(body: bytes, status: int = 200) -> Delivery:
+    return Delivery(HttpResponse.xml(body, status))
+
+
+def _without(answer: HttpResponse, name: str) -> Delivery:
+    root = etree.fromstring(answer.body)
+    for element in list(root.iter(name)):
+        element.getparent().remove(element)
+    return _xml(etree.tostring(root))
+
+
+def _relocated(answer: HttpResponse, old: str, new: str) -> Delivery:
+    root = etree.fromstring(answer.body)
+    for include in root.iter(f"{{{XSD}}}include"):
+        include.set("schemaLocation", include.get("schemaLocation").replace(old, new))
+    return _xml(etree.tostring(root))
+
+
+_SECONDS = {"seconds": Parameter(check.seconds, 1)}
+_SOAP_FAULT = {
+    "status": Parameter(check.status, 500),
+    "code": Parameter(check.text, "soap:Server"),
+    "message": Parameter(check.text, "The LEJIS core has failed."),
+}
+_HTTP_STATUS = {
+    "status": Parameter(check.status, 503),
+    "reason": Parameter(check.optional_line, None),
+    "body": Parameter(check.text, ""),
+    "content_type": Parameter(check.line, "text/plain; charset=utf-8"),
+}
+
+FAULT_KINDS: dict[str, FaultKind] = {
+    "response-code": FaultKind(_response_code, {"text": Parameter(check.text, "")}),
+    "soap-fault": FaultKind(_soap_fault, _SOAP_FAULT),
+    "http-status": FaultKind(_http_status, _HTTP_STATUS),
+    "slow": FaultKind(_slow, _SECONDS, honest=True),
+    "trickle": FaultKind(_trickle, _SECONDS, honest=True),
+    "truncated": FaultKind(_truncated),
+    "truncated-headers": FaultKind(_truncated_headers),
+    "close": FaultKind(_close),
+    "reset": FaultKind(_reset),
+    "not-xml": FaultKind(_not_xml),
+    "invalid-xml": FaultKind(_invalid_xml),
+    "empty": FaultKind(_empty),
+    "no-response-element": FaultKind(_no_response_element),
+    "no-body": FaultKind(_no_body),
+    "doctype": FaultKind(_doctype),
+    "no-types": FaultKind(_no_types, target="wsdl"),
+    "no-include": FaultKind(_no_include, target="wsdl"),
+    "https-include": FaultKind(_https_include, target="wsdl"),
+    "wrong-schema": FaultKind(_wrong_schema, target="wsdl"),
+}

@@ -1,0 +1,1 @@
+"""What the LEJIS Interface says and keeps: its names, messages, schemas and index."""

@@ -1,0 +1,1 @@
+"""HTTP as the simulator speaks it, down to the bytes."""

@@ -1,0 +1,140 @@
+"""One client's connection: requests in, responses out, until either side has enough."""
+
+from __future__ import annotations
+
+import socket
+import struct
+import time
+from email.message import Message
+from http.server import BaseHTTPRequestHandler
+from typing import TYPE_CHECKING
+
+from .delivery import Delivery
+from .head_recorder import HeadRecorder
+from .http_request import HttpRequest
+from .request_refused import RequestRefused
+
+if TYPE_CHECKING:
+    from .simulator_server import SimulatorServer
+
+MAX_BODY_BYTES = 64 * 1024 * 1024
+SOCKET_TIMEOUT_SECONDS = 60
+_MAX_LINE_BYTES = 65536
+_DRAIN_SECONDS = 1
+
+
+class ConnectionHandler(BaseHTTPRequestHandler):
+    """Leaves parsing to the standard library and takes the wire's every byte in its own hands."""
+
+    server: SimulatorServer
+    protocol_version = "HTTP/1.1"
+    timeout = SOCKET_TIMEOUT_SECONDS
+    disable_nagle_algorithm = True
+
+    def setup(self) -> None:
+        """Puts the recorder between the socket and the parser."""
+        super().setup()
+        self.rfile = HeadRecorder(self.rfile)
+
+    def handle_one_request(self) -> None:
+        """Reads a request and sends its answer. A client that goes away is no error."""
+        try:
+            if self._read_request_line():
+                with self.server.activity.exchange():
+                    self._exchange()
+        except OSError:
+            self.close_connection = True
+        finally:
+            self.rfile.take_head()
+
+    def send_error(self, code: int, message: str | None = None,
+                   explain: str | None = None) -> None:
+        """What the parser calls when it gives up on a request."""
+        raise RequestRefused(int(code), f"{message or 'The request is not HTTP'}.")
+
+    def handle_expect_100(self) -> bool:
+        """Asks for the body only when it will be taken."""
+        self._body_length()
+        return super().handle_expect_100()
+
+    def _read_request_line(self) -> bool:
+        """False when the client has closed or sent nothing in time between two requests."""
+        self.command = self.path = ""
+        self.headers = Message()
+        self.raw_requestline = self.rfile.readline(_MAX_LINE_BYTES + 1)
+        self.close_connection = not self.raw_requestline
+        return bool(self.raw_requestline)
+
+    def _exchange(self) -> None:
+        try:
+            request = self._read_request()
+        except RequestRefused as refusal:
+            delivery = self.server.refuse(self._request(), refusal.response)
+            self._send(delivery)
+            self._drain()
+        else:
+            peer = self.client_address[0]
+            self._send(self.server.answer(request, peer))
+
+    def _read_request(self) -> HttpRequest:
+        if len(self.raw_requestline) > _MAX_LINE_BYTES:
+            raise RequestRefused(414, "The request line is too long.")
+        self.requestline = ""
+        self.request_version = "HTTP/1.1"
+        if not self.parse_request():
+            raise RequestRefused(400, "The request line is empty.")
+        length = self._body_length()
+        try:
+            body = self.rfile.read(length)
+        except TimeoutError:
+            raise RequestRefused(408, "The request's body did not come in time.") from None
+        if len(body) < length:
+            raise RequestRefused(400, f"The request ended after {len(body)} of {length} bytes.")
+        return self._request(body)
+
+    def _request(self, body: bytes = b"") -> HttpRequest:
+        return HttpRequest(self.command or "", self.path or "", self.rfile.take_head(),
+                           self.headers, body)
+
+    def _body_length(self) -> int:
+        if self.headers.get("Transfer-Encoding"):
+            raise RequestRefused(411, "Bodies without a Content-Length are not taken.")
+        lengths = set(self.headers.get_all("Content-Length", []))
+        if not lengths:
+            if self.server.needs_length(self.command, self.path):
+                raise RequestRefused(411, "The request has no Content-Length.")
+            return 0
+        text = lengths.pop().strip()
+        if lengths or not (text.isascii() and text.isdigit()):
+            raise RequestRefused(400, "The request's Content-Length is not one number.")
+        if len(text) > 18 or int(text) > MAX_BODY_BYTES:
+            raise RequestRefused(413, f"A request may have at most {MAX_BODY_BYTES} bytes.")
+        return int(text)
+
+    def _send(self, delivery: Delivery) -> None:
+        self.server.wait(delivery.pause)
+        if delivery.resets:
+            self._reset()
+            return
+        pieces = delivery.pieces(with_body=self.command != "HEAD")
+        for number, piece in enumerate(pieces):
+            if number:
+                self.server.wait(delivery.spread / len(pieces))
+            self.wfile.write(piece)
+        if delivery.closes:
+            self.close_connection = True
+
+    def _reset(self) -> None:
+        """Ends the connection the rude way: with linger time 0 a close sends RST instead of FIN."""
+        self.close_connection = True
+        self.connection.setsockopt(socket.SOL_SOCKET, socket.SO_LINGER, struct.pack("ii", 1, 0))
+        self.rfile.close()
+        self.connection.close()
+
+    def _drain(self) -> None:
+        """Takes what is still under way: closing over unread bytes can cost the client the answer."""
+        self.connection.shutdown(socket.SHUT_WR)
+        self.connection.settimeout(_DRAIN_SECONDS)
+        until = time.monotonic() + _DRAIN_SECONDS
+        while time.monotonic() < until and self.connection.recv(65536):
+            pass
