@@ -28,6 +28,8 @@ void LejisSubmissionWebService::SubmitAsync(const LejisSubmissionDocument& docum
         DoSubmit(document, true);
     } catch (...) {
         const ComError error = platform::CaughtError();
+        // No answer will come that would part the request and this object.
+        request_.ClearReadyStateHandler();
         switch (error.Number()) {
             case platform::kInvalidUrl:
                 // With a full stop at its end, unlike the text of a submission that is waited for.

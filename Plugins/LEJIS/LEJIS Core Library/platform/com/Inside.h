@@ -16,8 +16,8 @@ Microsoft::WRL::ComPtr<Class> Inside(IUnknown* client) {
     void* object = nullptr;
     if (FAILED(client->QueryInterface(Class::ClassId(), &object))) throw TypeMismatch();
     Microsoft::WRL::ComPtr<Class> inside;
-    // The class's first interface, which is what was handed out, stands at the beginning of the object.
-    inside.Attach(static_cast<Class*>(static_cast<typename Class::DefaultInterface*>(object)));
+    // Not by Attach: mingw-w64's takes a second reference.
+    *inside.GetAddressOf() = static_cast<Class*>(static_cast<typename Class::DefaultInterface*>(object));
     return inside;
 }
 

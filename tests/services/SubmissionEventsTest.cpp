@@ -1,0 +1,130 @@
+// The submission that nobody waits for: each outcome is one event.
+#include "services/LejisSubmissionWebService.h"
+
+#include "deferred/FutureManager.h"
+#include "support/Messages.h"
+#include "unit_support/Incidents.h"
+#include "unit_support/ScriptedRequest.h"
+#include "unit_support/Soap.h"
+#include "unit_support/SubmissionSink.h"
+
+#include <gtest/gtest.h>
+
+using Microsoft::WRL::ComPtr;
+using support::Script;
+using support::ScriptedHttp;
+using support::SubmissionSink;
+
+namespace lejis {
+namespace {
+
+struct EventRow {
+    const char* name;
+    Script script;
+    // Empty: no event at all.
+    std::wstring event;
+};
+
+const std::wstring kUnexpectedAnswer =
+    L"ServiceError: The LEJIS core server returned an unexpected response. This likely means the core is either "
+    L"experiencing planned downtime or unexpected technical problems. \r\nIt's also possible that your LEJIS Interface "
+    L"settings are incorrect.";
+
+const EventRow kRows[] = {
+    {"Taken", {.responseText = support::SubmissionResponse(L"0")}, L"SubmissionCompleted"},
+    {"TakenWhateverTheCode", {.responseText = support::SubmissionResponse(L"100")}, L"SubmissionCompleted"},
+    {"TakenWithoutAnswer", {.hasResponseXml = false}, L"SubmissionCompleted"},
+    {"Unreachable", {.status = 12029},
+     L"NetworkError: The LEJIS Interface is down or not accessible. Make sure the LEJIS Interface server role is "
+     L"running on your Talvex server."},
+    {"BadGateway", {.status = 502, .hasStatusText = false},
+     L"NetworkError: The LEJIS server returned HTTP status code 502 (no message text)"},
+    {"Fault", {.status = 500, .responseText = support::SoapFault(L"soap:Server", L"bad card")},
+     L"ServiceError: bad card"},
+    {"NoFault", {.status = 500, .responseText = support::Soap(L"<x/>")}, L"ServiceError: Unknown error"},
+    {"Forbidden", {.status = 403, .responseText = support::Soap(L"<x/>")}, L"ServiceError: Unknown error"},
+    {"EmptyAnswer", {.status = 500}, kUnexpectedAnswer},
+    {"NotXml", {.status = 404, .responseText = L"no such page"}, kUnexpectedAnswer},
+    {"NotSoap", {.status = 500, .responseText = L"<html/>"},
+     L"ServiceError: Internal error in web service code: Object required"},
+    {"NoDocument", {.status = 500, .hasResponseXml = false}, L""},
+};
+
+class SubmissionEvents : public testing::TestWithParam<EventRow> {};
+
+ComPtr<LejisSubmissionDocument> Document() {
+    auto document = platform::Create<LejisSubmissionDocument>();
+    document->Add(support::CleanIncident());
+    return document;
+}
+
+TEST_P(SubmissionEvents, AreAsDocumented) {
+    ScriptedHttp http(GetParam().script);
+    http.script.readyStates = {1, 2, 3, 4};
+    const auto service = platform::Create<LejisSubmissionWebService>();
+    const SubmissionSink::Connection connection(service->Dispatch());
+    service->SubmitAsync(*Document().Get());
+    EXPECT_TRUE(http.Last().Seen().asynchronous);
+    for (int state = 0; state < 3; ++state) http.Last().Advance();
+    EXPECT_TRUE(connection.Events().empty()) << "nothing is raised inside of the request's callback";
+    support::PumpFor(250);
+    const std::vector<std::wstring> expected =
+        GetParam().event.empty() ? std::vector<std::wstring>{} : std::vector<std::wstring>{GetParam().event};
+    EXPECT_EQ(expected, connection.Events());
+    EXPECT_FALSE(http.Last().HasHandler()) << "the request and the service no longer hold each other";
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, SubmissionEvents, testing::ValuesIn(kRows),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+struct SendingFailure {
+    const char* name;
+    Script script;
+    std::wstring event;
+};
+
+const SendingFailure kSendingFailures[] = {
+    {"InvalidUrl", {.openResult = MK_E_SYNTAX}, L"ConfigurationError: Invalid URL 'no url'."},
+    {"Unreachable", {.sendResult = static_cast<HRESULT>(0x800C0005)}, L"NetworkError: The server is down."},
+    {"Other", {.openResult = E_ACCESSDENIED},
+     L"ConfigurationError: Internal error -2147024891: Error in DoSubmit (line 5): Access denied."},
+};
+
+class SubmissionSendingFailure : public testing::TestWithParam<SendingFailure> {};
+
+TEST_P(SubmissionSendingFailure, IsAnEventAtOnce) {
+    const ScriptedHttp http(GetParam().script);
+    const auto service = platform::Create<LejisSubmissionWebService>();
+    service->URL = L"no url";
+    const SubmissionSink::Connection connection(service->Dispatch());
+    service->SubmitAsync(*Document().Get());
+    EXPECT_EQ(std::vector<std::wstring>{GetParam().event}, connection.Events());
+    EXPECT_FALSE(http.Last().HasHandler()) << "the request and the service no longer hold each other";
+}
+
+INSTANTIATE_TEST_SUITE_P(Failures, SubmissionSendingFailure, testing::ValuesIn(kSendingFailures),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST(SubmissionEventsLifetime, TheServiceLivesUntilItsAnswerHasBeenToldEvenWhenItsClientLetsGo) {
+    ScriptedHttp http({.responseText = support::SubmissionResponse(L"0")});
+    auto service = platform::Create<LejisSubmissionWebService>();
+    const auto sink = platform::Create<SubmissionSink>();
+    SubmissionSink::Connect(service->Dispatch(), sink);
+    service->SubmitAsync(*Document().Get());
+    service.Reset();
+    http.Last().Advance();
+    EXPECT_TRUE(support::PumpUntil([&] { return !sink->events.empty(); }));
+    EXPECT_EQ(std::vector<std::wstring>{L"SubmissionCompleted"}, sink->events);
+}
+
+TEST(SubmissionEventsLifetime, AStateChangeOrARunWithoutARequestHarmsNothing) {
+    const auto service = platform::Create<LejisSubmissionWebService>();
+    const SubmissionSink::Connection connection(service->Dispatch());
+    EXPECT_EQ(S_OK, service->OnReadyStateChange());
+    EXPECT_EQ(S_OK, service->Run());
+    EXPECT_EQ(std::vector<std::wstring>{L"ServiceError: Internal error in web service code: Object required"},
+              connection.Events());
+}
+
+}  // namespace
+}  // namespace lejis

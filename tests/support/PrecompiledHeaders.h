@@ -1,0 +1,14 @@
+// Compiled once to save time; every file still includes what it uses.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <comutil.h>
+#include <msxml6.h>
+#include <ole2.h>
+#include <windows.h>
+#include <wrl/client.h>
+
+#include <functional>
+#include <string>
+#include <vector>

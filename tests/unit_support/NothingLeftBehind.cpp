@@ -1,0 +1,15 @@
+// After the last test no object of the library is alive: what DllCanUnloadNow would tell.
+#include "platform/com/Module.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class NothingLeftBehind : public testing::Environment {
+public:
+    void TearDown() override { EXPECT_FALSE(platform::module::InUse()) << "objects of the library are still alive"; }
+};
+
+testing::Environment* const environment = testing::AddGlobalTestEnvironment(new NothingLeftBehind);
+
+}  // namespace

@@ -1,0 +1,92 @@
+#include "unit_support/ScriptedRequest.h"
+
+#include "support/ComCheck.h"
+#include "support/Xml.h"
+
+#include <algorithm>
+
+using Microsoft::WRL::ComPtr;
+
+namespace support {
+
+ScriptedHttp::ScriptedHttp(Script first) : script(std::move(first)) {
+    platform::SetHttpRequestFactory([this] {
+        requests.push_back(platform::Create<ScriptedRequest>(script));
+        return ComPtr<IXMLHTTPRequest>(requests.back().Get());
+    });
+}
+
+ScriptedHttp::~ScriptedHttp() { platform::SetHttpRequestFactory(nullptr); }
+
+void ScriptedRequest::Advance() {
+    state_ = std::min(state_ + 1, script_.readyStates.size() - 1);
+    if (!handler_) return;
+    DISPPARAMS none{};
+    handler_->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &none, nullptr, nullptr, nullptr);
+}
+
+STDMETHODIMP ScriptedRequest::open(BSTR method, BSTR url, VARIANT asynchronous, VARIANT, VARIANT) {
+    sent_.method = method;
+    sent_.url = url ? url : L"";
+    sent_.asynchronous = V_BOOL(&asynchronous) != VARIANT_FALSE;
+    return script_.openResult;
+}
+
+STDMETHODIMP ScriptedRequest::setRequestHeader(BSTR header, BSTR value) {
+    sent_.headers.emplace_back(header, value);
+    return S_OK;
+}
+
+STDMETHODIMP ScriptedRequest::send(VARIANT body) {
+    ++sent_.sends;
+    sent_.bodyIsText = V_VT(&body) == VT_BSTR;
+    if (sent_.bodyIsText) sent_.body = V_BSTR(&body);
+    return script_.sendResult;
+}
+
+STDMETHODIMP ScriptedRequest::get_status(long* status) {
+    *status = script_.status;
+    return S_OK;
+}
+
+STDMETHODIMP ScriptedRequest::get_statusText(BSTR* text) {
+    *text = script_.hasStatusText ? Bstr(script_.statusText).Detach() : nullptr;
+    return S_OK;
+}
+
+STDMETHODIMP ScriptedRequest::get_responseText(BSTR* text) {
+    *text = Bstr(script_.responseText).Detach();
+    return S_OK;
+}
+
+STDMETHODIMP ScriptedRequest::get_responseXML(IDispatch** document) {
+    *document = nullptr;
+    if (!script_.hasResponseXml) return S_FALSE;
+    const Document parsed = NewDocument();
+    VARIANT_BOOL loaded = VARIANT_FALSE;
+    parsed->loadXML(Bstr(script_.responseText), &loaded);
+    *document = ComPtr<IDispatch>(parsed.Get()).Detach();
+    // As the platform answers for a document without a root.
+    return loaded ? S_OK : S_FALSE;
+}
+
+// A look from the waiting loop moves the state on; a scripted asynchronous request moves by Advance alone.
+STDMETHODIMP ScriptedRequest::get_readyState(long* state) {
+    *state = script_.readyStates[state_];
+    if (!sent_.asynchronous) state_ = std::min(state_ + 1, script_.readyStates.size() - 1);
+    return S_OK;
+}
+
+STDMETHODIMP ScriptedRequest::put_onreadystatechange(IDispatch* handler) {
+    handler_ = handler;
+    return S_OK;
+}
+
+// Nothing in the library asks for these.
+STDMETHODIMP ScriptedRequest::getResponseHeader(BSTR, BSTR*) { return E_UNEXPECTED; }
+STDMETHODIMP ScriptedRequest::getAllResponseHeaders(BSTR*) { return E_UNEXPECTED; }
+STDMETHODIMP ScriptedRequest::abort() { return E_UNEXPECTED; }
+STDMETHODIMP ScriptedRequest::get_responseBody(VARIANT*) { return E_UNEXPECTED; }
+STDMETHODIMP ScriptedRequest::get_responseStream(VARIANT*) { return E_UNEXPECTED; }
+
+}  // namespace support
