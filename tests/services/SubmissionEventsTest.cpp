@@ -34,18 +34,22 @@ const EventRow kRows[] = {
     {"Taken", {.responseText = support::SubmissionResponse(L"0")}, L"SubmissionCompleted"},
     {"TakenWhateverTheCode", {.responseText = support::SubmissionResponse(L"100")}, L"SubmissionCompleted"},
     {"TakenWithoutAnswer", {.hasResponseXml = false}, L"SubmissionCompleted"},
-    {"Unreachable", {.status = 12029},
+    {"Unreachable",
+     {.status = 12029},
      L"NetworkError: The LEJIS Interface is down or not accessible. Make sure the LEJIS Interface server role is "
      L"running on your Talvex server."},
-    {"BadGateway", {.status = 502, .hasStatusText = false},
+    {"BadGateway",
+     {.status = 502, .hasStatusText = false},
      L"NetworkError: The LEJIS server returned HTTP status code 502 (no message text)"},
-    {"Fault", {.status = 500, .responseText = support::SoapFault(L"soap:Server", L"bad card")},
+    {"Fault",
+     {.status = 500, .responseText = support::SoapFault(L"soap:Server", L"bad card")},
      L"ServiceError: bad card"},
     {"NoFault", {.status = 500, .responseText = support::Soap(L"<x/>")}, L"ServiceError: Unknown error"},
     {"Forbidden", {.status = 403, .responseText = support::Soap(L"<x/>")}, L"ServiceError: Unknown error"},
     {"EmptyAnswer", {.status = 500}, kUnexpectedAnswer},
     {"NotXml", {.status = 404, .responseText = L"no such page"}, kUnexpectedAnswer},
-    {"NotSoap", {.status = 500, .responseText = L"<html/>"},
+    {"NotSoap",
+     {.status = 500, .responseText = L"<html/>"},
      L"ServiceError: Internal error in web service code: Object required"},
     {"NoDocument", {.status = 500, .hasResponseXml = false}, L""},
 };
@@ -86,7 +90,8 @@ struct SendingFailure {
 const SendingFailure kSendingFailures[] = {
     {"InvalidUrl", {.openResult = MK_E_SYNTAX}, L"ConfigurationError: Invalid URL 'no url'."},
     {"Unreachable", {.sendResult = static_cast<HRESULT>(0x800C0005)}, L"NetworkError: The server is down."},
-    {"Other", {.openResult = E_ACCESSDENIED},
+    {"Other",
+     {.openResult = E_ACCESSDENIED},
      L"ConfigurationError: Internal error -2147024891: Error in DoSubmit (line 5): Access denied."},
 };
 

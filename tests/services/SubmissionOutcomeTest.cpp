@@ -30,7 +30,8 @@ struct Outcome {
 };
 
 const std::wstring kUnexpectedError =
-    L"The LEJIS server returned an unexpected error. \r\n\r\nCheck that the correct JNET User ID is configured for your "
+    L"The LEJIS server returned an unexpected error. \r\n\r\nCheck that the correct JNET User ID is configured for "
+    L"your "
     L"user account in Administration and that the machine where the LEJIS Interface is running has a valid LEJIS "
     L"certificate installed and configured.\r\n\r\nIf the issue persists, check the LEJISRedirector log on your LEJIS "
     L"Interface machine/server.";
@@ -64,8 +65,7 @@ const Outcome kOutcomes[] = {
      L"LEJIS server is up, but LEJIS core system is offline."},
     {"OtherCode", Accepted(L"7 bad card"), tvTransientError, L"Unexpected error returned from LEJIS: 7 bad card"},
     {"NegativeCode", Accepted(L"-1 no"), tvTransientError, L"Unexpected error returned from LEJIS: -1 no"},
-    {"EmptyCode", Accepted(L""), tvFatalError,
-     L"Internal error in web service code: Subscript out of range (Line 7)"},
+    {"EmptyCode", Accepted(L""), tvFatalError, L"Internal error in web service code: Subscript out of range (Line 7)"},
     {"CodeOutOfRange", Accepted(L"40000 x"), tvFatalError, L"Internal error in web service code: Overflow (Line 7)"},
     {"NoResponseElement", Answered(200, Soap(L"<other/>")), tvTransientError,
      L"The server did not return a submissionResponse code."},
@@ -75,8 +75,8 @@ const Outcome kOutcomes[] = {
      tvTransientError, L"The server did not return a submissionResponse code."},
     {"ResponseElementOfAnotherNamespace", Answered(200, Soap(L"<submissionResponse>0</submissionResponse>")),
      tvTransientError, L"The server did not return a submissionResponse code."},
-    {"NoBody", Answered(200, L"<soap:Envelope xmlns:soap='http://schemas.xmlsoap.org/soap/envelope/'/>"),
-     tvFatalError, L"Internal error in web service code: Object required (Line 6)"},
+    {"NoBody", Answered(200, L"<soap:Envelope xmlns:soap='http://schemas.xmlsoap.org/soap/envelope/'/>"), tvFatalError,
+     L"Internal error in web service code: Object required (Line 6)"},
     {"NotXml", Answered(200, L"It works!"), tvTransientError, PartiallyOffline(200)},
     {"Empty", Answered(200, L""), tvTransientError, PartiallyOffline(200)},
     {"NotSoap", Answered(200, L"<html/>"), tvTransientError, PartiallyOffline(200)},
@@ -119,19 +119,33 @@ const Outcome kOutcomes[] = {
     {"WinInet12030", WithoutStatusText(12030), tvTransientError, L"Network error: Connection aborted."},
     {"WinInet12031", WithoutStatusText(12031), tvTransientError, L"Network error: Connection reset."},
     {"WinInet12152WithText", Answered(12152, L"", L"Unknown"), tvTransientError, kUnexpectedError},
-    {"InvalidUrl", {.openResult = MK_E_SYNTAX}, tvTransientError,
+    {"InvalidUrl",
+     {.openResult = MK_E_SYNTAX},
+     tvTransientError,
      L"Invalid URL 'http://lejis-interface:8080/submission'"},
-    {"InvalidUrlAsInvalidArgument", {.openResult = E_INVALIDARG}, tvTransientError,
+    {"InvalidUrlAsInvalidArgument",
+     {.openResult = E_INVALIDARG},
+     tvTransientError,
      L"Invalid URL 'http://lejis-interface:8080/submission'"},
-    {"InvalidUrlAsUnknownScheme", {.openResult = static_cast<HRESULT>(0x800C000D)}, tvTransientError,
+    {"InvalidUrlAsUnknownScheme",
+     {.openResult = static_cast<HRESULT>(0x800C000D)},
+     tvTransientError,
      L"Invalid URL 'http://lejis-interface:8080/submission'"},
-    {"Unreachable", {.sendResult = static_cast<HRESULT>(0x800C0005)}, tvTransientError,
+    {"Unreachable",
+     {.sendResult = static_cast<HRESULT>(0x800C0005)},
+     tvTransientError,
      L"The LEJIS Interface service is down. It may need to be restarted."},
-    {"UnreachableAsWineReportsIt", {.sendResult = static_cast<HRESULT>(0x800C0008)}, tvTransientError,
+    {"UnreachableAsWineReportsIt",
+     {.sendResult = static_cast<HRESULT>(0x800C0008)},
+     tvTransientError,
      L"The LEJIS Interface service is down. It may need to be restarted."},
-    {"OtherFailureOfOpen", {.openResult = E_ACCESSDENIED}, tvFatalError,
+    {"OtherFailureOfOpen",
+     {.openResult = E_ACCESSDENIED},
+     tvFatalError,
      L"Internal error -2147024891: Error in DoSubmit (line 5): Access denied. (Line 1)"},
-    {"OtherFailureOfSend", {.sendResult = E_OUTOFMEMORY}, tvFatalError,
+    {"OtherFailureOfSend",
+     {.sendResult = E_OUTOFMEMORY},
+     tvFatalError,
      L"Internal error -2147024882: Error in DoSubmit (line 7): Out of memory. (Line 1)"},
 };
 

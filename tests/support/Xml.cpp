@@ -133,6 +133,16 @@ Element ParseElement(const std::wstring& text) {
     return root;
 }
 
+Document Reparsed(IXMLDOMNode* node) {
+    const Document document = NewDocument();
+    EXPECT_OK(document->put_preserveWhiteSpace(VARIANT_TRUE));
+    VARIANT_BOOL loaded = VARIANT_FALSE;
+    const std::wstring text = Get(node, &IXMLDOMNode::get_xml);
+    EXPECT_OK(document->loadXML(Bstr(text), &loaded));
+    EXPECT_EQ(VARIANT_TRUE, loaded) << "does not parse: " << Utf8(text);
+    return document;
+}
+
 testing::AssertionResult SameXml(IUnknown* actual, const std::wstring& expected) {
     const std::wstring got = Dumped(actual);
     const std::wstring wanted = Dumped(Parse(expected).Get());

@@ -20,6 +20,9 @@ Document NewDocument();
 Document Parse(const std::wstring& text);
 Element ParseElement(const std::wstring& text);
 
+// What the XML text of a node says. A tree that was built need not know the namespaces of its attributes yet.
+Document Reparsed(IXMLDOMNode* node);
+
 // Element names (namespace and local name), attributes, order, and texts exactly; white space between elements is
 // passed over, for the platforms lay out differently.
 testing::AssertionResult SameXml(IUnknown* actual, const std::wstring& expected);

@@ -16,8 +16,8 @@ ComPtr<IConnectionPoint> PointOf(IDispatch* service) {
     return point;
 }
 
-constexpr const wchar_t* kNames[] = {L"?",           L"SubmissionCompleted", L"ConfigurationError",
-                                     L"NetworkError", L"ValidationError",     L"ServiceError"};
+constexpr const wchar_t* kNames[] = {
+    L"?", L"SubmissionCompleted", L"ConfigurationError", L"NetworkError", L"ValidationError", L"ServiceError"};
 
 }  // namespace
 

@@ -69,27 +69,27 @@ void TestHost::Register(const wchar_t* progId, REFCLSID classId, Maker maker) {
 
 ComPtr<IUnknown> TestHost::MakeServices() {
     ++servicesMade;
-    return AsUnknown(platform::Create<LateBoundObject>(std::map<std::wstring, Member>{
-        {L"ErrorNumber",
-         [this](const std::vector<_variant_t>& arguments, WORD) {
-             errorKinds.push_back(arguments.at(0));
-             return _variant_t(errorNumber);
-         }},
-        {L"Yield", [this](const std::vector<_variant_t>&, WORD) {
-             ++yields;
-             onYield();
-             return _variant_t();
-         }}}));
+    return AsUnknown(platform::Create<LateBoundObject>(
+        std::map<std::wstring, Member>{{L"ErrorNumber",
+                                        [this](const std::vector<_variant_t>& arguments, WORD) {
+                                            errorKinds.push_back(arguments.at(0));
+                                            return _variant_t(errorNumber);
+                                        }},
+                                       {L"Yield", [this](const std::vector<_variant_t>&, WORD) {
+                                            ++yields;
+                                            onYield();
+                                            return _variant_t();
+                                        }}}));
 }
 
 ComPtr<IUnknown> TestHost::MakeEnvironment() {
     ++environmentsMade;
-    return AsUnknown(platform::Create<LateBoundObject>(
-        std::map<std::wstring, Member>{{L"Folders", [this](const std::vector<_variant_t>&, WORD) {
-             return ToVariant(platform::Create<LateBoundObject>(std::map<std::wstring, Member>{
-                 {L"Diagnostics", [this](const std::vector<_variant_t>&, WORD) {
-                      return _variant_t(diagnosticsFolder.c_str());
-                  }}}));
+    return AsUnknown(platform::Create<LateBoundObject>(std::map<std::wstring, Member>{
+        {L"Folders", [this](const std::vector<_variant_t>&, WORD) {
+             return ToVariant(platform::Create<LateBoundObject>(
+                 std::map<std::wstring, Member>{{L"Diagnostics", [this](const std::vector<_variant_t>&, WORD) {
+                                                     return _variant_t(diagnosticsFolder.c_str());
+                                                 }}}));
          }}}));
 }
 

@@ -47,7 +47,8 @@ bool LoadCopy(const Document& document, const Document& original) {
     if (!original || HasDoctype(original)) return false;
     // As unknown object: passed as automation object, some implementations do not see the document in it.
     Check(document->load(_variant_t(static_cast<IUnknown*>(original.Get())), &loaded));
-    return loaded != VARIANT_FALSE;
+    // Not every MSXML calls a copy of nothing a failure.
+    return loaded != VARIANT_FALSE && Root(document);
 }
 
 bool HasDoctype(const Document& document) {

@@ -1,0 +1,117 @@
+#!/bin/bash
+# test.sh [x86|x64|all] [--filter PATTERN] [--require-x86]
+# Builds everything and runs the tests under Wine: in each architecture the unit tests, the clients' tests (C++ and
+# scripts) and the tests over HTTP against the simulator; then the tests of the tools, written in Python.
+# PATTERN is GoogleTest's, such as "Vehicle*:-*Slow*"; scripts are chosen by their file names likewise, and the tests of
+# the tools are left out.
+# --require-x86 makes it an error that x86 programs cannot be run here.
+# The last line is "N passed, M failed"; the exit code is 1 unless tests ran and all passed.
+set -euo pipefail
+# shellcheck source=tools/shell-support.sh
+source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
+# shellcheck source=tools/wine-environment.sh
+source "$project/tools/wine-environment.sh"
+
+readonly time_limit=300
+results=$project/build/test-results
+selection=all
+filter=
+setup_options=()
+
+read_arguments() {
+  while (($#)); do
+    case $1 in
+      --filter)
+        (($# > 1)) || wrong_usage "--filter needs a pattern"
+        filter=$2
+        shift
+        ;;
+      --filter=*) filter=${1#*=} ;;
+      --require-x86) setup_options=(--require-x86) ;;
+      -*) wrong_usage "unknown option $1" ;;
+      *) selection=$1 ;;
+    esac
+    shift
+  done
+}
+
+# run_tests ARCH RING KIND PROGRAM COMMAND...
+run_tests() {
+  local code=0 filtered=()
+  [[ -z $filter ]] || filtered=(--filtered)
+  run timeout --kill-after=10 "$time_limit" "${@:5}" >"$results/$1-$2-$4.log" 2>&1 || code=$?
+  run /usr/bin/python3 "$project/tests/support/test_report.py" record "$results" "${@:1:4}" "$code" "${filtered[@]}"
+}
+
+# run_googletest ARCH RING PROGRAM [WRAPPER...]
+run_googletest() {
+  local program arguments
+  program=$(windows_path "$project/build/$1/tests/$3.exe")
+  arguments=("--gtest_output=xml:$(windows_path "$results/$1-$2-$3.xml")" --gtest_color=no)
+  [[ -z $filter ]] || arguments+=("--gtest_filter=$filter")
+  run_tests "$1" "$2" gtest "$3" "${@:4}" wine "$program" "${arguments[@]}"
+}
+
+# Does the filter want a test of this name? GoogleTest's rule: any of the patterns before "-", none of those after.
+wants() {
+  local positive=${filter%%-*} negative=
+  [[ $filter != *-* ]] || negative=${filter#*-}
+  matches_any "$1" "${positive:-*}" && ! matches_any "$1" "$negative"
+}
+
+matches_any() {
+  local pattern patterns
+  IFS=: read -ra patterns <<<"$2"
+  for pattern in "${patterns[@]}"; do
+    # shellcheck disable=SC2053  # a pattern is what is wanted
+    [[ $1 == $pattern ]] && return
+  done
+  return 1
+}
+
+run_scripts() {
+  local script name
+  for script in "$project"/tests/client/scripts/*.vbs; do
+    name=$(basename "$script")
+    wants "$name" || continue
+    run_tests "$1" client script "$name" \
+      wine "$(windows_programs "$1")\\cscript.exe" //nologo "$(windows_path "$script")"
+  done
+}
+
+run_architecture() {
+  local started=$SECONDS
+  register_dll "$1"
+  run_googletest "$1" unit unit_tests
+  run_googletest "$1" client client_tests
+  run_scripts "$1"
+  run_googletest "$1" end-to-end end_to_end_tests "$project/tests/support/with_simulator.sh" --in-schemas
+  say "$1 tested in $((SECONDS - started)) s"
+}
+
+run_python() {
+  local folder
+  for folder in simulator support; do
+    run_tests - tools unittest "$folder" /usr/bin/python3 -m unittest discover -s "$project/tests/$folder"
+  done
+}
+
+read_arguments "$@"
+architectures=$(architectures_of "$selection")
+clean_up_with stop_wine
+lock_checkout
+rm -rf "$results"
+mkdir -p "$results"
+run "$project/tools/setup.sh" "${setup_options[@]}"
+run "$project/build.sh" "$selection"
+start_wine
+for architecture in $architectures; do
+  if wine_runs "$architecture"; then
+    run_architecture "$architecture"
+  else
+    [[ $selection == all ]] || fail "x86 programs do not run here: 32-bit Wine is not there"
+    say "x86 not tested: 32-bit Wine is not there"
+  fi
+done
+[[ -n $filter ]] || run_python
+run /usr/bin/python3 "$project/tests/support/test_report.py" summary "$results"

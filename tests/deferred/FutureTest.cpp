@@ -1,0 +1,198 @@
+#include "deferred/Future.h"
+
+#include "deferred/FutureManager.h"
+#include "deferred/InvokeLater.h"
+#include "platform/com/Module.h"
+#include "support/Messages.h"
+#include "unit_support/Raises.h"
+#include "unit_support/RecordingRunnable.h"
+#include "unit_support/TestHost.h"
+
+#include <gtest/gtest.h>
+
+using Microsoft::WRL::ComPtr;
+using support::kInvalidArgument;
+using support::PumpFor;
+using support::PumpUntil;
+using support::Raises;
+using support::RecordingObserver;
+using support::RecordingRunnable;
+
+namespace lejis {
+namespace {
+
+bool IsCompleted(IFuture* future) {
+    VARIANT_BOOL completed = VARIANT_FALSE;
+    EXPECT_EQ(S_OK, future->get_Completed(&completed));
+    return completed != VARIANT_FALSE;
+}
+
+TEST(Future, IsNotCompletedWhenNew) { EXPECT_FALSE(IsCompleted(platform::Create<Future>().Get())); }
+
+TEST(Future, RunsOnceAfterItsDelayAndThenTellsTheObserver) {
+    const auto future = platform::Create<Future>();
+    const auto runnable = platform::Create<RecordingRunnable>();
+    const auto observer = platform::Create<RecordingObserver>();
+    const ULONGLONG start = GetTickCount64();
+    future->Schedule(runnable.Get(), observer.Get());
+    EXPECT_EQ(0, runnable->runs) << "not inside of the call that scheduled it";
+    EXPECT_TRUE(PumpUntil([&] { return runnable->runs > 0; }));
+    EXPECT_GE(GetTickCount64() - start, 90u);
+    EXPECT_TRUE(IsCompleted(future.Get()));
+    EXPECT_EQ(std::vector<IFuture*>{future.Get()}, observer->completed);
+    PumpFor(250);
+    EXPECT_EQ(1, runnable->runs);
+}
+
+TEST(Future, NeedsNoObserver) {
+    const auto future = platform::Create<Future>();
+    const auto runnable = platform::Create<RecordingRunnable>();
+    future->Schedule(runnable.Get(), nullptr);
+    EXPECT_TRUE(PumpUntil([&] { return IsCompleted(future.Get()); }));
+    EXPECT_EQ(1, runnable->runs);
+}
+
+TEST(Future, RaisesWithoutRunnableAndStartsNoTimer) {
+    const support::TestHost host;
+    const auto future = platform::Create<Future>();
+    EXPECT_TRUE(Raises(host.errorNumber, L"runnable cannot be Nothing", [&] { future->Schedule(nullptr, nullptr); }));
+    EXPECT_TRUE(host.timers.empty());
+}
+
+TEST(Future, ThatIsReleasedBeforeItsTickNeverRuns) {
+    const auto runnable = platform::Create<RecordingRunnable>();
+    {
+        const auto future = platform::Create<Future>();
+        future->Schedule(runnable.Get(), nullptr);
+    }
+    PumpFor(200);
+    EXPECT_EQ(0, runnable->runs);
+}
+
+TEST(Future, WhoseRunnableFailsIsNotCompletedAndTellsNobody) {
+    const auto future = platform::Create<Future>();
+    const auto runnable = platform::Create<RecordingRunnable>();
+    const auto observer = platform::Create<RecordingObserver>();
+    runnable->result = E_FAIL;
+    future->Schedule(runnable.Get(), observer.Get());
+    EXPECT_TRUE(PumpUntil([&] { return runnable->runs > 0; }));
+    PumpFor(200);
+    EXPECT_EQ(1, runnable->runs);
+    EXPECT_FALSE(IsCompleted(future.Get()));
+    EXPECT_TRUE(observer->completed.empty());
+}
+
+TEST(Future, UsesTheHostsTimerOneForEachFuture) {
+    const support::TestHost host;
+    const auto runnable = platform::Create<RecordingRunnable>();
+    const auto first = platform::Create<Future>();
+    const auto second = platform::Create<Future>();
+    first->Schedule(runnable.Get(), nullptr);
+    second->Schedule(runnable.Get(), nullptr);
+    ASSERT_EQ(2u, host.timers.size());
+    EXPECT_EQ(100, host.timers[0]->interval);
+    EXPECT_TRUE(host.timers[0]->enabled);
+}
+
+TEST(Future, StopsTheHostsTimerBeforeItRuns) {
+    const support::TestHost host;
+    const auto runnable = platform::Create<RecordingRunnable>();
+    const auto future = platform::Create<Future>();
+    future->Schedule(runnable.Get(), nullptr);
+    support::HostTimer& timer = *host.timers[0].Get();
+    bool enabledWhileItRan = true;
+    runnable->onRun = [&] { enabledWhileItRan = timer.enabled; };
+    timer.Tick();
+    EXPECT_EQ(1, runnable->runs);
+    EXPECT_FALSE(enabledWhileItRan);
+}
+
+TEST(Future, StopsTheHostsTimerWhenItIsReleasedAndHearsNoLateTick) {
+    const support::TestHost host;
+    const auto runnable = platform::Create<RecordingRunnable>();
+    auto future = platform::Create<Future>();
+    future->Schedule(runnable.Get(), nullptr);
+    future.Reset();
+    EXPECT_FALSE(host.timers[0]->enabled);
+    host.timers[0]->Tick();
+    EXPECT_EQ(0, runnable->runs);
+}
+
+TEST(FutureManager, TracksAFutureUntilItHasRun) {
+    const auto manager = platform::Create<FutureManager>();
+    const auto runnable = platform::Create<RecordingRunnable>();
+    manager->RunLater(runnable.Get());
+    EXPECT_EQ(1u, manager->PendingCount());
+    EXPECT_TRUE(PumpUntil([&] { return runnable->runs > 0; }));
+    EXPECT_EQ(0u, manager->PendingCount());
+}
+
+TEST(FutureManager, RunsTwoInTheirOrderEachOnce) {
+    const auto manager = platform::Create<FutureManager>();
+    std::vector<int> order;
+    const auto first = platform::Create<RecordingRunnable>();
+    const auto second = platform::Create<RecordingRunnable>();
+    first->onRun = [&] { order.push_back(1); };
+    second->onRun = [&] { order.push_back(2); };
+    manager->RunLater(first.Get());
+    manager->RunLater(second.Get());
+    EXPECT_TRUE(PumpUntil([&] { return order.size() == 2; }));
+    PumpFor(150);
+    EXPECT_EQ((std::vector<int>{1, 2}), order);
+}
+
+TEST(FutureManager, LetsARunnableScheduleAnotherWhichDoesNotRunInsideOfIt) {
+    const auto manager = platform::Create<FutureManager>();
+    const auto outer = platform::Create<RecordingRunnable>();
+    const auto inner = platform::Create<RecordingRunnable>();
+    int runsOfInnerInsideOfOuter = -1;
+    outer->onRun = [&] {
+        manager->RunLater(inner.Get());
+        runsOfInnerInsideOfOuter = inner->runs;
+    };
+    manager->RunLater(outer.Get());
+    EXPECT_TRUE(PumpUntil([&] { return inner->runs > 0; }));
+    EXPECT_EQ(0, runsOfInnerInsideOfOuter);
+    EXPECT_EQ(1, outer->runs);
+}
+
+TEST(FutureManager, RaisesWithoutRunnableAndTracksNothing) {
+    const auto manager = platform::Create<FutureManager>();
+    EXPECT_TRUE(Raises(kInvalidArgument, L"runnable cannot be Nothing", [&] { manager->RunLater(nullptr); }));
+    EXPECT_EQ(0u, manager->PendingCount());
+}
+
+TEST(FutureManager, IsKeptAliveByItsPendingFutures) {
+    const auto runnable = platform::Create<RecordingRunnable>();
+    platform::Create<FutureManager>()->RunLater(runnable.Get());
+    EXPECT_TRUE(PumpUntil([&] { return runnable->runs > 0; }));
+}
+
+TEST(FutureManager, GoesOnTrackingAFutureWhoseRunnableFails) {
+    const support::TestHost host;
+    const auto manager = platform::Create<FutureManager>();
+    const auto runnable = platform::Create<RecordingRunnable>();
+    runnable->result = E_FAIL;
+    manager->RunLater(runnable.Get());
+    host.timers[0]->Tick();
+    EXPECT_EQ(1u, manager->PendingCount());
+    // The next tick succeeds, so that the test leaves nothing behind.
+    runnable->result = S_OK;
+    host.timers[0]->Tick();
+    EXPECT_EQ(0u, manager->PendingCount());
+}
+
+TEST(InvokeLater, KeepsTheRunnableAliveUntilItHasRunAndNoLonger) {
+    bool ran = false;
+    {
+        const auto runnable = platform::Create<RecordingRunnable>();
+        runnable->onRun = [&] { ran = true; };
+        LejisUtils::InvokeLater(runnable.Get());
+    }
+    EXPECT_TRUE(platform::module::InUse()) << "a pending call keeps the library in memory";
+    EXPECT_TRUE(PumpUntil([&] { return ran; }));
+    EXPECT_FALSE(platform::module::InUse()) << "the shared manager alone does not";
+}
+
+}  // namespace
+}  // namespace lejis

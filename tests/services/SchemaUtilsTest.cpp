@@ -1,0 +1,184 @@
+// Validation against a scripted WSDL whose schema is a file beside the test.
+#include "services/SchemaUtils.h"
+
+#include "platform/msxml/Document.h"
+#include "support/Printing.h"
+#include "support/TemporaryFolder.h"
+#include "support/Xml.h"
+#include "unit_support/Raises.h"
+#include "unit_support/ScriptedRequest.h"
+#include "unit_support/TestHost.h"
+
+#include <gtest/gtest.h>
+
+using support::Raises;
+using support::Script;
+using support::ScriptedHttp;
+
+namespace lejis {
+namespace {
+
+constexpr long kSchemaError = static_cast<long>(0x80040301);
+constexpr wchar_t kUrl[] = L"http://lejis-interface/submission?wsdl";
+
+// One element "count" that holds a whole number.
+constexpr char kCountSchema[] =
+    "<xsd:schema xmlns:xsd='http://www.w3.org/2001/XMLSchema' targetNamespace='urn:count'>"
+    "<xsd:element name='count' type='xsd:int'/></xsd:schema>";
+
+std::wstring Wsdl(const std::wstring& types) {
+    return L"<wsdl:definitions xmlns:wsdl='http://schemas.xmlsoap.org/wsdl/' "
+           L"xmlns:xsd='http://www.w3.org/2001/XMLSchema'>" +
+           types + L"</wsdl:definitions>";
+}
+
+std::wstring Types(const std::wstring& include) {
+    return L"<wsdl:types><xsd:schema targetNamespace='urn:count'>" + include + L"</xsd:schema></wsdl:types>";
+}
+
+std::wstring Including(const std::wstring& location) {
+    return Types(L"<xsd:include schemaLocation='" + location + L"'/>");
+}
+
+msxml::Document Request(const std::wstring& payload) {
+    return support::Parse(L"<soap:Envelope><soap:Body>" + payload + L"</soap:Body></soap:Envelope>");
+}
+
+class SchemaUtilsTest : public testing::Test {
+protected:
+    SchemaUtilsTest() : schema(folder.Write(L"count.xsd", kCountSchema)) {}
+
+    void Validate(const std::wstring& wsdl, const std::wstring& payload) {
+        http.script.responseText = wsdl;
+        SchemaUtils::ValidateSchemaFromWSDL(Request(payload), kUrl);
+    }
+
+    ScriptedHttp http;
+    support::TemporaryFolder folder;
+    std::wstring schema;
+};
+
+TEST_F(SchemaUtilsTest, FetchesTheWsdlByGetWithoutBody) {
+    EXPECT_NO_THROW(Validate(Wsdl(L""), L"<x/>"));
+    EXPECT_EQ(L"GET", http.Last().Seen().method);
+    EXPECT_EQ(kUrl, http.Last().Seen().url);
+    EXPECT_FALSE(http.Last().Seen().bodyIsText);
+}
+
+TEST_F(SchemaUtilsTest, YieldsOnceAfterEachLookThatFindsTheWsdlIncomplete) {
+    support::TestHost host;
+    http.script.readyStates = {1, 2, 4};
+    EXPECT_NO_THROW(Validate(Wsdl(L""), L"<x/>"));
+    EXPECT_EQ(2, host.yields);
+}
+
+TEST_F(SchemaUtilsTest, RaisesWithoutDocumentBeforeAnyRequest) {
+    EXPECT_TRUE(Raises(kSchemaError, L"ValidateSchemaFromWSDL error: doc parameter was Nothing",
+                       [] { SchemaUtils::ValidateSchemaFromWSDL(nullptr, kUrl); }));
+    EXPECT_TRUE(http.requests.empty());
+}
+
+TEST_F(SchemaUtilsTest, PassesAValidPayload) {
+    EXPECT_NO_THROW(Validate(Wsdl(Including(schema)), L"<c:count xmlns:c='urn:count'>12</c:count>"));
+}
+
+TEST_F(SchemaUtilsTest, RefusesAnInvalidPayload) {
+    for (const wchar_t* payload : {L"<c:count xmlns:c='urn:count'>twelve</c:count>", L"<c:other xmlns:c='urn:count'/>",
+                                   L"<c:count xmlns:c='urn:count'>1<b/></c:count>"}) {
+        try {
+            Validate(Wsdl(Including(schema)), payload);
+            ADD_FAILURE() << "passed: " << support::Utf8(payload);
+        } catch (const platform::ComError& error) {
+            EXPECT_EQ(kSchemaError, error.Number());
+            EXPECT_TRUE(error.Description().starts_with(L"Schema validation error: "));
+        }
+    }
+}
+
+TEST_F(SchemaUtilsTest, PassesAPayloadOfANamespaceWithoutSchema) {
+    EXPECT_NO_THROW(Validate(Wsdl(Including(schema)), L"<o:other xmlns:o='urn:other'/>"));
+}
+
+TEST_F(SchemaUtilsTest, PassesEverythingWhenTheWsdlHasNoTypes) {
+    EXPECT_NO_THROW(Validate(Wsdl(L""), L"<c:count xmlns:c='urn:count'>twelve</c:count>"));
+}
+
+TEST_F(SchemaUtilsTest, AddsOnlyIncludesAndNotWhatStandsInTheWsdl) {
+    const std::wstring inlined = L"<xsd:element name='count' type='xsd:date'/>";
+    EXPECT_NO_THROW(Validate(Wsdl(Types(L"<xsd:include schemaLocation='" + schema + L"'/>" + inlined)),
+                             L"<c:count xmlns:c='urn:count'>12</c:count>"));
+}
+
+TEST_F(SchemaUtilsTest, RaisesForASchemaWithoutInclude) {
+    EXPECT_TRUE(Raises(kSchemaError, L"A schema of the WSDL includes no schema document.",
+                       [&] { Validate(Wsdl(Types(L"")), L"<x/>"); }));
+}
+
+TEST_F(SchemaUtilsTest, RaisesForASchemaThatCannotBeLoaded) {
+    const std::wstring missing = folder.Path() + L"\\missing.xsd";
+    try {
+        Validate(Wsdl(Including(missing)), L"<x/>");
+        ADD_FAILURE() << "passed";
+    } catch (const platform::ComError& error) {
+        EXPECT_TRUE(error.Description().starts_with(L"Cannot load the schema '" + missing + L"': "));
+    }
+}
+
+TEST_F(SchemaUtilsTest, FetchesSchemasOverPlainHttpWhateverTheWsdlStates) {
+    // Nobody listens on port 1; the error names the location that was asked for.
+    for (const wchar_t* scheme : {L"HTTPS://", L"https://", L"Https://"}) {
+        try {
+            Validate(Wsdl(Including(std::wstring(scheme) + L"127.0.0.1:1/HTTPS/count.xsd")), L"<x/>");
+            ADD_FAILURE() << "passed";
+        } catch (const platform::ComError& error) {
+            EXPECT_TRUE(
+                error.Description().starts_with(L"Cannot load the schema 'http://127.0.0.1:1/HTTPS/count.xsd': "))
+                << support::Utf8(error.Description());
+        }
+    }
+}
+
+TEST_F(SchemaUtilsTest, ReplacesEveryOccurrenceOfTheSecureScheme) {
+    try {
+        Validate(Wsdl(Including(L"https://127.0.0.1:1/?from=https://x/")), L"<x/>");
+        ADD_FAILURE() << "passed";
+    } catch (const platform::ComError& error) {
+        EXPECT_TRUE(error.Description().starts_with(L"Cannot load the schema 'http://127.0.0.1:1/?from=http://x/': "));
+    }
+}
+
+TEST_F(SchemaUtilsTest, RaisesForAWsdlThatIsNoXml) {
+    for (const wchar_t* wsdl : {L"", L"no xml", L"<!DOCTYPE a><a/>"}) {
+        try {
+            Validate(wsdl, L"<x/>");
+            ADD_FAILURE() << "passed: " << support::Utf8(wsdl);
+        } catch (const platform::ComError& error) {
+            EXPECT_EQ(kSchemaError, error.Number());
+            EXPECT_TRUE(error.Description().starts_with(L"The WSDL could not be read: error "));
+        }
+    }
+}
+
+struct Refusal {
+    Script script;
+    std::wstring description;
+};
+
+TEST_F(SchemaUtilsTest, RaisesWhatTheServerSaysInsteadOfAWsdl) {
+    const Refusal refusals[] = {
+        {{.status = 404, .responseText = L"There is no such service."}, L"There is no such service."},
+        {{.status = 500, .responseText = L""}, L""},
+        {{.status = 12029},
+         L"The LEJIS Interface is down or not accessible. Make sure the LEJIS Interface server role "
+         L"is running on your Talvex server."},
+        {{.status = 502, .hasStatusText = false}, L"The LEJIS server returned HTTP status code 502 (no message text)"},
+    };
+    for (const Refusal& refusal : refusals) {
+        http.script = refusal.script;
+        EXPECT_TRUE(Raises(kSchemaError, refusal.description,
+                           [] { SchemaUtils::ValidateSchemaFromWSDL(Request(L"<x/>"), kUrl); }));
+    }
+}
+
+}  // namespace
+}  // namespace lejis

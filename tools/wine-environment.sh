@@ -1,0 +1,91 @@
+# shellcheck shell=bash
+# Sourced after shell-support.sh by scripts that hold the lock: Wine with a prefix of this checkout's own in build/wine.
+
+: "${project:?shell-support.sh comes first}"
+
+export WINEPREFIX=$project/build/wine
+export WINEARCH=win64
+export WINEDEBUG=-all
+# Mono and Gecko would ask to be downloaded; the menu builder would write into the user's home.
+export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
+# Gives the prefix the en-US locale, with UTF-8 file names.
+export LANG=C.UTF-8 LC_ALL=C.UTF-8
+unset DISPLAY WAYLAND_DISPLAY WINELOADER WINESERVER LANGUAGE
+
+has_32_bit_wine() { [[ -x /usr/lib/wine/wine ]] && compgen -G '/usr/lib/*/wine/i386-windows/regsvr32.exe' >/dev/null; }
+
+wine_runs() { [[ $1 == x64 ]] || has_32_bit_wine; }
+
+windows_path() { printf '%s' "Z:${1//\//\\}"; }
+
+# The folder of Windows' own programs of one bitness.
+windows_programs() {
+  case $1 in
+    x86) printf '%s' 'C:\windows\syswow64' ;;
+    x64) printf '%s' 'C:\windows\system32' ;;
+  esac
+}
+
+# What a finished prefix was made by. A prefix that was interrupted has no such mark; one made before Wine's 32-bit
+# half came, or by another version, has a different one. Both are made again. The number rises with make_prefix.
+prefix_mark() {
+  local bits=64
+  has_32_bit_wine && bits=32+64
+  printf '1 %s %s\n' "$bits" "$(wine --version)"
+}
+
+add_registry_value() { run wine reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null 2>&1; }
+
+make_prefix() {
+  local log=$project/build/wine-prefix.log
+  say "Making the Wine prefix build/wine (about 15 seconds) ..."
+  rm -rf "$WINEPREFIX"
+  mkdir -p "$WINEPREFIX"
+  run timeout --kill-after=10 180 wine wineboot -i >"$log" 2>&1 || fail "wineboot failed, see $log"
+  # Windows and message boxes work without a display.
+  add_registry_value 'HKCU\Software\Wine\Drivers' Graphics REG_SZ null || fail "the prefix takes no settings"
+  # A crashed test ends instead of showing a dialog that nobody sees.
+  add_registry_value 'HKCU\Software\Wine\WineDbg' ShowCrashDialog REG_DWORD 0 || fail "the prefix takes no settings"
+  # The registry is written to disk when the server ends.
+  stop_wine
+  [[ -s $WINEPREFIX/system.reg ]] || fail "wineboot made no registry, see $log"
+  prefix_mark >"$WINEPREFIX/finished"
+}
+
+# Needs the lock: a server that still runs here was left by a script that was killed.
+start_wine() {
+  stop_wine
+  [[ -f $WINEPREFIX/finished && $(<"$WINEPREFIX/finished") == "$(prefix_mark)" ]] || make_prefix
+  # Without this the first program starts the server and its services, which keep that program's output open.
+  wineserver --persistent </dev/null >/dev/null 2>&1 9>&- || fail "Wine's server does not start"
+  run timeout --kill-after=10 60 wine cmd /c exit >/dev/null 2>&1 || fail "Wine runs no program"
+}
+
+# Ends every Wine process of this prefix and of no other.
+stop_wine() {
+  [[ -d $WINEPREFIX ]] || return 0
+  # Its exit code says only whether a server was running.
+  wineserver --kill </dev/null >/dev/null 2>&1 9>&- || :
+}
+
+# regsvr32_of ARCH ARGUMENT...
+regsvr32_of() {
+  local output
+  output=$project/build/regsvr32.log
+  run timeout --kill-after=10 60 wine "$(windows_programs "$1")\\regsvr32.exe" "${@:2}" >"$output" 2>&1
+}
+
+library_of() { printf '%s' "$project/build/$1/bin/TVLejisCore.dll"; }
+
+register_dll() {
+  [[ -f $(library_of "$1") ]] || fail "$(library_of "$1") has not been built"
+  regsvr32_of "$1" "$(windows_path "$(library_of "$1")")" && return
+  cat "$project/build/regsvr32.log" >&2
+  fail "the $1 library could not be registered"
+}
+
+unregister_dll() {
+  regsvr32_of "$1" /u "$(windows_path "$(library_of "$1")")" && return
+  cat "$project/build/regsvr32.log" >&2
+  fail "the $1 library could not be unregistered"
+}
