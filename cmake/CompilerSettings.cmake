@@ -15,6 +15,10 @@ target_compile_options(project_warnings INTERFACE
     # GCC 12 reports the standard library's own string concatenation.
     -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread)
 
+# So that the linker can leave out what is not used.
+add_compile_options(-ffunction-sections -fdata-sections)
+add_link_options(-Wl,--gc-sections)
+
 # Nothing beside the file: no run-time library of the compiler has to be installed with it.
 add_link_options(-static)
 

@@ -7,8 +7,6 @@
 #include "platform/Conversions.h"
 #include "platform/Text.h"
 
-#include <algorithm>
-
 namespace lejis {
 namespace {
 
@@ -34,8 +32,11 @@ Microsoft::WRL::ComPtr<Collection> ReadCardsOf(const std::vector<msxml::Element>
 
 template <typename Card>
 bool AnyHasCaution(const Collection& cards) {
-    const auto all = cards.ItemsAs<Card>();
-    return std::any_of(all.begin(), all.end(), [](const auto& card) { return card->CautionIndicator; });
+    // The first one found ends the search: what stands behind it is not looked at.
+    for (long index = 1; index <= static_cast<long>(cards.Count()); ++index) {
+        if (cards.ItemAs<Card>(index)->CautionIndicator) return true;
+    }
+    return false;
 }
 
 }  // namespace

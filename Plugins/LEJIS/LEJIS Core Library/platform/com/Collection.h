@@ -27,7 +27,13 @@ public:
     size_t Count() const { return items_.size(); }
     const _variant_t& Item(long index) const;
 
-    // All items as objects of one class of this library. Raises the type mismatch when one is something else.
+    // An item as object of a class of this library. Raises the type mismatch when it is something else.
+    template <typename Class>
+    Microsoft::WRL::ComPtr<Class> ItemAs(long index) const {
+        return Inside<Class>(ObjectIn(Item(index)));
+    }
+
+    // All items at this moment, in the same way.
     template <typename Class>
     std::vector<Microsoft::WRL::ComPtr<Class>> ItemsAs() const {
         std::vector<Microsoft::WRL::ComPtr<Class>> objects;

@@ -7,7 +7,7 @@
 
 #include <windows.h>
 
-#include <filesystem>
+#include <string>
 
 using Microsoft::WRL::ComPtr;
 
@@ -20,11 +20,13 @@ std::wstring BuiltInFolder() {
     wchar_t base[MAX_PATH];
     const DWORD length = GetEnvironmentVariableW(L"LOCALAPPDATA", base, ARRAYSIZE(base));
     if (length == 0 || length >= ARRAYSIZE(base)) Check(HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND));
-    const std::filesystem::path folder = std::filesystem::path(base) / L"TalvexSuite" / L"Diagnostics";
-    // A folder that cannot be made is reported by the write into it.
-    std::error_code ignored;
-    std::filesystem::create_directories(folder, ignored);
-    return folder.wstring();
+    std::wstring folder = base;
+    for (const wchar_t* name : {L"\\TalvexSuite", L"\\Diagnostics"}) {
+        folder += name;
+        // A folder that cannot be made is reported by the write into it.
+        CreateDirectoryW(folder.c_str(), nullptr);
+    }
+    return folder;
 }
 
 }  // namespace
