@@ -1,0 +1,117 @@
+#include "CommandLine.h"
+
+#include "Command.h"
+#include "Day.h"
+#include "UsageError.h"
+
+namespace lejis_client {
+namespace {
+
+using Arguments = std::vector<std::wstring>;
+
+struct Switch {
+    const wchar_t* name;
+    bool CommandLine::*value;
+    bool Command::*allowed;
+};
+
+constexpr Switch kSwitches[] = {
+    {L"--validate-schema", &CommandLine::validateSchema, &Command::canValidateSchema},
+};
+
+struct Option {
+    const wchar_t* name;
+    std::optional<std::wstring> CommandLine::*value;
+    bool Command::*allowed;
+};
+
+constexpr Option kOptions[] = {
+    {L"--url", &CommandLine::url, &Command::needsUrl},
+    {L"--ori", &CommandLine::ori, &Command::canNameIncident},
+    {L"--id", &CommandLine::id, &Command::canNameIncident},
+    {L"--submitted", &CommandLine::submitted, &Command::canNameIncident},
+    {L"--organization", &CommandLine::organization, &Command::canNameIncident},
+};
+
+template <typename Row, std::size_t count>
+const Row* Find(const Row (&table)[count], const std::wstring& name, const Command& command) {
+    for (const Row& row : table) {
+        if (row.name == name && command.*row.allowed) return &row;
+    }
+    return nullptr;
+}
+
+[[noreturn]] void Throw(const CommandLine& commandLine, const std::wstring& reason) {
+    throw UsageError{reason, commandLine.command ? commandLine.command->name : L""};
+}
+
+bool AsksForHelp(const std::wstring& argument) { return argument == L"--help" || argument == L"-h"; }
+
+// Takes the option at this place, with its value behind an equals sign or in the next argument; returns the next place.
+std::size_t TakeOption(CommandLine& commandLine, const Arguments& arguments, std::size_t place) {
+    const std::wstring& argument = arguments[place];
+    if (const Switch* found = Find(kSwitches, argument, *commandLine.command)) {
+        commandLine.*found->value = true;
+        return place + 1;
+    }
+    const std::size_t equals = argument.find(L'=');
+    const std::wstring name = argument.substr(0, equals);
+    const Option* option = Find(kOptions, name, *commandLine.command);
+    if (!option) Throw(commandLine, L"unknown option " + name);
+    if (equals != std::wstring::npos) {
+        commandLine.*option->value = argument.substr(equals + 1);
+        return place + 1;
+    }
+    if (place + 1 == arguments.size() || arguments[place + 1].starts_with(L"--")) {
+        Throw(commandLine, name + L" needs a value");
+    }
+    commandLine.*option->value = arguments[place + 1];
+    return place + 2;
+}
+
+void RequireIncident(const CommandLine& commandLine) {
+    if (!commandLine.NamesIncident()) {
+        if (commandLine.files.empty()) Throw(commandLine, L"no file given");
+        return;
+    }
+    if (!commandLine.files.empty()) Throw(commandLine, L"give either files or the identifiers of an incident");
+    if (!commandLine.ori) Throw(commandLine, L"--ori is missing");
+    if (!commandLine.id) Throw(commandLine, L"--id is missing");
+    if (!commandLine.submitted) Throw(commandLine, L"--submitted is missing");
+    if (!ParseDay(*commandLine.submitted)) {
+        Throw(commandLine, L"'" + *commandLine.submitted + L"' is no day; write it as in 2024-03-09");
+    }
+}
+
+CommandLine WithoutCommand(const std::wstring& argument) {
+    CommandLine commandLine;
+    commandLine.help = AsksForHelp(argument);
+    commandLine.version = argument == L"--version";
+    if (commandLine.help || commandLine.version) return commandLine;
+    Throw(commandLine, (argument.starts_with(L'-') ? L"unknown option " : L"unknown command ") + argument);
+}
+
+}  // namespace
+
+CommandLine CommandLine::Parse(const Arguments& arguments) {
+    if (arguments.empty()) throw UsageError{L"no command given", {}};
+    CommandLine commandLine;
+    commandLine.command = FindCommand(arguments.front());
+    if (!commandLine.command) return WithoutCommand(arguments.front());
+    for (std::size_t place = 1; place < arguments.size();) {
+        if (AsksForHelp(arguments[place])) {
+            commandLine.help = true;
+            return commandLine;
+        }
+        if (arguments[place].starts_with(L'-')) {
+            place = TakeOption(commandLine, arguments, place);
+        } else {
+            commandLine.files.push_back(arguments[place++]);
+        }
+    }
+    RequireIncident(commandLine);
+    if (commandLine.command->needsUrl && !commandLine.url) Throw(commandLine, L"--url is missing");
+    return commandLine;
+}
+
+}  // namespace lejis_client

@@ -1,0 +1,32 @@
+// What the user asks for.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace lejis_client {
+
+struct Command;
+
+struct CommandLine {
+    // Raises a UsageError.
+    static CommandLine Parse(const std::vector<std::wstring>& arguments);
+
+    // Whether an incident is named by its identifiers instead of a file.
+    bool NamesIncident() const { return ori || id || submitted || organization; }
+
+    // Null when help or the version is wanted and no command was named.
+    const Command* command = nullptr;
+    bool help = false;
+    bool version = false;
+    bool validateSchema = false;
+    std::optional<std::wstring> url;
+    std::optional<std::wstring> ori;
+    std::optional<std::wstring> id;
+    std::optional<std::wstring> submitted;
+    std::optional<std::wstring> organization;
+    std::vector<std::wstring> files;
+};
+
+}  // namespace lejis_client

@@ -1,0 +1,27 @@
+// One of the program's two outputs: a console, or a file or pipe that gets UTF-8.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+
+namespace lejis_client {
+
+class Console {
+public:
+    static const Console& Output();
+    static const Console& Errors();
+
+    bool IsInteractive() const { return interactive_; }
+    // Lines end with a line feed in text, whatever they end with outside.
+    void Write(std::wstring_view text) const;
+
+private:
+    explicit Console(DWORD standardHandle);
+
+    HANDLE handle_;
+    bool interactive_;
+};
+
+}  // namespace lejis_client

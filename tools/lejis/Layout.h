@@ -1,0 +1,18 @@
+// How texts are laid out for people.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace lejis_client {
+
+// The text as an item of a list; its later lines stand below its first one.
+std::wstring ListItem(wchar_t bullet, std::wstring_view text);
+
+// "1 error", "3 errors".
+std::wstring Counted(std::size_t count, std::wstring_view noun);
+
+std::wstring PaddedRight(std::wstring_view text, std::size_t width);
+std::wstring PaddedLeft(std::wstring_view text, std::size_t width);
+
+}  // namespace lejis_client

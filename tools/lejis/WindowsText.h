@@ -1,0 +1,16 @@
+// Texts that Windows has for its own things.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace lejis_client {
+
+// What Windows says about an error, without a full stop or line break at its end.
+std::wstring SystemMessage(DWORD error);
+
+// As error numbers are usually written: 0x80004005.
+std::wstring Hexadecimal(HRESULT number);
+
+}  // namespace lejis_client
