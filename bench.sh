@@ -17,7 +17,7 @@ esac
 
 clean_up_with stop_wine
 lock_checkout
-run "$project/build.sh" "$architecture"
+run "$project/build.sh" "$architecture" TVLejisCore benchmarks
 wine_runs "$architecture" || fail "x86 programs do not run here: 32-bit Wine is not there"
 start_wine
 register_dll "$architecture"

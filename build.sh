@@ -1,13 +1,14 @@
 #!/bin/bash
-# build.sh [x86|x64|all]
-# Builds the library, its command-line client and the tests into build/x86 and build/x64.
+# build.sh [x86|x64|all] [TARGET...]
+# Builds the library, its command-line client, the tests and the benchmarks into build/x86 and build/x64, or only the
+# targets that are named.
 # Environment: BUILD_TYPE (a CMake build type), CMAKE_OPTIONS (more options, separated by blanks).
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
 
-(($# <= 1)) || wrong_usage "usage: build.sh [x86|x64|all]"
 architectures=$(architectures_of "${1:-all}")
+targets=("${@:2}")
 
 # The options that a build folder was configured with are kept in it; other options configure it again.
 options_of() {
@@ -47,7 +48,7 @@ configure() {
 build() {
   local log=$project/build/$1-build.log started=$SECONDS
   is_configured "$1" || configure "$1"
-  quietly "$log" cmake --build "$project/build/$1" || fail "building $1 failed (full log: $log)"
+  quietly "$log" cmake --build "$project/build/$1" ${targets[0]:+--target "${targets[@]}"} || fail "building $1 failed (full log: $log)"
   say "$1 built in $((SECONDS - started)) s:"
   find "build/$1/bin" -maxdepth 1 -type f \( -name '*.dll' -o -name '*.exe' \) -printf '  %-36p %8k KB\n'
 }

@@ -16,7 +16,7 @@ run "$project/tools/setup.sh"
 # The suite is a 32-bit program, so that is the library it loads.
 architecture=x86
 wine_runs x86 || architecture=x64
-run "$project/build.sh" "$architecture"
+run "$project/build.sh" "$architecture" TVLejisCore lejis
 start_wine
 register_dll "$architecture"
 run "$project/tests/support/with_simulator.sh" "$project/tools/demo/story.sh" "$architecture"
