@@ -1,6 +1,7 @@
 #include "deferred/FutureManager.h"
 
 #include "deferred/RunnableCheck.h"
+#include "platform/host/SuiteServices.h"
 
 #include <cstdint>
 
@@ -25,8 +26,11 @@ void FutureManager::RunLater(IRunnable* runnable) {
 }
 
 STDMETHODIMP FutureManager::IFutureObserver_FutureCompleted(IFuture* theFuture) {
-    // The future ends after it is off the list: its end may call back into this manager.
-    return Guard([&] { const auto completed = pending_.extract(KeyOf(theFuture)); });
+    return Guard([&] {
+        // The future ends after it is off the list: its end may call back into this manager.
+        const auto completed = pending_.extract(KeyOf(theFuture));
+        if (!completed) throw platform::host::InvalidArgument(L"theFuture is not pending here");
+    });
 }
 
 std::wstring FutureManager::KeyOf(IFuture* future) {

@@ -27,7 +27,6 @@ std::wstring GuidText(REFGUID guid) {
     return text;
 }
 
-// The library's attributes; `read` sees them only while they are held.
 TLIBATTR LibraryAttributes(ITypeLib* library) {
     TLIBATTR* attributes = nullptr;
     Check(library->GetLibAttr(&attributes));
@@ -60,11 +59,14 @@ std::vector<RegisteredClass> CreatableClasses(ITypeLib* library) {
     return classes;
 }
 
+std::wstring VersionText(const TLIBATTR& library) {
+    return std::to_wstring(library.wMajorVerNum) + L"." + std::to_wstring(library.wMinorVerNum);
+}
+
 std::wstring ClassKey(const RegisteredClass& one) { return L"CLSID\\" + GuidText(one.id); }
 
 void RegisterClassKeys(const RegisteredClass& one, const TLIBATTR& library) {
     const std::wstring progId = ProgIdOf(one.id);
-    const std::wstring version = std::to_wstring(library.wMajorVerNum) + L"." + std::to_wstring(library.wMinorVerNum);
     const std::wstring classKey = ClassKey(one);
     const struct {
         std::wstring key, value, text;
@@ -75,7 +77,7 @@ void RegisterClassKeys(const RegisteredClass& one, const TLIBATTR& library) {
         {classKey + L"\\ProgID", L"", progId},
         {classKey + L"\\Programmable", L"", L""},
         {classKey + L"\\TypeLib", L"", GuidText(library.guid)},
-        {classKey + L"\\Version", L"", version},
+        {classKey + L"\\Version", L"", VersionText(library)},
         {progId, L"", one.description},
         {progId + L"\\CLSID", L"", GuidText(one.id)},
     };
@@ -97,6 +99,23 @@ void UnregisterClassKeys(const RegisteredClass& one) {
     if (!OtherBitnessHas(one)) DeleteRegistryTree(HKEY_CLASSES_ROOT, ProgIdOf(one.id));
 }
 
+// Taking out what is not there is no failure; the platforms have three words for it.
+bool IsNotRegistered(HRESULT result) {
+    return result == TYPE_E_REGISTRYACCESS || result == TYPE_E_LIBNOTREGISTERED || result == E_INVALIDARG;
+}
+
+// Taking a type library out takes its interfaces out for both bitnesses. Where the other one is still registered, its
+// own type library puts them back.
+void RegisterOtherBitnessAgain(const TLIBATTR& attributes) {
+    const std::wstring key = L"TypeLib\\" + GuidText(attributes.guid) + L"\\" + VersionText(attributes) + L"\\0\\" +
+                             (attributes.syskind == SYS_WIN64 ? L"win32" : L"win64");
+    auto path = ReadRegistryText(HKEY_CLASSES_ROOT, key, L"");
+    if (!path) return;
+    ComPtr<ITypeLib> other;
+    Check(LoadTypeLibEx(path->c_str(), REGKIND_NONE, other.GetAddressOf()));
+    Check(RegisterTypeLib(other.Get(), path->data(), nullptr));
+}
+
 }  // namespace
 
 void RegisterModule() {
@@ -113,8 +132,8 @@ void UnregisterModule() {
     const TLIBATTR attributes = LibraryAttributes(library.Get());
     const HRESULT result = UnRegisterTypeLib(attributes.guid, attributes.wMajorVerNum, attributes.wMinorVerNum,
                                              attributes.lcid, attributes.syskind);
-    // Taking out what is not there is no failure.
-    if (result != TYPE_E_REGISTRYACCESS) Check(result);
+    if (!IsNotRegistered(result)) Check(result);
+    RegisterOtherBitnessAgain(attributes);
 }
 
 }  // namespace platform

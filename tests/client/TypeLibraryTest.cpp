@@ -1,0 +1,106 @@
+// The type library is a contract: once released, nothing in it changes.
+#include "client/Client.h"
+#include "client/TypeLibraryListing.h"
+#include "support/Printing.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+namespace client {
+namespace {
+
+// Set to 1, this environment variable makes the present type library the agreed one.
+constexpr char kAccept[] = "ACCEPT_TYPE_LIBRARY";
+
+std::string ReadFile(const char* path) {
+    std::ifstream file(path);
+    return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+// The first line in which the two differ.
+std::string FirstDifference(const std::string& agreed, const std::string& present) {
+    std::istringstream left(agreed);
+    std::istringstream right(present);
+    std::string leftLine;
+    std::string rightLine;
+    for (int number = 1;; ++number) {
+        const bool leftThere = static_cast<bool>(std::getline(left, leftLine));
+        const bool rightThere = static_cast<bool>(std::getline(right, rightLine));
+        if (!leftThere && !rightThere) return "";
+        if (leftThere && rightThere && leftLine == rightLine) continue;
+        return "line " + std::to_string(number) + "\n  agreed  " + (leftThere ? leftLine : "(end)") + "\n  present " +
+               (rightThere ? rightLine : "(end)");
+    }
+}
+
+TEST(TypeLibrary, IsTheAgreedOne) {
+    const std::string present = support::Utf8(List(RegisteredTypeLibrary().Get()));
+    const char* const accept = std::getenv(kAccept);
+    if (accept && std::string(accept) == "1") std::ofstream(TYPE_LIBRARY_LIST, std::ios::binary) << present;
+    EXPECT_EQ("", FirstDifference(ReadFile(TYPE_LIBRARY_LIST), present))
+        << "Clients were built against the agreed type library, and break when anything but its end changes. If the "
+           "change is meant, run the tests once with "
+        << kAccept << "=1 and commit " << TYPE_LIBRARY_LIST;
+}
+
+TEST(TypeLibrary, IsTheSameInTheRegistryAndInTheDll) {
+    ComPtr<ITypeLib> inDll;
+    ASSERT_OK(LoadTypeLibEx(RegisteredPath().c_str(), REGKIND_NONE, inDll.GetAddressOf()));
+    EXPECT_EQ(List(RegisteredTypeLibrary().Get()), List(inDll.Get()));
+}
+
+TEST(TypeLibrary, HasHelpForEverything) {
+    std::istringstream lines(support::Utf8(List(RegisteredTypeLibrary().Get())));
+    for (std::string line; std::getline(lines, line);) {
+        EXPECT_EQ(std::string::npos, line.find("[no help]")) << line;
+    }
+}
+
+TEST(TypeLibrary, MakesEveryInterfaceDualAndFitForAutomation) {
+    std::istringstream lines(support::Utf8(List(RegisteredTypeLibrary().Get())));
+    int interfaces = 0;
+    for (std::string line; std::getline(lines, line);) {
+        if (!line.starts_with("interface ")) continue;
+        ++interfaces;
+        EXPECT_NE(std::string::npos, line.find("dual, oleautomation")) << line;
+    }
+    EXPECT_EQ(24, interfaces);
+}
+
+TEST(TypeLibrary, KeepsTheLowerCaseNames) {
+    const std::wstring list = List(RegisteredTypeLibrary().Get());
+    EXPECT_NE(std::wstring::npos, list.find(L" address("));
+    // One spelling holds for a name wherever it stands.
+    EXPECT_EQ(std::wstring::npos, list.find(L" Address"));
+    EXPECT_NE(std::wstring::npos, list.find(L" reasonMessage"));
+    EXPECT_NE(std::wstring::npos, list.find(L" theFuture"));
+    EXPECT_NE(std::wstring::npos, list.find(L" runnable"));
+    EXPECT_NE(std::wstring::npos, list.find(L" observer"));
+}
+
+TEST(TypeLibrary, HoldsTheTwoNumbersOfAFailedSubmission) {
+    static_assert(tvTransientError == static_cast<long>(0xA38F7530));
+    static_assert(tvFatalError == static_cast<long>(0xA38F7531));
+    const std::wstring list = List(RegisteredTypeLibrary().Get());
+    EXPECT_NE(std::wstring::npos, list.find(L"tvTransientError = -1550879440 long\n"));
+    EXPECT_NE(std::wstring::npos, list.find(L"tvFatalError = -1550879439 long\n"));
+}
+
+TEST(TypeLibrary, GivesEveryClassOneDefaultInterface) {
+    const ComPtr<ITypeLib> library = RegisteredTypeLibrary();
+    for (const ClassRow& row : CreatableClasses()) {
+        ComPtr<ITypeInfo> type;
+        ASSERT_OK(library->GetTypeInfoOfGuid(row.id, type.GetAddressOf()));
+        INT flags = 0;
+        ASSERT_OK(type->GetImplTypeFlags(0, &flags));
+        EXPECT_EQ(IMPLTYPEFLAG_FDEFAULT, flags) << support::Utf8(row.name);
+    }
+}
+
+}  // namespace
+}  // namespace client
