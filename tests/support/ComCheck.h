@@ -1,6 +1,8 @@
 // Calls to COM objects in tests: what a client sees of a result and of the error object behind it.
 #pragma once
 
+#include "support/Printing.h"
+
 #include <gtest/gtest.h>
 
 #include <comutil.h>

@@ -1,6 +1,8 @@
 // Compiled once to save time; every file still includes what it uses.
 #pragma once
 
+#include "support/Printing.h"
+
 #include <gtest/gtest.h>
 
 #include <comutil.h>

@@ -1,8 +1,10 @@
 #include "support/Printing.h"
 
+#include <oleauto.h>
 #include <windows.h>
 
 #include <cstdio>
+#include <ostream>
 
 namespace support {
 
@@ -29,3 +31,10 @@ std::string Hexadecimal(long number) {
 }
 
 }  // namespace support
+
+void PrintTo(const _variant_t& value, std::ostream* out) {
+    _variant_t text;
+    *out << "type " << V_VT(&value);
+    if (FAILED(VariantChangeType(&text, const_cast<_variant_t*>(&value), VARIANT_ALPHABOOL, VT_BSTR))) return;
+    *out << " '" << support::Utf8(std::wstring(V_BSTR(&text), SysStringLen(V_BSTR(&text)))) << "'";
+}

@@ -1,6 +1,9 @@
 // Texts in GoogleTest's messages.
 #pragma once
 
+#include <comutil.h>
+
+#include <iosfwd>
 #include <string>
 
 namespace support {
@@ -12,3 +15,6 @@ std::wstring Wide(const std::string& text);
 std::string Hexadecimal(long number);
 
 }  // namespace support
+
+// GoogleTest would convert a variant to a number to print it, and end with an exception for one that is none.
+void PrintTo(const _variant_t& value, std::ostream* out);

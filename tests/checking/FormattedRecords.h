@@ -1,0 +1,35 @@
+#pragma once
+
+#include "checking/FormattingRules.h"
+#include "unit_support/Members.h"
+
+#include <string>
+#include <vector>
+
+namespace lejis {
+
+using Warnings = std::vector<std::wstring>;
+
+// An incident with one card of each kind, and its warnings.
+struct Records {
+    Microsoft::WRL::ComPtr<LejisIncidentIndexCard> incident = platform::Create<LejisIncidentIndexCard>();
+    Microsoft::WRL::ComPtr<LejisPersonIndexCard> person = platform::Create<LejisPersonIndexCard>();
+    Microsoft::WRL::ComPtr<LejisPropertyIndexCard> property = platform::Create<LejisPropertyIndexCard>();
+    Microsoft::WRL::ComPtr<LejisVehicleIndexCard> vehicle = platform::Create<LejisVehicleIndexCard>();
+
+    Records() {
+        incident->PersonIndexCards->AddObject(person->Dispatch());
+        incident->PropertyIndexCards->AddObject(property->Dispatch());
+        incident->VehicleIndexCards->AddObject(vehicle->Dispatch());
+        person->Involvement = L"suspect";
+        property->SerialID = L"S-1";
+    }
+
+    Warnings Apply() {
+        const auto warnings = platform::Create<Collection>();
+        FormattingRules(*warnings.Get()).Apply(*incident.Get());
+        return support::Texts(*warnings.Get());
+    }
+};
+
+}  // namespace lejis

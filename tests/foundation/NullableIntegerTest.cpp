@@ -1,0 +1,122 @@
+#include "foundation/NullableInteger.h"
+
+#include "foundation/NumberText.h"
+#include "platform/com/LateBound.h"
+#include "support/ComCheck.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <ostream>
+
+namespace lejis {
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+
+struct Case {
+    const char* name;
+    _variant_t given;
+    short held;
+};
+
+void PrintTo(const Case& row, std::ostream* out) { *out << row.name; }
+
+class NullableIntegerValues : public testing::TestWithParam<Case> {};
+
+TEST_P(NullableIntegerValues, AreHeldAsShortIntegers) {
+    const auto holder = platform::Create<NullableInteger>();
+    EXPECT_OK(holder->put_Value(GetParam().given));
+    _variant_t held;
+    EXPECT_OK(holder->get_Value(&held));
+    EXPECT_EQ(VT_I2, V_VT(&held));
+    EXPECT_EQ(GetParam().held, V_I2(&held));
+}
+
+const Case kCases[] = {
+    {"Integer", short{510}, 510},
+    {"Long", 510L, 510},
+    {"Byte", BYTE{255}, 255},
+    {"Single", 510.0f, 510},
+    {"Double", 510.0, 510},
+    {"Zero", 0L, 0},
+    {"RoundsUp", 3.6, 4},
+    {"HalfToEvenUp", 3.5, 4},
+    {"HalfToEvenDown", 2.5, 2},
+    {"NegativeHalfToEven", -2.5, -2},
+    {"SingleHalfToEven", 2.5f, 2},
+    {"Greatest", 32767L, 32767},
+    {"GreatestAfterRounding", 32767.4, 32767},
+    {"Smallest", -32768L, -32768},
+    {"TooGreat", 32768L, 0},
+    {"TooSmall", -32769L, 0},
+    {"FarTooGreat", 40000L, 0},
+    {"TooGreatAfterRounding", 32767.5, 0},
+    {"TooGreatSingle", 1e30f, 0},
+    {"TooGreatDouble", 3000000000.0, 0},
+    {"Infinity", kInfinity, 0},
+    {"MinusInfinity", -kInfinity, 0},
+    {"NoNumber", kNoNumber, 0},
+    {"NoSingleNumber", std::numeric_limits<float>::quiet_NaN(), 0},
+};
+
+INSTANTIATE_TEST_SUITE_P(All, NullableIntegerValues, testing::ValuesIn(kCases),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST(NullableInteger, IsNullWhenNew) {
+    const auto holder = platform::Create<NullableInteger>();
+    _variant_t value(7L);
+    EXPECT_OK(holder->get_Value(&value));
+    EXPECT_EQ(VT_NULL, V_VT(&value));
+    EXPECT_EQ(E_POINTER, holder->get_Value(nullptr));
+}
+
+TEST(NullableInteger, IsEmptiedByNull) {
+    const auto holder = platform::Create<NullableInteger>();
+    EXPECT_OK(holder->put_Value(_variant_t(5L)));
+    EXPECT_OK(holder->put_Value(support::Null()));
+    EXPECT_EQ(std::nullopt, holder->Number());
+}
+
+TEST(NullableInteger, BecomesZeroWhateverItHeldBeforeANumberOutOfRange) {
+    const auto holder = platform::Create<NullableInteger>();
+    EXPECT_OK(holder->put_Value(_variant_t(5L)));
+    EXPECT_EQ(S_OK, holder->put_Value(_variant_t(40000L)));
+    EXPECT_EQ(short{0}, holder->Number());
+}
+
+TEST(NullableInteger, TakesWhatScriptsPassByReference) {
+    const auto holder = platform::Create<NullableInteger>();
+    _variant_t number(2.5);
+    _variant_t reference;
+    V_VT(&reference) = VT_BYREF | VT_VARIANT;
+    V_VARIANTREF(&reference) = &number;
+    EXPECT_OK(holder->put_Value(reference));
+    EXPECT_EQ(short{2}, holder->Number());
+    number = support::Null();
+    EXPECT_OK(holder->put_Value(reference));
+    EXPECT_EQ(std::nullopt, holder->Number());
+}
+
+TEST(NullableInteger, HasValueAsItsDefaultMember) {
+    const auto holder = platform::Create<NullableInteger>();
+    platform::PutMember(holder->Dispatch(), L"Value", 42L);
+    DISPPARAMS none{};
+    _variant_t value;
+    EXPECT_OK(holder->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none, &value, nullptr,
+                             nullptr));
+    EXPECT_EQ(_variant_t(short{42}), value);
+}
+
+TEST(NullableInteger, IsWrittenInDecimalDigits) {
+    const auto holder = platform::Create<NullableInteger>();
+    EXPECT_EQ(L"", NumberText(*holder.Get()));
+    for (const short number : {short{0}, short{510}, short{-32768}}) {
+        holder->Set(number);
+        EXPECT_EQ(std::to_wstring(number), NumberText(*holder.Get()));
+    }
+}
+
+}  // namespace
+}  // namespace lejis

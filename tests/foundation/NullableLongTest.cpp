@@ -1,0 +1,123 @@
+#include "foundation/NullableLong.h"
+
+#include "foundation/NumberText.h"
+#include "platform/com/LateBound.h"
+#include "support/ComCheck.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <limits>
+#include <ostream>
+
+namespace lejis {
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+
+struct Case {
+    const char* name;
+    _variant_t given;
+    long held;
+};
+
+void PrintTo(const Case& row, std::ostream* out) { *out << row.name; }
+
+class NullableLongValues : public testing::TestWithParam<Case> {};
+
+TEST_P(NullableLongValues, AreHeldAsLongIntegers) {
+    const auto holder = platform::Create<NullableLong>();
+    EXPECT_OK(holder->put_Value(GetParam().given));
+    _variant_t held;
+    EXPECT_OK(holder->get_Value(&held));
+    EXPECT_EQ(VT_I4, V_VT(&held));
+    EXPECT_EQ(GetParam().held, V_I4(&held));
+}
+
+const Case kCases[] = {
+    {"Integer", short{510}, 510},
+    {"Long", 1234567L, 1234567},
+    {"Byte", BYTE{255}, 255},
+    {"Single", 510.0f, 510},
+    {"Double", 510.0, 510},
+    {"Zero", 0L, 0},
+    {"BeyondShort", 40000L, 40000},
+    {"HalfToEvenUp", 3.5, 4},
+    {"HalfToEvenDown", 2.5, 2},
+    {"NegativeHalfToEven", -2.5, -2},
+    {"SingleHalfToEven", 2.5f, 2},
+    {"Greatest", LONG_MAX, LONG_MAX},
+    {"GreatestDouble", 2147483647.0, LONG_MAX},
+    {"Smallest", LONG_MIN, LONG_MIN},
+    {"SmallestDouble", -2147483648.0, LONG_MIN},
+    {"TooGreat", 2147483648.0, 0},
+    {"TooSmall", -2147483649.0, 0},
+    {"FarTooGreat", 3000000000.0, 0},
+    {"TooGreatAfterRounding", 2147483647.5, 0},
+    {"TooGreatSingle", 1e30f, 0},
+    {"Infinity", kInfinity, 0},
+    {"MinusInfinity", -kInfinity, 0},
+    {"NoNumber", kNoNumber, 0},
+    {"NoSingleNumber", std::numeric_limits<float>::quiet_NaN(), 0},
+};
+
+INSTANTIATE_TEST_SUITE_P(All, NullableLongValues, testing::ValuesIn(kCases),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST(NullableLong, IsNullWhenNew) {
+    const auto holder = platform::Create<NullableLong>();
+    _variant_t value(7L);
+    EXPECT_OK(holder->get_Value(&value));
+    EXPECT_EQ(VT_NULL, V_VT(&value));
+    EXPECT_EQ(E_POINTER, holder->get_Value(nullptr));
+}
+
+TEST(NullableLong, IsEmptiedByNull) {
+    const auto holder = platform::Create<NullableLong>();
+    EXPECT_OK(holder->put_Value(_variant_t(5L)));
+    EXPECT_OK(holder->put_Value(support::Null()));
+    EXPECT_EQ(std::nullopt, holder->Number());
+}
+
+TEST(NullableLong, BecomesZeroWhateverItHeldBeforeANumberOutOfRange) {
+    const auto holder = platform::Create<NullableLong>();
+    EXPECT_OK(holder->put_Value(_variant_t(5L)));
+    EXPECT_EQ(S_OK, holder->put_Value(_variant_t(3000000000.0)));
+    EXPECT_EQ(0L, holder->Number());
+}
+
+TEST(NullableLong, TakesWhatScriptsPassByReference) {
+    const auto holder = platform::Create<NullableLong>();
+    _variant_t number(2.5);
+    _variant_t reference;
+    V_VT(&reference) = VT_BYREF | VT_VARIANT;
+    V_VARIANTREF(&reference) = &number;
+    EXPECT_OK(holder->put_Value(reference));
+    EXPECT_EQ(2L, holder->Number());
+    number = support::Null();
+    EXPECT_OK(holder->put_Value(reference));
+    EXPECT_EQ(std::nullopt, holder->Number());
+}
+
+TEST(NullableLong, HasValueAsItsDefaultMember) {
+    const auto holder = platform::Create<NullableLong>();
+    platform::PutMember(holder->Dispatch(), L"Value", 42L);
+    DISPPARAMS none{};
+    _variant_t value;
+    EXPECT_OK(holder->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none, &value, nullptr,
+                             nullptr));
+    EXPECT_EQ(_variant_t(42L), value);
+}
+
+TEST(NullableLong, IsWrittenInDecimalDigits) {
+    const auto holder = platform::Create<NullableLong>();
+    EXPECT_EQ(L"", NumberText(*holder.Get()));
+    for (const long number : {0L, 1234567L, LONG_MIN}) {
+        holder->Set(number);
+        EXPECT_EQ(std::to_wstring(number), NumberText(*holder.Get()));
+    }
+}
+
+}  // namespace
+}  // namespace lejis

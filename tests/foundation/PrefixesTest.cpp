@@ -1,0 +1,44 @@
+#include "foundation/Prefixes.h"
+
+#include "support/Printing.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace lejis {
+namespace {
+
+struct Row {
+    const wchar_t* prefix;
+    const wchar_t* uri;
+};
+
+constexpr Row kRows[] = {
+    {L"soap", L"http://schemas.xmlsoap.org/soap/envelope/"},
+    {L"wsse", L"http://docs.oasis-open.org/wss/2004/01/oasis-200401-wss-wssecurity-secext-1.0.xsd"},
+    {L"lejis", L"http://lejis.example/lejis/jxdm/1.0/service"},
+    {L"j", L"http://www.it.ojp.gov/jxdm/3.0.3"},
+    {L"ext", L"http://lejis.example/lejis/jxdm/1.0/card/extra"},
+    {L"card", L"http://lejis.example/lejis/jxdm/1.0/card"},
+    {L"inq", L"http://lejis.example/lejis/jxdm/1.0/service"},
+};
+
+TEST(Prefixes, FindTheNamespaceOfAName) {
+    for (const Row& row : kRows) {
+        const std::wstring name = std::wstring(row.prefix) + L":Local.Name";
+        EXPECT_EQ(row.uri, NamespaceOf(name));
+        EXPECT_EQ(row.uri, Expand(name).namespaceUri);
+        EXPECT_EQ(L"Local.Name", Expand(name).localName);
+    }
+}
+
+TEST(Prefixes, RefuseNamesWithoutAKnownPrefix) {
+    for (const wchar_t* name : {L"", L"Name", L":Name", L"xsd:Name", L"J:Name", L"lejis2:Name"}) {
+        EXPECT_THROW(Expand(name), std::logic_error) << support::Utf8(name);
+        EXPECT_THROW(NamespaceOf(name), std::logic_error) << support::Utf8(name);
+    }
+}
+
+}  // namespace
+}  // namespace lejis

@@ -1,0 +1,149 @@
+#include "model/LejisPropertyIndexCard.h"
+
+#include "support/ComCheck.h"
+#include "support/Printing.h"
+#include "support/Xml.h"
+#include "unit_support/Members.h"
+#include "unit_support/Raises.h"
+
+#include <gtest/gtest.h>
+
+namespace lejis {
+namespace {
+
+using support::FailedWith;
+using support::NewDocument;
+using support::ParseElement;
+using support::SameXml;
+
+const support::Names kTexts = {L"NibrsCategoryCode", L"Category", L"Make", L"Model", L"SerialID", L"CaveatText"};
+
+constexpr wchar_t kFullCard[] =
+    L"<card:RMSPropertyIndexCards>"
+    L"<j:PropertyCategoryCode.nibrsPropertyCategory>26</j:PropertyCategoryCode.nibrsPropertyCategory>"
+    L"<j:PropertyTypeText>TELEVISION</j:PropertyTypeText>"
+    L"<j:PropertyMakeName>SONY</j:PropertyMakeName>"
+    L"<j:PropertyModelName>BRAVIA</j:PropertyModelName>"
+    L"<j:PropertySerialID><j:ID>S-1</j:ID></j:PropertySerialID>"
+    L"<j:CaveatText>scratched</j:CaveatText>"
+    L"<ext:CautionIndicatorFlag>true</ext:CautionIndicatorFlag>"
+    L"</card:RMSPropertyIndexCards>";
+
+constexpr wchar_t kEmptyCard[] =
+    L"<card:RMSPropertyIndexCards><ext:CautionIndicatorFlag>false</ext:CautionIndicatorFlag>"
+    L"</card:RMSPropertyIndexCards>";
+
+using Card = Microsoft::WRL::ComPtr<LejisPropertyIndexCard>;
+
+Card Read(const std::wstring& xml) {
+    auto card = platform::Create<LejisPropertyIndexCard>();
+    card->FromXmlElement(ParseElement(xml));
+    return card;
+}
+
+testing::AssertionResult Writes(const Card& card, const std::wstring& xml) {
+    const auto document = NewDocument();
+    EXPECT_OK(document->put_preserveWhiteSpace(VARIANT_TRUE));
+    return SameXml(card->ToXmlElement(document).Get(), xml);
+}
+
+void ExpectEmpty(const Card& card) {
+    support::ExpectEmptyTexts(card->Dispatch(), kTexts);
+    EXPECT_FALSE(card->CautionIndicator);
+}
+
+TEST(LejisPropertyIndexCard, HasItsMembersInTheirOrder) {
+    const auto card = platform::Create<LejisPropertyIndexCard>();
+    EXPECT_TRUE(support::MembersInOrder(
+        card->Dispatch(), {L"NibrsCategoryCode", L"Category", L"Make", L"Model", L"SerialID", L"CautionIndicator",
+                           L"CaveatText", L"LoadDefaults", L"ToXmlElement", L"FromXmlElement"}));
+}
+
+TEST(LejisPropertyIndexCard, KeepsWhatItsFieldsAreGiven) {
+    const auto card = platform::Create<LejisPropertyIndexCard>();
+    support::ExpectTextFields(card->Dispatch(), kTexts);
+    support::ExpectFlagField(card->Dispatch(), L"CautionIndicator");
+}
+
+TEST(LejisPropertyIndexCard, IsEmptiedByLoadDefaults) {
+    const Card card = Read(kFullCard);
+    EXPECT_OK(card->LoadDefaults());
+    ExpectEmpty(card);
+}
+
+TEST(LejisPropertyIndexCard, WritesOnlyTheFlagWhenNew) {
+    EXPECT_TRUE(Writes(platform::Create<LejisPropertyIndexCard>(), kEmptyCard));
+}
+
+TEST(LejisPropertyIndexCard, WritesAllFieldsInTheirOrder) {
+    const auto card = platform::Create<LejisPropertyIndexCard>();
+    card->NibrsCategoryCode = L"26";
+    card->Category = L"TELEVISION";
+    card->Make = L"SONY";
+    card->Model = L"BRAVIA";
+    card->SerialID = L"S-1";
+    card->CaveatText = L"scratched";
+    card->CautionIndicator = true;
+    EXPECT_TRUE(Writes(card, kFullCard));
+    EXPECT_TRUE(Writes(card, kFullCard));
+}
+
+TEST(LejisPropertyIndexCard, WritesBlanksAsContent) {
+    const auto card = platform::Create<LejisPropertyIndexCard>();
+    card->Make = L" ";
+    card->SerialID = L" ";
+    EXPECT_TRUE(Writes(card,
+                       L"<card:RMSPropertyIndexCards><j:PropertyMakeName> </j:PropertyMakeName>"
+                       L"<j:PropertySerialID><j:ID> </j:ID></j:PropertySerialID>"
+                       L"<ext:CautionIndicatorFlag>false</ext:CautionIndicatorFlag></card:RMSPropertyIndexCards>"));
+}
+
+TEST(LejisPropertyIndexCard, ReadsAllFields) {
+    const Card card = Read(kFullCard);
+    EXPECT_EQ(L"26", card->NibrsCategoryCode);
+    EXPECT_EQ(L"TELEVISION", card->Category);
+    EXPECT_EQ(L"SONY", card->Make);
+    EXPECT_EQ(L"BRAVIA", card->Model);
+    EXPECT_EQ(L"S-1", card->SerialID);
+    EXPECT_EQ(L"scratched", card->CaveatText);
+    EXPECT_TRUE(card->CautionIndicator);
+    EXPECT_TRUE(Writes(card, kFullCard));
+}
+
+TEST(LejisPropertyIndexCard, ClearsWhatTheElementLacks) {
+    const Card card = Read(kFullCard);
+    card->FromXmlElement(ParseElement(L"<card:RMSPropertyIndexCards/>"));
+    ExpectEmpty(card);
+}
+
+TEST(LejisPropertyIndexCard, ReadsTheFlagInAnyLetterCaseAndPassesOverOthers) {
+    const auto flag = [](const wchar_t* text) {
+        return Read(std::wstring(L"<card:RMSPropertyIndexCards><ext:CautionIndicatorFlag>") + text +
+                    L"</ext:CautionIndicatorFlag></card:RMSPropertyIndexCards>")
+            ->CautionIndicator;
+    };
+    for (const wchar_t* text : {L"true", L"True", L"2"}) EXPECT_TRUE(flag(text)) << support::Utf8(text);
+    for (const wchar_t* text : {L"False", L"0", L"yes", L""}) EXPECT_FALSE(flag(text)) << support::Utf8(text);
+}
+
+TEST(LejisPropertyIndexCard, ReadsEachFieldFromItsOwnNamespace) {
+    ExpectEmpty(
+        Read(L"<card:RMSPropertyIndexCards><ext:PropertyTypeText>x</ext:PropertyTypeText>"
+             L"<ext:PropertyMakeName>x</ext:PropertyMakeName><PropertyModelName>x</PropertyModelName>"
+             L"<j:PropertySerialID>x</j:PropertySerialID><card:CaveatText>x</card:CaveatText>"
+             L"<j:CautionIndicatorFlag>true</j:CautionIndicatorFlag></card:RMSPropertyIndexCards>"));
+}
+
+TEST(LejisPropertyIndexCard, MeetsItsClientsThroughDocumentsAndElements) {
+    const auto card = platform::Create<LejisPropertyIndexCard>();
+    Microsoft::WRL::ComPtr<IDispatch> element;
+    EXPECT_OK(card->FromXmlElement(ParseElement(kFullCard).Get()));
+    EXPECT_OK(card->ToXmlElement(NewDocument().Get(), element.GetAddressOf()));
+    EXPECT_TRUE(SameXml(element.Get(), kFullCard));
+    EXPECT_TRUE(FailedWith(card->FromXmlElement(nullptr), support::kInvalidArgument, L"elem cannot be Nothing"));
+    EXPECT_TRUE(FailedWith(card->ToXmlElement(nullptr, element.ReleaseAndGetAddressOf()), support::kObjectRequired,
+                           L"Object required"));
+}
+
+}  // namespace
+}  // namespace lejis

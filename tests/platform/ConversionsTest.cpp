@@ -1,0 +1,157 @@
+#include "platform/Conversions.h"
+
+#include "support/ComCheck.h"
+#include "support/Printing.h"
+#include "unit_support/Raises.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace platform {
+namespace {
+
+using support::Raises;
+using support::Utf8;
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+
+TEST(Conversions, TakesTheValueBehindAReference) {
+    _variant_t text(L"Q1");
+    _variant_t reference;
+    V_VT(&reference) = VT_BYREF | VT_VARIANT;
+    V_VARIANTREF(&reference) = &text;
+    EXPECT_EQ(text, Dereference(reference));
+    long number = 42;
+    V_VT(&reference) = VT_BYREF | VT_I4;
+    V_I4REF(&reference) = &number;
+    EXPECT_EQ(_variant_t(42L), Dereference(reference));
+    EXPECT_EQ(_variant_t(7L), Dereference(_variant_t(7L)));
+}
+
+TEST(Conversions, WritesValuesAsTexts) {
+    EXPECT_EQ(L"", ToText(Null()));
+    EXPECT_EQ(L"", ToText(_variant_t()));
+    EXPECT_EQ(L" a ", ToText(_variant_t(L" a ")));
+    EXPECT_EQ(L"True", ToText(_variant_t(true)));
+    EXPECT_EQ(L"False", ToText(_variant_t(false)));
+    EXPECT_EQ(L"-7", ToText(_variant_t(short{-7})));
+    EXPECT_EQ(L"2004", ToText(_variant_t(2004L)));
+    EXPECT_EQ(L"5.5", ToText(_variant_t(5.5)));
+}
+
+TEST(Conversions, RaisesTheTypeMismatchForAValueWithoutText) {
+    EXPECT_TRUE(Raises(DISP_E_TYPEMISMATCH, L"Type mismatch", [] { ToText(support::Nothing()); }));
+    EXPECT_TRUE(Raises(DISP_E_TYPEMISMATCH, L"Type mismatch",
+                       [] { ToText(_variant_t(static_cast<long>(DISP_E_PARAMNOTFOUND), VT_ERROR)); }));
+}
+
+TEST(Conversions, ReadsDatesTimesAndBoth) {
+    EXPECT_EQ(39150.0, ParseDate(L"2007-03-09"));
+    EXPECT_EQ(39150.25, ParseDate(L"2007-03-09 06:00:00"));
+    EXPECT_EQ(0.5, ParseDate(L"12:00:00"));
+    EXPECT_EQ(39150.0, ParseDate(L" 2007-03-09 "));
+    for (const wchar_t* text : {L"", L" ", L"hello", L"2007-02-30", L"25:00:00", L"2007-03-09T14:05:00"}) {
+        EXPECT_EQ(std::nullopt, ParseDate(text)) << Utf8(text);
+    }
+}
+
+TEST(Conversions, ReadsNumbers) {
+    EXPECT_EQ(12.0, ParseNumber(L"12"));
+    EXPECT_EQ(-5.5, ParseNumber(L" -5.5 "));
+    EXPECT_EQ(99999.0, ParseNumber(L"99999"));
+    for (const wchar_t* text : {L"", L" ", L"-", L"12A", L"1 2", L"0x10"}) {
+        EXPECT_EQ(std::nullopt, ParseNumber(text)) << Utf8(text);
+    }
+}
+
+TEST(Conversions, ReadsBooleansInAnyLetterCaseAndNumbers) {
+    for (const wchar_t* text : {L"true", L"TRUE", L"True", L"1", L"-1", L" 2 "}) {
+        EXPECT_EQ(true, ParseBoolean(text)) << Utf8(text);
+    }
+    for (const wchar_t* text : {L"false", L"FALSE", L"0"}) EXPECT_EQ(false, ParseBoolean(text)) << Utf8(text);
+    for (const wchar_t* text : {L"", L"yes", L"no", L"on", L"T"}) {
+        EXPECT_EQ(std::nullopt, ParseBoolean(text)) << Utf8(text);
+    }
+}
+
+TEST(Conversions, ReadsLongsWithHalvesToTheEvenNeighbour) {
+    EXPECT_EQ(12, ParseLong(L"12"));
+    EXPECT_EQ(2, ParseLong(L"2.5"));
+    EXPECT_EQ(4, ParseLong(L"3.5"));
+    EXPECT_EQ(-2, ParseLong(L"-2.5"));
+    EXPECT_EQ(2147483647, ParseLong(L"2147483647"));
+    EXPECT_EQ(-2147483647 - 1, ParseLong(L"-2147483648"));
+}
+
+TEST(Conversions, RaisesForTextsThatAreNoLong) {
+    EXPECT_TRUE(Raises(DISP_E_OVERFLOW, L"Overflow", [] { ParseLong(L"2147483648"); }));
+    EXPECT_TRUE(Raises(DISP_E_OVERFLOW, L"Overflow", [] { ParseLong(L"-2147483649"); }));
+    EXPECT_TRUE(Raises(DISP_E_TYPEMISMATCH, L"Type mismatch", [] { ParseLong(L"12A"); }));
+    EXPECT_TRUE(Raises(DISP_E_TYPEMISMATCH, L"Type mismatch", [] { ParseLong(L""); }));
+}
+
+TEST(Conversions, ReadsShortsWithinTheirRange) {
+    EXPECT_EQ(short{2004}, ParseShort(L"2004"));
+    EXPECT_EQ(short{2}, ParseShort(L"2.5"));
+    EXPECT_EQ(short{32767}, ParseShort(L"32767"));
+    EXPECT_EQ(short{-32768}, ParseShort(L"-32768"));
+    for (const wchar_t* text : {L"32768", L"-32769", L"40000", L"abc", L""}) {
+        EXPECT_EQ(std::nullopt, ParseShort(text)) << Utf8(text);
+    }
+}
+
+TEST(Conversions, RoundsHalvesToTheEvenNeighbour) {
+    constexpr struct {
+        double number;
+        short rounded;
+    } kNumbers[] = {{0.5, 0}, {1.5, 2}, {2.5, 2}, {3.5, 4}, {-0.5, 0}, {-1.5, -2}, {-2.5, -2}, {5.4, 5}, {5.6, 6}};
+    for (const auto& row : kNumbers) {
+        EXPECT_EQ(row.rounded, RoundTo<short>(_variant_t(row.number))) << row.number;
+        EXPECT_EQ(long{row.rounded}, RoundTo<long>(_variant_t(row.number))) << row.number;
+        EXPECT_EQ(row.rounded, RoundTo<short>(_variant_t(static_cast<float>(row.number)))) << row.number;
+    }
+}
+
+TEST(Conversions, RoundsNothingBeyondTheRange) {
+    EXPECT_EQ(short{32767}, RoundTo<short>(_variant_t(32767.4)));
+    EXPECT_EQ(std::nullopt, RoundTo<short>(_variant_t(32768L)));
+    EXPECT_EQ(std::nullopt, RoundTo<short>(_variant_t(-32769L)));
+    EXPECT_EQ(2147483647L, RoundTo<long>(_variant_t(2147483647.0)));
+    EXPECT_EQ(std::nullopt, RoundTo<long>(_variant_t(2147483648.0)));
+    EXPECT_EQ(std::nullopt, RoundTo<long>(_variant_t(-2147483649.0)));
+}
+
+TEST(Conversions, RoundsNothingThatIsNoNumber) {
+    for (const double number : {kNoNumber, kInfinity, -kInfinity}) {
+        EXPECT_EQ(std::nullopt, RoundTo<short>(_variant_t(number))) << number;
+        EXPECT_EQ(std::nullopt, RoundTo<long>(_variant_t(number))) << number;
+        EXPECT_EQ(std::nullopt, RoundTo<short>(_variant_t(static_cast<float>(number)))) << number;
+        EXPECT_EQ(std::nullopt, RoundTo<long>(_variant_t(static_cast<float>(number)))) << number;
+    }
+}
+
+TEST(Conversions, SplitsADateIntoCalendarAndTimeOfDay) {
+    const SYSTEMTIME time = CalendarTime(ParseDate(L"2007-03-09 14:05:59").value());
+    EXPECT_EQ(2007, time.wYear);
+    EXPECT_EQ(3, time.wMonth);
+    EXPECT_EQ(9, time.wDay);
+    EXPECT_EQ(14, time.wHour);
+    EXPECT_EQ(5, time.wMinute);
+    EXPECT_EQ(59, time.wSecond);
+    EXPECT_TRUE(Raises(DISP_E_OVERFLOW, L"Overflow", [] { CalendarTime(1e10); }));
+}
+
+TEST(Conversions, KnowsTheLocalTime) {
+    SYSTEMTIME local{};
+    DATE expected = 0;
+    GetLocalTime(&local);
+    ASSERT_TRUE(SystemTimeToVariantTime(&local, &expected));
+    constexpr double kOneMinute = 1.0 / 24 / 60;
+    EXPECT_NEAR(expected, Now(), kOneMinute);
+}
+
+}  // namespace
+}  // namespace platform

@@ -1,0 +1,82 @@
+#include "platform/Text.h"
+
+#include "support/Printing.h"
+
+#include <gtest/gtest.h>
+
+#include <oleauto.h>
+
+namespace platform {
+namespace {
+
+using support::Utf8;
+
+// A null character in the middle of a text, which a BSTR may hold.
+constexpr std::wstring_view kWithNull(L"a\0b", 3);
+
+struct Change {
+    const wchar_t* before;
+    const wchar_t* after;
+};
+
+TEST(Text, TreatsNoTextAsAnEmptyOne) {
+    EXPECT_EQ(L"", CopyText(nullptr));
+    EXPECT_EQ(L"", TakeText(nullptr));
+    _bstr_t empty = ToBstr(L"");
+    ASSERT_NE(nullptr, empty.GetBSTR());
+    EXPECT_EQ(0u, empty.length());
+}
+
+TEST(Text, KeepsNullCharactersBothWays) {
+    const _bstr_t text = ToBstr(kWithNull);
+    EXPECT_EQ(3u, text.length());
+    EXPECT_EQ(kWithNull, CopyText(text));
+    EXPECT_EQ(kWithNull, TakeText(SysAllocStringLen(kWithNull.data(), 3)));
+}
+
+TEST(Text, LeavesACopiedTextToItsOwner) {
+    const _bstr_t text = ToBstr(L"JOHN");
+    EXPECT_EQ(L"JOHN", CopyText(text));
+    EXPECT_STREQ(L"JOHN", text);
+}
+
+TEST(Text, TrimsBlanksAtTheEndsAndNoOtherWhiteSpace) {
+    constexpr Change kChanges[] = {
+        {L"", L""},
+        {L"   ", L""},
+        {L"  a b  ", L"a b"},
+        {L"a", L"a"},
+        {L" \ta\r\n ", L"\ta\r\n"},
+        {L"\x00A0 ", L"\x00A0"},
+    };
+    for (const Change& change : kChanges) EXPECT_EQ(change.after, TrimBlanks(change.before)) << Utf8(change.before);
+}
+
+TEST(Text, ComparesIgnoringCase) {
+    EXPECT_TRUE(EqualIgnoringCase(L"", L""));
+    EXPECT_TRUE(EqualIgnoringCase(L"ErrorNumber", L"ERRORNUMBER"));
+    EXPECT_TRUE(EqualIgnoringCase(L"\x00E9t\x00E9", L"\x00C9T\x00C9"));
+    EXPECT_FALSE(EqualIgnoringCase(L"Yield", L"Yields"));
+    EXPECT_FALSE(EqualIgnoringCase(L"Yields", L"Yield"));
+    EXPECT_FALSE(EqualIgnoringCase(L"Yield", L"Field"));
+}
+
+TEST(Text, WritesWordsInProperCase) {
+    constexpr Change kChanges[] = {
+        {L"", L""},
+        {L"SUSPECT", L"Suspect"},
+        {L"witness", L"Witness"},
+        {L"PERSON OF INTEREST", L"Person Of Interest"},
+        {L"  two  blanks ", L"  Two  Blanks "},
+        {L"A\tB\nC", L"A\tB\nC"},
+        {L"x\ty\nz", L"X\tY\nZ"},
+        {L"CO-DEFENDANT O'BRIEN", L"Co-defendant O'brien"},
+        {L"2ND SUSPECT", L"2nd Suspect"},
+        {L"\x00C9LAN", L"\x00C9lan"},
+        {L"\x00E9LAN", L"\x00C9lan"},
+    };
+    for (const Change& change : kChanges) EXPECT_EQ(change.after, ProperCase(change.before)) << Utf8(change.before);
+}
+
+}  // namespace
+}  // namespace platform

@@ -1,0 +1,141 @@
+#include "platform/com/ComObject.h"
+
+#include "model/LejisPersonIndexCard.h"
+#include "model/LejisStreetAddress.h"
+#include "model/LejisVehicleIndexCard.h"
+#include "platform/com/Inside.h"
+#include "platform/com/Module.h"
+#include "platform/Text.h"
+#include "support/ComCheck.h"
+#include "unit_support/LateBoundObject.h"
+#include "unit_support/Raises.h"
+
+#include <gtest/gtest.h>
+
+namespace platform {
+namespace {
+
+using lejis::LejisPersonIndexCard;
+using lejis::LejisStreetAddress;
+using lejis::LejisVehicleIndexCard;
+using Microsoft::WRL::ComPtr;
+using support::Raises;
+
+HRESULT NumberOf(IDispatch* object, const wchar_t* name, DISPID* number) {
+    auto* writable = const_cast<LPOLESTR>(name);
+    return object->GetIDsOfNames(IID_NULL, &writable, 1, LOCALE_USER_DEFAULT, number);
+}
+
+TEST(ComObject, IsOneObjectBehindAllItsInterfaces) {
+    const auto card = Create<LejisVehicleIndexCard>();
+    ComPtr<IUnknown> identity;
+    ASSERT_OK(card->QueryInterface(IID_PPV_ARGS(identity.GetAddressOf())));
+    for (const IID& iid : {__uuidof(ILejisVehicleIndexCard), __uuidof(IDispatch), __uuidof(ISupportErrorInfo),
+                           __uuidof(IProvideClassInfo), __uuidof(IProvideClassInfo2)}) {
+        ComPtr<IUnknown> part;
+        ASSERT_OK(card->QueryInterface(iid, reinterpret_cast<void**>(part.GetAddressOf())));
+        ComPtr<IUnknown> whole;
+        ASSERT_OK(part.As(&whole));
+        EXPECT_EQ(identity.Get(), whole.Get());
+    }
+}
+
+TEST(ComObject, RefusesInterfacesThatItLacks) {
+    const auto card = Create<LejisVehicleIndexCard>();
+    void* object = card.Get();
+    EXPECT_EQ(E_NOINTERFACE, card->QueryInterface(__uuidof(ILejisPersonIndexCard), &object));
+    EXPECT_EQ(nullptr, object);
+    EXPECT_EQ(E_POINTER, card->QueryInterface(__uuidof(IUnknown), nullptr));
+}
+
+TEST(ComObject, KeepsTheModuleInUseWhileItLives) {
+    ASSERT_FALSE(module::InUse());
+    auto card = Create<LejisVehicleIndexCard>();
+    EXPECT_TRUE(module::InUse());
+    card.Reset();
+    EXPECT_FALSE(module::InUse());
+}
+
+TEST(ComObject, SupportsErrorsOnItsOwnInterfaces) {
+    const auto card = Create<LejisVehicleIndexCard>();
+    EXPECT_EQ(S_OK, card->InterfaceSupportsErrorInfo(__uuidof(ILejisVehicleIndexCard)));
+    EXPECT_EQ(S_FALSE, card->InterfaceSupportsErrorInfo(__uuidof(ILejisPersonIndexCard)));
+}
+
+TEST(ComObject, NamesItsClassAndInterface) {
+    const auto card = Create<LejisVehicleIndexCard>();
+    ComPtr<ITypeInfo> information;
+    BSTR name = nullptr;
+    ASSERT_OK(card->GetClassInfo(information.GetAddressOf()));
+    ASSERT_OK(information->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr));
+    EXPECT_EQ(L"LejisVehicleIndexCard", support::Take(name));
+    ASSERT_OK(card->GetTypeInfo(0, LOCALE_USER_DEFAULT, information.ReleaseAndGetAddressOf()));
+    ASSERT_OK(information->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr));
+    EXPECT_EQ(L"ILejisVehicleIndexCard", support::Take(name));
+}
+
+TEST(ComObject, HasOneTypeInformation) {
+    const auto card = Create<LejisVehicleIndexCard>();
+    UINT count = 0;
+    EXPECT_OK(card->GetTypeInfoCount(&count));
+    EXPECT_EQ(1u, count);
+    ComPtr<ITypeInfo> information;
+    EXPECT_EQ(DISP_E_BADINDEX, card->GetTypeInfo(1, LOCALE_USER_DEFAULT, information.GetAddressOf()));
+    EXPECT_EQ(E_POINTER, card->GetTypeInfoCount(nullptr));
+    EXPECT_EQ(E_POINTER, card->GetTypeInfo(0, LOCALE_USER_DEFAULT, nullptr));
+}
+
+TEST(ComObject, HasNoDefaultEventsWithoutEvents) {
+    const auto card = Create<LejisVehicleIndexCard>();
+    GUID events = __uuidof(IUnknown);
+    EXPECT_OK(card->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events));
+    EXPECT_TRUE(events == GUID_NULL);
+    EXPECT_EQ(E_INVALIDARG, card->GetGUID(0, &events));
+    EXPECT_EQ(E_POINTER, card->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, nullptr));
+}
+
+TEST(ComObject, FindsItsMembersByNameInAnyLetterCase) {
+    const auto card = Create<LejisVehicleIndexCard>();
+    DISPID number = 0;
+    DISPID same = 0;
+    EXPECT_OK(NumberOf(card->Dispatch(), L"CaveatText", &number));
+    EXPECT_OK(NumberOf(card->Dispatch(), L"caveattext", &same));
+    EXPECT_EQ(number, same);
+    EXPECT_EQ(DISP_E_UNKNOWNNAME, NumberOf(card->Dispatch(), L"Wheels", &number));
+    EXPECT_EQ(E_INVALIDARG, card->GetIDsOfNames(IID_NULL, nullptr, 1, LOCALE_USER_DEFAULT, &number));
+}
+
+TEST(ComObject, TellsAutomationWhatFailed) {
+    const auto card = Create<LejisVehicleIndexCard>();
+    DISPID reader = 0;
+    ASSERT_OK(NumberOf(card->Dispatch(), L"FromXmlElement", &reader));
+    _variant_t nothing = support::Nothing();
+    DISPPARAMS parameters{&nothing, nullptr, 1, 0};
+    EXCEPINFO exception{};
+    EXPECT_EQ(DISP_E_EXCEPTION, card->Invoke(reader, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters,
+                                             nullptr, &exception, nullptr));
+    EXPECT_EQ(support::kInvalidArgument, exception.scode);
+    EXPECT_EQ(L"elem cannot be Nothing", TakeText(exception.bstrDescription));
+    EXPECT_EQ(L"TVLejisCore.LejisVehicleIndexCard", TakeText(exception.bstrSource));
+    EXPECT_EQ(E_INVALIDARG,
+              card->Invoke(reader, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, nullptr, nullptr, nullptr, nullptr));
+}
+
+TEST(Inside, FindsTheObjectBehindItsInterfaces) {
+    const auto card = Create<LejisPersonIndexCard>();
+    EXPECT_EQ(card.Get(), Inside<LejisPersonIndexCard>(card->Dispatch()).Get());
+    EXPECT_EQ(card.Get(), Inside<LejisPersonIndexCard>(static_cast<ISupportErrorInfo*>(card.Get())).Get());
+}
+
+TEST(Inside, RaisesForNoObjectAndForOthers) {
+    EXPECT_TRUE(Raises(support::kObjectRequired, L"Object required", [] { Inside<LejisPersonIndexCard>(nullptr); }));
+    const auto address = Create<LejisStreetAddress>();
+    EXPECT_TRUE(
+        Raises(DISP_E_TYPEMISMATCH, L"Type mismatch", [&] { Inside<LejisPersonIndexCard>(address->Dispatch()); }));
+    const auto foreign = Create<support::LateBoundObject>(std::map<std::wstring, support::Member>{});
+    EXPECT_TRUE(Raises(DISP_E_TYPEMISMATCH, L"Type mismatch",
+                       [&] { Inside<LejisPersonIndexCard>(static_cast<IDispatch*>(foreign.Get())); }));
+}
+
+}  // namespace
+}  // namespace platform

@@ -1,0 +1,93 @@
+#include "platform/msxml/SchemaCache.h"
+
+#include "platform/ComError.h"
+#include "support/Printing.h"
+
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <string>
+
+namespace msxml {
+namespace {
+
+constexpr wchar_t kNamespace[] = L"urn:lejis-tests";
+
+constexpr char kSchema[] =
+    "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='urn:lejis-tests'"
+    " elementFormDefault='qualified'><xs:element name='order'><xs:complexType><xs:sequence>"
+    "<xs:element name='count' type='xs:int'/></xs:sequence></xs:complexType></xs:element></xs:schema>";
+
+std::wstring Envelope(const std::wstring& payload) {
+    return L"<s:Envelope xmlns:s='http://schemas.xmlsoap.org/soap/envelope/' xmlns:t='urn:lejis-tests'><s:Body>" +
+           payload + L"</s:Body></s:Envelope>";
+}
+
+class SchemaCacheFile : public testing::Test {
+protected:
+    void SetUp() override {
+        wchar_t folder[MAX_PATH + 1];
+        ASSERT_NE(0u, GetTempPathW(ARRAYSIZE(folder), folder));
+        path_ = std::wstring(folder) + L"TVLejisCore schema test.xsd";
+        const HANDLE file =
+            CreateFileW(path_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+        ASSERT_NE(INVALID_HANDLE_VALUE, file);
+        DWORD written = 0;
+        EXPECT_TRUE(WriteFile(file, kSchema, sizeof kSchema - 1, &written, nullptr));
+        CloseHandle(file);
+    }
+    void TearDown() override { DeleteFileW(path_.c_str()); }
+
+    SchemaCache Loaded() const {
+        SchemaCache schemas;
+        schemas.Add(kNamespace, path_);
+        return schemas;
+    }
+
+    std::wstring path_;
+};
+
+TEST_F(SchemaCacheFile, FindsNoFaultInAValidPayload) {
+    EXPECT_EQ(std::nullopt, Loaded().FindFault(Envelope(L"<t:order><t:count>1</t:count></t:order>")));
+}
+
+TEST_F(SchemaCacheFile, FindsFaultsInAPayloadOfAKnownNamespace) {
+    const SchemaCache schemas = Loaded();
+    for (const wchar_t* payload : {L"<t:order><t:count>many</t:count></t:order>", L"<t:order/>",
+                                   L"<t:order><t:count>1</t:count><t:more/></t:order>", L"<t:undeclared/>"}) {
+        EXPECT_TRUE(schemas.FindFault(Envelope(payload)).has_value()) << support::Utf8(payload);
+    }
+}
+
+TEST_F(SchemaCacheFile, FindsAFaultBehindAValidPayload) {
+    EXPECT_TRUE(Loaded().FindFault(Envelope(L"<t:order><t:count>1</t:count></t:order><t:order/>")).has_value());
+}
+
+TEST_F(SchemaCacheFile, PassesOverPayloadsOfOtherNamespaces) {
+    EXPECT_EQ(std::nullopt, Loaded().FindFault(Envelope(L"<order><count>many</count></order>")));
+    EXPECT_EQ(std::nullopt, Loaded().FindFault(Envelope(L"")));
+}
+
+TEST_F(SchemaCacheFile, FindsAFaultInTextThatIsNoXml) {
+    EXPECT_TRUE(Loaded().FindFault(L"<order>").has_value());
+    EXPECT_TRUE(SchemaCache().FindFault(L"").has_value());
+}
+
+TEST(SchemaCache, FindsNoFaultWithoutSchemas) {
+    EXPECT_EQ(std::nullopt, SchemaCache().FindFault(Envelope(L"<t:order/>")));
+}
+
+TEST(SchemaCache, SaysWhichSchemaItCannotLoad) {
+    SchemaCache schemas;
+    try {
+        schemas.Add(kNamespace, L"C:\\no such folder\\missing.xsd");
+        FAIL() << "nothing was raised";
+    } catch (const platform::ComError& error) {
+        EXPECT_TRUE(error.Description().starts_with(L"Cannot load the schema 'C:\\no such folder\\missing.xsd': "))
+            << support::Utf8(error.Description());
+    }
+}
+
+}  // namespace
+}  // namespace msxml
