@@ -72,8 +72,16 @@ TEST(Guard, ReportsAnythingElseThatIsThrown) {
     EXPECT_TRUE(FailedWith(Guarded([] { throw 42; }), E_UNEXPECTED, L"Unexpected error"));
 }
 
+TEST(Guard, SpeaksForTheLibraryWhereThereIsNoClass) {
+    const HRESULT result = Guard(GUID_NULL, [] { throw ComError(E_ACCESSDENIED, L"refused"); });
+    const support::ErrorSeen seen = support::TakeError(result);
+    EXPECT_EQ(E_ACCESSDENIED, seen.number);
+    EXPECT_EQ(L"refused", seen.description);
+    EXPECT_EQ(L"TVLejisCore", seen.source);
+}
+
 TEST(Guard, ReportsTheNumberOfAnErrorWhoseClassIsUnknown) {
-    EXPECT_EQ(E_ACCESSDENIED, Guard(GUID_NULL, [] { throw ComError(E_ACCESSDENIED, L"refused"); }));
+    EXPECT_EQ(E_ACCESSDENIED, Guard(__uuidof(IUnknown), [] { throw ComError(E_ACCESSDENIED, L"refused"); }));
 }
 
 TEST(Guard, NamesTheClassInTheErrorObject) {

@@ -14,13 +14,18 @@ using Microsoft::WRL::ComPtr;
 namespace platform {
 namespace {
 
+// What is part of no class of its own, such as an enumerator, speaks for the library.
+std::wstring SourceOf(const ComError& error, REFCLSID classId) {
+    if (!error.Source().empty()) return error.Source();
+    return classId == GUID_NULL ? L"TVLejisCore" : ProgIdOf(classId);
+}
+
 void SetErrorObject(const ComError& error, REFCLSID classId) {
     ComPtr<ICreateErrorInfo> creator;
     ComPtr<IErrorInfo> information;
     Check(CreateErrorInfo(creator.GetAddressOf()));
-    const std::wstring source = error.Source().empty() ? ProgIdOf(classId) : error.Source();
     Check(creator->SetDescription(ToBstr(error.Description())));
-    Check(creator->SetSource(ToBstr(source)));
+    Check(creator->SetSource(ToBstr(SourceOf(error, classId))));
     Check(creator->SetGUID(classId));
     Check(creator.As(&information));
     Check(SetErrorInfo(0, information.Get()));
