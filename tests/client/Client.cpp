@@ -54,6 +54,8 @@ ComPtr<IDispatch> CreateByName(const std::wstring& className) {
     return object;
 }
 
+REFGUID LibraryId() { return kLibrary; }
+
 ComPtr<ITypeLib> RegisteredTypeLibrary() {
     ComPtr<ITypeLib> library;
     EXPECT_OK(LoadRegTypeLib(kLibrary, 1, 0, LOCALE_NEUTRAL, library.GetAddressOf()));

@@ -39,6 +39,7 @@ ComPtr<Interface> Create() {
 }
 
 // The type library as it is registered.
+REFGUID LibraryId();
 ComPtr<ITypeLib> RegisteredTypeLibrary();
 
 // The registered DLL, loaded as COM loads it.

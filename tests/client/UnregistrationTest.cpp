@@ -30,49 +30,65 @@ protected:
     const RegistrySnapshot registered_ = TakeSnapshot();
 };
 
-// What stays for the other bitness when it is registered: ProgIDs, and the type library without this one's platform.
+// What stays for the other bitness when it is registered: ProgIDs, the type library without this one's platform, and
+// its interfaces, which the system registers for both bitnesses together.
 RegistrySnapshot SharedWithOtherBitness(const RegistrySnapshot& registered) {
     RegistrySnapshot shared;
     if (!registered.contains(L"other\\CLSID\\" + GuidText(__uuidof(NullableDate)))) return shared;
     const std::wstring ownPlatform = sizeof(void*) == 8 ? L"\\win64" : L"\\win32";
     for (const auto& entry : EntriesOfLibrary(registered, View::kOwn)) {
-        const bool ofClassOrInterface =
-            entry.first.starts_with(L"own\\CLSID\\") || entry.first.starts_with(L"own\\Interface\\");
-        if (!ofClassOrInterface && entry.first.find(ownPlatform) == std::wstring::npos) shared.insert(entry);
+        const bool ofClass = entry.first.starts_with(L"own\\CLSID\\");
+        if (!ofClass && entry.first.find(ownPlatform) == std::wstring::npos) shared.insert(entry);
     }
     return shared;
 }
 
-// A class of the other bitness, registered beside this one's.
-class OtherBitness {
+// A key of the other bitness. Where it is not registered it is put there, and taken away again.
+class OtherKey {
 public:
-    OtherBitness() {
-        wasThere_ = Open(KEY_READ) == ERROR_SUCCESS;
-        if (!wasThere_)
-            RegCreateKeyExW(HKEY_CLASSES_ROOT, key_.c_str(), 0, nullptr, 0, KEY_WRITE | kView, nullptr, &handle_,
-                            nullptr);
-        RegCloseKey(handle_);
+    OtherKey(std::wstring key, REGSAM view, const std::wstring& text) : key_(std::move(key)), view_(view) {
+        if (IsThere()) return;
+        HKEY handle = nullptr;
+        RegCreateKeyExW(HKEY_CLASSES_ROOT, key_.c_str(), 0, nullptr, 0, KEY_WRITE | view_, nullptr, &handle, nullptr);
+        RegSetValueExW(handle, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
+                       static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
+        RegCloseKey(handle);
+        isOurs_ = true;
     }
-    ~OtherBitness() {
-        if (!wasThere_) RegDeleteKeyExW(HKEY_CLASSES_ROOT, key_.c_str(), kView, 0);
+    ~OtherKey() {
+        if (isOurs_) RegDeleteKeyExW(HKEY_CLASSES_ROOT, key_.c_str(), view_, 0);
     }
-    OtherBitness(const OtherBitness&) = delete;
-    OtherBitness& operator=(const OtherBitness&) = delete;
+    OtherKey(const OtherKey&) = delete;
+    OtherKey& operator=(const OtherKey&) = delete;
 
-    bool IsThere() {
-        const bool there = Open(KEY_READ) == ERROR_SUCCESS;
-        if (there) RegCloseKey(handle_);
-        return there;
+    bool IsThere() const {
+        HKEY handle = nullptr;
+        if (RegOpenKeyExW(HKEY_CLASSES_ROOT, key_.c_str(), 0, KEY_READ | view_, &handle) != ERROR_SUCCESS) return false;
+        RegCloseKey(handle);
+        return true;
     }
 
 private:
-    static constexpr REGSAM kView = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+    const std::wstring key_;
+    const REGSAM view_;
+    bool isOurs_ = false;
+};
 
-    LSTATUS Open(REGSAM access) { return RegOpenKeyExW(HKEY_CLASSES_ROOT, key_.c_str(), 0, access | kView, &handle_); }
+// The other bitness, registered beside this one: a class of its own, and its place in the type library, which both
+// share.
+class OtherBitness {
+public:
+    explicit OtherBitness(const std::wstring& libraryPath)
+        : class_(L"CLSID\\" + GuidText(__uuidof(NullableDate)), sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY,
+                 L""),
+          platform_(L"TypeLib\\" + GuidText(LibraryId()) + L"\\1.0\\0\\" + (sizeof(void*) == 8 ? L"win32" : L"win64"),
+                    0, libraryPath) {}
 
-    const std::wstring key_ = L"CLSID\\" + GuidText(__uuidof(NullableDate));
-    HKEY handle_ = nullptr;
-    bool wasThere_ = false;
+    bool IsThere() const { return class_.IsThere() && platform_.IsThere(); }
+
+private:
+    OtherKey class_;
+    OtherKey platform_;
 };
 
 TEST_F(Unregistration, LeavesNoClassBehind) {
@@ -134,7 +150,7 @@ TEST_F(Unregistration, RegisteringTwiceIsHarmless) {
 }
 
 TEST_F(Unregistration, KeepsTheClassesAndProgIdsOfTheOtherBitness) {
-    OtherBitness other;
+    const OtherBitness other(RegisteredPath());
     CLSID id = GUID_NULL;
     ASSERT_TRUE(other.IsThere());
     ASSERT_OK(unregister_());
@@ -145,7 +161,7 @@ TEST_F(Unregistration, KeepsTheClassesAndProgIdsOfTheOtherBitness) {
 }
 
 TEST_F(Unregistration, KeepsTheInterfacesOfTheOtherBitness) {
-    const OtherBitness other;
+    const OtherBitness other(RegisteredPath());
     const RegistrySnapshot before = EntriesOfLibrary(TakeSnapshot(), View::kOther);
     ASSERT_OK(unregister_());
     RegistrySnapshot after = EntriesOfLibrary(TakeSnapshot(), View::kOther);

@@ -66,8 +66,10 @@ class LejisCase(unittest.TestCase):
             ["wine", os.environ["LEJIS_EXE"], *map(str, arguments)],
             cwd=folder or self.folder, env={**os.environ, **(environment or {})},
             stdin=subprocess.DEVNULL, capture_output=True, timeout=TIME_LIMIT, check=False)
-        return Run(process.returncode, *(text.decode("utf-8").replace("\r\n", "\n")
-                                         for text in (process.stdout, process.stderr)))
+        output, complaint = (text.decode("utf-8").replace("\r\n", "\n") for text in (process.stdout, process.stderr))
+        # Wine itself says this at times when a program of its has ended.
+        complaint = "".join(line for line in complaint.splitlines(True) if not line.startswith("wine client error:"))
+        return Run(process.returncode, output, complaint)
 
     def expect(self, code, *arguments, **options):
         """Runs lejis, which must end with this code; returns what it printed."""
