@@ -3,17 +3,17 @@
 
 #include "deferred/FutureManager.h"
 #include "support/Messages.h"
+#include "unit_support/EventLog.h"
 #include "unit_support/Incidents.h"
 #include "unit_support/ScriptedRequest.h"
 #include "unit_support/Soap.h"
-#include "unit_support/SubmissionSink.h"
 
 #include <gtest/gtest.h>
 
 using Microsoft::WRL::ComPtr;
+using support::EventLog;
 using support::Script;
 using support::ScriptedHttp;
-using support::SubmissionSink;
 
 namespace lejis {
 namespace {
@@ -66,15 +66,16 @@ TEST_P(SubmissionEvents, AreAsDocumented) {
     ScriptedHttp http(GetParam().script);
     http.script.readyStates = {1, 2, 3, 4};
     const auto service = platform::Create<LejisSubmissionWebService>();
-    const SubmissionSink::Connection connection(service->Dispatch());
+    const auto log = EventLog::ForSubmissions();
+    log->ConnectTo(service->Dispatch());
     service->SubmitAsync(*Document().Get());
     EXPECT_TRUE(http.Last().Seen().asynchronous);
     for (int state = 0; state < 3; ++state) http.Last().Advance();
-    EXPECT_TRUE(connection.Events().empty()) << "nothing is raised inside of the request's callback";
+    EXPECT_TRUE(log->events.empty()) << "nothing is raised inside of the request's callback";
     support::PumpFor(250);
     const std::vector<std::wstring> expected =
         GetParam().event.empty() ? std::vector<std::wstring>{} : std::vector<std::wstring>{GetParam().event};
-    EXPECT_EQ(expected, connection.Events());
+    EXPECT_EQ(expected, log->events);
     EXPECT_FALSE(http.Last().HasHandler()) << "the request and the service no longer hold each other";
 }
 
@@ -101,9 +102,10 @@ TEST_P(SubmissionSendingFailure, IsAnEventAtOnce) {
     const ScriptedHttp http(GetParam().script);
     const auto service = platform::Create<LejisSubmissionWebService>();
     service->URL = L"no url";
-    const SubmissionSink::Connection connection(service->Dispatch());
+    const auto log = EventLog::ForSubmissions();
+    log->ConnectTo(service->Dispatch());
     service->SubmitAsync(*Document().Get());
-    EXPECT_EQ(std::vector<std::wstring>{GetParam().event}, connection.Events());
+    EXPECT_EQ(std::vector<std::wstring>{GetParam().event}, log->events);
     EXPECT_FALSE(http.Last().HasHandler()) << "the request and the service no longer hold each other";
 }
 
@@ -113,8 +115,8 @@ INSTANTIATE_TEST_SUITE_P(Failures, SubmissionSendingFailure, testing::ValuesIn(k
 TEST(SubmissionEventsLifetime, TheServiceLivesUntilItsAnswerHasBeenToldEvenWhenItsClientLetsGo) {
     ScriptedHttp http({.responseText = support::SubmissionResponse(L"0")});
     auto service = platform::Create<LejisSubmissionWebService>();
-    const auto sink = platform::Create<SubmissionSink>();
-    SubmissionSink::Connect(service->Dispatch(), sink);
+    const auto sink = EventLog::ForSubmissions();
+    sink->ConnectTo(service->Dispatch());
     service->SubmitAsync(*Document().Get());
     service.Reset();
     http.Last().Advance();
@@ -124,11 +126,12 @@ TEST(SubmissionEventsLifetime, TheServiceLivesUntilItsAnswerHasBeenToldEvenWhenI
 
 TEST(SubmissionEventsLifetime, AStateChangeOrARunWithoutARequestHarmsNothing) {
     const auto service = platform::Create<LejisSubmissionWebService>();
-    const SubmissionSink::Connection connection(service->Dispatch());
+    const auto log = EventLog::ForSubmissions();
+    log->ConnectTo(service->Dispatch());
     EXPECT_EQ(S_OK, service->OnReadyStateChange());
     EXPECT_EQ(S_OK, service->Run());
     EXPECT_EQ(std::vector<std::wstring>{L"ServiceError: Internal error in web service code: Object required"},
-              connection.Events());
+              log->events);
 }
 
 }  // namespace

@@ -14,6 +14,7 @@ from typing import Any
 import documents
 from documents import NAMES
 
+from endpoints.search_endpoint import DEFAULT_BROAD_LIMIT
 from lejis.namespaces import SUBMISSION_PATH
 from simulator import Simulator
 from wire.simulator_server import SimulatorServer
@@ -24,12 +25,15 @@ GOOD_HEADERS = {"SOAPAction": NAMES.submit_action, "Content-Type": "text/xml;cha
 class SimulatorCase(unittest.TestCase):
     """Speaks to the simulator as a client does: over a socket, a new connection a request."""
 
+    broad_limit = DEFAULT_BROAD_LIMIT
+
     def setUp(self) -> None:
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         self.data = Path(folder.name)
         self.stops: list[str] = []
-        simulator = Simulator(self.data, NAMES, lambda: self.stops.append("stop"))
+        simulator = Simulator(self.data, NAMES, lambda: self.stops.append("stop"),
+                              self.broad_limit)
         self.server = SimulatorServer("127.0.0.1", 0, simulator)
         self.port = self.server.server_port
         thread = threading.Thread(target=self.server.serve_forever, args=(0.01,))

@@ -98,14 +98,14 @@ class ControlTest(SimulatorCase):
 
     def test_wrong_calls(self) -> None:
         for method, path, expected in (("GET", "stop", 405), ("PUT", "faults", 405),
-                                       ("POST", "index", 405), ("GET", "", 404),
+                                       ("PUT", "index", 405), ("GET", "", 404),
                                        ("GET", "exchanges/x/request", 404)):
             with self.subTest(method=method, path=path):
                 self.assertEqual(expected, self.call(method, "/control/" + path)[0])
         self.assertEqual([], self.stops)
 
     def test_only_this_machine_may(self) -> None:
-        control = ControlEndpoint(None, FaultQueue(), None, lambda: None)
+        control = ControlEndpoint(None, None, FaultQueue(), None, lambda: None)
         for peer, expected in (("127.0.0.1", 200), ("127.8.9.1", 200), ("::1", 200),
                                ("::ffff:127.0.0.1", 200), ("10.0.0.1", 403),
                                ("::ffff:10.0.0.1", 403), ("fe80::1%eth0", 403), ("", 403)):

@@ -1,7 +1,9 @@
 """The program as it is started and stopped."""
 
+import contextlib
 import http.client
 import signal
+import sqlite3
 import subprocess
 import sys
 import tempfile
@@ -9,10 +11,14 @@ import time
 import unittest
 from pathlib import Path
 
+from lxml import etree
+
 import documents
+import inquiries
+from search_case import SEARCH_HEADERS
 from simulator_case import GOOD_HEADERS
 
-from lejis.namespaces import SUBMISSION_PATH
+from lejis.namespaces import SEARCH_PATH, SUBMISSION_PATH
 
 PROGRAM = Path(documents.__file__).resolve().parents[2] / "tools/simulator/lejis_simulator.py"
 
@@ -47,12 +53,15 @@ class ProgramTest(unittest.TestCase):
         self.assertEqual("", program.stderr.read())
 
     def post(self, path: str, body: bytes = b"", headers: dict | None = None) -> int:
+        return self.exchange(path, body, headers)[0]
+
+    def exchange(self, path: str, body: bytes = b"",
+                 headers: dict | None = None) -> tuple[int, bytes]:
         connection = http.client.HTTPConnection("127.0.0.1", self.port, timeout=10)
         self.addCleanup(connection.close)
         connection.request("POST", path, body, headers or {})
         answer = connection.getresponse()
-        answer.read()
-        return answer.status
+        return answer.status, answer.read()
 
     def test_announces_itself(self) -> None:
         self.port_file.write_text("1\n")
@@ -71,6 +80,15 @@ class ProgramTest(unittest.TestCase):
                  for name, value in GOOD_HEADERS.items()}
         body = documents.FULL.replace(b"lejis.example", b"core.lejis.test")
         self.assertEqual(200, self.post(SUBMISSION_PATH, body, other))
+
+    def test_broad_limit(self) -> None:
+        self.started("--broad-limit", "1")
+        for number, expected in (("a", 1), ("b", 0)):
+            card = etree.tostring(documents.card(number), with_tail=False)
+            self.assertEqual(200, self.post("/control/index", card))
+            _, answer = self.exchange(SEARCH_PATH, inquiries.search(words="assault"),
+                                      SEARCH_HEADERS)
+            self.assertEqual(expected, answer.count(b"<lejis:RMSIncidentIndexCard"))
 
     def test_signals(self) -> None:
         for number in (signal.SIGTERM, signal.SIGINT):
@@ -129,8 +147,12 @@ class ProgramTest(unittest.TestCase):
     def test_starts_that_cannot_be(self) -> None:
         self.started()
         (self.folder / "file").touch()
+        (self.folder / "old").mkdir()
+        with contextlib.closing(sqlite3.connect(self.folder / "old" / "index.sqlite")) as old:
+            old.execute("CREATE TABLE incident (ori TEXT)")
         for words in (("--port", str(self.port)), ("--port", "70000"), ("--lejis-host", "a b"),
-                      ("--data", str(self.folder / "file")), ("--host", "203.0.113.1")):
+                      ("--data", str(self.folder / "file")),
+                      ("--data", str(self.folder / "old")), ("--host", "203.0.113.1")):
             with self.subTest(words=words):
                 program = self.start(*words)
                 _, errors = program.communicate(timeout=10)

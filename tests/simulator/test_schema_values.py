@@ -1,14 +1,13 @@
 """Which texts and attributes the schemas take and which they refuse, one row an element."""
 
 import re
-import tempfile
 import unittest
-from pathlib import Path
+
+from lxml import etree
 
 import documents
-from documents import NAMES, PREFIXES
-
-from lejis.schema_set import SchemaSet
+import schema_case
+from documents import PREFIXES
 
 INCIDENT = ".//lejis:RMSIncidentIndexCard/"
 UID = INCIDENT + "card:LejisIndexUid/"
@@ -109,56 +108,17 @@ ATTRIBUTES = {
 }
 
 
-class SchemaValuesTest(unittest.TestCase):
-    """Each row changes one value of the full submission and nothing else."""
+class SubmissionValuesTest(schema_case.ValueChecks):
+    """The rows of the submission."""
 
-    @classmethod
-    def setUpClass(cls) -> None:
-        folder = tempfile.TemporaryDirectory()
-        cls.addClassCleanup(folder.cleanup)
-        cls.schemas = SchemaSet(Path(folder.name), NAMES)
+    messages = documents
+    rows = ROWS
+    units = ATTRIBUTES
 
-    def errors_with(self, path: str, value: str) -> list[str]:
-        root = documents.envelope()
-        documents.find(root, path).text = value
-        return self.schemas.errors(documents.payload(root))
-
-    def test_full_submission_is_valid(self) -> None:
-        self.assertEqual([], self.schemas.errors(documents.payload(documents.envelope())))
-
-    def test_values_taken(self) -> None:
-        for path, (taken, _) in ROWS.items():
-            for value in taken:
-                with self.subTest(path=path, value=value):
-                    self.assertEqual([], self.errors_with(path, value))
-
-    def test_values_refused(self) -> None:
-        for path, (_, refused) in ROWS.items():
-            name = path.split("/")[-1]
-            for value in refused:
-                with self.subTest(path=path, value=value):
-                    self.assertIn(f"Element '{name}'", self.errors_with(path, value)[0])
-
-    def test_every_text_element_of_the_submission_has_a_row(self) -> None:
-        root = documents.envelope()
-        covered = {element for path in ROWS for element in root.xpath(path, namespaces=PREFIXES)}
-        home = root.find(".//j:Residence", PREFIXES)
-        for element in documents.payload(root).iter("*"):
-            if not len(element) and home not in element.iterancestors():
-                self.assertIn(element, covered, element.tag)
-
-    def test_unit_attributes(self) -> None:
-        for path, name in ATTRIBUTES.items():
-            qualified = f"{{{PREFIXES['j']}}}{name}"
-            for change, attributes in {"other unit": {qualified: "metric"}, "missing": {},
-                                       "unqualified": {name: "ncic"},
-                                       "one more": {qualified: "ncic", "x": "y"}}.items():
-                with self.subTest(path=path, change=change):
-                    root = documents.envelope()
-                    element = documents.find(root, path)
-                    element.attrib.clear()
-                    element.attrib.update(attributes)
-                    self.assertNotEqual([], self.schemas.errors(documents.payload(root)))
+    def needs_row(self, element: etree._Element) -> bool:
+        """A residence is made like the incident's location, which has its rows."""
+        residence = f"{{{PREFIXES['j']}}}Residence"
+        return super().needs_row(element) and not list(element.iterancestors(residence))
 
     def test_offense_codes_are_458(self) -> None:
         schema = self.schemas.schema("jxdm.xsd").decode()

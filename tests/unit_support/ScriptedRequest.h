@@ -62,6 +62,8 @@ public:
 
     const Sent& Seen() const { return sent_; }
     bool HasHandler() const { return handler_ != nullptr; }
+    // Ends a request that will never complete.
+    void ClearHandler() { handler_.Reset(); }
     // Reports the next ready state to the handler, as the platform does from the message loop.
     void Advance();
 

@@ -13,6 +13,7 @@ import tempfile
 import threading
 from pathlib import Path
 
+from endpoints.search_endpoint import DEFAULT_BROAD_LIMIT
 from lejis.namespaces import DEFAULT_LEJIS_HOST, Namespaces
 from simulator import Simulator
 from watch import process_mark
@@ -30,6 +31,8 @@ def _arguments(words: list[str] | None) -> argparse.Namespace:
     add("--host", default="127.0.0.1", help="address to bind (default: %(default)s)")
     add("--lejis-host", default=DEFAULT_LEJIS_HOST,
         help="host in the LEJIS namespaces (default: %(default)s)")
+    add("--broad-limit", type=int, default=DEFAULT_BROAD_LIMIT, metavar="N",
+        help="searches with more hits get no cards (default: %(default)s)")
     add("--stop-after", type=float, default=600, metavar="SECONDS",
         help="end after so long without a request (default: %(default)s)")
     add("--parent", type=int, metavar="PID", help="end when this process has ended")
@@ -62,7 +65,8 @@ def _serve(options: argparse.Namespace, data: Path) -> None:
     stop: queue.SimpleQueue = queue.SimpleQueue()
     for number in (signal.SIGTERM, signal.SIGINT):
         signal.signal(number, lambda *_: stop.put("signal"))
-    application = Simulator(data, Namespaces(options.lejis_host), lambda: stop.put("control"))
+    application = Simulator(data, Namespaces(options.lejis_host), lambda: stop.put("control"),
+                            options.broad_limit)
     with SimulatorServer(options.host, options.port, application) as server:
         serving = threading.Thread(target=server.serve_forever, args=(0.05,), daemon=True)
         serving.start()

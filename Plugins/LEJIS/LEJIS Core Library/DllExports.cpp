@@ -6,12 +6,16 @@
 #include "foundation/NullableDate.h"
 #include "foundation/NullableInteger.h"
 #include "foundation/NullableLong.h"
+#include "harness/TestSearch.h"
+#include "inquiry/LejisInquiryResponse.h"
+#include "inquiry/LejisSearchRequest.h"
 #include "model/LejisSubmissionDocument.h"
 #include "platform/com/ClassFactory.h"
 #include "platform/com/Guard.h"
 #include "platform/com/Module.h"
 #include "platform/com/Registration.h"
 #include "platform/host/HostComponents.h"
+#include "services/LejisSearchWebService.h"
 #include "services/LejisSubmissionWebService.h"
 #include "services/SOAPEnvelope.h"
 
@@ -36,8 +40,18 @@ std::span<const platform::CreatableClass> CreatableClasses() {
         Creatable<lejis::FutureManager>(),
         Creatable<lejis::LejisIncidentValidator>(),
         Creatable<lejis::LejisIncidentFormatter>(),
+        Creatable<lejis::PersonInquiryArguments>(),
+        Creatable<lejis::LocationInquiryArguments>(),
+        Creatable<lejis::PropertyInquiryArguments>(),
+        Creatable<lejis::VehicleInquiryArguments>(),
+        Creatable<lejis::LejisAdHocInquiryArguments>(),
+        Creatable<lejis::LejisInquiryControls>(),
+        Creatable<lejis::LejisSearchRequest>(),
+        Creatable<lejis::LejisInquiryResponse>(),
         Creatable<lejis::SOAPEnvelope>(),
+        Creatable<lejis::LejisSearchWebService>(),
         Creatable<lejis::LejisSubmissionWebService>(),
+        Creatable<lejis::TestSearch>(),
     };
     return classes;
 }

@@ -14,20 +14,23 @@ from wire.http_request import HttpRequest
 from wire.http_response import HttpResponse
 
 from .control_call import ControlCall
+from .index_seed import IndexSeed
 from .router import wrong_method
 
 
 class ControlEndpoint:
     """A table of calls: neither recorded nor subject to faults, and only for this machine."""
 
-    def __init__(self, index: IncidentIndex, faults: FaultQueue, log: ExchangeLog,
-                 stop: Callable[[], None]) -> None:
-        self._index, self._faults, self._log, self._stop = index, faults, log, stop
+    def __init__(self, index: IncidentIndex, seed: IndexSeed, faults: FaultQueue,
+                 log: ExchangeLog, stop: Callable[[], None]) -> None:
+        self._index, self._seed, self._faults = index, seed, faults
+        self._log, self._stop = log, stop
         calls = {
             ("GET", "faults"): lambda call: HttpResponse.json(faults.list()),
             ("POST", "faults"): self._add_fault,
             ("DELETE", "faults"): lambda call: _forgotten(faults.clear()),
             ("GET", "index"): lambda call: HttpResponse.json(index.summaries()),
+            ("POST", "index"): self._add_cards,
             ("DELETE", "index"): lambda call: _forgotten(index.clear()),
             ("GET", "index/card"): self._card,
             ("GET", "exchanges"): lambda call: HttpResponse.json(log.entries(call.last)),
@@ -60,6 +63,10 @@ class ControlEndpoint:
         listed = fault.to_json()
         self._faults.add(fault)
         return HttpResponse.json(listed)
+
+    def _add_cards(self, call: ControlCall) -> HttpResponse:
+        done = self._seed.add(call.request.body)
+        return HttpResponse.json({what: done[what] for what in ("added", "replaced")})
 
     def _card(self, call: ControlCall) -> HttpResponse:
         card = self._index.card(call.argument("ori"), call.argument("id"))

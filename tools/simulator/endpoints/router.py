@@ -4,7 +4,7 @@ from __future__ import annotations
 
 from http import HTTPStatus
 
-from lejis.namespaces import SCHEMAS_PATH, SUBMISSION_PATH
+from lejis.namespaces import SCHEMAS_PATH, SEARCH_PATH, SUBMISSION_PATH
 from wire.http_request import HttpRequest
 from wire.http_response import HttpResponse
 
@@ -26,7 +26,8 @@ class Router:
             return self._schema if request.method == "GET" else wrong_method("GET")
         return HttpResponse.text(
             HTTPStatus.NOT_FOUND,
-            f"Nothing answers at this address. Submissions go to {SUBMISSION_PATH}.")
+            f"Nothing answers at this address. Submissions go to {SUBMISSION_PATH}, "
+            f"searches to {SEARCH_PATH}.")
 
     @staticmethod
     def _in_service(request: HttpRequest, service: Endpoint,

@@ -8,7 +8,7 @@ from typing import Any
 from .fault_kind import FaultKind
 from .fault_kinds import FAULT_KINDS
 
-TARGETS = ("submission", "wsdl", "schema", "any")
+TARGETS = ("submission", "search", "wsdl", "schema", "any")
 MAX_COUNT = 10_000
 
 
@@ -31,7 +31,7 @@ class Fault:
         return self.target in (target, "any")
 
     def to_json(self) -> dict[str, Any]:
-        """As it is listed."""
+        """As it is listed. A parameter of the kind's own named 'count' covers the other one."""
         when = {"when": "every"} if self.remaining is None else {"when": "next",
                                                                  "count": self.remaining}
         return {**when, "target": self.target, "kind": self.name, **self.values}
@@ -48,7 +48,9 @@ class Fault:
         target = _one_of(rest.pop("target", kind.target or "submission"), "target", TARGETS)
         if kind.target not in (None, target):
             raise ValueError(f"The kind '{name}' needs the target '{kind.target}'.")
-        remaining = _count(rest.pop("count", 1)) if when == "next" else None
+        # Some kinds mean something else by their count; such a fault is ordered once at a time.
+        count = 1 if "count" in kind.parameters else rest.pop("count", 1)
+        remaining = _count(count) if when == "next" else None
         return cls(name, target, _values(name, rest), remaining)
 
 

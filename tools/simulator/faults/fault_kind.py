@@ -10,7 +10,16 @@ from wire.delivery import Delivery
 from wire.http_response import HttpResponse
 from lejis.namespaces import Namespaces
 
-Play = Callable[[HttpResponse, dict[str, Any], Namespaces], Delivery]
+
+@dataclass(frozen=True)
+class Setting:
+    """Where a fault plays: the target of the request and the names in use."""
+
+    target: str
+    namespaces: Namespaces
+
+
+Play = Callable[[HttpResponse, dict[str, Any], Setting], Delivery]
 
 
 @dataclass(frozen=True)

@@ -8,35 +8,38 @@ from typing import Any
 from lxml import etree
 
 from lejis import soap
-from lejis.namespaces import WSDL, XSD, Namespaces
+from lejis.namespaces import WSDL, XSD
 from lejis.schema_set import REFUSING_SCHEMA, SERVICE_SCHEMA
 from wire.delivery import Delivery
 from wire.http_response import HttpResponse
 
 from . import parameter_checks as check
-from .fault_kind import FaultKind, Parameter
+from . import search_answers as search
+from .fault_kind import FaultKind, Parameter, Setting
+
+MAX_CARDS = 10_000
 
 _Values = dict[str, Any]
 
 
-def _response_code(_: HttpResponse, values: _Values, names: Namespaces) -> Delivery:
-    return _xml(soap.submission_response(names, values["text"]))
+def _response_code(_: HttpResponse, values: _Values, setting: Setting) -> Delivery:
+    return _xml(soap.submission_response(setting.namespaces, values["text"]))
 
 
-def _soap_fault(_: HttpResponse, values: _Values, __: Namespaces) -> Delivery:
+def _soap_fault(_: HttpResponse, values: _Values, __: Setting) -> Delivery:
     return _xml(soap.fault(values["code"], values["message"]), values["status"])
 
 
-def _http_status(_: HttpResponse, values: _Values, __: Namespaces) -> Delivery:
+def _http_status(_: HttpResponse, values: _Values, __: Setting) -> Delivery:
     return Delivery(HttpResponse(values["status"], values["body"].encode(),
                                  values["content_type"], values["reason"]))
 
 
-def _slow(answer: HttpResponse, values: _Values, _: Namespaces) -> Delivery:
+def _slow(answer: HttpResponse, values: _Values, _: Setting) -> Delivery:
     return Delivery(answer, pause=values["seconds"])
 
 
-def _trickle(answer: HttpResponse, values: _Values, _: Namespaces) -> Delivery:
+def _trickle(answer: HttpResponse, values: _Values, _: Setting) -> Delivery:
     return Delivery(answer, spread=values["seconds"])
 
 
@@ -69,19 +72,24 @@ def _empty(*_: Any) -> Delivery:
     return _xml(b"")
 
 
-def _no_response_element(_: HttpResponse, __: _Values, names: Namespaces) -> Delivery:
-    return _xml(soap.envelope(f'<lejis:somethingElse xmlns:lejis="{names.service}"/>'))
+def _no_response_element(_: HttpResponse, __: _Values, setting: Setting) -> Delivery:
+    service = setting.namespaces.service
+    return _xml(soap.envelope(f'<lejis:somethingElse xmlns:lejis="{service}"/>'))
 
 
 def _no_body(*_: Any) -> Delivery:
     return _xml(soap.envelope("").replace(b"<soap:Body></soap:Body>", b"<soap:Header/>"))
 
 
-def _doctype(_: HttpResponse, __: _Values, names: Namespaces) -> Delivery:
+def _doctype(_: HttpResponse, __: _Values, setting: Setting) -> Delivery:
     """An entity in the place of the answer's text: who resolves it reads a success."""
-    body = soap.submission_response(names, "ANSWER").replace(b"ANSWER", b"&answer;")
-    declaration, rest = body.split(b"\n", 1)
-    doctype = b'<!DOCTYPE soap:Envelope [<!ENTITY answer "0 Accepted">]>'
+    names = setting.namespaces
+    if setting.target == "search":
+        words, body = b"0", soap.inquiry_response(names, (), "ANSWER")
+    else:
+        words, body = b"0 Accepted", soap.submission_response(names, "ANSWER")
+    declaration, rest = body.replace(b"ANSWER", b"&answer;").split(b"\n", 1)
+    doctype = b'<!DOCTYPE soap:Envelope [<!ENTITY answer "%s">]>' % words
     return _xml(b"\n".join((declaration, doctype, rest)))
 
 
@@ -99,6 +107,22 @@ def _https_include(answer: HttpResponse, *_: Any) -> Delivery:
 
 def _wrong_schema(answer: HttpResponse, *_: Any) -> Delivery:
     return _relocated(answer, SERVICE_SCHEMA, REFUSING_SCHEMA)
+
+
+def _count_without_cards(_: HttpResponse, values: _Values, setting: Setting) -> Delivery:
+    return _xml(soap.inquiry_response(setting.namespaces, (), values["count"]))
+
+
+def _cards(_: HttpResponse, values: _Values, setting: Setting) -> Delivery:
+    return _xml(search.cards(setting.namespaces, values["count"]))
+
+
+def _bad_card(_: HttpResponse, __: _Values, setting: Setting) -> Delivery:
+    return _xml(search.with_a_bad_card(setting.namespaces))
+
+
+def _deep_cards(_: HttpResponse, __: _Values, setting: Setting) -> Delivery:
+    return _xml(search.with_deep_cards(setting.namespaces))
 
 
 def _xml(body: bytes, status: int = 200) -> Delivery:
@@ -131,9 +155,12 @@ _HTTP_STATUS = {
     "body": Parameter(check.text, ""),
     "content_type": Parameter(check.line, "text/plain; charset=utf-8"),
 }
+_HITS = {"count": Parameter(check.whole_number(2**31 - 1), 1)}
+_CARDS = {"count": Parameter(check.whole_number(MAX_CARDS), 3)}
 
 FAULT_KINDS: dict[str, FaultKind] = {
-    "response-code": FaultKind(_response_code, {"text": Parameter(check.text, "")}),
+    "response-code": FaultKind(_response_code, {"text": Parameter(check.text, "")},
+                               target="submission"),
     "soap-fault": FaultKind(_soap_fault, _SOAP_FAULT),
     "http-status": FaultKind(_http_status, _HTTP_STATUS),
     "slow": FaultKind(_slow, _SECONDS, honest=True),
@@ -148,6 +175,10 @@ FAULT_KINDS: dict[str, FaultKind] = {
     "no-response-element": FaultKind(_no_response_element),
     "no-body": FaultKind(_no_body),
     "doctype": FaultKind(_doctype),
+    "count-without-cards": FaultKind(_count_without_cards, _HITS, target="search"),
+    "cards": FaultKind(_cards, _CARDS, target="search"),
+    "bad-card": FaultKind(_bad_card, target="search"),
+    "deep-cards": FaultKind(_deep_cards, target="search"),
     "no-types": FaultKind(_no_types, target="wsdl"),
     "no-include": FaultKind(_no_include, target="wsdl"),
     "https-include": FaultKind(_https_include, target="wsdl"),

@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+from collections.abc import Callable
 from typing import Any
 
 MAX_SECONDS = 600
@@ -34,6 +35,15 @@ def seconds(value: Any) -> float:
             or not 0 <= value <= MAX_SECONDS:
         raise ValueError(f"must be a number of seconds from 0 to {MAX_SECONDS}")
     return value
+
+
+def whole_number(most: int) -> Callable[[Any], int]:
+    """The check of a number from 0 up to some end."""
+    def check(value: Any) -> int:
+        if isinstance(value, bool) or not isinstance(value, int) or not 0 <= value <= most:
+            raise ValueError(f"must be a whole number from 0 to {most}")
+        return value
+    return check
 
 
 def status(value: Any) -> int:

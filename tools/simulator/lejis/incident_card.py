@@ -5,6 +5,7 @@ from __future__ import annotations
 from lxml import etree
 
 from .namespaces import GJXDM, Namespaces
+from .search_fields import GROUPS, Group
 
 
 class IncidentCard:
@@ -69,3 +70,23 @@ class IncidentCard:
     def markup(self) -> str:
         """The card as a document of its own."""
         return etree.tostring(self._element, encoding="unicode", with_tail=False)
+
+    @property
+    def searchable(self) -> dict[Group, list[list[str]]]:
+        """What searches compare, a row for each person, place and thing on the card."""
+        return {group: [self._row(group, found) for path in group.card_paths
+                        for found in self._element.findall(path, self._prefixes)]
+                for group in GROUPS}
+
+    @property
+    def words(self) -> str:
+        """All texts of the card for free searches, without regard to case. Flags are no texts."""
+        flag = f"{{{self._prefixes['ext']}}}CautionIndicatorFlag"
+        texts = (element.text for element in self._element.iter(etree.Element)
+                 if not len(element) and element.tag != flag)
+        return "\n".join(text.casefold() for text in texts if text)
+
+    def _row(self, group: Group, element: etree._Element) -> list[str]:
+        return [field.compare.prepared(
+            element.findtext(field.card_path, default="", namespaces=self._prefixes))
+            for field in group.fields]

@@ -8,28 +8,33 @@ import threading
 from collections import Counter
 from pathlib import Path
 
+from . import index_tables as tables
 from .incident_card import IncidentCard
-
-_TABLE = """
-CREATE TABLE IF NOT EXISTS incident (
-    ori TEXT NOT NULL,
-    activity_id TEXT NOT NULL,
-    summary TEXT NOT NULL,
-    card TEXT NOT NULL,
-    PRIMARY KEY (ori, activity_id)
-)
-"""
+from .inquiry import Inquiry
 
 
 class IncidentIndex:
-    """Whole cards in SQLite, keyed by agency and incident number. Any thread may call."""
+    """Whole cards in SQLite, keyed by agency and incident number, and beside them what searches
+    compare. Any thread may call."""
 
     def __init__(self, file: Path) -> None:
         self._lock = threading.Lock()
         self._database = sqlite3.connect(file, check_same_thread=False)
         # Losing the last submissions in a power cut is nothing to a simulator; waiting is.
         self._database.execute("PRAGMA synchronous = OFF")
-        self._database.execute(_TABLE)
+        self._database.execute("PRAGMA foreign_keys = ON")
+        self._prepare(file)
+
+    def _prepare(self, file: Path) -> None:
+        (version,) = self._database.execute("PRAGMA user_version").fetchone()
+        (count,) = self._database.execute("SELECT count(*) FROM sqlite_master").fetchone()
+        if version != tables.VERSION and count:
+            self._database.close()
+            raise ValueError(f"{file} is of another version of the simulator; remove it first.")
+        if not count:
+            with self._database:
+                for statement in tables.creation():
+                    self._database.execute(statement)
 
     def close(self) -> None:
         """Lets go of the file."""
@@ -42,17 +47,37 @@ class IncidentIndex:
             return Counter(self._withdraw(card) if card.is_bare else self._keep(card)
                            for card in cards)
 
+    def add(self, cards: list[IncidentCard]) -> Counter[str]:
+        """Keeps the cards, all or none, even those that would withdraw an incident."""
+        with self._lock, self._database:
+            return Counter(self._keep(card) for card in cards)
+
     def _withdraw(self, card: IncidentCard) -> str:
-        cursor = self._database.execute(
-            "DELETE FROM incident WHERE ori = ? AND activity_id = ?", card.key)
-        return "deleted" if cursor.rowcount else "not held"
+        return "deleted" if self._remove(card) else "not held"
+
+    def _remove(self, card: IncidentCard) -> bool:
+        return self._database.execute(
+            "DELETE FROM incident WHERE ori = ? AND activity_id = ?", card.key).rowcount > 0
 
     def _keep(self, card: IncidentCard) -> str:
-        known = self._database.execute(
-            "SELECT 1 FROM incident WHERE ori = ? AND activity_id = ?", card.key).fetchone()
-        self._database.execute("INSERT OR REPLACE INTO incident VALUES (?, ?, ?, ?)",
-                               (*card.key, json.dumps(card.summary), card.markup))
+        known = self._remove(card)
+        number = self._database.execute(
+            "INSERT INTO incident VALUES (NULL, ?, ?, ?, ?, ?)",
+            (*card.key, json.dumps(card.summary), card.markup, card.words)).lastrowid
+        for group, rows in card.searchable.items():
+            self._database.executemany(tables.insertion(group), [(number, *row) for row in rows])
         return "replaced" if known else "added"
+
+    def find(self, inquiry: Inquiry, most: int) -> tuple[int, list[str]]:
+        """How many incidents fulfil the inquiry, and the markup of the first ones' cards."""
+        condition, values = tables.condition(inquiry)
+        with self._lock:
+            (count,) = self._database.execute(
+                f"SELECT count(*) FROM incident WHERE {condition}", values).fetchone()
+            rows = self._database.execute(
+                f"SELECT card FROM incident WHERE {condition} ORDER BY ori, activity_id LIMIT ?",
+                [*values, most]).fetchall()
+        return count, [card for (card,) in rows]
 
     def summaries(self) -> list[dict]:
         """One entry an incident held, by agency and number."""

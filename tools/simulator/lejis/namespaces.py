@@ -13,6 +13,7 @@ WSDL = "http://schemas.xmlsoap.org/wsdl/"
 XSD = "http://www.w3.org/2001/XMLSchema"
 
 SUBMISSION_PATH = "/lejis-core-Rev01/services/submission"
+SEARCH_PATH = "/lejis-core-Rev01/services/search"
 SCHEMAS_PATH = "/lejis-core-Rev01/schemas/"
 CONTROL_PATH = "/control/"
 
@@ -30,6 +31,8 @@ class Namespaces:
         self.card = root + "card"
         self.extension = root + "card/extra"
         self.submit_action = self.service + "/submitRmsIndex"
+        # The two services order the parts of their actions differently.
+        self.search_action = f"http://{lejis_host}/lejis/1.0/service/jxdm/searchIndex"
 
     @property
     def prefixes(self) -> dict[str, str]:
@@ -41,7 +44,8 @@ class Namespaces:
     def placeholders(self) -> dict[str, str]:
         """What the schema files leave open, with the text that belongs there."""
         return {"@SERVICE@": self.service, "@CARD@": self.card, "@EXTENSION@": self.extension,
-                "@GJXDM@": GJXDM, "@SUBMIT_ACTION@": self.submit_action}
+                "@GJXDM@": GJXDM, "@SUBMIT_ACTION@": self.submit_action,
+                "@SEARCH_ACTION@": self.search_action}
 
     def shorten(self, text: str) -> str:
         """The text with every '{uri}' that has a customary prefix written as 'prefix:'."""

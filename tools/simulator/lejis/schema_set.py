@@ -13,6 +13,7 @@ from .namespaces import Namespaces
 SERVICE_SCHEMA = "lejis-service.xsd"
 REFUSING_SCHEMA = "refusing.xsd"
 SUBMISSION_WSDL = "submission.wsdl"
+SEARCH_WSDL = "search.wsdl"
 
 _TEMPLATES = Path(__file__).resolve().parent.parent / "schemas"
 

@@ -2,11 +2,12 @@
 
 from __future__ import annotations
 
+from collections.abc import Iterable
 from xml.sax.saxutils import escape
 
 from lxml import etree
 
-from .namespaces import SOAP, Namespaces
+from .namespaces import SOAP, WSSE, Namespaces
 
 CONTENT_TYPE = "text/xml; charset=utf-8"
 
@@ -39,14 +40,34 @@ def elements(parent: etree._Element) -> list[etree._Element]:
     return children
 
 
-def payload(root: etree._Element, name: str) -> etree._Element:
-    """The one element of the envelope's body, which must bear the qualified name given."""
+def parts(root: etree._Element, *names: str) -> list[etree._Element]:
+    """The children of the envelope, which must be exactly those parts of SOAP."""
     if root.tag != f"{{{SOAP}}}Envelope":
         raise ValueError("The request is not a SOAP 1.1 envelope.")
-    parts = elements(root)
-    if [part.tag for part in parts] != [f"{{{SOAP}}}Body"]:
-        raise ValueError("The envelope does not hold exactly one soap:Body and nothing else.")
-    children = elements(parts[0])
+    found = elements(root)
+    if [part.tag for part in found] != [f"{{{SOAP}}}{name}" for name in names]:
+        wanted = " and one ".join(f"soap:{name}" for name in names)
+        raise ValueError(f"The envelope does not hold exactly one {wanted} and nothing else.")
+    return found
+
+
+def username(header: etree._Element) -> str:
+    """The name in the header's token, which must hold just that and no password."""
+    element = header
+    for name in ("Security", "UsernameToken", "Username"):
+        children = elements(element)
+        if [child.tag for child in children] != [f"{{{WSSE}}}{name}"]:
+            raise ValueError(f"The {etree.QName(element).localname} does not hold exactly one "
+                             f"wsse:{name} and nothing else.")
+        element = children[0]
+    if len(element):
+        raise ValueError("The wsse:Username holds more than text.")
+    return element.text or ""
+
+
+def payload(body: etree._Element, name: str) -> etree._Element:
+    """The one element of the envelope's body, which must bear the qualified name given."""
+    children = elements(body)
     if [child.tag for child in children] != [name]:
         raise ValueError("The soap:Body does not hold exactly one "
                          f"{etree.QName(name).localname} of the service's namespace.")
@@ -69,3 +90,12 @@ def submission_response(namespaces: Namespaces, text: str) -> bytes:
     """The answer to a submission: a code, a blank and words."""
     return envelope(f'<lejis:submissionResponse xmlns:lejis="{namespaces.service}">'
                     f"{escape(text)}</lejis:submissionResponse>")
+
+
+def inquiry_response(namespaces: Namespaces, cards: Iterable[str], count: int | str) -> bytes:
+    """The answer to a search: the markup of the cards, and how many incidents there are."""
+    declarations = " ".join(f'xmlns:{prefix}="{namespaces.prefixes[prefix]}"'
+                            for prefix in ("lejis", "card", "ext", "j"))
+    return envelope(f"<lejis:LEJISIndexInquiryResponse {declarations}>{''.join(cards)}"
+                    f"<lejis:incidentcount>{count}</lejis:incidentcount>"
+                    "</lejis:LEJISIndexInquiryResponse>")

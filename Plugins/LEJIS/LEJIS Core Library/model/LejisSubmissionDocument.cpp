@@ -1,7 +1,6 @@
 #include "model/LejisSubmissionDocument.h"
 
 #include "foundation/ElementWriter.h"
-#include "platform/ComError.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
 
@@ -20,11 +19,8 @@ void LejisSubmissionDocument::Add(const Microsoft::WRL::ComPtr<LejisIncidentInde
 }
 
 msxml::Element LejisSubmissionDocument::ToXmlElement(const msxml::Document& document) const {
-    // Checked here because not every MSXML refuses a second root.
-    if (msxml::Root(document))
-        throw platform::ComError(E_FAIL, L"Only one top level element is allowed in an XML document.");
     ElementWriter submission(document, L"lejis:SubmitRmsIndex");
-    msxml::Append(document, submission.Element());
+    msxml::AppendRoot(document, submission.Element());
     for (const auto& incident : IncidentIndexCards->ItemsAs<LejisIncidentIndexCard>()) {
         submission.Child(incident->ToXmlElement(document));
     }

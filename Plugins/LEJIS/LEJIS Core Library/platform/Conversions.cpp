@@ -20,6 +20,28 @@ bool IsNoNumber(const VARIANT& value) {
     return (V_VT(&value) == VT_R8 && std::isnan(V_R8(&value))) || (V_VT(&value) == VT_R4 && std::isnan(V_R4(&value)));
 }
 
+size_t SkipDigits(const std::wstring& text, size_t at) {
+    while (at < text.size() && text[at] >= L'0' && text[at] <= L'9') ++at;
+    return at;
+}
+
+size_t SkipSign(const std::wstring& text, size_t at) {
+    return at < text.size() && (text[at] == L'-' || text[at] == L'+') ? at + 1 : at;
+}
+
+// What of the text is a number: a sign, digits with a point, and an exponent.
+std::wstring NumericPrefix(std::wstring text) {
+    std::erase_if(text, [](wchar_t one) { return one == L' ' || one == L'\t' || one == L'\r' || one == L'\n'; });
+    size_t end = SkipDigits(text, SkipSign(text, 0));
+    if (end < text.size() && text[end] == L'.') end = SkipDigits(text, end + 1);
+    if (end < text.size() && (text[end] == L'e' || text[end] == L'E')) {
+        const size_t exponent = SkipSign(text, end + 1);
+        if (const size_t last = SkipDigits(text, exponent); last > exponent) end = last;
+    }
+    text.resize(end);
+    return text;
+}
+
 bool Convert(const VARIANT& value, VARTYPE type, _variant_t& result) {
     if (IsNoNumber(value)) return false;
     return SUCCEEDED(VariantChangeTypeEx(&result, const_cast<VARIANT*>(&value), kUserLocale, VARIANT_ALPHABOOL, type));
@@ -63,6 +85,14 @@ std::optional<bool> ParseBoolean(const std::wstring& text) {
     VARIANT_BOOL flag = VARIANT_FALSE;
     if (FAILED(VarBoolFromStr(Source(text), kUserLocale, 0, &flag))) return std::nullopt;
     return flag != VARIANT_FALSE;
+}
+
+double LeadingNumber(const std::wstring& text) {
+    // A fixed locale, so that the point is always the decimal point.
+    constexpr LCID kEnglish = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
+    const std::wstring prefix = NumericPrefix(text);
+    double number = 0;
+    return SUCCEEDED(VarR8FromStr(Source(prefix), kEnglish, 0, &number)) ? number : 0;
 }
 
 long ParseLong(const std::wstring& text) {

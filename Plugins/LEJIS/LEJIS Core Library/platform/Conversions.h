@@ -27,6 +27,10 @@ std::optional<DATE> ParseDate(const std::wstring& text);
 std::optional<double> ParseNumber(const std::wstring& text);
 std::optional<bool> ParseBoolean(const std::wstring& text);
 
+// The number that a text begins with, "." being the decimal point whatever the regional settings; 0 when it begins with
+// none. Blanks count nowhere.
+double LeadingNumber(const std::wstring& text);
+
 // A numeric text as an integer, halves to the even neighbour. Raises the platform's overflow error out of range.
 long ParseLong(const std::wstring& text);
 

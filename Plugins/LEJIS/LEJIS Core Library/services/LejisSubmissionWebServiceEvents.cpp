@@ -4,8 +4,8 @@
 #include "deferred/InvokeLater.h"
 #include "foundation/LejisUtils.h"
 #include "platform/msxml/Document.h"
+#include "services/ServiceErrors.h"
 #include "services/SOAPEnvelope.h"
-#include "services/SubmissionErrors.h"
 #include "services/SubmissionResponse.h"
 
 using platform::ComError;
@@ -30,15 +30,8 @@ void LejisSubmissionWebService::SubmitAsync(const LejisSubmissionDocument& docum
         const ComError error = platform::CaughtError();
         // No answer will come that would part the request and this object.
         request_.ClearReadyStateHandler();
-        switch (error.Number()) {
-            case platform::kInvalidUrl:
-                // With a full stop at its end, unlike the text of a submission that is waited for.
-                return FireReason(kConfigurationError, L"Invalid URL '" + URL + L"'.");
-            case platform::kServerUnreachable:
-                return FireReason(kNetworkError, L"The server is down.");
-            default:
-                return FireReason(kConfigurationError, InternalError(error));
-        }
+        const SendingFailure failure = ToSendingFailure(error, URL);
+        FireReason(failure.isNetworkError ? kNetworkError : kConfigurationError, failure.message);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "services/SubmissionErrors.h"
 
 #include "platform/http/HttpRequest.h"
+#include "services/ServiceErrors.h"
 
 #include <TVLejisCore.h>
 
@@ -31,14 +32,6 @@ ComError SubmissionFailure(const ComError& error, const std::wstring& url, int s
         default:
             return FatalError(InternalError(error) + InLine(step));
     }
-}
-
-std::wstring InternalError(const ComError& error) {
-    return L"Internal error " + std::to_wstring(error.Number()) + L": " + error.Description();
-}
-
-std::wstring InternalServiceError(const ComError& error) {
-    return L"Internal error in web service code: " + error.Description();
 }
 
 std::wstring InLine(int step) { return L" (Line " + std::to_wstring(step) + L")"; }

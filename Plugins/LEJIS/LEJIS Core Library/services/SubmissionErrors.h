@@ -1,4 +1,4 @@
-// The two kinds of errors of a failed submission, and the texts that its failures share.
+// The two kinds of errors of a failed submission.
 #pragma once
 
 #include "platform/ComError.h"
@@ -18,18 +18,7 @@ bool IsSubmissionError(const platform::ComError& error);
 // What a failed submission raises to the client for an error met on the way; `step` is the one that failed.
 platform::ComError SubmissionFailure(const platform::ComError& error, const std::wstring& url, int step);
 
-// "Internal error -2147467259: Unspecified error"
-std::wstring InternalError(const platform::ComError& error);
-
-// "Internal error in web service code: Unspecified error"
-std::wstring InternalServiceError(const platform::ComError& error);
-
 // " (Line 3)"
 std::wstring InLine(int step);
-
-inline constexpr wchar_t kUnexpectedResponse[] =
-    L"The LEJIS core server returned an unexpected response. This likely means the core is either experiencing planned "
-    L"downtime or unexpected technical problems. \r\n"
-    L"It's also possible that your LEJIS Interface settings are incorrect.";
 
 }  // namespace lejis

@@ -4,10 +4,9 @@
 #include "platform/com/Guard.h"
 #include "platform/Conversions.h"
 #include "platform/msxml/Node.h"
+#include "services/ServiceErrors.h"
 #include "services/SOAPEnvelope.h"
 #include "services/SubmissionErrors.h"
-
-#include <cwchar>
 
 using platform::ComError;
 using platform::HttpRequest;
@@ -36,8 +35,7 @@ bool IsSoapResponse(const msxml::Document& response) {
 short ResponseCode(const std::wstring& text) {
     if (text.empty()) throw ComError(DISP_E_BADINDEX, L"Subscript out of range");
     const std::wstring word = text.substr(0, text.find(L' '));
-    const size_t digits = word.find_first_not_of(L"0123456789.", word.starts_with(L'-') || word.starts_with(L'+'));
-    const auto code = platform::RoundTo<short>(_variant_t(std::wcstod(word.substr(0, digits).c_str(), nullptr)));
+    const auto code = platform::RoundTo<short>(_variant_t(platform::LeadingNumber(word)));
     if (!code) throw platform::Overflow();
     return *code;
 }

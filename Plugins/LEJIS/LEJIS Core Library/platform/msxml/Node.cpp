@@ -52,6 +52,11 @@ void SetText(const Element& element, const std::wstring& text) { Check(element->
 
 void Append(const Node& parent, const Node& child) { Check(parent->appendChild(child.Get(), nullptr)); }
 
+void AppendRoot(const Document& document, const Element& root) {
+    if (Root(document)) throw platform::ComError(E_FAIL, L"Only one top level element is allowed in an XML document.");
+    Append(document, root);
+}
+
 std::wstring Text(const Node& node) { return GetText(node, &IXMLDOMNode::get_text); }
 
 std::wstring Attribute(const Element& element, const wchar_t* name) {

@@ -20,6 +20,9 @@ void SetText(const Element& element, const std::wstring& text);
 // Puts `child` behind the last child of `parent`, taking it out of where it was.
 void Append(const Node& parent, const Node& child);
 
+// Makes the element the document's root. Raises when the document has one, also where MSXML would take a second.
+void AppendRoot(const Document& document, const Element& root);
+
 // The text of a node and its descendants.
 std::wstring Text(const Node& node);
 

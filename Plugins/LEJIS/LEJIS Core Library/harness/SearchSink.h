@@ -1,0 +1,24 @@
+#pragma once
+
+#include "harness/TestSearch.h"
+#include "platform/com/UnknownObject.h"
+
+#include <TVLejisCore.h>
+
+namespace lejis {
+
+// Hears the search service's events for the harness, which outlives the connection.
+class SearchSink final : public platform::UnknownObject<_LejisSearchWebServiceEvents> {
+public:
+    explicit SearchSink(TestSearch& harness) : harness_(harness) {}
+
+    STDMETHODIMP GetTypeInfoCount(UINT* count) override;
+    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return DISP_E_UNKNOWNNAME; }
+    STDMETHODIMP Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*, UINT*) override;
+
+private:
+    TestSearch& harness_;
+};
+
+}  // namespace lejis

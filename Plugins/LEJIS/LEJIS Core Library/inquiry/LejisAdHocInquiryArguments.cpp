@@ -1,0 +1,21 @@
+#include "inquiry/LejisAdHocInquiryArguments.h"
+
+#include "foundation/ElementReader.h"
+#include "foundation/ElementWriter.h"
+
+namespace lejis {
+
+// Blanks count here, unlike in the other blocks.
+bool LejisAdHocInquiryArguments::NotEmpty() const { return !QueryString.empty(); }
+
+msxml::Element LejisAdHocInquiryArguments::ToXmlElement(const msxml::Document& document) const {
+    ElementWriter query(document, L"lejis:AdHocInquiryArguments");
+    query.Text(L"lejis:queryString", QueryString);
+    return query.Element();
+}
+
+void LejisAdHocInquiryArguments::FromXmlElement(const msxml::Element& element) {
+    QueryString = ElementReader(element).Text(L"lejis:queryString");
+}
+
+}  // namespace lejis

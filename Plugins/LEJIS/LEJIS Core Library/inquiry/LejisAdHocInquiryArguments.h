@@ -1,0 +1,19 @@
+#pragma once
+
+#include "inquiry/BlockMethods.h"
+#include "platform/com/ComObject.h"
+#include "platform/com/Properties.h"
+
+#include <TVLejisCore.h>
+
+namespace lejis {
+
+// The words to search for, as lejis:AdHocInquiryArguments.
+class LejisAdHocInquiryArguments final
+    : public platform::ComObject<::LejisAdHocInquiryArguments, ILejisAdHocInquiryArguments> {
+public:
+    TEXT_PROPERTY(QueryString)
+    BLOCK_METHODS()
+};
+
+}  // namespace lejis

@@ -1,0 +1,34 @@
+#include "inquiry/LejisInquiryControls.h"
+
+#include "foundation/ElementReader.h"
+#include "foundation/ElementWriter.h"
+#include "platform/Conversions.h"
+#include "platform/msxml/Node.h"
+
+namespace lejis {
+
+// The controls are part of every search.
+bool LejisInquiryControls::NotEmpty() const { return true; }
+
+msxml::Element LejisInquiryControls::ToXmlElement(const msxml::Document& document) const {
+    ElementWriter controls(document, L"lejis:InquiryControls");
+    controls.Boolean(L"lejis:irrinfo", IrrInfo);
+    if (MaxIncidents > 0) controls.Text(L"lejis:maxincidents", std::to_wstring(MaxIncidents));
+    for (long index = 1; index <= static_cast<long>(ExcludedORIIDs->Count()); ++index) {
+        controls.Text(L"lejis:excludedOriid", platform::ToText(ExcludedORIIDs->Item(index)));
+    }
+    return controls.Element();
+}
+
+void LejisInquiryControls::FromXmlElement(const msxml::Element& element) {
+    const ElementReader controls(element);
+    // Exactly "false" is false; every other text, "FALSE" and "0" among them, is true on purpose.
+    IrrInfo = controls.TextIfAny(L"lejis:irrinfo").value_or(L"false") != L"false";
+    MaxIncidents = platform::ParseLong(controls.Text(L"lejis:maxincidents"));
+    ExcludedORIIDs = platform::Create<Collection>();
+    for (const msxml::Element& excluded : controls.Children(L"lejis:excludedOriid")) {
+        ExcludedORIIDs->AddText(msxml::Text(excluded));
+    }
+}
+
+}  // namespace lejis

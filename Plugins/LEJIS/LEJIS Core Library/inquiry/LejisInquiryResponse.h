@@ -1,0 +1,29 @@
+#pragma once
+
+#include "model/LejisIncidentIndexCard.h"
+#include "platform/com/Collection.h"
+#include "platform/com/ComObject.h"
+#include "platform/com/Properties.h"
+
+#include <TVLejisCore.h>
+
+namespace lejis {
+
+// The answer to a search, from lejis:LEJISIndexInquiryResponse. The server's count and the number of cards are two
+// things: it may find more than it returns.
+class LejisInquiryResponse final : public platform::ComObject<::LejisInquiryResponse, ILejisInquiryResponse> {
+public:
+    OBJECT_PROPERTY(Collection, IncidentIndexCards)
+    STDMETHODIMP get_IncidentCount(long* result) override;
+    STDMETHODIMP FromXmlElement(IDispatch* elem) override;
+    STDMETHODIMP FromXmlDocument(IDispatch* doc) override;
+
+    long IncidentCount = 0;
+
+    // A card that cannot be read raises; those before it stay, and the count keeps its old value.
+    void FromXmlElement(const msxml::Element& element);
+    // Reads the first answer at any depth of the node. Raises the object error when there is none.
+    void FromXmlBelow(const msxml::Node& node);
+};
+
+}  // namespace lejis

@@ -1,0 +1,32 @@
+#include "inquiry/LocationInquiryArguments.h"
+
+#include "foundation/ElementReader.h"
+#include "foundation/ElementWriter.h"
+#include "inquiry/Blanks.h"
+
+namespace lejis {
+
+bool LocationInquiryArguments::NotEmpty() const {
+    return AnyNotBlank({&StreetFullText, &StreetName, &City, &State, &ZIP});
+}
+
+msxml::Element LocationInquiryArguments::ToXmlElement(const msxml::Document& document) const {
+    ElementWriter location(document, L"inq:LocationInquiryArguments");
+    location.OptionalText(L"j:StreetFullText", StreetFullText);
+    location.OptionalText(L"j:StreetName", StreetName);
+    location.OptionalText(L"j:LocationCityName", City);
+    location.OptionalText(L"j:LocationStateCode.ncicLSTA", State);
+    location.OptionalId(L"j:LocationPostalCodeID", ZIP);
+    return location.Element();
+}
+
+void LocationInquiryArguments::FromXmlElement(const msxml::Element& element) {
+    const ElementReader location(element);
+    StreetFullText = location.Text(L"j:StreetFullText");
+    StreetName = location.Text(L"j:StreetName");
+    City = location.Text(L"j:LocationCityName");
+    State = location.Text(L"j:LocationStateCode.ncicLSTA");
+    ZIP = location.Text(L"j:LocationPostalCodeID/j:ID");
+}
+
+}  // namespace lejis

@@ -1,0 +1,56 @@
+#include "inquiry/PersonInquiryArguments.h"
+
+#include "foundation/DateText.h"
+#include "foundation/ElementReader.h"
+#include "foundation/ElementWriter.h"
+#include "foundation/NumberText.h"
+#include "inquiry/Blanks.h"
+#include "inquiry/NumberReading.h"
+#include "platform/Conversions.h"
+
+namespace lejis {
+
+bool PersonInquiryArguments::NotEmpty() const {
+    return AnyNotBlank(
+               {&GivenName, &MiddleName, &SurName, &SSN, &DriversLicense, &DriversLicenseState, &SexNCIC, &RaceNCIC}) ||
+           BirthDate->Date() || Height->Number() || Weight->Number();
+}
+
+// Blanks do not make the block worth sending, but are written where another field does.
+msxml::Element PersonInquiryArguments::ToXmlElement(const msxml::Document& document) const {
+    ElementWriter person(document, L"inq:PersonInquiryArguments");
+    person.Text(L"j:PersonSurName", SurName);
+    person.Text(L"j:PersonGivenName", GivenName);
+    person.Text(L"j:PersonMiddleName", MiddleName);
+    person.OptionalId(L"j:PersonSSNID", SSN);
+    // Either half will do for a search, unlike on a card.
+    if (!DriversLicense.empty() || !DriversLicenseState.empty()) {
+        ElementWriter licence(document, L"j:PersonDriverLicenseID");
+        licence.OptionalText(L"j:ID", DriversLicense);
+        licence.OptionalText(L"j:IDJurisdictionCode.ncicLSTA", DriversLicenseState);
+        person.Child(licence);
+    }
+    person.OptionalText(L"j:PersonBirthDate", FormatNullableDate(*BirthDate.Get()));
+    person.OptionalText(L"j:PersonSexCode", SexNCIC);
+    person.OptionalText(L"j:PersonRaceCode", RaceNCIC);
+    person.OptionalMeasure(L"j:PersonHeightMeasure", NumberText(*Height.Get()), L"j:personHeightUnitCode");
+    person.OptionalMeasure(L"j:PersonWeightMeasure", NumberText(*Weight.Get()), L"j:personWeightUnitCode");
+    return person.Element();
+}
+
+void PersonInquiryArguments::FromXmlElement(const msxml::Element& element) {
+    const ElementReader person(element);
+    SurName = person.Text(L"j:PersonSurName");
+    GivenName = person.Text(L"j:PersonGivenName");
+    MiddleName = person.Text(L"j:PersonMiddleName");
+    SSN = person.Text(L"j:PersonSSNID/j:ID");
+    DriversLicense = person.Text(L"j:PersonDriverLicenseID/j:ID");
+    DriversLicenseState = person.Text(L"j:PersonDriverLicenseID/j:IDJurisdictionCode.ncicLSTA");
+    BirthDate->Set(platform::ParseDate(person.Text(L"j:PersonBirthDate")));
+    SexNCIC = person.Text(L"j:PersonSexCode");
+    RaceNCIC = person.Text(L"j:PersonRaceCode");
+    ReadNumber(person.Text(L"j:PersonWeightMeasure"), *Weight.Get());
+    ReadNumber(person.Text(L"j:PersonHeightMeasure"), *Height.Get());
+}
+
+}  // namespace lejis

@@ -1,0 +1,29 @@
+#include "inquiry/PropertyInquiryArguments.h"
+
+#include "foundation/ElementReader.h"
+#include "foundation/ElementWriter.h"
+#include "inquiry/Blanks.h"
+
+namespace lejis {
+
+bool PropertyInquiryArguments::NotEmpty() const { return AnyNotBlank({&Category, &Make, &Model, &SerialNumber}); }
+
+// Unlike the other blocks this one writes all it has, empty texts too.
+msxml::Element PropertyInquiryArguments::ToXmlElement(const msxml::Document& document) const {
+    ElementWriter property(document, L"inq:PropertyInquiryArguments");
+    property.Text(L"j:PropertyCategoryText", Category);
+    property.Text(L"j:PropertyMakeName", Make);
+    property.Text(L"j:PropertyModelName", Model);
+    property.Id(L"j:PropertySerialID", SerialNumber);
+    return property.Element();
+}
+
+void PropertyInquiryArguments::FromXmlElement(const msxml::Element& element) {
+    const ElementReader property(element);
+    Category = property.Text(L"j:PropertyCategoryText");
+    Make = property.Text(L"j:PropertyMakeName");
+    Model = property.Text(L"j:PropertyModelName");
+    SerialNumber = property.Text(L"j:PropertySerialID/j:ID");
+}
+
+}  // namespace lejis

@@ -1,0 +1,45 @@
+#include "inquiry/VehicleInquiryArguments.h"
+
+#include "foundation/ElementReader.h"
+#include "foundation/ElementWriter.h"
+#include "foundation/NodeFactory.h"
+#include "foundation/NumberText.h"
+#include "inquiry/Blanks.h"
+#include "inquiry/NumberReading.h"
+
+namespace lejis {
+
+bool VehicleInquiryArguments::NotEmpty() const {
+    return AnyNotBlank({&Make, &Model, &Style, &Color, &LicensePlate, &LicensePlateState, &VIN}) || Year->Number();
+}
+
+msxml::Element VehicleInquiryArguments::ToXmlElement(const msxml::Document& document) const {
+    ElementWriter vehicle(document, L"inq:VehicleInquiryArguments");
+    vehicle.OptionalId(L"j:VehicleID", VIN);
+    // Either half will do for a search, and both elements are written then.
+    if (!LicensePlate.empty() || !LicensePlateState.empty()) {
+        vehicle.Child(NodeFactory::CreateJurisdictionIdElement(document, L"j:VehicleLicensePlateID", LicensePlate,
+                                                               LicensePlateState));
+    }
+    // Make and style are of the LEJIS extension, the rest is GJXDM.
+    vehicle.Text(L"ext:VehicleMakeText", Make);
+    vehicle.Text(L"j:VehicleModelCodeText", Model);
+    vehicle.OptionalText(L"j:VehicleModelYearDate", NumberText(*Year.Get()));
+    vehicle.Text(L"ext:VehicleStyleText", Style);
+    vehicle.Text(L"j:VehicleColorPrimaryText", Color);
+    return vehicle.Element();
+}
+
+void VehicleInquiryArguments::FromXmlElement(const msxml::Element& element) {
+    const ElementReader vehicle(element);
+    VIN = vehicle.Text(L"j:VehicleID/j:ID");
+    LicensePlate = vehicle.Text(L"j:VehicleLicensePlateID/j:ID");
+    LicensePlateState = vehicle.Text(L"j:VehicleLicensePlateID/j:IDJurisdictionCode.ncicLSTA");
+    Make = vehicle.Text(L"ext:VehicleMakeText");
+    Model = vehicle.Text(L"j:VehicleModelCodeText");
+    ReadNumber(vehicle.Text(L"j:VehicleModelYearDate"), *Year.Get());
+    Style = vehicle.Text(L"ext:VehicleStyleText");
+    Color = vehicle.Text(L"j:VehicleColorPrimaryText");
+}
+
+}  // namespace lejis

@@ -1,0 +1,137 @@
+#include "services/LejisSearchWebService.h"
+
+#include "deferred/InvokeLater.h"
+#include "foundation/Constants.h"
+#include "foundation/LejisUtils.h"
+#include "inquiry/LejisInquiryResponse.h"
+#include "platform/com/Inside.h"
+#include "platform/msxml/Document.h"
+#include "platform/msxml/Node.h"
+#include "services/SchemaUtils.h"
+#include "services/SearchEnvelope.h"
+#include "services/ServiceErrors.h"
+#include "services/SOAPEnvelope.h"
+
+using platform::HttpRequest;
+
+namespace lejis {
+namespace {
+
+// The events by their numbers in the interface. Number 2, SearchFailed, is never raised.
+constexpr DISPID kSearchCompleted = 1;
+constexpr DISPID kConfigurationError = 3;
+constexpr DISPID kNetworkError = 4;
+constexpr DISPID kServiceError = 5;
+
+constexpr long kOk = 200;
+constexpr long kForbidden = 403;
+
+// "additioanal" and the blanks at the ends of lines are deliberate: clients know this text.
+constexpr wchar_t kTooBroad[] =
+    L"The LEJIS core server could not handle your search request. \r\n\r\n"
+    L"A common cause of this is that you did not provide enough information in your search. \r\n"
+    L"Try narrowing your search by entering additioanal search criteria. \r\n\r\n"
+    L"Some LEJIS searches, such as a property search, require you to enter specific information\r\n"
+    L"(for example, property searches require you to specify a property serial number in your search).";
+
+}  // namespace
+
+STDMETHODIMP LejisSearchWebService::get_results(ICollection** result) {
+    return platform::ReturnObject(results_, result);
+}
+
+STDMETHODIMP LejisSearchWebService::Search(ILejisSearchRequest* request) {
+    return Guard([&] {
+        try {
+            Send(*platform::Inside<LejisSearchRequest>(request).Get());
+        } catch (...) {
+            const SendingFailure failure = ToSendingFailure(platform::CaughtError(), URL);
+            // No answer will come that would part the request and this object.
+            isAwaited_ = false;
+            request_.ClearReadyStateHandler();
+            FireReason(failure.isNetworkError ? kNetworkError : kConfigurationError, failure.message);
+        }
+    });
+}
+
+void LejisSearchWebService::Send(const LejisSearchRequest& request) {
+    const msxml::Document envelope = WrapInSearchEnvelope(msxml::Root(request.ToXmlDocument()), Username);
+    LejisUtils::SaveDebugDocument(envelope, L"LejisSearchRequest.xml");
+    if (ValidateSchema) SchemaUtils::ValidateSchemaFromWSDL(envelope, URL + L"?wsdl");
+    // Late news of a search that this one replaces is not taken for its own.
+    request_.ClearReadyStateHandler();
+    request_ = HttpRequest::Create();
+    isAwaited_ = true;
+    request_.SetReadyStateHandler(Dispatch());
+    request_.Open(L"POST", URL, true);
+    request_.SetHeader(L"SOAPAction", Constants::kSearchAction);
+    request_.SetHeader(L"Content-Type", L"text/xml;charset=utf-8");
+    request_.Send(msxml::Xml(envelope));
+}
+
+STDMETHODIMP LejisSearchWebService::OnReadyStateChange() {
+    return Guard([&] {
+        // Inside of the request's callback nothing is processed: the answer is read a moment later.
+        if (request_ && request_.ReadyState() == HttpRequest::kComplete) LejisUtils::InvokeLater(this);
+    });
+}
+
+STDMETHODIMP LejisSearchWebService::IRunnable_Run() {
+    return Guard([&] {
+        // A completion reported twice, or that of a search since replaced, is not a second answer.
+        if (!isAwaited_ || request_.ReadyState() != HttpRequest::kComplete) return;
+        isAwaited_ = false;
+        try {
+            // The request and this object hold each other until here.
+            request_.ClearReadyStateHandler();
+            RaiseOutcome();
+        } catch (...) {
+            FireReason(kServiceError, InternalServiceError(platform::CaughtError()));
+        }
+    });
+}
+
+void LejisSearchWebService::RaiseOutcome() {
+    const long status = request_.Status();
+    if (status == kOk) {
+        RaiseFound();
+    } else if (LejisUtils::IsTransientStatus(status)) {
+        FireReason(kNetworkError, LejisUtils::GetNetworkErrorMessage(request_));
+    } else if (status == kForbidden) {
+        FireReason(kConfigurationError, request_.StatusText());
+    } else {
+        RaiseServiceError();
+    }
+}
+
+void LejisSearchWebService::RaiseFound() {
+    const msxml::Document answer = request_.ResponseXml();
+    if (!answer) return;
+    LejisUtils::SaveDebugDocument(answer, L"LejisSearchResponse.xml");
+    const auto envelope = platform::Create<SOAPEnvelope>();
+    envelope->FromXmlDocument(answer);
+    const auto response = platform::Create<LejisInquiryResponse>();
+    response->FromXmlBelow(envelope->BodyElement());
+    if (response->IncidentCount != 0 && response->IncidentIndexCards->Count() == 0) {
+        return FireReason(kServiceError, kTooBroad);
+    }
+    results_ = response->IncidentIndexCards;
+    Fire(kSearchCompleted, {_variant_t(results_->Dispatch())});
+}
+
+void LejisSearchWebService::RaiseServiceError() {
+    const msxml::Document answer = request_.ResponseXml();
+    if (!answer) throw platform::ObjectRequired();
+    if (msxml::Root(answer)) {
+        const auto envelope = platform::Create<SOAPEnvelope>();
+        envelope->FromXmlDocument(answer);
+        if (envelope->IsFault()) return FireReason(kServiceError, envelope->FaultMessage());
+    }
+    FireReason(kServiceError, kUnexpectedResponse);
+}
+
+void LejisSearchWebService::FireReason(DISPID event, const std::wstring& reasonMessage) {
+    Fire(event, {_variant_t(platform::ToBstr(reasonMessage))});
+}
+
+}  // namespace lejis

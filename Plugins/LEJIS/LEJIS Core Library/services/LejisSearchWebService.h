@@ -1,0 +1,45 @@
+#pragma once
+
+#include "inquiry/LejisSearchRequest.h"
+#include "platform/com/Collection.h"
+#include "platform/com/EventSource.h"
+#include "platform/com/Properties.h"
+#include "platform/http/HttpRequest.h"
+
+#include <TVLejisCore.h>
+
+namespace lejis {
+
+using platform::Collection;
+
+// Sends a search and reports its outcome by exactly one event. It stays alive while its answer is under way, also when
+// its client has let go of it. A search replaces one that is still under way, whose answer is lost.
+class LejisSearchWebService final : public platform::EventSource<::LejisSearchWebService, ILejisSearchWebService,
+                                                                 _LejisSearchWebServiceEvents, IRunnable> {
+public:
+    BOOLEAN_PROPERTY(ValidateSchema)
+    TEXT_PROPERTY(URL)
+    TEXT_PROPERTY(Username)
+    STDMETHODIMP get_results(ICollection** result) override;
+    STDMETHODIMP Search(ILejisSearchRequest* request) override;
+    STDMETHODIMP OnReadyStateChange() override;
+    STDMETHODIMP Run() override { return IRunnable_Run(); }
+
+private:
+    STDMETHODIMP IRunnable_Run();
+
+    void Send(const LejisSearchRequest& request);
+    void RaiseOutcome();
+    void RaiseFound();
+    void RaiseServiceError();
+    void FireReason(DISPID event, const std::wstring& reasonMessage);
+
+    // That of the search in progress or of the last one.
+    platform::HttpRequest request_;
+    // A search has been sent and its event not yet raised.
+    bool isAwaited_ = false;
+    // Those of the last success; a failure does not clear them.
+    Microsoft::WRL::ComPtr<Collection> results_;
+};
+
+}  // namespace lejis

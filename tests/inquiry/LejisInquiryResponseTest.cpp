@@ -1,0 +1,95 @@
+#include "inquiry/LejisInquiryResponse.h"
+
+#include "support/ComCheck.h"
+#include "support/Xml.h"
+#include "unit_support/Answers.h"
+#include "unit_support/Raises.h"
+
+#include <gtest/gtest.h>
+
+using Microsoft::WRL::ComPtr;
+using support::AnsweredCard;
+using support::ParseElement;
+
+namespace lejis {
+namespace {
+
+std::wstring Answer(const std::wstring& content) {
+    return L"<lejis:LEJISIndexInquiryResponse>" + content + L"</lejis:LEJISIndexInquiryResponse>";
+}
+
+std::wstring Counted(const std::wstring& count) { return L"<lejis:incidentcount>" + count + L"</lejis:incidentcount>"; }
+
+ComPtr<LejisInquiryResponse> Read(const std::wstring& content) {
+    auto response = platform::Create<LejisInquiryResponse>();
+    response->FromXmlElement(ParseElement(Answer(content)));
+    return response;
+}
+
+TEST(LejisInquiryResponse, IsEmptyWhenNewAndForAnEmptyAnswer) {
+    for (const auto& response : {platform::Create<LejisInquiryResponse>(), Read(L"")}) {
+        EXPECT_EQ(0u, response->IncidentIndexCards->Count());
+        EXPECT_EQ(0, response->IncidentCount);
+    }
+}
+
+TEST(LejisInquiryResponse, KeepsTheServersCountApartFromTheCards) {
+    const auto response = Read(Counted(L"12") + AnsweredCard(L"1") + AnsweredCard(L"2") + AnsweredCard(L"3"));
+    EXPECT_EQ(12, response->IncidentCount);
+    ASSERT_EQ(3u, response->IncidentIndexCards->Count());
+    EXPECT_EQ(L"1", response->IncidentIndexCards->ItemAs<LejisIncidentIndexCard>(1)->ActivityID);
+    EXPECT_EQ(L"3", response->IncidentIndexCards->ItemAs<LejisIncidentIndexCard>(3)->ActivityID);
+}
+
+TEST(LejisInquiryResponse, RoundsTheCountToEvenAndTakesItsLeadingNumber) {
+    const struct {
+        const wchar_t* text;
+        long count;
+    } rows[] = {{L"2.5", 2},   {L"3.5", 4},   {L"12 found", 12}, {L"abc", 0}, {L"", 0},  {L"-3", -3},
+                {L"1e2", 100}, {L"1,234", 1}, {L"0.5", 0},       {L".6", 1},  {L"+7", 7}};
+    for (const auto& row : rows) EXPECT_EQ(row.count, Read(Counted(row.text))->IncidentCount) << row.text;
+}
+
+TEST(LejisInquiryResponse, RaisesForACountOutOfRange) {
+    EXPECT_TRUE(support::Raises(DISP_E_OVERFLOW, L"Overflow", [] { Read(Counted(L"3000000000")); }));
+}
+
+TEST(LejisInquiryResponse, ReplacesTheCardsOfAnEarlierRead) {
+    const auto response = Read(AnsweredCard(L"1") + AnsweredCard(L"2"));
+    const ComPtr<Collection> before = response->IncidentIndexCards;
+    response->FromXmlElement(ParseElement(Answer(AnsweredCard(L"3"))));
+    EXPECT_EQ(1u, response->IncidentIndexCards->Count());
+    EXPECT_EQ(2u, before->Count());
+}
+
+TEST(LejisInquiryResponse, PassesOverCardsThatStandDeeper) {
+    EXPECT_EQ(1u, Read(L"<x>" + AnsweredCard(L"1") + L"</x>" + AnsweredCard(L"2"))->IncidentIndexCards->Count());
+}
+
+TEST(LejisInquiryResponse, KeepsTheCardsBeforeOneThatCannotBeRead) {
+    const auto response = Read(Counted(L"7"));
+    EXPECT_TRUE(support::Raises(support::kInvalidArgument, L"elem cannot be Nothing", [&] {
+        response->FromXmlElement(
+            ParseElement(Answer(AnsweredCard(L"1") + L"<lejis:RMSIncidentIndexCard/>" + Counted(L"2"))));
+    }));
+    EXPECT_EQ(1u, response->IncidentIndexCards->Count());
+    EXPECT_EQ(7, response->IncidentCount);
+}
+
+TEST(LejisInquiryResponse, FindsTheAnswerAtAnyDepth) {
+    const auto response = platform::Create<LejisInquiryResponse>();
+    const auto document = support::Parse(support::InquiryResponse(AnsweredCard(L"1")));
+    EXPECT_OK(static_cast<ILejisInquiryResponse*>(response.Get())->FromXmlDocument(document.Get()));
+    EXPECT_EQ(1u, response->IncidentIndexCards->Count());
+}
+
+TEST(LejisInquiryResponse, RaisesTheObjectErrorWithoutAnAnswer) {
+    const auto response = platform::Create<LejisInquiryResponse>();
+    auto* client = static_cast<ILejisInquiryResponse*>(response.Get());
+    EXPECT_TRUE(support::FailedWith(client->FromXmlDocument(support::Parse(L"<x/>").Get()), support::kObjectRequired,
+                                    L"Object required"));
+    EXPECT_TRUE(support::FailedWith(client->FromXmlElement(nullptr), support::kObjectRequired, L"Object required"));
+}
+
+}  // namespace
+}  // namespace lejis

@@ -1,0 +1,33 @@
+#include "support/MessageBoxCloser.h"
+
+namespace support {
+namespace {
+
+constexpr UINT kLookEvery = 50;
+// The control of a message box that holds its text.
+constexpr int kTextControl = 0xFFFF;
+
+}  // namespace
+
+MessageBoxCloser* MessageBoxCloser::active_ = nullptr;
+
+MessageBoxCloser::MessageBoxCloser(std::wstring title)
+    : title_(std::move(title)), timer_(SetTimer(nullptr, 0, kLookEvery, Look)) {
+    active_ = this;
+}
+
+MessageBoxCloser::~MessageBoxCloser() {
+    KillTimer(nullptr, timer_);
+    active_ = nullptr;
+}
+
+void CALLBACK MessageBoxCloser::Look(HWND, UINT, UINT_PTR, DWORD) {
+    const HWND box = active_ ? FindWindowW(L"#32770", active_->title_.c_str()) : nullptr;
+    if (!box) return;
+    wchar_t text[1024] = L"";
+    GetDlgItemTextW(box, kTextControl, text, ARRAYSIZE(text));
+    active_->text_ = text;
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+}
+
+}  // namespace support

@@ -1,0 +1,31 @@
+// Reads the message box that is to come, and closes it with its button.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace support {
+
+// Looks for a message box with this title from the thread's own messages, which go on while the box is shown.
+class MessageBoxCloser {
+public:
+    explicit MessageBoxCloser(std::wstring title);
+    ~MessageBoxCloser();
+    MessageBoxCloser(const MessageBoxCloser&) = delete;
+    MessageBoxCloser& operator=(const MessageBoxCloser&) = delete;
+
+    // What the box said; empty when none has come.
+    const std::wstring& Text() const { return text_; }
+
+private:
+    static void CALLBACK Look(HWND, UINT, UINT_PTR, DWORD);
+
+    static MessageBoxCloser* active_;
+
+    const std::wstring title_;
+    std::wstring text_;
+    UINT_PTR timer_;
+};
+
+}  // namespace support
