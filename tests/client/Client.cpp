@@ -30,8 +30,18 @@ const std::vector<ClassRow>& CreatableClasses() {
         CLASS_ROW(FutureManager),
         CLASS_ROW(LejisIncidentValidator),
         CLASS_ROW(LejisIncidentFormatter),
+        CLASS_ROW(PersonInquiryArguments),
+        CLASS_ROW(LocationInquiryArguments),
+        CLASS_ROW(PropertyInquiryArguments),
+        CLASS_ROW(VehicleInquiryArguments),
+        CLASS_ROW(LejisAdHocInquiryArguments),
+        CLASS_ROW(LejisInquiryControls),
+        CLASS_ROW(LejisSearchRequest),
+        CLASS_ROW(LejisInquiryResponse),
         CLASS_ROW(SOAPEnvelope),
         CLASS_ROW(LejisSubmissionWebService),
+        CLASS_ROW(LejisSearchWebService),
+        CLASS_ROW(TestSearch),
     };
     return classes;
 }

@@ -42,6 +42,8 @@ std::string Call(const wchar_t* method, const std::string& path, const std::stri
 
 std::wstring SubmissionUrl() { return support::Wide(Root() + "/lejis-core-Rev01/services/submission"); }
 
+std::wstring SearchUrl() { return support::Wide(Root() + "/lejis-core-Rev01/services/search"); }
+
 void Reset() {
     for (const char* what : {"faults", "index", "exchanges"}) Call(L"DELETE", std::string("/control/") + what);
 }

@@ -6,6 +6,7 @@
 namespace end_to_end {
 
 std::wstring SubmissionUrl();
+std::wstring SearchUrl();
 
 // Forgets faults, incidents and exchanges.
 void Reset();
