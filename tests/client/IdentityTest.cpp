@@ -79,8 +79,10 @@ TEST_P(Identity, TellsItsDefaultEventsAndOnlyThose) {
     GUID events = __uuidof(IUnknown);
     ASSERT_OK(object_.As(&provider));
     EXPECT_OK(provider->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events));
-    const bool raises = GetParam().id == __uuidof(LejisSubmissionWebService);
-    EXPECT_EQ(GuidText(raises ? __uuidof(_LejisSubmissionWebServiceEvents) : GUID_NULL), GuidText(events));
+    GUID expected = GUID_NULL;
+    if (GetParam().id == __uuidof(LejisSubmissionWebService)) expected = __uuidof(_LejisSubmissionWebServiceEvents);
+    if (GetParam().id == __uuidof(LejisSearchWebService)) expected = __uuidof(_LejisSearchWebServiceEvents);
+    EXPECT_EQ(GuidText(expected), GuidText(events));
     EXPECT_EQ(E_INVALIDARG, provider->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID + 1, &events));
     EXPECT_EQ(E_POINTER, provider->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, nullptr));
 }
