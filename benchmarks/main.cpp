@@ -3,6 +3,8 @@
 #include "BareTree.h"
 #include "checking/LejisIncidentFormatter.h"
 #include "checking/LejisIncidentValidator.h"
+#include "inquiry/LejisInquiryResponse.h"
+#include "LargeAnswer.h"
 #include "Measurement.h"
 #include "model/LejisSubmissionDocument.h"
 #include "platform/msxml/Document.h"
@@ -41,22 +43,37 @@ std::vector<Work> Works(const Microsoft::WRL::ComPtr<lejis::LejisIncidentIndexCa
     };
 }
 
-void Print(const std::vector<Measurement>& measurements) {
-    std::printf("\n%-50s %10s %21s %8s\n", "a typical submission", "median", "fastest to slowest", "ratio");
+void Print(const char* title, const std::vector<Measurement>& measurements) {
+    std::printf("%-50s %10s %22s %8s\n", title, "median", "fastest to slowest", "ratio");
     for (const Measurement& one : measurements) {
         std::printf("%-50s %7.0f us %8.0f to %7.0f us %8.2f\n", one.name.c_str(), one.median, one.fastest, one.slowest,
                     one.median / measurements.front().median);
     }
 }
 
-void Run() {
+void MeasureSubmission() {
     const auto incident = TypicalIncident();
     const msxml::Document request = msxml::CreateDocument();
     msxml::LoadXml(request, RequestText(incident));
     const BareTree floor(msxml::Root(request));
     std::printf("%zu elements in a request; median of %d rounds of %d, all works in turn; ratios to the first line\n",
                 floor.ElementCount(), kRounds, kRepetitions);
-    Print(Measure(Works(incident, floor), kRounds, kRepetitions));
+    Print("a typical submission", Measure(Works(incident, floor), kRounds, kRepetitions));
+}
+
+void MeasureReading(int incidents) {
+    constexpr int kReadingRounds = 9;
+    const std::wstring text = LargeAnswer(incidents);
+    const msxml::Document loaded = msxml::CreateDocument();
+    msxml::LoadXml(loaded, text);
+    const auto response = platform::Create<lejis::LejisInquiryResponse>();
+    const std::vector<Work> works = {
+        {"MSXML: loadXML of the same text", [&] { msxml::LoadXml(msxml::CreateDocument(), text); }},
+        {"read into cards, from the loaded document", [&] { response->FromXmlDocument(loaded.Get()); }},
+    };
+    std::printf("\n%d incidents, %.1f MB as UTF-8; median of %d rounds\n", incidents,
+                static_cast<double>(text.size()) / 1e6, kReadingRounds);
+    Print("an answer to a search", Measure(works, kReadingRounds, 1));
 }
 
 }  // namespace
@@ -64,7 +81,8 @@ void Run() {
 
 int main() {
     if (FAILED(OleInitialize(nullptr))) return EXIT_FAILURE;
-    benchmarks::Run();
+    benchmarks::MeasureSubmission();
+    for (const int incidents : {1000, 4000}) benchmarks::MeasureReading(incidents);
     OleUninitialize();
     return EXIT_SUCCESS;
 }

@@ -9,6 +9,7 @@ source "$project/tools/wine-environment.sh"
 : "${LEJIS_SIMULATOR_URL:?with_simulator.sh starts this}"
 lejis=$(windows_path "$project/build/$1/bin/lejis.exe")
 submission_url=$LEJIS_SIMULATOR_URL/lejis-core-Rev01/services/submission
+search_url=$LEJIS_SIMULATOR_URL/lejis-core-Rev01/services/search
 # No server listens on port 1.
 dead_url=http://127.0.0.1:1/lejis-core-Rev01/services/submission
 answer=$LEJIS_SIMULATOR_DATA/lejis-output
@@ -109,6 +110,30 @@ heading "None of these attempts has touched the index; the next one succeeds"
 index_holds 4
 lejis_gives "$done_code" submit "$(sample burglary)" --url "$submission_url"
 index_holds 5
+
+heading "What the index holds is found again: by name, by serial number, by words"
+lejis_gives "$done_code" search --surname hol --user jdoe --url "$search_url"
+it_says '2024-001873'
+lejis_gives "$done_code" search --serial NW14-88213-K --user jdoe --url "$search_url"
+it_says '2024-001873'
+lejis_gives "$done_code" search --text Harlow --user jdoe --url "$search_url"
+it_says '24-H-00519'
+lejis_gives "$done_code" search --surname nobody --user jdoe --url "$search_url"
+it_says 'nothing was found'
+
+heading "A search that is too broad is not answered"
+lejis_gives "$refused" search --property-make Northwind --user jdoe --url "$search_url"
+it_says 'narrowing your search'
+
+heading "A user whom JNET does not know is told whom to ask"
+lejis_gives "$refused" search --surname hol --user unknown --url "$search_url"
+it_says 'JNET User ID is not known'
+
+heading "The server breaks off in the middle of its answer; the next search succeeds"
+simulator_plays '{"target": "search", "kind": "truncated"}'
+lejis_gives "$refused" search --surname hol --user jdoe --url "$search_url"
+it_says 'Internal error in web service code'
+lejis_gives "$done_code" search --surname hol --user jdoe --url "$search_url"
 
 heading "A command that makes no sense is told apart from all of these"
 lejis_gives "$wrong_usage" submit
