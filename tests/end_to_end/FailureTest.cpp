@@ -3,10 +3,14 @@
 #include "end_to_end/EndToEndTest.h"
 #include "support/ComCheck.h"
 #include "support/Printing.h"
+#include "support/ServiceTexts.h"
 
 #include <gtest/gtest.h>
 
 using Microsoft::WRL::ComPtr;
+using support::kUnexpectedError;
+using support::NoMessageText;
+using support::PartiallyOffline;
 
 namespace end_to_end {
 namespace {
@@ -18,22 +22,6 @@ struct Failure {
     long number;
     std::wstring description;
 };
-
-const std::wstring kUnexpectedError =
-    L"The LEJIS server returned an unexpected error. \r\n\r\nCheck that the correct JNET User ID is configured for "
-    L"your "
-    L"user account in Administration and that the machine where the LEJIS Interface is running has a valid LEJIS "
-    L"certificate installed and configured.\r\n\r\nIf the issue persists, check the LEJISRedirector log on your LEJIS "
-    L"Interface machine/server.";
-
-std::wstring PartiallyOffline(int status) {
-    return L"The LEJIS core server appears to be partially offline. It returned a " + std::to_wstring(status) +
-           L" HTTP status code but did not return a valid SOAP XML response.";
-}
-
-std::wstring NoMessageText(int status) {
-    return L"The LEJIS server returned HTTP status code " + std::to_wstring(status) + L" (no message text)";
-}
 
 const Failure kFailures[] = {
     {"Code0", R"({"kind": "response-code", "text": "0"})", 0, L""},

@@ -51,7 +51,7 @@ class CommandLineTest(LejisCase):
     def test_help_names_every_command_and_exit_code(self):
         for option in ("--help", "-h"):
             text = self.expect(DONE, option)
-            for word in ("lejis check", "lejis submit", "lejis delete", "--version", "Exit codes: 0 ", "64"):
+            for word in ("lejis check", "lejis submit", "lejis delete", "lejis search", "--version", "Exit codes: 0 ", "64"):
                 self.assertIn(word, text)
 
     def test_each_command_has_help_of_its_own_whatever_else_is_given(self):
@@ -60,7 +60,7 @@ class CommandLineTest(LejisCase):
             self.assertIn(word, self.expect(DONE, command, "no such file.xml", "--help"))
 
     def test_help_fits_an_old_console(self):
-        for arguments in ((), ("check",), ("submit",), ("delete",)):
+        for arguments in ((), ("check",), ("submit",), ("delete",), ("search",)):
             for line in self.expect(DONE, *arguments, "--help").splitlines():
                 self.assertLessEqual(len(line), 85)
 

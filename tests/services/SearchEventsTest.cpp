@@ -3,6 +3,7 @@
 #include "services/LejisSearchWebService.h"
 
 #include "support/Messages.h"
+#include "support/ServiceTexts.h"
 #include "unit_support/Answers.h"
 #include "unit_support/EventLog.h"
 #include "unit_support/ScriptedRequest.h"
@@ -29,26 +30,16 @@ struct EventRow {
 
 const std::wstring kInternal = L"ServiceError: Internal error in web service code: ";
 const std::wstring kNoObject = kInternal + L"Object required";
-const std::wstring kUnexpected =
-    L"ServiceError: The LEJIS core server returned an unexpected response. This likely means the core is either "
-    L"experiencing planned downtime or unexpected technical problems. \r\nIt's also possible that your LEJIS Interface "
-    L"settings are incorrect.";
+const std::wstring kUnexpected = L"ServiceError: " + support::kUnexpectedAnswer;
 const std::wstring kTooBroad =
     L"ServiceError: The LEJIS core server could not handle your search request. \r\n\r\n"
     L"A common cause of this is that you did not provide enough information in your search. \r\n"
     L"Try narrowing your search by entering additioanal search criteria. \r\n\r\n"
     L"Some LEJIS searches, such as a property search, require you to enter specific information\r\n"
     L"(for example, property searches require you to specify a property serial number in your search).";
-const std::wstring kNetwork =
-    L"NetworkError: The LEJIS server returned an unexpected error. \r\n\r\nCheck that the correct JNET User ID is "
-    L"configured for your user account in Administration and that the machine where the LEJIS Interface is running has "
-    L"a valid LEJIS certificate installed and configured.\r\n\r\nIf the issue persists, check the LEJISRedirector log "
-    L"on your LEJIS Interface machine/server.";
+const std::wstring kNetwork = L"NetworkError: " + support::kUnexpectedError;
 
-std::wstring NoMessageText(int status) {
-    return L"NetworkError: The LEJIS server returned HTTP status code " + std::to_wstring(status) +
-           L" (no message text)";
-}
+std::wstring NoMessageText(int status) { return L"NetworkError: " + support::NoMessageText(status); }
 
 Script Answered(const std::wstring& body, long status = 200) {
     return {.status = status, .statusText = L"Some Reason", .responseText = body};

@@ -3,6 +3,7 @@
 
 #include "deferred/FutureManager.h"
 #include "support/Messages.h"
+#include "support/ServiceTexts.h"
 #include "unit_support/EventLog.h"
 #include "unit_support/Incidents.h"
 #include "unit_support/ScriptedRequest.h"
@@ -25,10 +26,7 @@ struct EventRow {
     std::wstring event;
 };
 
-const std::wstring kUnexpectedAnswer =
-    L"ServiceError: The LEJIS core server returned an unexpected response. This likely means the core is either "
-    L"experiencing planned downtime or unexpected technical problems. \r\nIt's also possible that your LEJIS Interface "
-    L"settings are incorrect.";
+const std::wstring kUnexpectedAnswer = L"ServiceError: " + support::kUnexpectedAnswer;
 
 const EventRow kRows[] = {
     {"Taken", {.responseText = support::SubmissionResponse(L"0")}, L"SubmissionCompleted"},
@@ -38,9 +36,7 @@ const EventRow kRows[] = {
      {.status = 12029},
      L"NetworkError: The LEJIS Interface is down or not accessible. Make sure the LEJIS Interface server role is "
      L"running on your Talvex server."},
-    {"BadGateway",
-     {.status = 502, .hasStatusText = false},
-     L"NetworkError: The LEJIS server returned HTTP status code 502 (no message text)"},
+    {"BadGateway", {.status = 502, .hasStatusText = false}, L"NetworkError: " + support::NoMessageText(502)},
     {"Fault",
      {.status = 500, .responseText = support::SoapFault(L"soap:Server", L"bad card")},
      L"ServiceError: bad card"},

@@ -2,6 +2,7 @@
 #include "services/LejisSubmissionWebService.h"
 
 #include "support/Printing.h"
+#include "support/ServiceTexts.h"
 #include "unit_support/Incidents.h"
 #include "unit_support/Raises.h"
 #include "unit_support/ScriptedRequest.h"
@@ -10,6 +11,9 @@
 #include <gtest/gtest.h>
 
 using support::CleanIncident;
+using support::kUnexpectedAnswer;
+using support::kUnexpectedError;
+using support::PartiallyOffline;
 using support::Script;
 using support::ScriptedHttp;
 using support::Soap;
@@ -28,23 +32,6 @@ struct Outcome {
     long number;
     std::wstring description;
 };
-
-const std::wstring kUnexpectedError =
-    L"The LEJIS server returned an unexpected error. \r\n\r\nCheck that the correct JNET User ID is configured for "
-    L"your "
-    L"user account in Administration and that the machine where the LEJIS Interface is running has a valid LEJIS "
-    L"certificate installed and configured.\r\n\r\nIf the issue persists, check the LEJISRedirector log on your LEJIS "
-    L"Interface machine/server.";
-
-const std::wstring kUnexpectedAnswer =
-    L"The LEJIS core server returned an unexpected response. This likely means the core is either experiencing planned "
-    L"downtime or unexpected technical problems. \r\nIt's also possible that your LEJIS Interface settings are "
-    L"incorrect.";
-
-std::wstring PartiallyOffline(int status) {
-    return L"The LEJIS core server appears to be partially offline. It returned a " + std::to_wstring(status) +
-           L" HTTP status code but did not return a valid SOAP XML response.";
-}
 
 Script Answered(long status, std::wstring body, std::wstring statusText = L"Some Reason") {
     return {.status = status, .statusText = std::move(statusText), .responseText = std::move(body)};
@@ -102,12 +89,9 @@ const Outcome kOutcomes[] = {
     {"RequestTimeout", Answered(408, L""), tvTransientError, kUnexpectedError},
     {"BadGateway", Answered(502, SubmissionResponse(L"0")), tvTransientError, kUnexpectedError},
     {"GatewayTimeout", Answered(504, L""), tvTransientError, kUnexpectedError},
-    {"BadGatewayWithoutReason", WithoutStatusText(502), tvTransientError,
-     L"The LEJIS server returned HTTP status code 502 (no message text)"},
-    {"ClosedEarly", WithoutStatusText(0), tvTransientError,
-     L"The LEJIS server returned HTTP status code 0 (no message text)"},
-    {"WinInet12001", WithoutStatusText(12001), tvTransientError,
-     L"The LEJIS server returned HTTP status code 12001 (no message text)"},
+    {"BadGatewayWithoutReason", WithoutStatusText(502), tvTransientError, support::NoMessageText(502)},
+    {"ClosedEarly", WithoutStatusText(0), tvTransientError, support::NoMessageText(0)},
+    {"WinInet12001", WithoutStatusText(12001), tvTransientError, support::NoMessageText(12001)},
     {"WinInet12002", WithoutStatusText(12002), tvTransientError, L"The connection timed-out."},
     {"WinInet12007", WithoutStatusText(12007), tvTransientError, L"Host not found."},
     {"WinInet12019", WithoutStatusText(12019), tvTransientError,

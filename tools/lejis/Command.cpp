@@ -52,9 +52,10 @@ Outcome DeleteIncident(const CommandLine& commandLine, ILejisIncidentIndexCard* 
 }
 
 constexpr Command kCommands[] = {
-    {L"check", kCheckHelp, false, false, false, L"fit for submission", CheckIncident},
-    {L"submit", kSubmitHelp, true, true, false, L"submitted", SubmitIncident},
-    {L"delete", kDeleteHelp, true, false, true, L"withdrawn", DeleteIncident},
+    {L"check", kCheckHelp, false, false, false, false, L"fit for submission", CheckIncident},
+    {L"submit", kSubmitHelp, true, true, false, false, L"submitted", SubmitIncident},
+    {L"delete", kDeleteHelp, true, false, true, false, L"withdrawn", DeleteIncident},
+    {L"search", kSearchHelp, true, true, false, true, L"", nullptr},
 };
 
 }  // namespace

@@ -18,6 +18,8 @@ struct Command {
     bool canValidateSchema;
     // Whether an incident may be named by its identifiers instead of a file.
     bool canNameIncident;
+    // Whether it asks for incidents; it has no success and is not run on an incident then.
+    bool searches;
     // How a success is called in a result line and in the summary.
     const wchar_t* success;
     Outcome (*run)(const CommandLine& commandLine, ILejisIncidentIndexCard* incident);

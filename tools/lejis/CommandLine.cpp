@@ -2,6 +2,7 @@
 
 #include "Command.h"
 #include "Day.h"
+#include "SearchSettings.h"
 #include "UsageError.h"
 
 namespace lejis_client {
@@ -17,6 +18,7 @@ struct Switch {
 
 constexpr Switch kSwitches[] = {
     {L"--validate-schema", &CommandLine::validateSchema, &Command::canValidateSchema},
+    {L"--xml", &CommandLine::xml, &Command::searches},
 };
 
 struct Option {
@@ -31,6 +33,8 @@ constexpr Option kOptions[] = {
     {L"--id", &CommandLine::id, &Command::canNameIncident},
     {L"--submitted", &CommandLine::submitted, &Command::canNameIncident},
     {L"--organization", &CommandLine::organization, &Command::canNameIncident},
+    {L"--user", &CommandLine::user, &Command::searches},
+    {L"--wait", &CommandLine::wait, &Command::searches},
 };
 
 template <typename Row, std::size_t count>
@@ -47,6 +51,20 @@ const Row* Find(const Row (&table)[count], const std::wstring& name, const Comma
 
 bool AsksForHelp(const std::wstring& argument) { return argument == L"--help" || argument == L"-h"; }
 
+// An option is one of this program's or one of those that go into a search.
+bool IsOption(const CommandLine& commandLine, const std::wstring& name) {
+    if (Find(kOptions, name, *commandLine.command)) return true;
+    return commandLine.command->searches && FindSearchOption(name);
+}
+
+void Set(CommandLine& commandLine, const std::wstring& name, const std::wstring& value) {
+    if (const Option* option = Find(kOptions, name, *commandLine.command)) {
+        commandLine.*option->value = value;
+    } else {
+        commandLine.search.push_back({FindSearchOption(name), value});
+    }
+}
+
 // Takes the option at this place, with its value behind an equals sign or in the next argument; returns the next place.
 std::size_t TakeOption(CommandLine& commandLine, const Arguments& arguments, std::size_t place) {
     const std::wstring& argument = arguments[place];
@@ -56,16 +74,15 @@ std::size_t TakeOption(CommandLine& commandLine, const Arguments& arguments, std
     }
     const std::size_t equals = argument.find(L'=');
     const std::wstring name = argument.substr(0, equals);
-    const Option* option = Find(kOptions, name, *commandLine.command);
-    if (!option) Throw(commandLine, L"unknown option " + name);
+    if (!IsOption(commandLine, name)) Throw(commandLine, L"unknown option " + name);
     if (equals != std::wstring::npos) {
-        commandLine.*option->value = argument.substr(equals + 1);
+        Set(commandLine, name, argument.substr(equals + 1));
         return place + 1;
     }
     if (place + 1 == arguments.size() || arguments[place + 1].starts_with(L"--")) {
         Throw(commandLine, name + L" needs a value");
     }
-    commandLine.*option->value = arguments[place + 1];
+    Set(commandLine, name, arguments[place + 1]);
     return place + 2;
 }
 
@@ -81,6 +98,17 @@ void RequireIncident(const CommandLine& commandLine) {
     if (!ParseDay(*commandLine.submitted)) {
         Throw(commandLine, L"'" + *commandLine.submitted + L"' is no day; write it as in 2024-03-09");
     }
+}
+
+void RequireSearch(const CommandLine& commandLine) {
+    if (!commandLine.files.empty()) Throw(commandLine, L"unexpected argument " + commandLine.files.front());
+    const std::wstring complaint = SearchComplaint(commandLine);
+    if (!complaint.empty()) Throw(commandLine, complaint);
+}
+
+void RequireAll(const CommandLine& commandLine) {
+    commandLine.command->searches ? RequireSearch(commandLine) : RequireIncident(commandLine);
+    if (commandLine.command->needsUrl && !commandLine.url) Throw(commandLine, L"--url is missing");
 }
 
 CommandLine WithoutCommand(const std::wstring& argument) {
@@ -109,8 +137,7 @@ CommandLine CommandLine::Parse(const Arguments& arguments) {
             commandLine.files.push_back(arguments[place++]);
         }
     }
-    RequireIncident(commandLine);
-    if (commandLine.command->needsUrl && !commandLine.url) Throw(commandLine, L"--url is missing");
+    RequireAll(commandLine);
     return commandLine;
 }
 

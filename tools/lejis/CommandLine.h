@@ -1,6 +1,8 @@
 // What the user asks for.
 #pragma once
 
+#include "SearchOption.h"
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,11 +23,15 @@ struct CommandLine {
     bool help = false;
     bool version = false;
     bool validateSchema = false;
+    bool xml = false;
     std::optional<std::wstring> url;
     std::optional<std::wstring> ori;
     std::optional<std::wstring> id;
     std::optional<std::wstring> submitted;
     std::optional<std::wstring> organization;
+    std::optional<std::wstring> user;
+    std::optional<std::wstring> wait;
+    SearchValues search;
     std::vector<std::wstring> files;
 };
 

@@ -9,6 +9,8 @@ enum ExitCode {
     kExitRefused = 1,
     kExitTryAgain = 2,
     kExitUsage = 64,
+    // What shells make of a program that Ctrl-C has ended.
+    kExitInterrupted = 130,
 };
 
 }  // namespace lejis_client

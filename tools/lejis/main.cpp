@@ -1,4 +1,4 @@
-// lejis: checks incidents, submits them to LEJIS and withdraws them, through the registered library.
+// lejis: checks incidents, submits them to LEJIS, withdraws them and searches for them, through the registered library.
 #include "Command.h"
 #include "CommandLine.h"
 #include "Console.h"
@@ -11,6 +11,7 @@
 #include "NamedIncident.h"
 #include "NotRegistered.h"
 #include "Report.h"
+#include "Search.h"
 #include "UsageError.h"
 #include "WindowsText.h"
 
@@ -65,6 +66,7 @@ int Run(const CommandLine& commandLine) {
         Console::Output().Write(L"TVLejisCore " + version + L"\n" + LibraryFile() + L"\n");
         return kExitDone;
     }
+    if (commandLine.command->searches) return Search(commandLine);
     return commandLine.NamesIncident() ? RunOnNamedIncident(commandLine) : RunOnFiles(commandLine);
 }
 

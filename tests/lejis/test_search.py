@@ -1,0 +1,149 @@
+"""lejis search against the simulator: what is asked and what is found."""
+import os
+import unittest
+import xml.etree.ElementTree as ElementTree
+
+from lejis_case import DONE
+from search_case import HELD, SAMPLES, SearchCase
+
+BURGLARY, INTERNATIONAL, THEFT = "2024-001873", "2024-000612", "24-H-00519"
+
+TABLE = """\
+Agency     Incident    Date        Charge                       Place
+PA0990200  24-H-00519  2024-05-16  2404 Theft of motor vehicle  1200 Commerce Ave, lot C, Harlow PA 17098
+    ABERNATHY LUIS (VICTIM)
+    REESE TAMARA (WITNESS)
+    2021 BLU FORD F150 PK, plate ZYX4471 PA, VIN 1FTFW1E50MFA23817
+    2009 SIL HONDA CIVIC 4D, plate 0KRM88 OH
+
+1 incident found.
+"""
+
+# The options that one element of the request carries, with the local name of the element that holds each value.
+BLOCKS = {
+    "PersonInquiryArguments": {
+        "--surname": ("PersonSurName", "REESE"), "--given": ("PersonGivenName", "TAMARA"),
+        "--middle": ("PersonMiddleName", "J"), "--dob": ("PersonBirthDate", "1995-09-30"),
+        "--ssn": ("PersonSSNID/ID", "123456789"), "--licence": ("PersonDriverLicenseID/ID", "88120934"),
+        "--licence-state": ("PersonDriverLicenseID/IDJurisdictionCode.ncicLSTA", "OH"),
+        "--sex": ("PersonSexCode", "F"), "--race": ("PersonRaceCode", "B"),
+        "--height": ("PersonHeightMeasure", "509"), "--weight": ("PersonWeightMeasure", "176")},
+    "VehicleInquiryArguments": {
+        "--vin": ("VehicleID/ID", "1FTFW1E50MFA23817"), "--plate": ("VehicleLicensePlateID/ID", "ZYX4471"),
+        "--plate-state": ("VehicleLicensePlateID/IDJurisdictionCode.ncicLSTA", "PA"),
+        "--vehicle-make": ("VehicleMakeText", "FORD"), "--vehicle-model": ("VehicleModelCodeText", "F150"),
+        "--vehicle-year": ("VehicleModelYearDate", "2021"), "--vehicle-style": ("VehicleStyleText", "PK"),
+        "--vehicle-color": ("VehicleColorPrimaryText", "BLU")},
+    "PropertyInquiryArguments": {
+        "--serial": ("PropertySerialID/ID", "S-1 & <2>"), "--property-category": ("PropertyCategoryText", "Tool"),
+        "--property-make": ("PropertyMakeName", "Stahl"), "--property-model": ("PropertyModelName", "M3")},
+    "LocationInquiryArguments": {
+        "--street-full": ("StreetFullText", "1200 Commerce"), "--street": ("StreetName", "Commerce"),
+        "--city": ("LocationCityName", "Harlow"), "--state": ("LocationStateCode.ncicLSTA", "PA"),
+        "--zip": ("LocationPostalCodeID/ID", "17098")},
+    "AdHocInquiryArguments": {"--text": ("queryString", "Nouvelle-Écosse 𠮷田")},
+}
+
+
+def with_local_names(text):
+    root = ElementTree.fromstring(text.encode())
+    for element in root.iter():
+        element.tag = element.tag.rpartition("}")[2]
+    return root
+
+
+class CriteriaTest(SearchCase):
+    def test_every_option_goes_where_it_belongs(self):
+        for block, options in BLOCKS.items():
+            self.find(*(word for option, (_, value) in options.items() for word in (option, value)))
+            request = with_local_names(self.last_request())
+            self.assertEqual([name for name in BLOCKS if request.find(f".//{name}") is not None], [block])
+            for option, (place, value) in options.items():
+                with self.subTest(option):
+                    self.assertEqual(request.findtext(f".//{block}/{place}"), value)
+        self.assertTrue(all(exchange["valid"] for exchange in self.exchanges()))
+
+    def test_the_user_is_named(self):
+        self.find("--zip=17098", user="jmiller")
+        self.assertIn(">jmiller<", self.last_request())
+
+    def test_hits_of_each_kind(self):
+        for arguments, incidents in {
+                ("--surname", "reese"): [THEFT], ("--plate=ZYX4471",): [THEFT], ("--zip", "17099"): [BURGLARY],
+                ("--text", "Nouvelle-Écosse"): [INTERNATIONAL], ("--dob", "1978-02-14"): [THEFT],
+                ("--state", "PA"): [INTERNATIONAL, BURGLARY, THEFT]}.items():
+            with self.subTest(arguments):
+                self.assertEqual(sorted(self.found(*arguments)), incidents)
+
+    def test_all_criteria_must_apply(self):
+        self.assertEqual(self.found("--surname", "reese", "--zip", "17098"), [THEFT])
+        self.assertEqual(self.found("--surname", "reese", "--zip", "17099"), [])
+
+    def test_max(self):
+        self.assertEqual(len(self.found("--state", "PA", "--max", "2")), 2)
+        self.assertEqual(len(self.found("--state", "PA", "--max", "3")), 3)
+
+    def test_excluded_agencies(self):
+        excluded = ("--exclude-ori", "PA0990100")
+        self.assertEqual(sorted(self.found("--state", "PA", *excluded)), [INTERNATIONAL, THEFT])
+        self.assertEqual(self.found("--state", "PA", *excluded, "--exclude-ori=PA0990200"), [INTERNATIONAL])
+
+    def test_the_schema_is_asked_for_when_wanted(self):
+        folder = os.environ["LEJIS_SIMULATOR_SCHEMAS"]
+        for options, asked in (((), False), (("--validate-schema",), True)):
+            self.control("DELETE", "exchanges")
+            self.assertEqual(self.found("--plate", "ZYX4471", *options, folder=folder), [THEFT])
+            paths = [exchange["path"].lower() for exchange in self.exchanges()]
+            self.assertEqual(any(path.endswith("?wsdl") for path in paths), asked)
+
+
+class FoundTest(SearchCase):
+    def test_the_table(self):
+        self.assertEqual(self.find("--plate", "ZYX4471"), TABLE)
+
+    def test_names_in_every_script(self):
+        output = self.find("--zip", "17096")
+        for name in ("NÚÑEZ IBÁÑEZ JOSÉ (VICTIM)", "ШЕВЧЕНКО ОЛЕНА (WITNESS)", "\U00020bb7田 太郎 (SUSPECT)"):
+            self.assertIn(f"    {name}\n", output)
+
+    def test_what_a_text_says_to_terminals_is_not_passed_on(self):
+        text = (SAMPLES / "vehicle-theft.xml").read_text(encoding="utf-8")
+        self.hold(self.write("a.xml", text.replace(">REESE<", ">RE&#x9B;2J&#10;SE<").replace("24-H-00519", "24-H-1")))
+        self.assertIn("\n    RE 2J SE TAMARA (WITNESS)\n", self.find("--plate", "ZYX4471"))
+
+    def test_nothing(self):
+        self.assertEqual(self.find("--zip", "00000"), "Nothing was found.\n")
+
+    def test_many(self):
+        self.play(kind="cards", count=600)
+        output = self.find("--zip", "17098")
+        self.assertTrue(output.endswith("\n\n600 incidents found.\n"), output[-200:])
+
+
+class XmlTest(SearchCase):
+    def found_xml(self, *arguments, count):
+        run = self.search("--xml", *arguments)
+        self.assertEqual((run.code, run.complaint), (DONE, count), run)
+        return with_local_names(run.output)
+
+    def test_the_cards_are_whole(self):
+        root = self.found_xml("--state", "PA", count="3 incidents found.\n")
+        self.assertEqual((root.tag, [card.tag for card in root]), ("incidents", ["RMSIncidentIndexCard"] * 3))
+        self.assertEqual(sorted(card.findtext("LejisIndexUid/ActivityID/ID") for card in root),
+                         [INTERNATIONAL, BURGLARY, THEFT])
+        for name in HELD:
+            sample = with_local_names((SAMPLES / f"{name}.xml").read_text(encoding="utf-8"))
+            uid = sample.findtext("LejisIndexUid/ActivityID/ID")
+            card, = (card for card in root if card.findtext("LejisIndexUid/ActivityID/ID") == uid)
+            for place in ("RMSPersonIndexCards/PersonSurName", "RMSVehicleIndexCards/VehicleMakeText",
+                          "RMSPropertyIndexCards/PropertyTypeText"):
+                self.assertEqual([element.text for element in card.findall(place)],
+                                 [element.text for element in sample.findall(place)])
+
+    def test_nothing_is_a_document_too(self):
+        root = self.found_xml("--zip", "00000", count="Nothing was found.\n")
+        self.assertEqual((root.tag, len(root)), ("incidents", 0))
+
+
+if __name__ == "__main__":
+    unittest.main()

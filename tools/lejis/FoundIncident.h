@@ -1,0 +1,18 @@
+// What a table of incidents tells about one of them.
+#pragma once
+
+#include "Library.h"
+
+#include <array>
+
+namespace lejis_client {
+
+// Agency, incident number, date, charge and place.
+using IncidentColumns = std::array<std::wstring, 5>;
+
+IncidentColumns ColumnsOf(ILejisIncidentIndexCard* incident);
+
+// One line for each person and vehicle.
+std::vector<std::wstring> DetailsOf(ILejisIncidentIndexCard* incident);
+
+}  // namespace lejis_client
