@@ -77,7 +77,7 @@ TEST(PersonInquiryArguments, WritesAllFieldsInTheirOrder) {
     person->Height->Set(short{511});
     person->Weight->Set(short{180});
     EXPECT_TRUE(
-        SameXml(person->ToXmlElement(NewDocument()).Get(),
+        SameXml(support::Reparsed(person->ToXmlElement(NewDocument()).Get()).Get(),
                 Block(L"<j:PersonSurName>PUBLIC</j:PersonSurName><j:PersonGivenName>JOHN</j:PersonGivenName>"
                       L"<j:PersonMiddleName>Q</j:PersonMiddleName><j:PersonSSNID><j:ID>900123456</j:ID></j:PersonSSNID>"
                       L"<j:PersonDriverLicenseID><j:ID>123</j:ID>"
