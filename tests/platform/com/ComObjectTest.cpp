@@ -26,6 +26,13 @@ HRESULT NumberOf(IDispatch* object, const wchar_t* name, DISPID* number) {
     return object->GetIDsOfNames(IID_NULL, &writable, 1, LOCALE_USER_DEFAULT, number);
 }
 
+template <typename Interface>
+ComPtr<Interface> As(IUnknown* object) {
+    ComPtr<Interface> found;
+    EXPECT_OK(object->QueryInterface(IID_PPV_ARGS(found.GetAddressOf())));
+    return found;
+}
+
 TEST(ComObject, IsOneObjectBehindAllItsInterfaces) {
     const auto card = Create<LejisVehicleIndexCard>();
     ComPtr<IUnknown> identity;
@@ -58,15 +65,34 @@ TEST(ComObject, KeepsTheModuleInUseWhileItLives) {
 
 TEST(ComObject, SupportsErrorsOnItsOwnInterfaces) {
     const auto card = Create<LejisVehicleIndexCard>();
-    EXPECT_EQ(S_OK, card->InterfaceSupportsErrorInfo(__uuidof(ILejisVehicleIndexCard)));
-    EXPECT_EQ(S_FALSE, card->InterfaceSupportsErrorInfo(__uuidof(ILejisPersonIndexCard)));
+    const auto support = As<ISupportErrorInfo>(card.Get());
+    EXPECT_EQ(S_OK, support->InterfaceSupportsErrorInfo(__uuidof(ILejisVehicleIndexCard)));
+    EXPECT_EQ(S_FALSE, support->InterfaceSupportsErrorInfo(__uuidof(ILejisPersonIndexCard)));
+}
+
+TEST(ComObject, KeepsTheErrorObjectWhileAClientAsksForIt) {
+    const auto card = Create<LejisVehicleIndexCard>();
+    ASSERT_TRUE(FAILED(card->FromXmlElement(nullptr)));
+    const auto support = As<ISupportErrorInfo>(card.Get());
+    EXPECT_EQ(S_OK, support->InterfaceSupportsErrorInfo(__uuidof(ILejisVehicleIndexCard)));
+    ComPtr<IErrorInfo> error;
+    EXPECT_EQ(S_OK, GetErrorInfo(0, error.GetAddressOf()));
+}
+
+TEST(ComObject, OutlivesItsClientWhileItsClassInformationIsHeld) {
+    auto card = Create<LejisVehicleIndexCard>();
+    const auto information = As<IProvideClassInfo2>(card.Get());
+    card.Reset();
+    ComPtr<ILejisVehicleIndexCard> again;
+    EXPECT_OK(information->QueryInterface(IID_PPV_ARGS(again.GetAddressOf())));
+    EXPECT_TRUE(again);
 }
 
 TEST(ComObject, NamesItsClassAndInterface) {
     const auto card = Create<LejisVehicleIndexCard>();
     ComPtr<ITypeInfo> information;
     BSTR name = nullptr;
-    ASSERT_OK(card->GetClassInfo(information.GetAddressOf()));
+    ASSERT_OK(As<IProvideClassInfo>(card.Get())->GetClassInfo(information.GetAddressOf()));
     ASSERT_OK(information->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr));
     EXPECT_EQ(L"LejisVehicleIndexCard", support::Take(name));
     ASSERT_OK(card->GetTypeInfo(0, LOCALE_USER_DEFAULT, information.ReleaseAndGetAddressOf()));
@@ -87,11 +113,12 @@ TEST(ComObject, HasOneTypeInformation) {
 
 TEST(ComObject, HasNoDefaultEventsWithoutEvents) {
     const auto card = Create<LejisVehicleIndexCard>();
+    const auto information = As<IProvideClassInfo2>(card.Get());
     GUID events = __uuidof(IUnknown);
-    EXPECT_OK(card->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events));
+    EXPECT_OK(information->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events));
     EXPECT_TRUE(events == GUID_NULL);
-    EXPECT_EQ(E_INVALIDARG, card->GetGUID(0, &events));
-    EXPECT_EQ(E_POINTER, card->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, nullptr));
+    EXPECT_EQ(E_INVALIDARG, information->GetGUID(0, &events));
+    EXPECT_EQ(E_POINTER, information->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, nullptr));
 }
 
 TEST(ComObject, FindsItsMembersByNameInAnyLetterCase) {
@@ -124,7 +151,7 @@ TEST(ComObject, TellsAutomationWhatFailed) {
 TEST(Inside, FindsTheObjectBehindItsInterfaces) {
     const auto card = Create<LejisPersonIndexCard>();
     EXPECT_EQ(card.Get(), Inside<LejisPersonIndexCard>(card->Dispatch()).Get());
-    EXPECT_EQ(card.Get(), Inside<LejisPersonIndexCard>(static_cast<ISupportErrorInfo*>(card.Get())).Get());
+    EXPECT_EQ(card.Get(), Inside<LejisPersonIndexCard>(As<ISupportErrorInfo>(card.Get()).Get()).Get());
 }
 
 TEST(Inside, RaisesForNoObjectAndForOthers) {

@@ -49,7 +49,9 @@ TEST(EventSource, IsKeptAliveByItsConnectionPoint) {
 TEST(EventSource, NamesItsDefaultEvents) {
     GUID events{};
     const auto service = Create<LejisSubmissionWebService>();
-    EXPECT_OK(service->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events));
+    ComPtr<IProvideClassInfo2> information;
+    ASSERT_OK(service->QueryInterface(IID_PPV_ARGS(information.GetAddressOf())));
+    EXPECT_OK(information->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events));
     EXPECT_TRUE(events == __uuidof(_LejisSubmissionWebServiceEvents));
 }
 

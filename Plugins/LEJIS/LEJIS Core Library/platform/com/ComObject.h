@@ -2,19 +2,18 @@
 // errors.
 #pragma once
 
+#include "platform/com/ClassInformation.h"
 #include "platform/com/Guard.h"
 #include "platform/com/TypeLibrary.h"
 #include "platform/com/UnknownObject.h"
 #include "platform/ComError.h"
 
-#include <ocidl.h>
-
 namespace platform {
 
 // `Coclass` is the class in the type library, `Interface` its default interface.
 template <typename Coclass, typename Interface, typename... MoreInterfaces>
-class ComObject : public UnknownObject<Interface, MoreInterfaces..., ISupportErrorInfo, IProvideClassInfo2> {
-    using Base = UnknownObject<Interface, MoreInterfaces..., ISupportErrorInfo, IProvideClassInfo2>;
+class ComObject : public UnknownObject<Interface, MoreInterfaces...> {
+    using Base = UnknownObject<Interface, MoreInterfaces...>;
 
 public:
     using DefaultInterface = Interface;
@@ -23,6 +22,11 @@ public:
 
     // Needed where this object has several interfaces that are automation's.
     IDispatch* Dispatch() { return static_cast<Interface*>(this); }
+
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
+        if (object && ClassInformation::Has(iid)) return ClassInformation::Get(this->First(), ClassId(), iid, object);
+        return Base::QueryInterface(iid, object);
+    }
 
     STDMETHODIMP GetTypeInfoCount(UINT* count) override {
         if (!count) return E_POINTER;
@@ -55,19 +59,6 @@ public:
         return FAILED(entered) ? entered : outcome;
     }
 
-    STDMETHODIMP InterfaceSupportsErrorInfo(REFIID iid) override { return this->Find(iid) ? S_OK : S_FALSE; }
-
-    STDMETHODIMP GetClassInfo(ITypeInfo** information) override {
-        return Guard(information, [] { return TypeInfoOf(ClassId()); });
-    }
-
-    STDMETHODIMP GetGUID(DWORD kind, GUID* guid) override {
-        if (!guid) return E_POINTER;
-        *guid = GUID_NULL;
-        if (kind != GUIDKIND_DEFAULT_SOURCE_DISP_IID) return E_INVALIDARG;
-        return Guard([&] { *guid = DefaultEventsOf(ClassId()); });
-    }
-
 protected:
     template <typename... Arguments>
     HRESULT Guard(Arguments&&... arguments) const noexcept {
@@ -76,7 +67,6 @@ protected:
 
     void* Find(REFIID iid) override {
         if (iid == __uuidof(IDispatch)) return Dispatch();
-        if (iid == __uuidof(IProvideClassInfo)) return static_cast<IProvideClassInfo*>(this);
         // Asked for its own class identifier, an object hands out its inside: see Inside.h.
         if (iid == ClassId()) return this->First();
         return Base::Find(iid);
