@@ -1,6 +1,7 @@
 #include "platform/Conversions.h"
 
 #include "platform/ComError.h"
+#include "platform/IsoDate.h"
 #include "platform/Text.h"
 
 #include <oleauto.h>
@@ -70,6 +71,8 @@ std::wstring ToText(const VARIANT& value) {
 }
 
 std::optional<DATE> ParseDate(const std::wstring& text) {
+    // The platform takes fifty times as long for the same date.
+    if (const auto date = ParseIsoDate(text)) return date;
     DATE date = 0;
     if (FAILED(VarDateFromStr(Source(text), kUserLocale, 0, &date))) return std::nullopt;
     return date;
