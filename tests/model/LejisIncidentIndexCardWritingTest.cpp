@@ -108,7 +108,7 @@ TEST(LejisIncidentIndexCardWriting, WritesPersonsThenVehiclesThenProperty) {
     const auto element = card->ToXmlElement(NewDocument());
     std::wstring order;
     for (const auto& child : msxml::ChildElements(element)) {
-        const std::wstring name = msxml::LocalName(child);
+        const std::wstring name(msxml::LocalName(child).View());
         if (name.ends_with(L"IndexCards")) order += name + L"(" + msxml::Text(child) + L") ";
     }
     EXPECT_EQ(

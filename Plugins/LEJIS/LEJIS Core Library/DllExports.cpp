@@ -15,6 +15,7 @@
 #include "platform/com/Module.h"
 #include "platform/com/Registration.h"
 #include "platform/host/HostComponents.h"
+#include "platform/msxml/DocumentClass.h"
 #include "services/LejisSearchWebService.h"
 #include "services/LejisSubmissionWebService.h"
 #include "services/SOAPEnvelope.h"
@@ -65,6 +66,7 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID iid, void** factory) {
 STDAPI DllCanUnloadNow() {
     if (platform::module::InUse()) return S_FALSE;
     platform::host::ReleaseComponents();
+    msxml::ReleaseDocumentClass();
     return S_OK;
 }
 

@@ -2,6 +2,8 @@
 // set when the library is built (LEJIS_HOST).
 #pragma once
 
+#include <string_view>
+
 namespace lejis::Constants {
 
 #define LEJIS_URI(path) L"http://" LEJIS_HOST path
@@ -21,8 +23,8 @@ inline constexpr wchar_t kSearchAction[] = LEJIS_URI(L"/lejis/1.0/service/jxdm/s
 #undef LEJIS_URI
 
 struct Prefix {
-    const wchar_t* name;
-    const wchar_t* uri;
+    std::wstring_view name;
+    std::wstring_view uri;
 };
 
 // In the order in which they are declared for queries. Two prefixes name the LEJIS service namespace on purpose:

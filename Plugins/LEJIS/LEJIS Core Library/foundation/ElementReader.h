@@ -14,7 +14,7 @@ namespace lejis {
 // namespace and local name.
 class ElementReader {
 public:
-    explicit ElementReader(const msxml::Element& element);
+    explicit ElementReader(const msxml::Node& element);
 
     // The text of what the path selects, or an empty text. An empty element has an empty text too.
     std::wstring Text(std::wstring_view path) const;
@@ -27,14 +27,26 @@ public:
 
 private:
     struct NamedChild {
-        std::wstring namespaceUri;
-        std::wstring localName;
-        msxml::Element element;
+        msxml::Node node;
+        // That of Constants.
+        const wchar_t* namespaceUri;
+        // Where its local name stands in names_.
+        size_t nameBegin;
+        size_t nameLength;
     };
 
-    msxml::Element Find(std::wstring_view path) const;
+    // The first child of this name, behind `previous` if there is one; null when there is none.
+    const NamedChild* Next(std::wstring_view name, const NamedChild* previous = nullptr) const;
+    std::wstring_view NameOf(const NamedChild& child) const;
+    msxml::Node Find(std::wstring_view path) const;
 
+    // Those in a namespace of Constants.
     std::vector<NamedChild> children_;
+    // Copied, so that MSXML gets its texts back at once and uses their memory for the next ones.
+    std::wstring names_;
 };
+
+// What a path selects, for an element of which no more is asked; null when it selects nothing.
+msxml::Node FindBelow(const msxml::Node& element, std::wstring_view path);
 
 }  // namespace lejis

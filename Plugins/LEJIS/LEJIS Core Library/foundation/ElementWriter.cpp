@@ -7,38 +7,38 @@
 
 namespace lejis {
 
-ElementWriter::ElementWriter(const msxml::Document& document, const std::wstring& qualifiedName)
+ElementWriter::ElementWriter(const msxml::Document& document, std::wstring_view qualifiedName)
     : document_(document),
       element_(NodeFactory::CreateQualifiedElement(document, qualifiedName, NamespaceOf(qualifiedName))) {}
 
-void ElementWriter::Text(const std::wstring& name, const std::wstring& value) {
+void ElementWriter::Text(std::wstring_view name, std::wstring_view value) {
     Child(NodeFactory::CreateTextElement(document_, name, value, NamespaceOf(name)));
 }
 
-void ElementWriter::OptionalText(const std::wstring& name, const std::wstring& value) {
+void ElementWriter::OptionalText(std::wstring_view name, std::wstring_view value) {
     if (!value.empty()) Text(name, value);
 }
 
-void ElementWriter::Boolean(const std::wstring& name, bool flag) {
+void ElementWriter::Boolean(std::wstring_view name, bool flag) {
     Child(NodeFactory::CreateBooleanElement(document_, name, flag, NamespaceOf(name)));
 }
 
-void ElementWriter::Id(const std::wstring& name, const std::wstring& identifier) {
+void ElementWriter::Id(std::wstring_view name, std::wstring_view identifier) {
     Child(NodeFactory::CreateIdElement(document_, name, identifier));
 }
 
-void ElementWriter::OptionalId(const std::wstring& name, const std::wstring& identifier) {
+void ElementWriter::OptionalId(std::wstring_view name, std::wstring_view identifier) {
     if (!identifier.empty()) Id(name, identifier);
 }
 
-void ElementWriter::OptionalJurisdictionId(const std::wstring& name, const std::wstring& identifier,
-                                           const std::wstring& state) {
+void ElementWriter::OptionalJurisdictionId(std::wstring_view name, std::wstring_view identifier,
+                                           std::wstring_view state) {
     if (identifier.empty() || state.empty()) return;
     Child(NodeFactory::CreateJurisdictionIdElement(document_, name, identifier, state));
 }
 
-void ElementWriter::OptionalMeasure(const std::wstring& name, const std::wstring& value,
-                                    const std::wstring& unitAttribute) {
+void ElementWriter::OptionalMeasure(std::wstring_view name, std::wstring_view value,
+                                    std::wstring_view unitAttribute) {
     if (value.empty()) return;
     const msxml::Element element = NodeFactory::CreateTextElement(document_, name, value, NamespaceOf(name));
     msxml::SetAttribute(document_, element, unitAttribute, Constants::kJxdmNamespace, L"ncic");

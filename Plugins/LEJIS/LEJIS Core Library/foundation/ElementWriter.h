@@ -3,29 +3,29 @@
 
 #include "platform/msxml/MsXml.h"
 
-#include <string>
+#include <string_view>
 
 namespace lejis {
 
 class ElementWriter {
 public:
     // A new, unattached element. The namespace of each name is that of its prefix in Constants.
-    ElementWriter(const msxml::Document& document, const std::wstring& qualifiedName);
+    ElementWriter(const msxml::Document& document, std::wstring_view qualifiedName);
 
     // A text child, written even when its text is empty.
-    void Text(const std::wstring& name, const std::wstring& value);
+    void Text(std::wstring_view name, std::wstring_view value);
     // A text child, left out when its text is empty; blanks are a text.
-    void OptionalText(const std::wstring& name, const std::wstring& value);
-    void Boolean(const std::wstring& name, bool flag);
+    void OptionalText(std::wstring_view name, std::wstring_view value);
+    void Boolean(std::wstring_view name, bool flag);
 
     // A child that holds j:ID.
-    void Id(const std::wstring& name, const std::wstring& identifier);
-    void OptionalId(const std::wstring& name, const std::wstring& identifier);
+    void Id(std::wstring_view name, std::wstring_view identifier);
+    void OptionalId(std::wstring_view name, std::wstring_view identifier);
     // A child that holds j:ID and the code of the state that gave it; left out unless both are there.
-    void OptionalJurisdictionId(const std::wstring& name, const std::wstring& identifier, const std::wstring& state);
+    void OptionalJurisdictionId(std::wstring_view name, std::wstring_view identifier, std::wstring_view state);
 
     // A text child, left out when empty, whose value is in the NCIC unit, which the attribute says.
-    void OptionalMeasure(const std::wstring& name, const std::wstring& value, const std::wstring& unitAttribute);
+    void OptionalMeasure(std::wstring_view name, std::wstring_view value, std::wstring_view unitAttribute);
 
     // A child built elsewhere, or by another writer.
     void Child(const msxml::Element& child);

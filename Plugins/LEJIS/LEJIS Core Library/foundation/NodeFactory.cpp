@@ -9,36 +9,36 @@ using msxml::Element;
 
 namespace lejis::NodeFactory {
 
-Element CreateQualifiedElement(const Document& document, const std::wstring& qualifiedName,
-                               const std::wstring& namespaceUri) {
+Element CreateQualifiedElement(const Document& document, std::wstring_view qualifiedName,
+                               std::wstring_view namespaceUri) {
     return msxml::CreateElement(document, qualifiedName, namespaceUri);
 }
 
-Element CreateTextElement(const Document& document, const std::wstring& qualifiedName, const std::wstring& value,
-                          const std::wstring& namespaceUri) {
+Element CreateTextElement(const Document& document, std::wstring_view qualifiedName, std::wstring_view value,
+                          std::wstring_view namespaceUri) {
     const Element element = CreateQualifiedElement(document, qualifiedName, namespaceUri);
     msxml::SetText(element, value);
     return element;
 }
 
-Element CreateTextElement(const Document& document, const std::wstring& qualifiedName, const _variant_t& value,
-                          const std::wstring& namespaceUri) {
+Element CreateTextElement(const Document& document, std::wstring_view qualifiedName, const _variant_t& value,
+                          std::wstring_view namespaceUri) {
     return CreateTextElement(document, qualifiedName, platform::ToText(value), namespaceUri);
 }
 
-Element CreateBooleanElement(const Document& document, const std::wstring& qualifiedName, bool flag,
-                             const std::wstring& namespaceUri) {
-    return CreateTextElement(document, qualifiedName, std::wstring(flag ? L"true" : L"false"), namespaceUri);
+Element CreateBooleanElement(const Document& document, std::wstring_view qualifiedName, bool flag,
+                             std::wstring_view namespaceUri) {
+    return CreateTextElement(document, qualifiedName, std::wstring_view(flag ? L"true" : L"false"), namespaceUri);
 }
 
-Element CreateIdElement(const Document& document, const std::wstring& qualifiedName, const std::wstring& identifier) {
+Element CreateIdElement(const Document& document, std::wstring_view qualifiedName, std::wstring_view identifier) {
     const Element element = CreateQualifiedElement(document, qualifiedName, Constants::kJxdmNamespace);
     msxml::Append(element, CreateTextElement(document, L"j:ID", identifier, Constants::kJxdmNamespace));
     return element;
 }
 
-Element CreateJurisdictionIdElement(const Document& document, const std::wstring& qualifiedName,
-                                    const std::wstring& identifier, const std::wstring& jurisdictionCode) {
+Element CreateJurisdictionIdElement(const Document& document, std::wstring_view qualifiedName,
+                                    std::wstring_view identifier, std::wstring_view jurisdictionCode) {
     const Element element = CreateIdElement(document, qualifiedName, identifier);
     msxml::Append(element, CreateTextElement(document, L"j:IDJurisdictionCode.ncicLSTA", jurisdictionCode,
                                              Constants::kJxdmNamespace));

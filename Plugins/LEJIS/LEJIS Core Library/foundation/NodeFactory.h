@@ -5,30 +5,30 @@
 
 #include <comutil.h>
 
-#include <string>
+#include <string_view>
 
 namespace lejis::NodeFactory {
 
 // An element in a namespace; its prefix is the one in the qualified name.
-msxml::Element CreateQualifiedElement(const msxml::Document& document, const std::wstring& qualifiedName,
-                                      const std::wstring& namespaceUri);
+msxml::Element CreateQualifiedElement(const msxml::Document& document, std::wstring_view qualifiedName,
+                                      std::wstring_view namespaceUri);
 
 // An element with a text, written as it stands. An empty text and a null value give an empty element, not none.
-msxml::Element CreateTextElement(const msxml::Document& document, const std::wstring& qualifiedName,
-                                 const std::wstring& value, const std::wstring& namespaceUri);
-msxml::Element CreateTextElement(const msxml::Document& document, const std::wstring& qualifiedName,
-                                 const _variant_t& value, const std::wstring& namespaceUri);
+msxml::Element CreateTextElement(const msxml::Document& document, std::wstring_view qualifiedName,
+                                 std::wstring_view value, std::wstring_view namespaceUri);
+msxml::Element CreateTextElement(const msxml::Document& document, std::wstring_view qualifiedName,
+                                 const _variant_t& value, std::wstring_view namespaceUri);
 
 // An element with the text "true" or "false".
-msxml::Element CreateBooleanElement(const msxml::Document& document, const std::wstring& qualifiedName, bool flag,
-                                    const std::wstring& namespaceUri);
+msxml::Element CreateBooleanElement(const msxml::Document& document, std::wstring_view qualifiedName, bool flag,
+                                    std::wstring_view namespaceUri);
 
 // An element that holds j:ID. Both are in the GJXDM namespace, whatever prefix the name carries.
-msxml::Element CreateIdElement(const msxml::Document& document, const std::wstring& qualifiedName,
-                               const std::wstring& identifier);
+msxml::Element CreateIdElement(const msxml::Document& document, std::wstring_view qualifiedName,
+                               std::wstring_view identifier);
 
 // The same with j:IDJurisdictionCode.ncicLSTA behind j:ID.
-msxml::Element CreateJurisdictionIdElement(const msxml::Document& document, const std::wstring& qualifiedName,
-                                           const std::wstring& identifier, const std::wstring& jurisdictionCode);
+msxml::Element CreateJurisdictionIdElement(const msxml::Document& document, std::wstring_view qualifiedName,
+                                           std::wstring_view identifier, std::wstring_view jurisdictionCode);
 
 }  // namespace lejis::NodeFactory

@@ -17,6 +17,13 @@ ExpandedName Expand(std::wstring_view qualifiedName) {
     throw std::logic_error("a name without a known prefix");
 }
 
-std::wstring NamespaceOf(std::wstring_view qualifiedName) { return std::wstring(Expand(qualifiedName).namespaceUri); }
+std::wstring_view KnownNamespace(std::wstring_view uri) {
+    for (const Constants::Prefix& known : Constants::kPrefixes) {
+        if (uri == known.uri) return known.uri;
+    }
+    return {};
+}
+
+std::wstring_view NamespaceOf(std::wstring_view qualifiedName) { return Expand(qualifiedName).namespaceUri; }
 
 }  // namespace lejis

@@ -33,7 +33,7 @@ msxml::Element LejisStreetAddress::StreetElement(const msxml::Document& document
 
 void LejisStreetAddress::FromXmlElement(const msxml::Element& element) {
     Reset();
-    const msxml::Element address = ElementReader(element).Child(L"j:LocationAddress");
+    const msxml::Node address = FindBelow(element, L"j:LocationAddress");
     if (!address) return;
     const ElementReader reader(address);
     if (const msxml::Element street = reader.Child(L"j:LocationStreet")) ReadStreet(ElementReader(street));

@@ -1,12 +1,15 @@
 #include "platform/msxml/Document.h"
 
 #include "platform/ComError.h"
+#include "platform/InText.h"
+#include "platform/msxml/DocumentClass.h"
 #include "platform/Text.h"
 
 #include <comutil.h>
 
 using Microsoft::WRL::ComPtr;
 using platform::Check;
+using platform::InText;
 using platform::ToBstr;
 
 namespace msxml {
@@ -23,9 +26,7 @@ ComPtr<Interface> From(IDispatch* client) {
 }  // namespace
 
 Document CreateDocument() {
-    Document document;
-    Check(CoCreateInstance(__uuidof(DOMDocument60), nullptr, CLSCTX_INPROC_SERVER,
-                           IID_PPV_ARGS(document.GetAddressOf())));
+    Document document = NewDocument();
     Check(document->put_async(VARIANT_FALSE));
     Check(document->put_resolveExternals(VARIANT_FALSE));
     Check(document->put_validateOnParse(VARIANT_FALSE));
@@ -38,7 +39,7 @@ bool LoadXml(const Document& document, const std::wstring& text) {
     if (loaded == VARIANT_FALSE) return false;
     if (!HasDoctype(document)) return true;
     // Text that does not parse empties the document.
-    Check(document->loadXML(ToBstr(L""), &loaded));
+    Check(document->loadXML(InText(L""), &loaded));
     return false;
 }
 
@@ -64,7 +65,7 @@ Element Root(const Document& document) {
 }
 
 void SetProperty(const Document& document, const wchar_t* name, const std::wstring& value) {
-    Check(document->setProperty(ToBstr(name), _variant_t(ToBstr(value))));
+    Check(document->setProperty(InText(name), _variant_t(ToBstr(value))));
 }
 
 void Save(const Document& document, const std::wstring& path) {

@@ -1,6 +1,7 @@
 #include "platform/msxml/Node.h"
 
 #include "platform/ComError.h"
+#include "platform/InText.h"
 #include "platform/msxml/Document.h"
 #include "platform/Text.h"
 
@@ -8,23 +9,24 @@
 
 using Microsoft::WRL::ComPtr;
 using platform::Check;
-using platform::TakeText;
-using platform::ToBstr;
+using platform::InText;
 
 namespace msxml {
 namespace {
 
 using TextGetter = HRESULT (STDMETHODCALLTYPE IXMLDOMNode::*)(BSTR*);
 
-std::wstring GetText(const Node& node, TextGetter getter) {
-    BSTR text = nullptr;
-    Check((node.Get()->*getter)(&text));
-    return TakeText(text);
+platform::OutText Get(const Node& node, TextGetter getter) {
+    platform::OutText text;
+    Check((node.Get()->*getter)(text.Receive()));
+    return text;
 }
 
-Node CreateNode(const Document& document, DOMNodeType type, const std::wstring& name, const std::wstring& uri) {
+std::wstring GetText(const Node& node, TextGetter getter) { return std::wstring(Get(node, getter).View()); }
+
+Node CreateNode(const Document& document, DOMNodeType type, std::wstring_view name, std::wstring_view uri) {
     Node node;
-    Check(document->createNode(_variant_t(static_cast<long>(type)), ToBstr(name), ToBstr(uri), node.GetAddressOf()));
+    Check(document->createNode(_variant_t(static_cast<long>(type)), InText(name), InText(uri), node.GetAddressOf()));
     return node;
 }
 
@@ -37,18 +39,18 @@ ComPtr<Interface> As(const Node& node) {
 
 }  // namespace
 
-Element CreateElement(const Document& document, const std::wstring& qualifiedName, const std::wstring& namespaceUri) {
+Element CreateElement(const Document& document, std::wstring_view qualifiedName, std::wstring_view namespaceUri) {
     return As<IXMLDOMElement>(CreateNode(document, NODE_ELEMENT, qualifiedName, namespaceUri));
 }
 
-void SetAttribute(const Document& document, const Element& element, const std::wstring& qualifiedName,
-                  const std::wstring& namespaceUri, const std::wstring& value) {
+void SetAttribute(const Document& document, const Element& element, std::wstring_view qualifiedName,
+                  std::wstring_view namespaceUri, std::wstring_view value) {
     const Node attribute = CreateNode(document, NODE_ATTRIBUTE, qualifiedName, namespaceUri);
-    Check(attribute->put_text(ToBstr(value)));
+    Check(attribute->put_text(InText(value)));
     Check(element->setAttributeNode(As<IXMLDOMAttribute>(attribute).Get(), nullptr));
 }
 
-void SetText(const Element& element, const std::wstring& text) { Check(element->put_text(ToBstr(text))); }
+void SetText(const Element& element, std::wstring_view text) { Check(element->put_text(InText(text))); }
 
 void Append(const Node& parent, const Node& child) { Check(parent->appendChild(child.Get(), nullptr)); }
 
@@ -61,41 +63,50 @@ std::wstring Text(const Node& node) { return GetText(node, &IXMLDOMNode::get_tex
 
 std::wstring Attribute(const Element& element, const wchar_t* name) {
     _variant_t value;
-    Check(element->getAttribute(ToBstr(name), &value));
+    Check(element->getAttribute(InText(name), &value));
     return V_VT(&value) == VT_BSTR ? platform::CopyText(V_BSTR(&value)) : std::wstring();
 }
 
 Node SelectNode(const Node& node, const std::wstring& xpath) {
     Node found;
-    Check(node->selectSingleNode(ToBstr(xpath), found.GetAddressOf()));
+    Check(node->selectSingleNode(InText(xpath), found.GetAddressOf()));
     return found;
 }
 
 std::vector<Node> SelectNodes(const Node& node, const std::wstring& xpath) {
     ComPtr<IXMLDOMNodeList> list;
-    Check(node->selectNodes(ToBstr(xpath), list.GetAddressOf()));
+    Check(node->selectNodes(InText(xpath), list.GetAddressOf()));
     std::vector<Node> found;
     for (Node next; list->nextNode(next.ReleaseAndGetAddressOf()) == S_OK && next;) found.push_back(next);
     return found;
 }
 
-std::vector<Element> ChildElements(const Node& node) {
-    std::vector<Element> elements;
+Element AsElement(const Node& node) { return As<IXMLDOMElement>(node); }
+
+Node FirstChild(const Node& node) {
     Node child;
     Check(node->get_firstChild(child.GetAddressOf()));
-    while (child) {
+    return child;
+}
+
+Node NextSibling(const Node& node) {
+    Node next;
+    Check(node->get_nextSibling(next.GetAddressOf()));
+    return next;
+}
+
+std::vector<Element> ChildElements(const Node& node) {
+    std::vector<Element> elements;
+    for (Node child = FirstChild(node); child; child = NextSibling(child)) {
         DOMNodeType type = NODE_INVALID;
         Check(child->get_nodeType(&type));
         if (type == NODE_ELEMENT) elements.push_back(As<IXMLDOMElement>(child));
-        Node next;
-        Check(child->get_nextSibling(next.GetAddressOf()));
-        child = std::move(next);
     }
     return elements;
 }
 
-std::wstring LocalName(const Node& node) { return GetText(node, &IXMLDOMNode::get_baseName); }
-std::wstring NamespaceUri(const Node& node) { return GetText(node, &IXMLDOMNode::get_namespaceURI); }
+platform::OutText LocalName(const Node& node) { return Get(node, &IXMLDOMNode::get_baseName); }
+platform::OutText NamespaceUri(const Node& node) { return Get(node, &IXMLDOMNode::get_namespaceURI); }
 std::wstring Xml(const Node& node) { return GetText(node, &IXMLDOMNode::get_xml); }
 
 Document OwnerDocument(const Node& node) {

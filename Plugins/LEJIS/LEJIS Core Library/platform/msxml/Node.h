@@ -2,20 +2,22 @@
 #pragma once
 
 #include "platform/msxml/MsXml.h"
+#include "platform/OutText.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace msxml {
 
 // A new, unattached element; `qualifiedName` is written as it stands.
-Element CreateElement(const Document& document, const std::wstring& qualifiedName, const std::wstring& namespaceUri);
+Element CreateElement(const Document& document, std::wstring_view qualifiedName, std::wstring_view namespaceUri);
 
 // Sets an attribute that has a namespace.
-void SetAttribute(const Document& document, const Element& element, const std::wstring& qualifiedName,
-                  const std::wstring& namespaceUri, const std::wstring& value);
+void SetAttribute(const Document& document, const Element& element, std::wstring_view qualifiedName,
+                  std::wstring_view namespaceUri, std::wstring_view value);
 
-void SetText(const Element& element, const std::wstring& text);
+void SetText(const Element& element, std::wstring_view text);
 
 // Puts `child` behind the last child of `parent`, taking it out of where it was.
 void Append(const Node& parent, const Node& child);
@@ -33,11 +35,19 @@ std::wstring Attribute(const Element& element, const wchar_t* name);
 Node SelectNode(const Node& node, const std::wstring& xpath);
 std::vector<Node> SelectNodes(const Node& node, const std::wstring& xpath);
 
+// The node, or null, as the element that it is. Raises for a node of another kind.
+Element AsElement(const Node& node);
+
+// Null when there is none.
+Node FirstChild(const Node& node);
+Node NextSibling(const Node& node);
+
 // The element children, in document order.
 std::vector<Element> ChildElements(const Node& node);
 
-std::wstring LocalName(const Node& node);
-std::wstring NamespaceUri(const Node& node);
+// Empty for a node that has none.
+platform::OutText LocalName(const Node& node);
+platform::OutText NamespaceUri(const Node& node);
 
 Document OwnerDocument(const Node& node);
 

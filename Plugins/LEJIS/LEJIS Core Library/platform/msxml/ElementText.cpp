@@ -1,0 +1,42 @@
+#include "platform/msxml/ElementText.h"
+
+#include "platform/ComError.h"
+#include "platform/msxml/Node.h"
+
+#include <comutil.h>
+
+using platform::Check;
+
+namespace msxml {
+namespace {
+
+// MSXML may trim the text of an element and change white space inside it; then only MSXML knows what it makes of it.
+bool IsTheSameInAnElement(std::wstring_view text) {
+    bool blankBefore = true;
+    for (const wchar_t character : text) {
+        if (character < L' ' || (character == L' ' && blankBefore)) return false;
+        blankBefore = character == L' ';
+    }
+    return !blankBefore;
+}
+
+bool IsText(const Node& node) {
+    DOMNodeType type = NODE_INVALID;
+    Check(node->get_nodeType(&type));
+    return type == NODE_TEXT;
+}
+
+}  // namespace
+
+std::wstring ElementText(const Node& element) {
+    const Node only = FirstChild(element);
+    if (!only) return {};
+    if (!IsText(only) || NextSibling(only)) return Text(element);
+    _variant_t value;
+    Check(only->get_nodeValue(&value));
+    if (V_VT(&value) != VT_BSTR) return Text(element);
+    const std::wstring_view text(V_BSTR(&value), SysStringLen(V_BSTR(&value)));
+    return IsTheSameInAnElement(text) ? std::wstring(text) : Text(element);
+}
+
+}  // namespace msxml

@@ -1,0 +1,66 @@
+#include "platform/msxml/ElementText.h"
+
+#include "platform/msxml/Document.h"
+#include "platform/msxml/Node.h"
+#include "support/ComCheck.h"
+#include "support/Xml.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+namespace msxml {
+namespace {
+
+struct Case {
+    const char* name;
+    const wchar_t* xml;
+};
+
+void PrintTo(const Case& row, std::ostream* out) { *out << row.name; }
+
+class ElementTextOf : public testing::TestWithParam<Case> {};
+
+TEST_P(ElementTextOf, IsWhatMsxmlSays) {
+    for (const VARIANT_BOOL preserved : {VARIANT_FALSE, VARIANT_TRUE}) {
+        const Document document = CreateDocument();
+        ASSERT_OK(document->put_preserveWhiteSpace(preserved));
+        ASSERT_TRUE(LoadXml(document, GetParam().xml));
+        const Element root = Root(document);
+        EXPECT_EQ(Text(root), ElementText(root));
+    }
+}
+
+constexpr Case kCases[] = {
+    {"Word", L"<r>word</r>"},
+    {"Words", L"<r>one two three</r>"},
+    {"Empty", L"<r/>"},
+    {"EmptyPair", L"<r></r>"},
+    {"Blank", L"<r> </r>"},
+    {"OuterBlanks", L"<r>  word  </r>"},
+    {"LeadingBlank", L"<r> word</r>"},
+    {"TrailingBlank", L"<r>word </r>"},
+    {"InnerBlanks", L"<r>one  two</r>"},
+    {"Tab", L"<r>one\ttwo</r>"},
+    {"Lines", L"<r>one\r\ntwo\n</r>"},
+    {"CharacterReference", L"<r>one&#13;two</r>"},
+    {"Entities", L"<r>&lt;&amp;&gt;</r>"},
+    {"NoBreakSpace", L"<r>\x00A0word\x00A0</r>"},
+    {"IdeographicSpace", L"<r>\x3000word</r>"},
+    {"BeyondTheBasicPlane", L"<r>\xD83D\xDE00</r>"},
+    {"CData", L"<r><![CDATA[ <word> ]]></r>"},
+    {"TextAndCData", L"<r>one<![CDATA[two]]></r>"},
+    {"CommentFirst", L"<r><!-- one -->two</r>"},
+    {"CommentOnly", L"<r><!-- one --></r>"},
+    {"CommentLast", L"<r>one<!-- two --></r>"},
+    {"InstructionOnly", L"<r><?one two?></r>"},
+    {"ElementOnly", L"<r><a>one</a></r>"},
+    {"Mixed", L"<r>one<a>two</a>three</r>"},
+    {"Preserved", L"<r xml:space='preserve'> one </r>"},
+};
+
+INSTANTIATE_TEST_SUITE_P(All, ElementTextOf, testing::ValuesIn(kCases),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+}  // namespace
+}  // namespace msxml
