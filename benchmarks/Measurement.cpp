@@ -6,33 +6,32 @@
 namespace benchmarks {
 namespace {
 
-double MeanMicroseconds(const Work& work, int repetitions) {
+double MeanMicroseconds(const Work& work) {
     const auto start = std::chrono::steady_clock::now();
-    for (int repetition = 0; repetition < repetitions; ++repetition) work.run();
+    for (int repetition = 0; repetition < work.repetitions; ++repetition) work.run();
     const std::chrono::duration<double, std::micro> elapsed = std::chrono::steady_clock::now() - start;
-    return elapsed.count() / repetitions;
-}
-
-Measurement Summary(const std::string& name, std::vector<double> times) {
-    std::sort(times.begin(), times.end());
-    return {name, times[times.size() / 2], times.front(), times.back()};
+    return elapsed.count() / work.repetitions;
 }
 
 }  // namespace
 
-std::vector<Measurement> Measure(const std::vector<Work>& works, int rounds, int repetitions) {
-    for (const Work& work : works) work.run();
-    std::vector<std::vector<double>> times(works.size());
+std::vector<Series> Measure(const std::vector<Work>& works, int rounds) {
+    std::vector<Series> series;
+    for (const Work& work : works) {
+        work.run();
+        series.push_back({work.name, {}});
+    }
     for (int round = 0; round < rounds; ++round) {
         for (size_t index = 0; index < works.size(); ++index) {
-            times[index].push_back(MeanMicroseconds(works[index], repetitions));
+            series[index].rounds.push_back(MeanMicroseconds(works[index]));
         }
     }
-    std::vector<Measurement> measurements;
-    for (size_t index = 0; index < works.size(); ++index) {
-        measurements.push_back(Summary(works[index].name, std::move(times[index])));
-    }
-    return measurements;
+    return series;
+}
+
+double Median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
 }
 
 }  // namespace benchmarks

@@ -10,18 +10,21 @@ namespace benchmarks {
 struct Work {
     std::string name;
     std::function<void()> run;
+    // How often a round runs it; the round's time is the mean.
+    int repetitions = 1;
 };
 
-// Microseconds for one run of the work.
-struct Measurement {
+// What a work took in each round: microseconds for one run of it, unless the name of the series says otherwise.
+struct Series {
     std::string name;
-    double median;
-    double fastest;
-    double slowest;
+    std::vector<double> rounds;
 };
 
-// Runs every work once to warm up, then all of them in turn, `rounds` times; in each turn a work runs `repetitions`
-// times and counts with the mean.
-std::vector<Measurement> Measure(const std::vector<Work>& works, int rounds, int repetitions);
+inline constexpr int kRounds = 9;
+
+// Runs every work once to warm up, then all of them in turn in every round.
+std::vector<Series> Measure(const std::vector<Work>& works, int rounds = kRounds);
+
+double Median(std::vector<double> values);
 
 }  // namespace benchmarks

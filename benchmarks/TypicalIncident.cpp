@@ -82,4 +82,12 @@ ComPtr<lejis::LejisIncidentIndexCard> TypicalIncident() {
     return incident;
 }
 
+ComPtr<lejis::LejisIncidentIndexCard> IncidentWithPersons(int persons) {
+    auto incident = TypicalIncident();
+    while (incident->PersonIndexCards->Count() < static_cast<size_t>(persons)) {
+        incident->PersonIndexCards->AddObject(Person(L"WITNESS")->Dispatch());
+    }
+    return incident;
+}
+
 }  // namespace benchmarks

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/msxml/MsXml.h"
+#include "services/LejisSearchWebService.h"
+
+namespace benchmarks {
+
+class EventCounter;
+
+// A search whose request is complete as soon as it is sent.
+class CompletedSearch {
+public:
+    explicit CompletedSearch(const msxml::Document& answer);
+    ~CompletedSearch();
+    CompletedSearch(const CompletedSearch&) = delete;
+    CompletedSearch& operator=(const CompletedSearch&) = delete;
+
+    // Searches, and takes the answer up to the event SearchCompleted; the fixed delay before is not waited for. Raises
+    // when that event does not come.
+    void Complete();
+
+private:
+    Microsoft::WRL::ComPtr<lejis::LejisSearchWebService> service_;
+    Microsoft::WRL::ComPtr<lejis::LejisSearchRequest> request_;
+    Microsoft::WRL::ComPtr<EventCounter> counter_;
+    Microsoft::WRL::ComPtr<IConnectionPoint> events_;
+    msxml::Document answer_;
+    DWORD cookie_ = 0;
+};
+
+}  // namespace benchmarks

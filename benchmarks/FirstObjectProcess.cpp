@@ -1,0 +1,61 @@
+#include "FirstObjectProcess.h"
+
+#include "platform/com/Module.h"
+#include "platform/ComError.h"
+
+#include <windows.h>
+#include <objbase.h>
+#include <wrl/client.h>
+
+#include <chrono>
+#include <stdexcept>
+#include <string_view>
+
+using Microsoft::WRL::ComPtr;
+
+namespace benchmarks {
+namespace {
+
+constexpr std::string_view kOption = "--first-object";
+constexpr int kFailed = -1;
+
+// The time is the exit code: it needs no pipe.
+int TimeToCreate(const std::wstring& progId) {
+    CLSID classId;
+    if (FAILED(CLSIDFromProgID(progId.c_str(), &classId))) return kFailed;
+    const auto start = std::chrono::steady_clock::now();
+    ComPtr<IUnknown> object;
+    if (FAILED(CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(object.GetAddressOf())))) {
+        return kFailed;
+    }
+    const auto elapsed = std::chrono::steady_clock::now() - start;
+    return static_cast<int>(std::chrono::duration_cast<std::chrono::microseconds>(elapsed).count());
+}
+
+}  // namespace
+
+std::optional<int> FirstObjectCode(int count, char** texts) {
+    if (count != 3 || texts[1] != kOption) return std::nullopt;
+    const std::string_view progId = texts[2];
+    return TimeToCreate(std::wstring(progId.begin(), progId.end()));
+}
+
+double FirstObjectMicroseconds(const std::wstring& progId) {
+    std::wstring command = L"\"" + platform::module::Path() + L"\" " + std::wstring(kOption.begin(), kOption.end()) +
+                           L" " + progId;
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process{};
+    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process)) {
+        throw std::runtime_error("cannot start a process");
+    }
+    WaitForSingleObject(process.hProcess, INFINITE);
+    DWORD code = 0;
+    GetExitCodeProcess(process.hProcess, &code);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    if (static_cast<int>(code) == kFailed) throw std::runtime_error("an object could not be created");
+    return code;
+}
+
+}  // namespace benchmarks

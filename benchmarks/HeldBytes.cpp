@@ -1,0 +1,60 @@
+// What incidents read into cards hold of memory when the document is gone.
+#include "CardWalk.h"
+#include "inquiry/LejisInquiryResponse.h"
+#include "LargeAnswer.h"
+#include "Sections.h"
+
+#include <malloc.h>
+#include <oleauto.h>
+
+#include <stdexcept>
+
+using Microsoft::WRL::ComPtr;
+using platform::Check;
+
+namespace benchmarks {
+namespace {
+
+// The bytes that the process's heaps have given out, the heaps' own overhead included.
+double BytesOnHeaps() {
+    HANDLE heaps[64];
+    const DWORD count = GetProcessHeaps(ARRAYSIZE(heaps), heaps);
+    if (count == 0 || count > ARRAYSIZE(heaps)) throw std::runtime_error("cannot list the process's heaps");
+    double bytes = 0;
+    for (DWORD index = 0; index < count; ++index) {
+        HeapLock(heaps[index]);
+        for (PROCESS_HEAP_ENTRY entry{}; HeapWalk(heaps[index], &entry);) {
+            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) bytes += static_cast<double>(entry.cbData + entry.cbOverhead);
+        }
+        HeapUnlock(heaps[index]);
+    }
+    return bytes;
+}
+
+double BytesOfTexts(ICollection* cards) {
+    double bytes = 0;
+    WalkCards(cards, [&](BSTR text) {
+        bytes += SysStringByteLen(text);
+        SysFreeString(text);
+    });
+    return bytes;
+}
+
+}  // namespace
+
+std::vector<Figure> HeldBytes() {
+    Series held{"4,000 incidents: bytes held by their cards", {}};
+    Series texts{"bytes of their texts as UTF-16", {}};
+    for (int round = 0; round <= kRounds; ++round) {
+        const auto response = platform::Create<lejis::LejisInquiryResponse>();
+        const double before = BytesOnHeaps();
+        Check(response->FromXmlDocument(LoadedAnswer(4000).Get()));
+        const double after = BytesOnHeaps();
+        if (round == 0) continue;
+        held.rounds.push_back(after - before);
+        texts.rounds.push_back(BytesOfTexts(response->IncidentIndexCards.Get()));
+    }
+    return {Ratio(held, texts, 4)};
+}
+
+}  // namespace benchmarks
