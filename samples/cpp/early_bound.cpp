@@ -48,8 +48,8 @@ public:
     int ExitCode() const { return exitCode_; }
 
     STDMETHODIMP QueryInterface(REFIID id, void** object) override {
-        const bool known = id == __uuidof(IUnknown) || id == __uuidof(IDispatch) ||
-                           id == __uuidof(_LejisSearchWebServiceEvents);
+        const bool known =
+            id == __uuidof(IUnknown) || id == __uuidof(IDispatch) || id == __uuidof(_LejisSearchWebServiceEvents);
         *object = known ? this : nullptr;
         return known ? S_OK : E_NOINTERFACE;
     }
@@ -62,8 +62,7 @@ public:
     STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
 
-    STDMETHODIMP Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS* arguments, VARIANT*, EXCEPINFO*,
-                        UINT*) override {
+    STDMETHODIMP Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS* arguments, VARIANT*, EXCEPINFO*, UINT*) override {
         // The numbers of the events in _LejisSearchWebServiceEvents; 2 is never raised.
         switch (event) {
             case 1:

@@ -41,11 +41,12 @@ _variant_t Invoke(const Object& object, const wchar_t* name, WORD kind, std::vec
     Check(object->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &member));
     DISPID put = DISPID_PROPERTYPUT;
     const bool puts = kind == DISPATCH_PROPERTYPUT;
-    DISPPARAMS parameters = {reversed.data(), puts ? &put : nullptr, static_cast<UINT>(reversed.size()), puts ? 1u : 0u};
+    DISPPARAMS parameters = {reversed.data(), puts ? &put : nullptr, static_cast<UINT>(reversed.size()),
+                             puts ? 1u : 0u};
     _variant_t result;
     EXCEPINFO raised = {};
-    const HRESULT code = object->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, &result, &raised,
-                                        nullptr);
+    const HRESULT code =
+        object->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, &result, &raised, nullptr);
     const _bstr_t description(raised.bstrDescription, false);
     SysFreeString(raised.bstrSource);
     SysFreeString(raised.bstrHelpFile);

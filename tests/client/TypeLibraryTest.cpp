@@ -10,6 +10,8 @@
 #include <fstream>
 #include <iterator>
 #include <sstream>
+#include <string>
+#include <vector>
 
 namespace client {
 namespace {
@@ -38,6 +40,18 @@ std::string FirstDifference(const std::string& agreed, const std::string& presen
     }
 }
 
+std::vector<std::wstring> ValueNames(ITypeInfo* enumeration) {
+    std::vector<std::wstring> names;
+    VARDESC* value = nullptr;
+    while (SUCCEEDED(enumeration->GetVarDesc(static_cast<UINT>(names.size()), &value))) {
+        _bstr_t name;
+        EXPECT_OK(enumeration->GetDocumentation(value->memid, name.GetAddress(), nullptr, nullptr, nullptr));
+        enumeration->ReleaseVarDesc(value);
+        names.emplace_back(name);
+    }
+    return names;
+}
+
 TEST(TypeLibrary, IsTheAgreedOne) {
     const std::string present = support::Utf8(List(RegisteredTypeLibrary().Get()));
     const char* const accept = std::getenv(kAccept);
@@ -59,6 +73,26 @@ TEST(TypeLibrary, HasHelpForEverything) {
     for (std::string line; std::getline(lines, line);) {
         EXPECT_EQ(std::string::npos, line.find("[no help]")) << line;
     }
+}
+
+// A value has no help string of its own: the compiler of the type library takes none there.
+TEST(TypeLibrary, ExplainsEveryValueInTheHelpOfItsEnumeration) {
+    const ComPtr<ITypeLib> library = RegisteredTypeLibrary();
+    int values = 0;
+    for (UINT index = 0; index < library->GetTypeInfoCount(); ++index) {
+        TYPEKIND kind;
+        ASSERT_OK(library->GetTypeInfoType(index, &kind));
+        if (kind != TKIND_ENUM) continue;
+        ComPtr<ITypeInfo> type;
+        _bstr_t help;
+        ASSERT_OK(library->GetTypeInfo(index, type.GetAddressOf()));
+        ASSERT_OK(type->GetDocumentation(MEMBERID_NIL, nullptr, help.GetAddress(), nullptr, nullptr));
+        for (const std::wstring& name : ValueNames(type.Get())) {
+            ++values;
+            EXPECT_NE(std::wstring::npos, std::wstring(help).find(name + L": ")) << support::Utf8(name);
+        }
+    }
+    EXPECT_EQ(2, values);
 }
 
 TEST(TypeLibrary, MakesEveryInterfaceDualAndFitForAutomation) {

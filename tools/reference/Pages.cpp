@@ -64,7 +64,8 @@ private:
         text += L" " + member.name + L"(";
         for (const Parameter& parameter : member.parameters) {
             if (!text.ends_with(L"(")) text += L", ";
-            text += L"ByVal " + parameter.name + L" As " + ClientName(parameter.type);
+            // A handler must name the types of an event as the library does.
+            text += L"ByVal " + parameter.name + L" As " + (event ? parameter.type : ClientName(parameter.type));
         }
         return text + L")" + (returns ? L" As " + ClientName(member.type) : L"");
     }
@@ -98,10 +99,16 @@ private:
         return text.empty() ? text : L"\n## " + std::wstring(heading) + L"\n" + text;
     }
 
+    // What the class and its interface say of themselves, once where one says it in the words of the other.
+    static std::wstring Summary(const std::wstring& ofClass, const std::wstring& ofInterface) {
+        const bool repeats = ofInterface.starts_with(ofClass.substr(0, ofClass.size() - 1));
+        return repeats ? ofInterface : ofClass + L"\n\n" + ofInterface;
+    }
+
     std::wstring ClassPage(const Class& one) const {
         const Interface& face = library_.interfaces.at(one.defaultInterface);
         const std::wstring progId = library_.name + L"." + one.name;
-        std::wstring text = L"# " + one.name + L"\n\n" + one.help + L" " + face.help + L"\n\n| | |\n|---|---|\n";
+        std::wstring text = L"# " + one.name + L"\n\n" + Summary(one.help, face.help) + L"\n\n| | |\n|---|---|\n";
         text += one.creatable ? L"| ProgID | " + Code(progId) + L": " + Code(L"CreateObject(\"" + progId + L"\")") +
                                     L" or " + Code(L"New " + progId) + L" |\n"
                               : L"| ProgID | none: the library hands these objects out |\n";

@@ -1,0 +1,42 @@
+#!/bin/bash
+# samples/run.sh PROGRAM [ARGUMENT...]
+# Runs a script (.vbs) or a 32-bit program (.exe) under Wine with the library registered, against the LEJIS Interface
+# simulator, whose index holds the burglary of samples/incidents. Among the arguments, SUBMISSION and SEARCH stand for the
+# addresses of the simulator's services. Ends with the program's exit code.
+set -euo pipefail
+# shellcheck source=tools/shell-support.sh
+source "$(dirname "${BASH_SOURCE[0]}")/../tools/shell-support.sh"
+# shellcheck source=tools/wine-environment.sh
+source "$project/tools/wine-environment.sh"
+
+with_simulator() {
+  local services=$LEJIS_SIMULATOR_URL/lejis-core-Rev01/services command=() argument
+  run /usr/bin/python3 "$project/tools/demo/simulator_control.py" "$LEJIS_SIMULATOR_URL" add-cards \
+    "$project/samples/incidents/burglary.xml" || fail "the simulator takes no cards"
+  case $1 in
+    *.vbs) command=("$(windows_programs x86)\\cscript.exe" //nologo "$(windows_path "$(realpath "$1")")") ;;
+    *) command=("$(realpath "$1")") ;;
+  esac
+  for argument in "${@:2}"; do
+    case $argument in
+      SUBMISSION) command+=("$services/submission") ;;
+      SEARCH) command+=("$services/search") ;;
+      *) command+=("$argument") ;;
+    esac
+  done
+  run timeout --kill-after=10 60 wine "${command[@]}"
+}
+
+[[ -f ${1:-} ]] || wrong_usage "usage: samples/run.sh PROGRAM [ARGUMENT...]"
+if [[ -n ${LEJIS_SIMULATOR_URL:-} ]]; then
+  clean_up_with :
+  with_simulator "$@"
+else
+  clean_up_with stop_wine
+  lock_checkout
+  run "$project/tools/setup.sh"
+  run "$project/build.sh" x86 TVLejisCore
+  start_wine
+  register_dll x86
+  run "$project/tests/support/with_simulator.sh" "${BASH_SOURCE[0]}" "$@"
+fi
