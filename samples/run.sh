@@ -11,8 +11,8 @@ source "$project/tools/wine-environment.sh"
 
 with_simulator() {
   local services=$LEJIS_SIMULATOR_URL/lejis-core-Rev01/services command=() argument
-  run /usr/bin/python3 "$project/tools/demo/simulator_control.py" "$LEJIS_SIMULATOR_URL" add-cards \
-    "$project/samples/incidents/burglary.xml" || fail "the simulator takes no cards"
+  run wine "$(windows_path "$project/build/x86/bin/lejis.exe")" submit --url "$services/submission" \
+    "$(windows_path "$project/samples/incidents/burglary.xml")" >/dev/null || fail "the simulator takes no incident"
   case $1 in
     *.vbs) command=("$(windows_programs x86)\\cscript.exe" //nologo "$(windows_path "$(realpath "$1")")") ;;
     *) command=("$(realpath "$1")") ;;
@@ -35,7 +35,7 @@ else
   clean_up_with stop_wine
   lock_checkout
   run "$project/tools/setup.sh"
-  run "$project/build.sh" x86 TVLejisCore
+  run "$project/build.sh" x86 TVLejisCore lejis
   start_wine
   register_dll x86
   run "$project/tests/support/with_simulator.sh" "${BASH_SOURCE[0]}" "$@"

@@ -2,7 +2,6 @@
 
     simulator_control.py URL show-index N          a table; code 1 unless it has N incidents
     simulator_control.py URL play-fault JSON       for the next submission
-    simulator_control.py URL add-cards FILE        puts the incident cards of an XML file into the index
     simulator_control.py URL forget-exchanges
     simulator_control.py URL exchanges-are N       code 1 unless the simulator was called N times since
     simulator_control.py URL wsdl-was-read         code 1 unless one of the calls asked for the WSDL
@@ -11,7 +10,6 @@
 import json
 import sys
 import urllib.request
-from pathlib import Path
 
 COLUMNS = {
     "ori": "Agency",
@@ -55,11 +53,6 @@ def play_fault(url, fault):
     return True
 
 
-def add_cards(url, file):
-    call(url, "POST", "index", Path(file).read_text(encoding="utf-8"))
-    return True
-
-
 def forget_exchanges(url):
     call(url, "DELETE", "exchanges")
     return True
@@ -85,7 +78,6 @@ def all_calls_were_valid(url):
 COMMANDS = {
     "show-index": show_index,
     "play-fault": play_fault,
-    "add-cards": add_cards,
     "forget-exchanges": forget_exchanges,
     "exchanges-are": exchanges_are,
     "wsdl-was-read": wsdl_was_read,
