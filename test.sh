@@ -3,7 +3,7 @@
 # Builds everything and runs the tests under Wine: in each architecture the unit tests, the clients' tests (C++ and
 # scripts) and the tests over HTTP against the simulator; then the tests of the tools, written in Python.
 # PATTERN is GoogleTest's, such as "Vehicle*:-*Slow*"; scripts are chosen by their file names likewise, and the tests of
-# the tools are left out.
+# the tools, of the samples and of the guides are left out.
 # --require-x86 makes it an error that x86 programs cannot be run here.
 # The last line is "N passed, M failed"; the exit code is 1 unless tests ran and all passed.
 set -euo pipefail
@@ -85,6 +85,12 @@ run_lejis() {
   run_tests "$1" client unittest lejis "$project/tests/support/with_simulator.sh" "$project/tests/lejis/run.sh" "$1"
 }
 
+# The samples, and the pages of docs/ that are made with the library.
+run_samples() {
+  [[ -z $filter ]] || return 0
+  run_tests "$1" client unittest samples "$project/tests/support/with_simulator.sh" "$project/tests/samples/run.sh" "$1"
+}
+
 run_architecture() {
   local started=$SECONDS
   register_dll "$1"
@@ -92,15 +98,22 @@ run_architecture() {
   run_googletest "$1" client client_tests
   run_scripts "$1"
   run_lejis "$1"
+  run_samples "$1"
   run_googletest "$1" end-to-end end_to_end_tests "$project/tests/support/with_simulator.sh" --in-schemas
   say "$1 tested in $((SECONDS - started)) s"
 }
 
 run_python() {
   local folder
-  for folder in simulator support; do
+  for folder in simulator support docs; do
     run_tests - tools unittest "$folder" /usr/bin/python3 -m unittest discover -s "$project/tests/$folder"
   done
+}
+
+# The guide's commands start and stop Wine themselves, so they come last. They are for the 32-bit library.
+run_guide() {
+  [[ $selection != x64 ]] && wine_runs x86 || return 0
+  run_tests - tools unittest guides /usr/bin/python3 -m unittest discover -s "$project/tests/guides"
 }
 
 read_arguments "$@"
@@ -121,4 +134,5 @@ for architecture in $architectures; do
   fi
 done
 [[ -n $filter ]] || run_python
+[[ -n $filter ]] || run_guide
 run /usr/bin/python3 "$project/tests/support/test_report.py" summary "$results"
