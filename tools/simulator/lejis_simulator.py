@@ -1,20 +1,26 @@
 #!/usr/bin/python3
-"""Plays the LEJIS Interface and the index behind it, for tests and demonstrations."""
+"""Plays the LEJIS Interface and the index behind it, for tests and demonstrations; or stands before
+a real one and records what goes over the wire. Its address, opened in a browser, shows all of it."""
 
 from __future__ import annotations
 
 import argparse
 import contextlib
+import ipaddress
 import os
 import queue
 import signal
 import sys
 import tempfile
 import threading
+from collections.abc import Callable
 from pathlib import Path
 
+from endpoints.callers import Callers
 from endpoints.search_endpoint import DEFAULT_BROAD_LIMIT
 from lejis.namespaces import DEFAULT_LEJIS_HOST, Namespaces
+from recorder import Recorder
+from recording.far_side import FarSide
 from simulator import Simulator
 from watch import process_mark
 from wire.simulator_server import SimulatorServer
@@ -35,6 +41,10 @@ def _arguments(words: list[str] | None) -> argparse.Namespace:
         help="searches with more hits get no cards (default: %(default)s)")
     add("--stop-after", type=float, default=600, metavar="SECONDS",
         help="end after so long without a request (default: %(default)s)")
+    add("--record-to", metavar="URL",
+        help="pass everything on to the real LEJIS Interface at this address, and record it")
+    add("--allow", action="append", default=[], metavar="NETWORK",
+        help="who may see the page and control, beside this machine (such as 192.168.1.0/24)")
     add("--parent", type=int, metavar="PID", help="end when this process has ended")
     return parser.parse_args(words)
 
@@ -60,14 +70,24 @@ def _wait_for_the_end(server: SimulatorServer, stop: queue.SimpleQueue,
             return
 
 
+def _application(options: argparse.Namespace, data: Path,
+                 stop: Callable[[], None]) -> Simulator | Recorder:
+    callers = Callers(ipaddress.ip_network(network) for network in options.allow)
+    namespaces = Namespaces(options.lejis_host)
+    if options.record_to:
+        return Recorder(data, namespaces, stop, FarSide(options.record_to), callers)
+    return Simulator(data, namespaces, stop, options.broad_limit, callers)
+
+
 def _serve(options: argparse.Namespace, data: Path) -> None:
     # A signal can come at any instruction; of all means to pass it on, this queue alone bears that.
     stop: queue.SimpleQueue = queue.SimpleQueue()
     for number in (signal.SIGTERM, signal.SIGINT):
         signal.signal(number, lambda *_: stop.put("signal"))
-    application = Simulator(data, Namespaces(options.lejis_host), lambda: stop.put("control"),
-                            options.broad_limit)
+    application = _application(options, data, lambda: stop.put("control"))
     with SimulatorServer(options.host, options.port, application) as server:
+        if options.record_to and FarSide(options.record_to).is_reached_at(*server.server_address[:2]):
+            raise ValueError("it would record to itself.")
         serving = threading.Thread(target=server.serve_forever, args=(0.05,), daemon=True)
         serving.start()
         _announce(server, options.port_file)

@@ -33,9 +33,13 @@ class ControlCall:
     @property
     def last(self) -> int | None:
         """How many entries are wanted; nothing means all."""
-        text = self.request.query.get("last")
+        return self.number("last")
+
+    def number(self, name: str) -> int | None:
+        """An argument that is a whole number; nothing where it is left out."""
+        text = self.request.query.get(name)
         if text is None:
             return None
         if not (text.isascii() and text.isdigit() and len(text) < 10):
-            raise ValueError("The argument 'last' must be a whole number.")
+            raise ValueError(f"The argument '{name}' must be a whole number.")
         return int(text)

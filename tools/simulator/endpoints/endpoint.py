@@ -11,10 +11,12 @@ from wire.http_response import HttpResponse
 
 @dataclass(frozen=True)
 class Outcome:
-    """An answer, and the verdict of each check of the request: "ok" or a sentence."""
+    """An answer, the verdict of each check of the request ("ok" or a sentence), and in a few words
+    what the request was about."""
 
     response: HttpResponse
     checks: dict[str, str] = field(default_factory=dict)
+    about: str = ""
 
 
 class Endpoint(Protocol):

@@ -5,6 +5,7 @@ from __future__ import annotations
 from lxml import etree
 
 from lejis import soap
+from lejis.inquiry import Inquiry
 from lejis.namespaces import Namespaces
 from lejis.schema_set import SchemaSet
 from lejis.search_fields import GROUPS
@@ -28,6 +29,16 @@ class SearchChecks(RequestChecks):
             "schema": self._validate,
             "blocks": self._demand_content,
         })
+
+    @property
+    def about(self) -> str:
+        """What is searched for."""
+        if self.payload is None:
+            return ""
+        inquiry = Inquiry(self.payload, self._namespaces)
+        asked = [f"{field.column.replace('_', ' ')} {text}"
+                 for criteria in inquiry.criteria.values() for field, text in criteria]
+        return ", ".join(asked + inquiry.words)
 
     def _open(self, root: etree._Element) -> None:
         header, body = soap.parts(root, "Header", "Body")

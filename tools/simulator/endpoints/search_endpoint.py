@@ -39,13 +39,13 @@ class SearchEndpoint:
         sentence = None if checks.user is None else _refusal(checks.user)
         if sentence is not None:
             return Outcome(HttpResponse.text(403, sentence + ".", reason=sentence),
-                           checks.verdicts)
+                           checks.verdicts, checks.about)
         if checks.objection is not None:
             fault = soap.fault("soap:Client", checks.objection)
-            return Outcome(HttpResponse.xml(fault, 500), checks.verdicts)
+            return Outcome(HttpResponse.xml(fault, 500), checks.verdicts, checks.about)
         count, cards = self._find(Inquiry(checks.payload, self._namespaces))
         answer = soap.inquiry_response(self._namespaces, cards, count)
-        return Outcome(HttpResponse.xml(answer), checks.verdicts)
+        return Outcome(HttpResponse.xml(answer), checks.verdicts, checks.about)
 
     def _find(self, inquiry: Inquiry) -> tuple[int, list[str]]:
         """A search that is refused has a count and no cards; so the count is never 0 then."""

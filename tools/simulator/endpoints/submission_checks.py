@@ -5,6 +5,7 @@ from __future__ import annotations
 from lxml import etree
 
 from lejis import soap
+from lejis.incident_card import IncidentCard
 from lejis.namespaces import Namespaces
 from lejis.schema_set import SchemaSet
 from wire.http_request import HttpRequest
@@ -24,6 +25,21 @@ class SubmissionChecks(RequestChecks):
             "envelope": self._open,
             "schema": self._validate,
         })
+
+    @property
+    def cards(self) -> list[IncidentCard]:
+        """The incidents submitted, whatever the checks say."""
+        if self.payload is None:
+            return []
+        name = f"{{{self._namespaces.service}}}RMSIncidentIndexCard"
+        return [IncidentCard(element, self._namespaces)
+                for element in self.payload.iterchildren(name)]
+
+    @property
+    def about(self) -> str:
+        """Agency and number of the first incident."""
+        keys = [" ".join(card.key) for card in self.cards]
+        return f"{keys[0]} and {len(keys) - 1} more" if len(keys) > 1 else "".join(keys)
 
     def _open(self, root: etree._Element) -> None:
         (body,) = soap.parts(root, "Body")

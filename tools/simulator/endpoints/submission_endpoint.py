@@ -5,7 +5,6 @@ from __future__ import annotations
 from collections import Counter
 
 from lejis import soap
-from lejis.incident_card import IncidentCard
 from lejis.incident_index import IncidentIndex
 from lejis.namespaces import Namespaces
 from lejis.schema_set import SchemaSet
@@ -39,13 +38,10 @@ class SubmissionEndpoint:
         checks = SubmissionChecks(request, self._namespaces, self._schemas)
         if checks.objection is not None:
             fault = soap.fault("soap:Client", checks.objection)
-            return Outcome(HttpResponse.xml(fault, 500), checks.verdicts)
-        name = f"{{{self._namespaces.service}}}RMSIncidentIndexCard"
-        cards = [IncidentCard(element, self._namespaces)
-                 for element in checks.payload.iterchildren(name)]
-        done = self._index.apply(cards) if has_effect else Counter()
+            return Outcome(HttpResponse.xml(fault, 500), checks.verdicts, checks.about)
+        done = self._index.apply(checks.cards) if has_effect else Counter()
         answer = soap.submission_response(self._namespaces, _answer_text(done))
-        return Outcome(HttpResponse.xml(answer), checks.verdicts)
+        return Outcome(HttpResponse.xml(answer), checks.verdicts, checks.about)
 
 
 def _answer_text(done: Counter[str]) -> str:

@@ -35,10 +35,11 @@ class FaultKind:
     """Turns the right answer into the one that is sent.
 
     `honest` kinds delay the answer but mean it: the request has its effect. `target` binds a kind
-    to the one target where it makes sense.
+    to the one target where it makes sense. `meaning` says to people what the client gets.
     """
 
     play: Play
     parameters: dict[str, Parameter] = field(default_factory=dict)
     honest: bool = False
     target: str | None = None
+    meaning: str = ""

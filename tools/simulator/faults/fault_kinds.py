@@ -159,28 +159,36 @@ _HITS = {"count": Parameter(check.whole_number(2**31 - 1), 1)}
 _CARDS = {"count": Parameter(check.whole_number(MAX_CARDS), 3)}
 
 FAULT_KINDS: dict[str, FaultKind] = {
-    "response-code": FaultKind(_response_code, {"text": Parameter(check.text, "")},
-                               target="submission"),
-    "soap-fault": FaultKind(_soap_fault, _SOAP_FAULT),
-    "http-status": FaultKind(_http_status, _HTTP_STATUS),
-    "slow": FaultKind(_slow, _SECONDS, honest=True),
-    "trickle": FaultKind(_trickle, _SECONDS, honest=True),
-    "truncated": FaultKind(_truncated),
-    "truncated-headers": FaultKind(_truncated_headers),
-    "close": FaultKind(_close),
-    "reset": FaultKind(_reset),
-    "not-xml": FaultKind(_not_xml),
-    "invalid-xml": FaultKind(_invalid_xml),
-    "empty": FaultKind(_empty),
-    "no-response-element": FaultKind(_no_response_element),
-    "no-body": FaultKind(_no_body),
-    "doctype": FaultKind(_doctype),
-    "count-without-cards": FaultKind(_count_without_cards, _HITS, target="search"),
-    "cards": FaultKind(_cards, _CARDS, target="search"),
-    "bad-card": FaultKind(_bad_card, target="search"),
-    "deep-cards": FaultKind(_deep_cards, target="search"),
-    "no-types": FaultKind(_no_types, target="wsdl"),
-    "no-include": FaultKind(_no_include, target="wsdl"),
-    "https-include": FaultKind(_https_include, target="wsdl"),
-    "wrong-schema": FaultKind(_wrong_schema, target="wsdl"),
+    "response-code": FaultKind(
+        _response_code, {"text": Parameter(check.text, "")}, target="submission",
+        meaning="This text as the submission's response, empty by default"),
+    "soap-fault": FaultKind(_soap_fault, _SOAP_FAULT, meaning="A SOAP fault"),
+    "http-status": FaultKind(_http_status, _HTTP_STATUS, meaning="That HTTP status and body"),
+    "slow": FaultKind(_slow, _SECONDS, honest=True, meaning="The right answer after a while"),
+    "trickle": FaultKind(_trickle, _SECONDS, honest=True, meaning="The right answer bit by bit"),
+    "truncated": FaultKind(_truncated, meaning="Half of the body, then a close"),
+    "truncated-headers": FaultKind(_truncated_headers, meaning="Half of the headers, then a close"),
+    "close": FaultKind(_close, meaning="No answer, but a close"),
+    "reset": FaultKind(_reset, meaning="No answer, but a reset"),
+    "not-xml": FaultKind(_not_xml, meaning="Status 200 with words that are no XML"),
+    "invalid-xml": FaultKind(_invalid_xml, meaning="Status 200 with broken XML"),
+    "empty": FaultKind(_empty, meaning="Status 200 with nothing"),
+    "no-response-element": FaultKind(
+        _no_response_element, meaning="A soap:Body with something else in it"),
+    "no-body": FaultKind(_no_body, meaning="An envelope without soap:Body"),
+    "doctype": FaultKind(
+        _doctype, meaning="An answer whose text is an entity of its own DOCTYPE"),
+    "count-without-cards": FaultKind(
+        _count_without_cards, _HITS, target="search", meaning="This count, and no cards"),
+    "cards": FaultKind(_cards, _CARDS, target="search", meaning="So many cards made up"),
+    "bad-card": FaultKind(
+        _bad_card, target="search", meaning="Three cards, the second without its identifiers"),
+    "deep-cards": FaultKind(
+        _deep_cards, target="search", meaning="Two cards, one level too deep"),
+    "no-types": FaultKind(_no_types, target="wsdl", meaning="A WSDL without wsdl:types"),
+    "no-include": FaultKind(_no_include, target="wsdl", meaning="A WSDL without xsd:include"),
+    "https-include": FaultKind(
+        _https_include, target="wsdl", meaning="An include that begins with HTTPS://"),
+    "wrong-schema": FaultKind(
+        _wrong_schema, target="wsdl", meaning="A schema that nothing passes"),
 }

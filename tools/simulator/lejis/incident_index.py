@@ -24,6 +24,8 @@ class IncidentIndex:
         self._database.execute("PRAGMA synchronous = OFF")
         self._database.execute("PRAGMA foreign_keys = ON")
         self._prepare(file)
+        # It holds personal data.
+        file.chmod(0o600)
 
     def _prepare(self, file: Path) -> None:
         (version,) = self._database.execute("PRAGMA user_version").fetchone()

@@ -12,22 +12,22 @@ from .namespaces import SOAP, WSSE, Namespaces
 CONTENT_TYPE = "text/xml; charset=utf-8"
 
 
-def parse(body: bytes) -> etree._Element:
+def parse(body: bytes, what: str = "The request") -> etree._Element:
     """The root of a well-formed UTF-8 document without DOCTYPE; ValueError tells what is wrong."""
     try:
         body.decode("utf-8")
     except UnicodeDecodeError as error:
-        raise ValueError(f"The request is not UTF-8 text: {error.reason} "
+        raise ValueError(f"{what} is not UTF-8 text: {error.reason} "
                          f"at byte {error.start}.") from None
     parser = etree.XMLParser(encoding="utf-8", resolve_entities=False, no_network=True,
                              load_dtd=False, huge_tree=False)
     try:
         root = etree.fromstring(body, parser)
     except etree.XMLSyntaxError as error:
-        raise ValueError(f"The request is not well-formed XML: "
+        raise ValueError(f"{what} is not well-formed XML: "
                          f"{error.msg or 'it is empty'}.") from None
     if root.getroottree().docinfo.internalDTD is not None:
-        raise ValueError("The request carries a DOCTYPE, which is not accepted.")
+        raise ValueError(f"{what} carries a DOCTYPE, which is not accepted.")
     return root
 
 

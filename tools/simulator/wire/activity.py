@@ -4,7 +4,7 @@ from __future__ import annotations
 
 import threading
 import time
-from collections.abc import Iterator
+from collections.abc import Callable, Iterator
 from contextlib import contextmanager
 
 
@@ -17,16 +17,27 @@ class Activity:
         self._last = time.monotonic()
 
     @contextmanager
-    def exchange(self) -> Iterator[None]:
-        """The span of one exchange."""
+    def exchange(self) -> Iterator[Callable[[], None]]:
+        """The span of one exchange. What it gives is called when the exchange turns out to be no
+        use of the server: it counts no longer, and not afterwards."""
+        counts = True
+
+        def disregard() -> None:
+            nonlocal counts
+            if counts:
+                counts = False
+                with self._lock:
+                    self._busy -= 1
+
         with self._lock:
             self._busy += 1
         try:
-            yield
+            yield disregard
         finally:
             with self._lock:
-                self._busy -= 1
-                self._last = time.monotonic()
+                if counts:
+                    self._busy -= 1
+                    self._last = time.monotonic()
 
     @property
     def idle_seconds(self) -> float:

@@ -5,14 +5,17 @@ from __future__ import annotations
 import socket
 import struct
 import time
+from collections.abc import Callable
 from email.message import Message
 from http.server import BaseHTTPRequestHandler
 from typing import TYPE_CHECKING
 
+from .chunked_body import read_chunked
 from .delivery import Delivery
 from .head_recorder import HeadRecorder
 from .http_request import HttpRequest
 from .request_refused import RequestRefused
+from .takeover import Takeover
 
 if TYPE_CHECKING:
     from .simulator_server import SimulatorServer
@@ -40,8 +43,8 @@ class ConnectionHandler(BaseHTTPRequestHandler):
         """Reads a request and sends its answer. A client that goes away is no error."""
         try:
             if self._read_request_line():
-                with self.server.activity.exchange():
-                    self._exchange()
+                with self.server.activity.exchange() as disregard:
+                    self._exchange(disregard)
         except OSError:
             self.close_connection = True
         finally:
@@ -54,7 +57,8 @@ class ConnectionHandler(BaseHTTPRequestHandler):
 
     def handle_expect_100(self) -> bool:
         """Asks for the body only when it will be taken."""
-        self._body_length()
+        if not self._is_chunked():
+            self._body_length()
         return super().handle_expect_100()
 
     def _read_request_line(self) -> bool:
@@ -65,7 +69,7 @@ class ConnectionHandler(BaseHTTPRequestHandler):
         self.close_connection = not self.raw_requestline
         return bool(self.raw_requestline)
 
-    def _exchange(self) -> None:
+    def _exchange(self, disregard: Callable[[], None]) -> None:
         try:
             request = self._read_request()
         except RequestRefused as refusal:
@@ -73,8 +77,9 @@ class ConnectionHandler(BaseHTTPRequestHandler):
             self._send(delivery)
             self._drain()
         else:
-            peer = self.client_address[0]
-            self._send(self.server.answer(request, peer))
+            if self.server.is_watching(request):
+                disregard()
+            self._send(self.server.answer(request, self.client_address[0]))
 
     def _read_request(self) -> HttpRequest:
         if len(self.raw_requestline) > _MAX_LINE_BYTES:
@@ -83,22 +88,31 @@ class ConnectionHandler(BaseHTTPRequestHandler):
         self.request_version = "HTTP/1.1"
         if not self.parse_request():
             raise RequestRefused(400, "The request line is empty.")
-        length = self._body_length()
         try:
-            body = self.rfile.read(length)
+            return self._request(self._read_body())
         except TimeoutError:
             raise RequestRefused(408, "The request's body did not come in time.") from None
+
+    def _read_body(self) -> bytes:
+        if self._is_chunked():
+            return read_chunked(self.rfile, MAX_BODY_BYTES)
+        length = self._body_length()
+        body = self.rfile.read(length)
         if len(body) < length:
             raise RequestRefused(400, f"The request ended after {len(body)} of {length} bytes.")
-        return self._request(body)
+        return body
 
     def _request(self, body: bytes = b"") -> HttpRequest:
         return HttpRequest(self.command or "", self.path or "", self.rfile.take_head(),
                            self.headers, body)
 
-    def _body_length(self) -> int:
-        if self.headers.get("Transfer-Encoding"):
+    def _is_chunked(self) -> bool:
+        coding = self.headers.get("Transfer-Encoding")
+        if coding and not (coding.lower() == "chunked" and self.server.takes_chunks(self.path)):
             raise RequestRefused(411, "Bodies without a Content-Length are not taken.")
+        return bool(coding)
+
+    def _body_length(self) -> int:
         lengths = set(self.headers.get_all("Content-Length", []))
         if not lengths:
             if self.server.needs_length(self.command, self.path):
@@ -111,7 +125,17 @@ class ConnectionHandler(BaseHTTPRequestHandler):
             raise RequestRefused(413, f"A request may have at most {MAX_BODY_BYTES} bytes.")
         return int(text)
 
-    def _send(self, delivery: Delivery) -> None:
+    def _send(self, answer: Delivery | Takeover) -> None:
+        if isinstance(answer, Delivery):
+            self._deliver(answer)
+            return
+        answer.run(self.connection)
+        if answer.resets:
+            self._reset()
+        elif not answer.keeps_open:
+            self.close_connection = True
+
+    def _deliver(self, delivery: Delivery) -> None:
         self.server.wait(delivery.pause)
         if delivery.resets:
             self._reset()

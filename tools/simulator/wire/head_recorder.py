@@ -18,6 +18,10 @@ class HeadRecorder:
         self._head.append(line)
         return line
 
+    def read_line(self, limit: int) -> bytes:
+        """The next line, which belongs to a body; not remembered."""
+        return self._stream.readline(limit)
+
     def read(self, size: int) -> bytes:
         """The next bytes, which belong to a body; not remembered."""
         return self._stream.read(size)

@@ -16,6 +16,7 @@ from .connection_handler import ConnectionHandler
 from .delivery import Delivery
 from .http_request import HttpRequest
 from .http_response import HttpResponse
+from .takeover import Takeover
 
 _LAST_ANSWERS_SECONDS = 1
 
@@ -23,7 +24,7 @@ _LAST_ANSWERS_SECONDS = 1
 class Application(Protocol):
     """What stands behind the wire."""
 
-    def answer(self, request: HttpRequest, peer: str) -> Delivery:
+    def answer(self, request: HttpRequest, peer: str) -> Delivery | Takeover:
         """The response to a request and the manner of sending it."""
 
     def refuse(self, request: HttpRequest, response: HttpResponse) -> Delivery:
@@ -31,6 +32,12 @@ class Application(Protocol):
 
     def needs_length(self, method: str, target: str) -> bool:
         """Whether such a request has to say how long its body is."""
+
+    def takes_chunks(self, target: str) -> bool:
+        """Whether a request there may have a body of which nobody knows the length."""
+
+    def is_watching(self, request: HttpRequest) -> bool:
+        """Whether such a request only waits for something to happen, which is no use of the server."""
 
 
 class SimulatorServer(ThreadingHTTPServer):
@@ -74,11 +81,19 @@ class SimulatorServer(ThreadingHTTPServer):
         """Whether such a request has to say how long its body is."""
         return self._application.needs_length(method, target)
 
+    def takes_chunks(self, target: str) -> bool:
+        """Whether a request there may have a body of which nobody knows the length."""
+        return self._application.takes_chunks(target)
+
+    def is_watching(self, request: HttpRequest) -> bool:
+        """Whether such a request only waits for something to happen."""
+        return self._application.is_watching(request)
+
     def refuse(self, request: HttpRequest, response: HttpResponse) -> Delivery:
         """The answer to a request that broke off or is not HTTP."""
         return self._guarded(lambda: self._application.refuse(request, response))
 
-    def answer(self, request: HttpRequest, peer: str) -> Delivery:
+    def answer(self, request: HttpRequest, peer: str) -> Delivery | Takeover:
         """The answer to a whole request."""
         return self._guarded(lambda: self._application.answer(request, peer))
 

@@ -1,0 +1,95 @@
+"""Stands between a client and a real LEJIS Interface, and keeps what both of them say."""
+
+from __future__ import annotations
+
+from collections.abc import Callable
+from dataclasses import replace
+from pathlib import Path
+
+from endpoints.callers import Callers
+from endpoints.changes import Changes
+from endpoints.console import Console
+from endpoints.exchange_calls import ExchangeCalls
+from endpoints.search_checks import SearchChecks
+from endpoints.server_calls import ServerCalls
+from endpoints.submission_checks import SubmissionChecks
+from lejis.namespaces import SEARCH_PATH, SUBMISSION_PATH, Namespaces
+from lejis.schema_set import SchemaSet
+from recording.far_side import FarSide
+from recording.passage import Passage
+from recording.response_frame import ResponseFrame
+from views.message_view import MessageView
+from views.raw_message import RawMessage
+from wire.delivery import Delivery
+from wire.exchange_log import ExchangeLog, OpenExchange
+from wire.http_request import HttpRequest
+from wire.http_response import HttpResponse
+from wire.takeover import Takeover
+
+_CHECKS = {SUBMISSION_PATH: SubmissionChecks, SEARCH_PATH: SearchChecks}
+
+
+class Recorder:
+    """Passes on whatever does not concern its own page and control calls. It checks requests as
+    the simulator does, but for the record only."""
+
+    def __init__(self, data: Path, namespaces: Namespaces, stop: Callable[[], None],
+                 far_side: FarSide, callers: Callers = Callers()) -> None:
+        self._namespaces = namespaces
+        self._schemas = SchemaSet(data / "schemas", namespaces)
+        self._far_side = far_side
+        self._log = ExchangeLog(data / "exchanges")
+        self._changes = Changes()
+        self._console = Console(
+            callers, self._changes,
+            ExchangeCalls(self._log, MessageView(namespaces, self._schemas)).table,
+            ServerCalls(self._changes, stop, far_side.address).table)
+
+    def close(self) -> None:
+        """Lets go of those who watch."""
+        self._changes.end()
+
+    def needs_length(self, method: str, target: str) -> bool:
+        """Whether a length is needed is for the far side to say."""
+        return False
+
+    def takes_chunks(self, target: str) -> bool:
+        """Whatever is to be passed on may come in any way."""
+        return not Console.concerns(target)
+
+    def is_watching(self, request: HttpRequest) -> bool:
+        """A page that is open somewhere must not keep the recorder from ending."""
+        return Console.is_watching(request)
+
+    def answer(self, request: HttpRequest, peer: str) -> Delivery | Takeover:
+        """The console's answer, or the way to the far side's."""
+        if Console.concerns(request.target):
+            return Delivery(self._console.handle(request, peer))
+        exchange = self._log.begin(request)
+        frame = ResponseFrame(request.method)
+        return Passage(exchange, frame, self._far_side.connect,
+                       self._far_side.request_bytes(request),
+                       lambda note: self._finish(exchange, request, frame.status, note))
+
+    def refuse(self, request: HttpRequest, response: HttpResponse) -> Delivery:
+        """Records a request that is no request and so cannot be passed on."""
+        delivery = Delivery(response, closes=True)
+        exchange = self._log.begin(request)
+        exchange.received(delivery.to_bytes(request.method != "HEAD"))
+        self._finish(exchange, request, response.status,
+                     "The recorder refused this request; the far side has not seen it.")
+        return delivery
+
+    def _finish(self, exchange: OpenExchange, request: HttpRequest, status: int,
+                note: str) -> None:
+        checks, about = self._judged(request)
+        exchange.finish(status, checks, about=about, note=note)
+        self._changes.note()
+
+    def _judged(self, request: HttpRequest) -> tuple[dict[str, str], str]:
+        kind = _CHECKS.get(request.path) if request.method == "POST" else None
+        if kind is None:
+            return {}, ""
+        message = replace(request, body=RawMessage(request.head + request.body).body)
+        checks = kind(message, self._namespaces, self._schemas)
+        return checks.verdicts, checks.about

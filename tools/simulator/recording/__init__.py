@@ -1,0 +1,1 @@
+"""Standing between a client and a real LEJIS Interface."""

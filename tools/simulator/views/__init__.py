@@ -1,0 +1,1 @@
+"""What people read, made from what goes over the wire."""
