@@ -7,13 +7,13 @@ from unittest import mock
 from urllib.parse import quote
 
 import documents
+import inquiries
+from search_case import SEARCH_HEADERS
 from simulator_case import SimulatorCase
 
-from endpoints.control_endpoint import ControlEndpoint
 from endpoints.endpoint import Outcome
-from faults.fault_queue import FaultQueue
 from lejis.incident_index import IncidentIndex
-from lejis.namespaces import SUBMISSION_PATH
+from lejis.namespaces import SEARCH_PATH, SUBMISSION_PATH
 from wire.exchange_log import ExchangeLog
 from wire.http_request import HttpRequest
 from wire.http_response import HttpResponse
@@ -104,14 +104,47 @@ class ControlTest(SimulatorCase):
                 self.assertEqual(expected, self.call(method, "/control/" + path)[0])
         self.assertEqual([], self.stops)
 
-    def test_only_this_machine_may(self) -> None:
-        control = ControlEndpoint(None, None, FaultQueue(), None, lambda: None)
-        for peer, expected in (("127.0.0.1", 200), ("127.8.9.1", 200), ("::1", 200),
-                               ("::ffff:127.0.0.1", 200), ("10.0.0.1", 403),
-                               ("::ffff:10.0.0.1", 403), ("fe80::1%eth0", 403), ("", 403)):
-            with self.subTest(peer=peer):
-                answer = control.handle(HttpRequest("GET", "/control/faults"), peer)
-                self.assertEqual(expected, answer.status)
+    def test_one_exchange_as_people_read_it(self) -> None:
+        self.submit(documents.FULL.replace(b">17000<", b">1700<").replace(b">M<", b">Q<"))
+        shown = self.control("GET", "exchanges/1")
+        self.assertEqual("PA0123400 2007-000123", shown["about"])
+        self.assertEqual(2, len(shown["request"]["schema"]))
+        self.assertTrue(shown["request"]["head"].startswith("POST "))
+        self.assertIn("\n  <soap:Body>\n", shown["response"]["body"])
+        self.assertEqual(404, self.call("GET", "/control/exchanges/2")[0])
+
+    def test_raw_files(self) -> None:
+        self.submit()
+        for side in ("request", "response"):
+            status, raw = self.call("GET", f"/control/exchanges/1/{side}.http")
+            kept = (self.data / "exchanges" / f"000001-{side}.http").read_bytes()
+            self.assertEqual((200, kept), (status, raw))
+            self.assertEqual(404, self.call("GET", f"/control/exchanges/2/{side}.http")[0])
+
+    def test_what_an_exchange_was_about(self) -> None:
+        self.submit(documents.submission(documents.card("a"), documents.card("b")))
+        self.assertEqual("PA0123400 a and 1 more", self.last_exchange()["about"])
+        self.call("POST", SEARCH_PATH, inquiries.search(words="Main assault"), SEARCH_HEADERS)
+        self.assertEqual("main, assault", self.last_exchange()["about"])
+        self.submit(b"<no>")
+        self.assertEqual("", self.last_exchange()["about"])
+
+    def test_record_and_index_are_closed_to_others(self) -> None:
+        self.submit()
+        folder = self.data / "exchanges"
+        modes = {path.name: path.stat().st_mode & 0o777 for path in folder.iterdir()}
+        self.assertEqual({"000001-request.http": 0o600, "000001-response.http": 0o600,
+                          "exchanges.jsonl": 0o600}, modes)
+        self.assertEqual(0o700, folder.stat().st_mode & 0o777)
+        self.assertEqual(0o600, (self.data / "index.sqlite").stat().st_mode & 0o777)
+
+    def test_an_exchange_that_was_forgotten_under_way_stays_so(self) -> None:
+        log = ExchangeLog(self.data / "other")
+        exchange = log.begin(HttpRequest())
+        log.clear()
+        exchange.received(b"late")
+        exchange.finish(200, {})
+        self.assertEqual([], log.entries())
 
 
 if __name__ == "__main__":

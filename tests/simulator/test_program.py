@@ -2,7 +2,9 @@
 
 import contextlib
 import http.client
+import json
 import signal
+import socket
 import sqlite3
 import subprocess
 import sys
@@ -31,6 +33,7 @@ class ProgramTest(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.folder = Path(folder.name)
         self.port_file = self.folder / "port"
+        self.data = "data"
 
     def start(self, *words: str) -> subprocess.Popen:
         program = subprocess.Popen(
@@ -41,7 +44,7 @@ class ProgramTest(unittest.TestCase):
         return program
 
     def started(self, *words: str) -> subprocess.Popen:
-        program = self.start("--data", str(self.folder / "data"), *words)
+        program = self.start("--data", str(self.folder / self.data), *words)
         self.line = program.stdout.readline()
         self.port = int(self.port_file.read_text())
         return program
@@ -89,6 +92,35 @@ class ProgramTest(unittest.TestCase):
             _, answer = self.exchange(SEARCH_PATH, inquiries.search(words="assault"),
                                       SEARCH_HEADERS)
             self.assertEqual(expected, answer.count(b"<lejis:RMSIncidentIndexCard"))
+
+    def test_records_to_another(self) -> None:
+        far_side = self.started()
+        address = self.line.split()[-1]
+        self.port_file.unlink()
+        self.data = "recorder"
+        program = self.started("--record-to", address)
+        self.assertEqual(200, self.post(SUBMISSION_PATH, documents.FULL, GOOD_HEADERS))
+        kept = self.folder / "recorder" / "exchanges" / "000001-request.http"
+        self.assertTrue(kept.read_bytes().endswith(documents.FULL))
+        for one in (program, far_side):
+            one.terminate()
+            self.ends(one)
+
+    def test_does_not_record_to_itself(self) -> None:
+        with socket.create_server(("127.0.0.1", 0)) as taken:
+            port = taken.getsockname()[1]
+        program = self.start("--port", str(port), "--record-to", f"http://localhost:{port}")
+        self.assertIn("cannot start: it would record to itself.", program.communicate(timeout=10)[1])
+        self.assertEqual(1, program.returncode)
+
+    def test_an_open_page_does_not_keep_it_from_stopping(self) -> None:
+        program = self.started("--stop-after", "1")
+        watching = http.client.HTTPConnection("127.0.0.1", self.port, timeout=10)
+        self.addCleanup(watching.close)
+        watching.request("GET", "/control/changes")
+        known = json.loads(watching.getresponse().read())["changes"]
+        watching.request("GET", f"/control/changes?after={known}")
+        self.ends(program)
 
     def test_signals(self) -> None:
         for number in (signal.SIGTERM, signal.SIGINT):
@@ -152,7 +184,9 @@ class ProgramTest(unittest.TestCase):
             old.execute("CREATE TABLE incident (ori TEXT)")
         for words in (("--port", str(self.port)), ("--port", "70000"), ("--lejis-host", "a b"),
                       ("--data", str(self.folder / "file")),
-                      ("--data", str(self.folder / "old")), ("--host", "203.0.113.1")):
+                      ("--data", str(self.folder / "old")), ("--host", "203.0.113.1"),
+                      ("--record-to", "https://lejis"), ("--allow", "everybody"),
+                      ("--allow", "10.0.0.1/8")):
             with self.subTest(words=words):
                 program = self.start(*words)
                 _, errors = program.communicate(timeout=10)

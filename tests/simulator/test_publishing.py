@@ -79,7 +79,7 @@ class PublishingTest(SimulatorCase):
                 ("GET", SUBMISSION_PATH, 405), ("PUT", SUBMISSION_PATH, 405),
                 ("GET", SUBMISSION_PATH + "?WSDL", 200), ("POST", SCHEMAS_PATH + "card.xsd", 405),
                 ("HEAD", SUBMISSION_PATH, 405), ("BREW", SUBMISSION_PATH, 405),
-                ("GET", "/", 404), ("POST", "/lejis-core-Rev01/services/other", 404)):
+                ("GET", "/nowhere", 404), ("POST", "/lejis-core-Rev01/services/other", 404)):
             with self.subTest(method=method, path=path):
                 body = None if method == "GET" else b""
                 self.assertEqual(expected, self.call(method, path, body)[0])

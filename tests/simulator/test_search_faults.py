@@ -220,7 +220,7 @@ class SearchDescriptionTest(SearchCase):
         for method, path, expected in (("GET", SEARCH_PATH, 405), ("PUT", SEARCH_PATH, 405),
                                        ("HEAD", SEARCH_PATH, 405)):
             self.assertEqual(expected, self.call(method, path, b"")[0])
-        status, answer = self.call("GET", "/")
+        status, answer = self.call("GET", "/nowhere")
         self.assertEqual(404, status)
         for path in (SEARCH_PATH, SUBMISSION_PATH):
             self.assertIn(path.encode(), answer)

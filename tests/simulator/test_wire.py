@@ -103,7 +103,7 @@ class WireTest(SimulatorCase):
                 client.sendall(data)
 
     def test_answer_to_head_has_no_body(self) -> None:
-        answer = self.raw(b"HEAD / HTTP/1.1\r\nHost: x\r\nConnection: close\r\n\r\n")
+        answer = self.raw(b"HEAD /nowhere HTTP/1.1\r\nHost: x\r\nConnection: close\r\n\r\n")
         self.assertTrue(answer.startswith(b"HTTP/1.1 404 "))
         self.assertTrue(answer.endswith(b"\r\n\r\n"))
 

@@ -40,7 +40,7 @@ function row(exchange) {
     element("span", {class: "entry-title"}, `${nameOf(exchange)} `,
       element("span", {class: "faint"}, `#${exchange.number}`)),
     element("time", {class: "faint", datetime: exchange.time}, clock(exchange.time)),
-    exchange.about ? element("span", {class: "entry-about"}, exchange.about) : null,
+    element("span", {class: "entry-about"}, exchange.about),
     element("span", {class: "badges"}, ...badges(exchange)),
   ];
 }
@@ -63,6 +63,11 @@ function schema(objections) {
     element("ul", {}, ...objections.map((sentence) => element("li", {}, sentence))));
 }
 
+// The first one stands among the checks already.
+function furtherObjections(objections) {
+  return objections?.length > 1 ? schema(objections) : null;
+}
+
 function message(exchange, side) {
   const view = exchange[side];
   const title = side === "request" ? "Request" : "Response";
@@ -72,7 +77,7 @@ function message(exchange, side) {
       element("h4", {}, title, " ", element("span", {class: "faint"}, `${view.bytes.toLocaleString("en")} bytes`)),
       element("a", {href: file, download: true, "aria-label": `Raw bytes of the ${side}`}, "Raw bytes")),
     ...view.notes.map((note) => element("p", {class: "notice warn"}, note)),
-    schema(view.schema),
+    side === "request" ? furtherObjections(view.schema) : schema(view.schema),
     view.head ? element("details", {}, element("summary", {}, view.head.split("\n")[0].trim()),
       element("pre", {tabindex: "0", role: "region", "aria-label": `Headers of the ${side}`}, view.head)) : null,
     view.body ? element("pre", {tabindex: "0", role: "region", "aria-label": `Body of the ${side}`},

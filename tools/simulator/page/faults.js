@@ -4,25 +4,32 @@ import {get, order} from "./control.js";
 
 const options = byId("fault-options");
 const said = byId("fault-said");
+let kinds = [];
 
 function value(input, byDefault) {
   if (byDefault === null && input.value === "") return undefined;
   return typeof byDefault === "number" ? Number(input.value) : input.value;
 }
 
+// Such a kind means something else by its count than how often it is played.
+const hasOwnCount = (name) => "count" in (kinds.find(({kind}) => kind === name)?.parameters ?? {});
+
 function words(fault) {
-  const {when, count, target, kind, ...values} = fault;
+  const {when, target, kind, ...others} = fault;
+  const {count, ...rest} = others;
+  const values = hasOwnCount(kind) ? others : rest;
   const given = Object.entries(values).filter(([, one]) => one !== null && one !== "");
-  const often = when === "every" ? "every" : count > 1 ? `next ${count}` : "next";
   return [
-    element("strong", {}, kind), ` on ${often} ${target === "any" ? "request" : target}`,
-    given.length ? element("span", {class: "faint"}, ` ${given.map(([name, one]) => `${name}: ${one}`).join(", ")}`) : null,
+    element("strong", {}, kind), " ",
+    element("span", {class: "badge"}, target === "any" ? "any request" : target), " ",
+    element("span", {class: "badge"}, when === "next" && count > 1 && !hasOwnCount(kind) ? `next ${count}` : when), " ",
+    element("span", {class: "faint"}, given.map(([name, one]) => `${name}: ${one}`).join(", ")),
   ];
 }
 
 function field(kind, name, byDefault) {
   const isNumber = typeof byDefault === "number";
-  return element("label", {class: "field"}, name.replaceAll("_", " "),
+  return element("label", {class: isNumber ? "field" : "field wide"}, name.replaceAll("_", " "),
     element("input", {name, type: isNumber ? "number" : "text", step: isNumber ? "any" : null,
       required: isNumber, value: byDefault ?? "", placeholder: byDefault === null ? "usual" : null,
       autocomplete: "off", spellcheck: "false", id: `fault-${kind}-${name}`}));
@@ -32,13 +39,13 @@ async function play(kind, form) {
   const fault = {kind: kind.kind, when: options.elements.when.value};
   const target = byId("fault-target").value;
   if (target && kind.targets.length > 1) fault.target = target;
-  if (fault.when === "next" && !("count" in kind.parameters)) fault.count = Number(byId("fault-count").value);
+  if (fault.when === "next" && !hasOwnCount(kind.kind)) fault.count = Number(byId("fault-count").value);
   for (const [name, byDefault] of Object.entries(kind.parameters)) {
     fault[name] = value(form.elements[name], byDefault);
   }
   const ordered = await order(fault);
   said.classList.remove("bad");
-  said.replaceChildren("Ordered: ", ...words(ordered).filter(Boolean), ".");
+  said.replaceChildren("Ordered: ", ...words(ordered));
 }
 
 function tell(error) {
@@ -62,7 +69,8 @@ function item(kind) {
 }
 
 export async function prepare() {
-  byId("fault-kinds").replaceChildren(...(await get("faults/kinds")).map(item));
+  kinds = await get("faults/kinds");
+  byId("fault-kinds").replaceChildren(...kinds.map(item));
 }
 
 export async function refresh() {

@@ -46,7 +46,8 @@ export class List {
     await this.refresh();
     if (this.opened !== key) return;
     this.detail.focus({preventScroll: true});
-    this.detail.scrollIntoView({block: "nearest"});
+    const {top} = this.detail.getBoundingClientRect();
+    if (top < 0 || top > innerHeight / 2) this.detail.scrollIntoView();
   }
 
   /** Fetches what is open once more. */

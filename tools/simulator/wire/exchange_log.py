@@ -56,9 +56,9 @@ class ExchangeLog:
             if not self._lines.exists():
                 return []
             lines = self._lines.read_text(encoding="utf-8").splitlines()
-        if last is not None:
-            lines = lines[len(lines) - last:] if last < len(lines) else lines
-        return [json.loads(line) for line in lines]
+        # They are listed as they ended, which is not always as they began.
+        entries = sorted(map(json.loads, lines), key=lambda entry: entry["number"])
+        return entries if last is None else entries[max(0, len(entries) - last):]
 
     def entry(self, number: int) -> dict[str, Any] | None:
         """The summary of one exchange, or nothing if there is none such."""
