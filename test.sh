@@ -1,10 +1,11 @@
 #!/bin/bash
-# test.sh [x86|x64|all] [--filter PATTERN] [--require-x86]
+# test.sh [x86|x64|all] [--filter PATTERN] [--require-x86] [--require-browser]
 # Builds everything and runs the tests under Wine: in each architecture the unit tests, the clients' tests (C++ and
 # scripts) and the tests over HTTP against the simulator; then the tests of the tools, written in Python.
 # PATTERN is GoogleTest's, such as "Vehicle*:-*Slow*"; scripts are chosen by their file names likewise, and the tests of
 # the tools, of the samples and of the guides are left out.
-# --require-x86 makes it an error that x86 programs cannot be run here.
+# --require-x86 makes it an error that x86 programs cannot be run here, --require-browser that the simulator's page cannot
+# be looked at, for want of Chromium.
 # The last line is "N passed, M failed"; the exit code is 1 unless tests ran and all passed.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
@@ -27,7 +28,7 @@ read_arguments() {
         shift
         ;;
       --filter=*) filter=${1#*=} ;;
-      --require-x86) setup_options=(--require-x86) ;;
+      --require-x86 | --require-browser) setup_options+=("$1") ;;
       -*) wrong_usage "unknown option $1" ;;
       *) selection=$1 ;;
     esac
@@ -110,6 +111,16 @@ run_python() {
   done
 }
 
+# In a browser, with submissions from the library of the first architecture that runs here.
+run_page() {
+  if ! has_browser; then
+    say "The simulator's page was not tested: Chromium is not there"
+    return
+  fi
+  run_tests - tools unittest simulator_page "$project/tests/support/with_simulator.sh" \
+    "$project/tests/simulator_page/run.sh" "$1"
+}
+
 # The guide's commands start and stop Wine themselves, so they come last. They are for the 32-bit library.
 run_guide() {
   [[ $selection != x64 ]] && wine_runs x86 || return 0
@@ -122,17 +133,23 @@ clean_up_with stop_wine
 lock_checkout
 rm -rf "$results"
 mkdir -p "$results"
+[[ -n $filter ]] || setup_options=(--browser "${setup_options[@]}")
 run "$project/tools/setup.sh" "${setup_options[@]}"
 run "$project/build.sh" "$selection"
 start_wine
+tested=
 for architecture in $architectures; do
   if wine_runs "$architecture"; then
     run_architecture "$architecture"
+    tested=${tested:-$architecture}
   else
     [[ $selection == all ]] || fail "x86 programs do not run here: 32-bit Wine is not there"
     say "x86 not tested: 32-bit Wine is not there"
   fi
 done
-[[ -n $filter ]] || run_python
-[[ -n $filter ]] || run_guide
+if [[ -z $filter ]]; then
+  run_python
+  run_page "$tested"
+  run_guide
+fi
 run /usr/bin/python3 "$project/tests/support/test_report.py" summary "$results"

@@ -1,7 +1,8 @@
 #!/bin/bash
-# setup.sh [--require-x86]
+# setup.sh [--require-x86] [--browser | --require-browser]
 # Installs on Debian 12 what building and testing need and is not there yet. Without 32-bit Wine the x86 tests cannot
-# run; that is an error only with --require-x86.
+# run; that is an error only with --require-x86. --browser: Chromium too, for the tests of the simulator's page; that it
+# cannot be had is an error only with --require-browser.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/shell-support.sh"
@@ -9,17 +10,21 @@ source "$(dirname "${BASH_SOURCE[0]}")/shell-support.sh"
 source "$project/tools/wine-environment.sh"
 
 require_x86=no
-case ${1:-} in
-  '') ;;
-  --require-x86) require_x86=yes ;;
-  *) wrong_usage "usage: setup.sh [--require-x86]" ;;
-esac
+browser=no
+for option in "$@"; do
+  case $option in
+    --require-x86) require_x86=yes ;;
+    --browser) browser=wanted ;;
+    --require-browser) browser=required ;;
+    *) wrong_usage "usage: setup.sh [--require-x86] [--browser | --require-browser]" ;;
+  esac
+done
 
 log=$project/build/setup.log
 # Says that 32-bit Wine could not be had here, so that not every run tries for a minute; --require-x86 tries again.
 gave_up_32_bit=$project/build/.without-32-bit-wine
-
-has_command() { command -v "$1" >/dev/null; }
+# The same for Chromium and --require-browser.
+gave_up_browser=$project/build/.without-browser
 
 missing_packages() {
   has_command cmake || say cmake
@@ -48,12 +53,13 @@ as_root() {
 # logged COMMAND...: its output goes to the log.
 logged() { as_root "$@" >>"$log" 2>&1; }
 
-install_packages() {
+# Fails when they cannot be installed.
+try_to_install() {
   say "Installing $* ..."
   # A single index that cannot be had fails the update but not, as a rule, the installation, which is what counts.
   logged apt-get -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 update || say "apt-get update reported an error."
   logged env DEBIAN_FRONTEND=noninteractive \
-    apt-get -o DPkg::Lock::Timeout=300 install -y --no-install-recommends "$@" || give_up "$*"
+    apt-get -o DPkg::Lock::Timeout=300 install -y --no-install-recommends "$@"
 }
 
 give_up() {
@@ -81,7 +87,7 @@ install_missing() {
   [[ -x /usr/bin/apt-get ]] || fail "something is missing and there is no apt-get to install it with"
   root_is_there || fail "something is missing, and installing it needs root or sudo; neither is there"
   : >"$log"
-  ((${#packages[@]} == 0)) || install_packages "${packages[@]}"
+  ((${#packages[@]} == 0)) || try_to_install "${packages[@]}" || give_up "${packages[*]}"
   if ! has_toolchain || wants_32_bit_wine; then install_toolchain; fi
 }
 
@@ -91,6 +97,18 @@ judge_32_bit_wine() {
   say "32-bit Wine is not there: the x86 build can be made but not run here (tools/setup.sh --require-x86 tries again)."
 }
 
+# An installation of its own: nothing else depends on it, and it may fail.
+ensure_browser() {
+  if [[ $browser == no ]] || has_browser; then return; fi
+  if [[ $browser == required || ! -e $gave_up_browser ]] && root_is_there; then
+    : >"$log"
+    try_to_install chromium chromium-driver python3-selenium || touch "$gave_up_browser"
+    if has_browser; then return; fi
+  fi
+  [[ $browser == wanted ]] || fail "Chromium is demanded and could not be installed (log: $log)"
+  say "Chromium is not there: the simulator's page will not be tested (tools/setup.sh --require-browser tries again)."
+}
+
 mkdir -p "$project/build"
 clean_up_with :
 mapfile -t missing < <(missing_packages)
@@ -98,3 +116,4 @@ if ((${#missing[@]})) || ! has_toolchain || { wants_32_bit_wine && root_is_there
   install_missing "${missing[@]}"
 fi
 judge_32_bit_wine
+ensure_browser

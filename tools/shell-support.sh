@@ -17,6 +17,13 @@ wrong_usage() {
   exit 64
 }
 
+has_command() { command -v "$1" >/dev/null; }
+
+# Chromium and what steers it.
+has_browser() {
+  has_command chromium && has_command chromedriver && /usr/bin/python3 -c 'import selenium' 2>/dev/null
+}
+
 # "x86", "x64" or both, one a line.
 architectures_of() {
   case $1 in

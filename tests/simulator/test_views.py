@@ -137,6 +137,16 @@ class MessageViewTest(SimulatorCase):
         self.assertTrue(view["xml"])
         self.assertIsNone(self.response(kind="soap-fault")["schema"])
 
+    def test_declarations_stand_at_the_top(self) -> None:
+        lejis, soap = NAMES.service, "http://schemas.xmlsoap.org/soap/envelope/"
+        self.submit(f'<s:Envelope xmlns:s="{soap}"><s:Body><l:a xmlns:l="{lejis}"><l:b xmlns:l='
+                    f'"{lejis}"/><l:c xmlns:l="urn:other"/></l:a></s:Body></s:Envelope>'.encode())
+        shown = self.control("GET", "exchanges/1")["request"]["body"]
+        self.assertEqual(1, shown.count(lejis))
+        self.assertIn("<l:b/>", shown)
+        self.assertEqual([f"{{{lejis}}}b", "{urn:other}c"],
+                         [one.tag for one in etree.fromstring(shown)[0][0]])
+
     def test_what_does_not_parse_is_shown_as_it_is(self) -> None:
         view = self.response(kind="not-xml")
         self.assertEqual(("This is no XML at all.", False), (view["body"], view["xml"]))

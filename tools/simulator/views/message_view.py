@@ -50,5 +50,17 @@ class MessageView:
 
 
 def _pretty(root: etree._Element) -> str:
+    if root.tag == f"{{{SOAP}}}Envelope":
+        _declare_at_top(root)
     etree.indent(root, "  ")
     return etree.tostring(root.getroottree(), encoding="unicode")
+
+
+def _declare_at_top(root: etree._Element) -> None:
+    """Some clients declare the namespaces on every element anew, which nobody can read."""
+    declared: dict[str, str] = {}
+    for element in root.iter(etree.Element):
+        for prefix, uri in element.nsmap.items():
+            if prefix is not None:
+                declared.setdefault(prefix, uri)
+    etree.cleanup_namespaces(root, top_nsmap=declared)

@@ -1,0 +1,17 @@
+#!/bin/bash
+# run.sh ARCH: the tests of the simulator's page in Chromium. The library is registered, the simulator runs
+# (with_simulator.sh).
+set -euo pipefail
+# shellcheck source=tools/shell-support.sh
+source "$(dirname "${BASH_SOURCE[0]}")/../../tools/shell-support.sh"
+
+export LEJIS_EXE=$project/build/$1/bin/lejis.exe
+# The browser must leave no trace in the user's home.
+HOME=$(mktemp -d)
+export HOME
+
+# shellcheck disable=SC2317  # clean_up_with calls it
+remove_home() { rm -rf "$HOME"; }
+
+clean_up_with remove_home
+run /usr/bin/python3 -m unittest discover -s "$project/tests/simulator_page"
