@@ -62,6 +62,17 @@ class PageTest(PageCase):
         self.click("#clear-faults")
         self.await_count("#fault-list li", 0)
 
+    def test_the_answer_to_an_order_is_in_sight(self):
+        for size in (NARROW, WIDE):
+            self.look(size)
+            self.click("#tab-faults")
+            self.await_text("#fault-kinds h3", "wrong-schema")
+            self.click("[aria-label='Play wrong-schema']")
+            self.await_text("#fault-said", "wrong-schema")
+            self.assertTrue(self.browser.execute_script("""
+                const {top, bottom} = document.getElementById("fault-said").getBoundingClientRect();
+                return top >= 0 && bottom <= innerHeight"""))
+
     def test_when_and_where(self):
         self.click("#tab-faults")
         self.click("[name='when'][value='every']")
