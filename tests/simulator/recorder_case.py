@@ -13,10 +13,10 @@ from pathlib import Path
 from typing import Any
 
 from documents import NAMES
+from serving import serve
 
 from recorder import Recorder
 from recording.far_side import FarSide
-from wire.simulator_server import SimulatorServer
 
 
 class ScriptedFarSide:
@@ -79,13 +79,7 @@ class RecorderCase(unittest.TestCase):
         """Starts a recorder before that port."""
         recorder = Recorder(self.data, NAMES, lambda: None,
                             FarSide(f"http://127.0.0.1:{far_port}"))
-        self.server = SimulatorServer("127.0.0.1", 0, recorder)
-        thread = threading.Thread(target=self.server.serve_forever, args=(0.01,))
-        thread.start()
-        self.addCleanup(recorder.close)
-        self.addCleanup(self.server.server_close)
-        self.addCleanup(thread.join)
-        self.addCleanup(self.server.end)
+        self.server = serve(self, recorder)
 
     def connect(self) -> socket.socket:
         """A client's connection."""

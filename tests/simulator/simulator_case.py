@@ -6,18 +6,17 @@ import http.client
 import json
 import socket
 import tempfile
-import threading
 import unittest
 from pathlib import Path
 from typing import Any
 
 import documents
 from documents import NAMES
+from serving import serve
 
 from endpoints.search_endpoint import DEFAULT_BROAD_LIMIT
 from lejis.namespaces import SUBMISSION_PATH
 from simulator import Simulator
-from wire.simulator_server import SimulatorServer
 
 GOOD_HEADERS = {"SOAPAction": NAMES.submit_action, "Content-Type": "text/xml;charset=utf-8"}
 
@@ -34,14 +33,8 @@ class SimulatorCase(unittest.TestCase):
         self.stops: list[str] = []
         simulator = Simulator(self.data, NAMES, lambda: self.stops.append("stop"),
                               self.broad_limit)
-        self.server = SimulatorServer("127.0.0.1", 0, simulator)
+        self.server = serve(self, simulator)
         self.port = self.server.server_port
-        thread = threading.Thread(target=self.server.serve_forever, args=(0.01,))
-        thread.start()
-        self.addCleanup(simulator.close)
-        self.addCleanup(self.server.server_close)
-        self.addCleanup(thread.join)
-        self.addCleanup(self.server.end)
 
     def call(self, method: str, path: str, body: bytes | None = None,
              headers: dict[str, str] | None = None) -> tuple[int, bytes]:
