@@ -102,9 +102,15 @@ byId("tab-exchanges").parentElement.addEventListener("keydown", (event) => {
 });
 
 for (const tab of tabs) tab.addEventListener("click", () => choose(tab));
-for (const [button, what] of [["forget-exchanges", "exchanges"], ["forget-index", "index"], ["clear-faults", "faults"]]) {
-  byId(button).addEventListener("click", () => attempt(() => forget(what)));
+function forgetBy(button, what, question) {
+  byId(button).addEventListener("click", () => {
+    if (!question || confirm(question)) attempt(() => forget(what));
+  });
 }
+
+forgetBy("forget-exchanges", "exchanges", "Forget all exchanges? Their files are deleted.");
+forgetBy("forget-index", "index", "Forget all incidents?");
+forgetBy("clear-faults", "faults");
 
 // A detail that cannot be fetched, because it has just been forgotten.
 addEventListener("unhandledrejection", (event) => tellFailure(event.reason));
