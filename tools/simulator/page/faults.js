@@ -3,7 +3,6 @@ import {byId, element, fill, show} from "./dom.js";
 import {get, order} from "./control.js";
 
 const options = byId("fault-options");
-const said = byId("fault-said");
 let kinds = [];
 
 function value(input, byDefault) {
@@ -43,27 +42,29 @@ async function play(kind, form) {
   for (const [name, byDefault] of Object.entries(kind.parameters)) {
     fault[name] = value(form.elements[name], byDefault);
   }
-  const ordered = await order(fault);
-  said.classList.remove("bad");
-  said.replaceChildren("Ordered: ", ...words(ordered));
+  return ["Ordered: ", ...words(await order(fault))];
 }
 
-function tell(error) {
-  said.classList.add("bad");
-  said.textContent = error.message;
+// The answer stands beside the button, where one looks, and replaces that of an earlier order.
+function tell(output, isGood, ...answer) {
+  for (const one of document.querySelectorAll("output.said")) one.replaceChildren();
+  output.classList.toggle("bad", !isGood);
+  output.replaceChildren(...answer);
+  output.scrollIntoView({block: "nearest"});
 }
 
 function item(kind) {
+  const output = element("output", {class: "said"});
   const form = element("form", {class: "kind", "aria-label": kind.kind},
     element("h3", {}, kind.kind, " ",
       kind.targets.length === 1 ? element("span", {class: "badge"}, kind.targets[0]) : null),
     element("p", {}, kind.meaning),
     element("div", {class: "fields"}, ...Object.entries(kind.parameters).map(
       ([name, byDefault]) => field(kind.kind, name, byDefault))),
-    element("button", {"aria-label": `Play ${kind.kind}`}, "Play"));
+    element("button", {"aria-label": `Play ${kind.kind}`}, "Play"), output);
   form.addEventListener("submit", (event) => {
     event.preventDefault();
-    play(kind, form).catch(tell);
+    play(kind, form).then((answer) => tell(output, true, ...answer), (error) => tell(output, false, error.message));
   });
   return element("li", {}, form);
 }
