@@ -110,7 +110,8 @@ class ProgramTest(unittest.TestCase):
         with socket.create_server(("127.0.0.1", 0)) as taken:
             port = taken.getsockname()[1]
         program = self.start("--port", str(port), "--record-to", f"http://localhost:{port}")
-        self.assertIn("cannot start: it would record to itself.", program.communicate(timeout=10)[1])
+        _, errors = program.communicate(timeout=10)
+        self.assertIn("cannot start: it would record to itself.", errors)
         self.assertEqual(1, program.returncode)
 
     def test_an_open_page_does_not_keep_it_from_stopping(self) -> None:

@@ -33,8 +33,8 @@ class PassingOnTest(RecorderCase):
         self.assertEqual(self.REQUEST, self.kept(1, "request"))
         self.assertEqual(WHOLE, self.kept(1, "response"))
         entry = self.last_exchange()
-        self.assertEqual(("POST", "/some/where?x=%20y", 200, "", {}),
-                         tuple(entry[key] for key in ("method", "path", "status", "note", "checks")))
+        told = [entry[key] for key in ("method", "path", "status", "note", "checks")]
+        self.assertEqual(["POST", "/some/where?x=%20y", 200, "", {}], told)
 
     def test_any_method_and_any_answer(self) -> None:
         for number, (request, answer, status) in enumerate((
@@ -71,7 +71,8 @@ class PassingOnTest(RecorderCase):
     def test_chunks_of_a_request(self) -> None:
         raw = (b"POST /a HTTP/1.1\r\nTransfer-Encoding: chunked\r\n\r\n"
                b"3;x=y\r\nabc\r\n0\r\nTrailer: x\r\n\r\nEND")[:-3]
-        with mock.patch.object(self.far_side, "_request", lambda connection: connection.recv(65536)):
+        with mock.patch.object(self.far_side, "_request",
+                               lambda connection: connection.recv(65536)):
             self.assertEqual(WHOLE, self.exchange(WHOLE, raw))
         self.assertTrue(self.far_side.requests[0].endswith(raw.partition(b"\r\n\r\n")[2]))
         self.assertEqual(raw, self.kept(1, "request"))
@@ -313,7 +314,8 @@ class FarSideTest(unittest.TestCase):
     def test_only_host_and_expect_are_other(self) -> None:
         head = (b"POST /hOst:x HTTP/1.1\r\nA: b\r\nhost : recorder\r\n\tfolded\r\n"
                 b"EXPECT: 100-continue\r\nX-Host: y\r\nZ: Host: q\r\n\r\n")
-        given = FarSide("http://lejis:8080").request_bytes(HttpRequest(head=head, body=b"Host: z\n"))
+        request = HttpRequest(head=head, body=b"Host: z\n")
+        given = FarSide("http://lejis:8080").request_bytes(request)
         self.assertEqual(b"POST /hOst:x HTTP/1.1\r\nHost: lejis:8080\r\nA: b\r\nX-Host: y\r\n"
                          b"Z: Host: q\r\n\r\nHost: z\n", given)
 

@@ -102,8 +102,8 @@ class RawMessageTest(unittest.TestCase):
 
     def test_chunks(self) -> None:
         head = OK + b"Transfer-Encoding: chunked\r\n\r\n"
-        for chunks, body in ((b"3\r\nabc\r\n2;x=y\r\nde\r\n0\r\n\r\n", b"abcde"), (b"0\r\n\r\n", b""),
-                             (b"3\r\nab", b"ab"), (b"x\r\nab", b""), (b"", b""),
+        for chunks, body in ((b"3\r\nabc\r\n2;x=y\r\nde\r\n0\r\n\r\n", b"abcde"),
+                             (b"0\r\n\r\n", b""), (b"3\r\nab", b"ab"), (b"x\r\nab", b""), (b"", b""),
                              (b"3\r\nabc\r\n-1\r\n", b"abc")):
             with self.subTest(chunks=chunks):
                 self.assertEqual((body, 1), self.body(head + chunks))

@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""Plays the LEJIS Interface and the index behind it, for tests and demonstrations; or stands before
-a real one and records what goes over the wire. Its address, opened in a browser, shows all of it."""
+"""Plays the LEJIS Interface and the index behind it, for tests and demonstrations; or stands
+before a real one and records what goes over the wire. A browser shows all of it at its address."""
 
 from __future__ import annotations
 
@@ -86,7 +86,8 @@ def _serve(options: argparse.Namespace, data: Path) -> None:
         signal.signal(number, lambda *_: stop.put("signal"))
     application = _application(options, data, lambda: stop.put("control"))
     with SimulatorServer(options.host, options.port, application) as server:
-        if options.record_to and FarSide(options.record_to).is_reached_at(*server.server_address[:2]):
+        place = server.server_address[:2]
+        if options.record_to and FarSide(options.record_to).is_reached_at(*place):
             raise ValueError("it would record to itself.")
         serving = threading.Thread(target=server.serve_forever, args=(0.05,), daemon=True)
         serving.start()

@@ -37,7 +37,7 @@ class Application(Protocol):
         """Whether a request there may have a body of which nobody knows the length."""
 
     def is_watching(self, request: HttpRequest) -> bool:
-        """Whether such a request only waits for something to happen, which is no use of the server."""
+        """Whether such a request only waits, which is no use of the server."""
 
 
 class SimulatorServer(ThreadingHTTPServer):
