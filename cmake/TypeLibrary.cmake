@@ -10,7 +10,8 @@ function(add_type_library target idl)
     cmake_path(GET idl STEM name)
     set(folder ${CMAKE_CURRENT_BINARY_DIR}/type_library)
     file(MAKE_DIRECTORY ${folder})
-    set(widl ${WIDL} -I${CMAKE_CURRENT_SOURCE_DIR} -I${WINE_WINDOWS_HEADERS} -L${STDOLE2_FOLDER})
+    set(widl ${WIDL} -DLIBRARY_VERSION=${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}
+        -I${CMAKE_CURRENT_SOURCE_DIR} -I${WINE_WINDOWS_HEADERS} -L${STDOLE2_FOLDER})
     file(GLOB_RECURSE included CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.idl")
 
     add_custom_command(

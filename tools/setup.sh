@@ -32,6 +32,9 @@ missing_packages() {
   [[ -f /usr/src/googletest/CMakeLists.txt ]] || say googletest
   [[ -x /usr/bin/python3 ]] || say python3
   /usr/bin/python3 -c 'import lxml.etree' 2>/dev/null || say python3-lxml
+  [[ -f /usr/include/nlohmann/json.hpp ]] || say nlohmann-json3-dev
+  has_command wixl || say wixl
+  has_command msibuild || say msitools
 }
 
 # Everything of Wine and the compilers but the 32-bit half of Wine.
