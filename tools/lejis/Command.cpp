@@ -52,10 +52,31 @@ Outcome DeleteIncident(const CommandLine& commandLine, ILejisIncidentIndexCard* 
 }
 
 constexpr Command kCommands[] = {
-    {L"check", kCheckHelp, false, false, false, false, L"fit for submission", CheckIncident},
-    {L"submit", kSubmitHelp, true, true, false, false, L"submitted", SubmitIncident},
-    {L"delete", kDeleteHelp, true, false, true, false, L"withdrawn", DeleteIncident},
-    {L"search", kSearchHelp, true, true, false, true, L"", nullptr},
+    {.name = L"check",
+     .help = kCheckHelp,
+     .success = L"fit for submission",
+     .run = CheckIncident},
+    {.name = L"submit",
+     .help = kSubmitHelp,
+     .takesUrl = true,
+     .needsUrl = true,
+     .canValidateSchema = true,
+     .success = L"submitted",
+     .run = SubmitIncident},
+    {.name = L"delete",
+     .help = kDeleteHelp,
+     .takesUrl = true,
+     .needsUrl = true,
+     .canNameIncident = true,
+     .success = L"withdrawn",
+     .run = DeleteIncident},
+    {.name = L"search",
+     .help = kSearchHelp,
+     .takesUrl = true,
+     .needsUrl = true,
+     .canValidateSchema = true,
+     .searches = true},
+    {.name = L"doctor", .help = kDoctorHelp, .takesUrl = true, .diagnoses = true},
 };
 
 }  // namespace

@@ -5,6 +5,8 @@
 #include "SearchSettings.h"
 #include "UsageError.h"
 
+#include <algorithm>
+
 namespace lejis_client {
 namespace {
 
@@ -28,7 +30,8 @@ struct Option {
 };
 
 constexpr Option kOptions[] = {
-    {L"--url", &CommandLine::url, &Command::needsUrl},
+    {L"--url", &CommandLine::url, &Command::takesUrl},
+    {L"--search-url", &CommandLine::searchUrl, &Command::diagnoses},
     {L"--ori", &CommandLine::ori, &Command::canNameIncident},
     {L"--id", &CommandLine::id, &Command::canNameIncident},
     {L"--submitted", &CommandLine::submitted, &Command::canNameIncident},
@@ -48,6 +51,8 @@ const Row* Find(const Row (&table)[count], const std::wstring& name, const Comma
 [[noreturn]] void Throw(const CommandLine& commandLine, const std::wstring& reason) {
     throw UsageError{reason, commandLine.command ? commandLine.command->name : L""};
 }
+
+constexpr wchar_t kJson[] = L"--json";
 
 bool AsksForHelp(const std::wstring& argument) { return argument == L"--help" || argument == L"-h"; }
 
@@ -100,13 +105,19 @@ void RequireIncident(const CommandLine& commandLine) {
     }
 }
 
-void RequireSearch(const CommandLine& commandLine) {
+void RefuseFiles(const CommandLine& commandLine) {
     if (!commandLine.files.empty()) Throw(commandLine, L"unexpected argument " + commandLine.files.front());
+}
+
+void RequireSearch(const CommandLine& commandLine) {
+    RefuseFiles(commandLine);
+    if (commandLine.xml && commandLine.json) Throw(commandLine, L"give either --xml or --json");
     const std::wstring complaint = SearchComplaint(commandLine);
     if (!complaint.empty()) Throw(commandLine, complaint);
 }
 
 void RequireAll(const CommandLine& commandLine) {
+    if (commandLine.command->diagnoses) return RefuseFiles(commandLine);
     commandLine.command->searches ? RequireSearch(commandLine) : RequireIncident(commandLine);
     if (commandLine.command->needsUrl && !commandLine.url) Throw(commandLine, L"--url is missing");
 }
@@ -121,24 +132,34 @@ CommandLine WithoutCommand(const std::wstring& argument) {
 
 }  // namespace
 
-CommandLine CommandLine::Parse(const Arguments& arguments) {
+bool CommandLine::AsksForJson(const Arguments& arguments) {
+    return std::find(arguments.begin(), arguments.end(), kJson) != arguments.end();
+}
+
+CommandLine CommandLine::Parse(Arguments arguments) {
+    const bool json = std::erase(arguments, kJson) > 0;
     if (arguments.empty()) throw UsageError{L"no command given", {}};
     CommandLine commandLine;
     commandLine.command = FindCommand(arguments.front());
-    if (!commandLine.command) return WithoutCommand(arguments.front());
+    if (!commandLine.command) commandLine = WithoutCommand(arguments.front());
+    commandLine.json = json;
+    if (commandLine.command) commandLine.TakeArguments(arguments);
+    return commandLine;
+}
+
+void CommandLine::TakeArguments(const Arguments& arguments) {
     for (std::size_t place = 1; place < arguments.size();) {
         if (AsksForHelp(arguments[place])) {
-            commandLine.help = true;
-            return commandLine;
+            help = true;
+            return;
         }
         if (arguments[place].starts_with(L'-')) {
-            place = TakeOption(commandLine, arguments, place);
+            place = TakeOption(*this, arguments, place);
         } else {
-            commandLine.files.push_back(arguments[place++]);
+            files.push_back(arguments[place++]);
         }
     }
-    RequireAll(commandLine);
-    return commandLine;
+    RequireAll(*this);
 }
 
 }  // namespace lejis_client

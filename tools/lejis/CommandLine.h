@@ -13,7 +13,9 @@ struct Command;
 
 struct CommandLine {
     // Raises a UsageError.
-    static CommandLine Parse(const std::vector<std::wstring>& arguments);
+    static CommandLine Parse(std::vector<std::wstring> arguments);
+    // For a command line that makes no sense too.
+    static bool AsksForJson(const std::vector<std::wstring>& arguments);
 
     // Whether an incident is named by its identifiers instead of a file.
     bool NamesIncident() const { return ori || id || submitted || organization; }
@@ -24,7 +26,10 @@ struct CommandLine {
     bool version = false;
     bool validateSchema = false;
     bool xml = false;
+    // Whether the answer is for a program.
+    bool json = false;
     std::optional<std::wstring> url;
+    std::optional<std::wstring> searchUrl;
     std::optional<std::wstring> ori;
     std::optional<std::wstring> id;
     std::optional<std::wstring> submitted;
@@ -33,6 +38,10 @@ struct CommandLine {
     std::optional<std::wstring> wait;
     SearchValues search;
     std::vector<std::wstring> files;
+
+private:
+    // What stands behind the command.
+    void TakeArguments(const std::vector<std::wstring>& arguments);
 };
 
 }  // namespace lejis_client

@@ -1,5 +1,7 @@
 #include "Console.h"
 
+#include "Utf8.h"
+
 #include <algorithm>
 
 namespace lejis_client {
@@ -11,14 +13,6 @@ std::wstring WithCarriageReturns(std::wstring_view text) {
         if (character == L'\n') result += L'\r';
         result += character;
     }
-    return result;
-}
-
-std::string Utf8(const std::wstring& text) {
-    const int length = static_cast<int>(text.size());
-    const int size = WideCharToMultiByte(CP_UTF8, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
-    std::string result(static_cast<std::size_t>(size), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text.data(), length, result.data(), size, nullptr, nullptr);
     return result;
 }
 
@@ -43,6 +37,23 @@ void WriteToFile(HANDLE file, std::string_view bytes) {
     }
 }
 
+// The custom of https://no-color.org: set, to anything but an empty text.
+bool ColourIsUnwanted() { return GetEnvironmentVariableW(L"NO_COLOR", nullptr, 0) > 1; }
+
+WORD ColourOf(Tone tone) {
+    switch (tone) {
+        case Tone::kGood:
+            return FOREGROUND_GREEN | FOREGROUND_INTENSITY;
+        case Tone::kBad:
+            return FOREGROUND_RED | FOREGROUND_INTENSITY;
+        case Tone::kDoubtful:
+            return FOREGROUND_RED | FOREGROUND_GREEN | FOREGROUND_INTENSITY;
+        case Tone::kPlain:
+            break;
+    }
+    return FOREGROUND_RED | FOREGROUND_GREEN | FOREGROUND_BLUE;
+}
+
 }  // namespace
 
 const Console& Console::Output() {
@@ -55,9 +66,11 @@ const Console& Console::Errors() {
     return console;
 }
 
-Console::Console(DWORD standardHandle) : handle_(GetStdHandle(standardHandle)), interactive_(false) {
+Console::Console(DWORD standardHandle)
+    : handle_(GetStdHandle(standardHandle)), interactive_(false), coloured_(false) {
     DWORD mode = 0;
     interactive_ = GetConsoleMode(handle_, &mode) != FALSE;
+    coloured_ = interactive_ && !ColourIsUnwanted();
 }
 
 void Console::Write(std::wstring_view text) const {
@@ -67,6 +80,15 @@ void Console::Write(std::wstring_view text) const {
     } else {
         WriteToFile(handle_, Utf8(lines));
     }
+}
+
+void Console::Write(std::wstring_view text, Tone tone) const {
+    CONSOLE_SCREEN_BUFFER_INFO before = {};
+    if (!coloured_ || tone == Tone::kPlain || !GetConsoleScreenBufferInfo(handle_, &before)) return Write(text);
+    constexpr WORD kForeground = FOREGROUND_RED | FOREGROUND_GREEN | FOREGROUND_BLUE | FOREGROUND_INTENSITY;
+    SetConsoleTextAttribute(handle_, static_cast<WORD>((before.wAttributes & ~kForeground) | ColourOf(tone)));
+    Write(text);
+    SetConsoleTextAttribute(handle_, before.wAttributes);
 }
 
 }  // namespace lejis_client

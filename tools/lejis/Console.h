@@ -8,6 +8,9 @@
 
 namespace lejis_client {
 
+// What a text is about; a console shows it as a colour.
+enum class Tone { kPlain, kGood, kBad, kDoubtful };
+
 class Console {
 public:
     static const Console& Output();
@@ -16,12 +19,15 @@ public:
     bool IsInteractive() const { return interactive_; }
     // Lines end with a line feed in text, whatever they end with outside.
     void Write(std::wstring_view text) const;
+    // Coloured where that can be seen and the environment's NO_COLOR does not forbid it.
+    void Write(std::wstring_view text, Tone tone) const;
 
 private:
     explicit Console(DWORD standardHandle);
 
     HANDLE handle_;
     bool interactive_;
+    bool coloured_;
 };
 
 }  // namespace lejis_client

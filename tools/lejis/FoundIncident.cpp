@@ -63,6 +63,14 @@ std::wstring VehicleText(Vehicle* vehicle) {
     return Joined({kind, Labelled(L"plate ", plate), Labelled(L"VIN ", TextOf(vehicle, &Vehicle::get_VIN))}, L", ");
 }
 
+template <typename Card>
+std::vector<std::wstring> Lines(ICollection* cards, std::wstring (*text)(Card*)) {
+    std::vector<std::wstring> lines;
+    for (const auto& card : Objects<Card>(cards)) lines.push_back(text(card.Get()));
+    std::erase(lines, L"");
+    return lines;
+}
+
 }  // namespace
 
 IncidentColumns ColumnsOf(Incident* incident) {
@@ -73,16 +81,12 @@ IncidentColumns ColumnsOf(Incident* incident) {
             PlaceText(Part(incident, &Incident::get_Location).Get())};
 }
 
-std::vector<std::wstring> DetailsOf(Incident* incident) {
-    std::vector<std::wstring> details;
-    for (const auto& person : Objects<Person>(Part(incident, &Incident::get_PersonIndexCards).Get())) {
-        details.push_back(PersonText(person.Get()));
-    }
-    for (const auto& vehicle : Objects<Vehicle>(Part(incident, &Incident::get_VehicleIndexCards).Get())) {
-        details.push_back(VehicleText(vehicle.Get()));
-    }
-    std::erase(details, L"");
-    return details;
+std::vector<std::wstring> PersonsOf(Incident* incident) {
+    return Lines<Person>(Part(incident, &Incident::get_PersonIndexCards).Get(), PersonText);
+}
+
+std::vector<std::wstring> VehiclesOf(Incident* incident) {
+    return Lines<Vehicle>(Part(incident, &Incident::get_VehicleIndexCards).Get(), VehicleText);
 }
 
 }  // namespace lejis_client

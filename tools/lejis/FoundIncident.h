@@ -12,7 +12,8 @@ using IncidentColumns = std::array<std::wstring, 5>;
 
 IncidentColumns ColumnsOf(ILejisIncidentIndexCard* incident);
 
-// One line for each person and vehicle.
-std::vector<std::wstring> DetailsOf(ILejisIncidentIndexCard* incident);
+// One line each; those of whom nothing is known are left out.
+std::vector<std::wstring> PersonsOf(ILejisIncidentIndexCard* incident);
+std::vector<std::wstring> VehiclesOf(ILejisIncidentIndexCard* incident);
 
 }  // namespace lejis_client

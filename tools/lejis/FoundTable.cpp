@@ -50,7 +50,9 @@ std::wstring FoundTable(const std::vector<Microsoft::WRL::ComPtr<ILejisIncidentI
     std::wstring table = Line(rows.front(), widths);
     for (std::size_t i = 0; i < cards.size(); ++i) {
         table += Line(rows[i + 1], widths);
-        for (const std::wstring& detail : DetailsOf(cards[i].Get())) table += L"    " + Printable(detail) + L'\n';
+        for (const auto& details : {PersonsOf(cards[i].Get()), VehiclesOf(cards[i].Get())}) {
+            for (const std::wstring& detail : details) table += L"    " + Printable(detail) + L'\n';
+        }
     }
     return table;
 }

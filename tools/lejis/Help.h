@@ -12,45 +12,79 @@ them, through the registered TVLejisCore.
   lejis delete FILE... --url URL    withdraws incidents
   lejis search CRITERION... --user JNETID --url URL
                                     searches for incidents
-  lejis COMMAND --help              tells more
-  lejis --version                   names the TVLejisCore that is used
+  lejis doctor [--url URL]          looks for what stands in the way of all this
+  lejis COMMAND --help              tells more, with examples
+  lejis --version                   names this program and the library that it uses
 
-A FILE is one incident card in XML, or a pattern such as incidents\*.xml.
+With every command:
 
-Exit codes: 0 all done; 1 something was refused or could not be read; 2 something
-has to be tried again later; 64 the command line makes no sense; 130 Ctrl-C ended
-a search.
+  --json                            print one JSON document, for programs
+
+A FILE is one incident card in XML, or a pattern such as incidents\*.xml. A URL is
+the address of a service of the LEJIS Interface; ask who looks after it. A value may
+follow its option after a blank or an equals sign.
+
+The first steps, from an incident in a file to the index:
+
+  lejis doctor --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
+  lejis check incident.xml
+  lejis submit incident.xml \
+      --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
+
+Exit codes:
+
+    0   all done
+    1   something was refused, could not be read, or the library is not there:
+        the same again would end the same
+    2   the network or the server failed: trying again later can help
+   64   the command line makes no sense
+  130   Ctrl-C ended a search
 )";
 
 inline constexpr wchar_t kCheckHelp[] =
-    LR"(lejis check FILE...
+    LR"(lejis check FILE... [--json]
 
 Shapes each incident to the limits of LEJIS and checks the result. Nothing is sent.
 
   ! marks an error: LEJIS would not get the incident until it is corrected.
   • marks a warning: what would be shortened, replaced or left out.
 
+Examples:
+
+  lejis check incident.xml
+  lejis check incidents\*.xml
+  lejis check incidents\*.xml --json > checked.json
+
 Exit codes: 0 all are fit for submission; 1 at least one is not, or is no incident.
 )";
 
 inline constexpr wchar_t kSubmitHelp[] =
-    LR"(lejis submit FILE... --url URL [--validate-schema]
+    LR"(lejis submit FILE... --url URL [--validate-schema] [--json]
 
 Submits each incident to LEJIS. An incident that LEJIS has already is replaced.
 
   --url URL           address of the submission service of the LEJIS Interface
   --validate-schema   check each request against the service's own schema first
+  --json              print one JSON document, for programs
 
   ! marks why an incident was not submitted; lejis check tells all its errors.
   • marks a warning: what was shortened, replaced or left out.
+
+Examples:
+
+  lejis submit incident.xml \
+      --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
+  lejis submit incidents\*.xml --validate-schema \
+      --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
 
 Exit codes: 0 all submitted; 1 something was refused; 2 something has to be tried
 again later.
 )";
 
 inline constexpr wchar_t kDeleteHelp[] =
-    LR"(lejis delete FILE... --url URL
-lejis delete --ori ORI --id ID --submitted YYYY-MM-DD [--organization NAME] --url URL
+    LR"(lejis delete FILE... --url URL [--json]
+lejis delete --ori ORI --id ID --submitted YYYY-MM-DD [--organization NAME]
+             --url URL [--json]
 
 Withdraws incidents from LEJIS. Of a file only the identifiers are used.
 
@@ -59,6 +93,14 @@ Withdraws incidents from LEJIS. Of a file only the identifiers are used.
   --submitted YYYY-MM-DD  the day on which the incident was submitted
   --organization NAME     the agency's name
   --url URL               address of the submission service of the LEJIS Interface
+  --json                  print one JSON document, for programs
+
+Examples:
+
+  lejis delete incident.xml \
+      --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
+  lejis delete --ori PA0990100 --id 2024-000123 --submitted 2024-03-09 \
+      --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
 
 Exit codes: 0 all withdrawn; 1 something was refused; 2 something has to be tried
 again later.
@@ -86,11 +128,46 @@ and inches, as 510, a weight in pounds. LEJIS wants a serial number for property
   --exclude-ori ORI   leave an agency out; may be given more than once
   --validate-schema   check the request against the service's own schema first
   --xml               print the incident cards as one XML document
+  --json              print what was found as one JSON document
   --wait SECONDS      how long to wait for the answer, once the search is sent;
                       120 if left out
 
+Examples:
+
+  lejis search --surname PUBLIC --dob 1970-01-31 --user jdoe \
+      --url http://lejis-interface:8080/lejis-core-Rev01/services/search
+  lejis search --plate ABC1234 --plate-state PA --max 10 --json --user jdoe \
+      --url http://lejis-interface:8080/lejis-core-Rev01/services/search
+
 Exit codes: 0 found, or nothing found; 1 LEJIS refused the search or the user; 2 the
 network or the server failed, or no answer came in time; 130 Ctrl-C ended it.
+)";
+
+inline constexpr wchar_t kDoctorHelp[] =
+    LR"(lejis doctor [--url URL] [--search-url URL] [--json]
+
+Looks at everything on the road to LEJIS and says what to do about what is wrong. It
+sends no incident and changes nothing. Looked at are
+
+  - the library: is it registered, for which programs, in which version
+  - with --url: the submission service. Can its server be reached, does its WSDL
+    load, does a sample request pass its schemas
+  - with --search-url: the search service likewise
+  - the debug dumps: are they on for this user, and where do they go
+
+  --url URL           address of the submission service of the LEJIS Interface
+  --search-url URL    address of the search service of the LEJIS Interface
+  --json              print one JSON document, for programs
+
+Each line begins with ok, warning, failed or skipped; the line below says what to do.
+
+Examples:
+
+  lejis doctor
+  lejis doctor --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
+
+Exit codes: 0 nothing has failed, though there may be warnings; 1 something has failed;
+2 all that has failed is the network or the server, which may pass.
 )";
 
 }  // namespace lejis_client

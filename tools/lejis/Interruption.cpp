@@ -1,6 +1,5 @@
 #include "Interruption.h"
 
-#include "Console.h"
 #include "ExitCode.h"
 
 namespace lejis_client {
@@ -8,6 +7,8 @@ namespace {
 
 // Long enough for the program to end by itself, short enough to be no wait for the user.
 constexpr DWORD kPatience = 1000;
+
+void (*tellOfEnd)() = nullptr;
 
 // The handler runs in a thread of its own and may still do so when the object has gone; the system closes the events.
 HANDLE InterruptionEvent() {
@@ -25,14 +26,15 @@ BOOL WINAPI Interrupt(DWORD kind) {
     SetEvent(InterruptionEvent());
     // The thread of the search may be in the midst of a call that takes its time, as the one for a schema does.
     if (WaitForSingleObject(HeededEvent(), kPatience) == WAIT_OBJECT_0) return TRUE;
-    Console::Errors().Write(L"\nInterrupted.\n");
+    tellOfEnd();
     TerminateProcess(GetCurrentProcess(), kExitInterrupted);
     return TRUE;
 }
 
 }  // namespace
 
-Interruption::Interruption() {
+Interruption::Interruption(void (*tell)()) {
+    tellOfEnd = tell;
     InterruptionEvent();
     ResetEvent(HeededEvent());
     SetConsoleCtrlHandler(Interrupt, TRUE);

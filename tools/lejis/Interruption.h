@@ -7,7 +7,8 @@ namespace lejis_client {
 
 class Interruption {
 public:
-    Interruption();
+    // What is said when the program has to be ended in the midst of something.
+    explicit Interruption(void (*tell)());
     ~Interruption();
     Interruption(const Interruption&) = delete;
     Interruption& operator=(const Interruption&) = delete;

@@ -1,10 +1,12 @@
-// Tells the user what becomes of the incidents, one after the other, and sums up.
+// Tells what becomes of the incidents, one after the other, and sums up.
 #pragma once
 
 #include "Command.h"
 #include "Outcome.h"
+#include "Progress.h"
+#include "Tally.h"
 
-#include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -12,26 +14,28 @@ namespace lejis_client {
 
 class Report {
 public:
-    // The names of the incidents in the order in which they will be worked on.
-    Report(const Command& command, const std::vector<std::wstring>& names);
+    // For people or, where the command line asks for it, for programs. The names of the incidents are in the order in
+    // which they will be worked on.
+    static std::unique_ptr<Report> Create(const CommandLine& commandLine, const std::vector<std::wstring>& names);
 
-    // Where a console shows it, the user sees which incident is worked on.
+    virtual ~Report() = default;
+    Report(const Report&) = delete;
+    Report& operator=(const Report&) = delete;
+
     void Begin(const std::wstring& name);
     void End(const std::wstring& name, const Outcome& outcome);
-    void Finish() const;
-    int ExitCode() const;
+    // Sums up.
+    virtual void Finish() = 0;
+    int ExitCode() const { return tally_.ExitCode(); }
 
-private:
-    std::wstring Number() const;
-    std::wstring Status(const Outcome& outcome) const;
-    void ClearProgress() const;
+protected:
+    Report(const Command& command, std::size_t total) : command_(command), progress_(total) {}
+
+    virtual void Tell(const std::wstring& name, const Outcome& outcome) = 0;
 
     const Command& command_;
-    std::size_t total_;
-    std::size_t current_ = 0;
-    std::size_t nameWidth_ = 0;
-    std::size_t withWarnings_ = 0;
-    std::map<Result, std::size_t> counts_;
+    Progress progress_;
+    Tally tally_;
 };
 
 }  // namespace lejis_client

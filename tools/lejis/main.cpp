@@ -2,17 +2,21 @@
 #include "Command.h"
 #include "CommandLine.h"
 #include "Console.h"
+#include "Doctor.h"
 #include "ExitCode.h"
 #include "FileError.h"
 #include "FilePattern.h"
 #include "Help.h"
 #include "IncidentFile.h"
+#include "Json.h"
 #include "LibraryError.h"
 #include "NamedIncident.h"
 #include "NotRegistered.h"
+#include "platform/ComError.h"
 #include "Report.h"
 #include "Search.h"
 #include "UsageError.h"
+#include "Version.h"
 #include "WindowsText.h"
 
 #include <comdef.h>
@@ -38,34 +42,56 @@ Outcome RunOn(const CommandLine& commandLine, Reader read) {
 
 int RunOnFiles(const CommandLine& commandLine) {
     const std::vector<std::wstring> files = ExpandPatterns(commandLine.files);
-    Report report(*commandLine.command, files);
+    const auto report = Report::Create(commandLine, files);
     for (const std::wstring& file : files) {
-        report.Begin(file);
-        report.End(file, RunOn(commandLine, [&] { return ReadIncidentFile(file); }));
+        report->Begin(file);
+        report->End(file, RunOn(commandLine, [&] { return ReadIncidentFile(file); }));
     }
-    report.Finish();
-    return report.ExitCode();
+    report->Finish();
+    return report->ExitCode();
 }
 
 int RunOnNamedIncident(const CommandLine& commandLine) {
     const std::wstring name = *commandLine.ori + L" " + *commandLine.id;
-    Report report(*commandLine.command, {name});
-    report.Begin(name);
-    report.End(name, RunOn(commandLine, [&] { return NamedIncident(commandLine); }));
-    return report.ExitCode();
+    const auto report = Report::Create(commandLine, {name});
+    report->Begin(name);
+    report->End(name, RunOn(commandLine, [&] { return NamedIncident(commandLine); }));
+    report->Finish();
+    return report->ExitCode();
+}
+
+int PrintHelp(const CommandLine& commandLine) {
+    const std::wstring text = commandLine.command ? commandLine.command->help : kGeneralHelp;
+    if (commandLine.json) {
+        Json document = JsonDocument(L"help", kExitDone);
+        document["text"] = JsonText(text);
+        Print(document);
+    } else {
+        Console::Output().Write(text);
+    }
+    return kExitDone;
+}
+
+int PrintVersion(const CommandLine& commandLine) {
+    // Asked for first: it raises where there is no library.
+    const std::wstring library = LibraryVersion();
+    if (commandLine.json) {
+        Json document = JsonDocument(L"version", kExitDone);
+        document["lejis"] = PUBLIC_VERSION;
+        document["library"] = {{"version", JsonText(library)}, {"file", JsonText(LibraryFile())}};
+        Print(document);
+    } else {
+        Console::Output().Write(L"lejis " PUBLIC_VERSION L"\nTVLejisCore " + library + L"\n" + LibraryFile() + L"\n");
+    }
+    return kExitDone;
 }
 
 int Run(const CommandLine& commandLine) {
-    if (commandLine.help) {
-        Console::Output().Write(commandLine.command ? commandLine.command->help : kGeneralHelp);
-        return kExitDone;
-    }
+    if (commandLine.help) return PrintHelp(commandLine);
+    if (commandLine.version) return PrintVersion(commandLine);
+    if (commandLine.command->diagnoses) return Diagnose(commandLine);
     // Asked for first, so that a missing library is one sentence and not one for each file.
-    const std::wstring version = LibraryVersion();
-    if (commandLine.version) {
-        Console::Output().Write(L"TVLejisCore " + version + L"\n" + LibraryFile() + L"\n");
-        return kExitDone;
-    }
+    LibraryVersion();
     if (commandLine.command->searches) return Search(commandLine);
     return commandLine.NamesIncident() ? RunOnNamedIncident(commandLine) : RunOnFiles(commandLine);
 }
@@ -78,25 +104,50 @@ std::vector<std::wstring> Arguments() {
     return result;
 }
 
-int Complain(const std::wstring& text, int exitCode) {
-    Console::Errors().Write(L"lejis: " + text + L"\n");
-    return exitCode;
+// The program's end without having done anything.
+struct Refusal {
+    const wchar_t* kind;
+    int exitCode;
+    std::wstring message;
+    std::wstring hint;
+};
+
+int Complain(const std::vector<std::wstring>& arguments, const Refusal& refusal) {
+    if (CommandLine::AsksForJson(arguments)) {
+        const Command* const command = FindCommand(arguments.front());
+        const auto name = command ? std::optional<std::wstring>(command->name) : std::nullopt;
+        Json document = JsonDocument(name, refusal.exitCode);
+        SetError(document, refusal.kind, refusal.message);
+        Print(document);
+    } else {
+        Console::Errors().Write(L"lejis: " + refusal.message + L"\n" + refusal.hint);
+    }
+    return refusal.exitCode;
 }
 
+Refusal RefusalOf(const UsageError& error) {
+    const std::wstring help = error.command.empty() ? L"lejis --help" : L"lejis " + error.command + L" --help";
+    return {L"usage", kExitUsage, error.reason, L"Try " + help + L"\n"};
+}
+
+Refusal Unexpected(const std::wstring& message) { return {L"unexpected", kExitRefused, message, {}}; }
+
 int RunSafely() {
+    const std::vector<std::wstring> arguments = Arguments();
     try {
-        return Run(CommandLine::Parse(Arguments()));
+        return Run(CommandLine::Parse(arguments));
     } catch (const UsageError& error) {
-        const std::wstring help = error.command.empty() ? L"lejis --help" : L"lejis " + error.command + L" --help";
-        return Complain(error.reason + L"\nTry " + help, kExitUsage);
+        return Complain(arguments, RefusalOf(error));
     } catch (const NotRegistered&) {
-        return Complain(HowToRegister(), kExitRefused);
+        return Complain(arguments, {L"notRegistered", kExitRefused, HowToRegister(), {}});
     } catch (const LibraryError& error) {
-        return Complain(error.description, kExitRefused);
+        return Complain(arguments, Unexpected(error.description));
+    } catch (const platform::ComError& error) {
+        return Complain(arguments, Unexpected(error.Description()));
     } catch (const _com_error& error) {
-        return Complain(L"Unexpected error " + Hexadecimal(error.Error()), kExitRefused);
+        return Complain(arguments, Unexpected(L"Unexpected error " + Hexadecimal(error.Error())));
     } catch (const std::bad_alloc&) {
-        return Complain(L"There is not enough memory", kExitRefused);
+        return Complain(arguments, Unexpected(L"There is not enough memory"));
     }
 }
 

@@ -33,6 +33,9 @@ bool IsTransientStatus(long status);
 // What a failed exchange means to a records clerk.
 std::wstring GetNetworkErrorMessage(const platform::HttpRequest& request);
 
+// Whether the user's flag "DebugLejis" is on. Read anew each time, so that it can be switched while the suite runs.
+bool DebugFlagIsOn();
+
 // Writes the document into the suite's diagnostics folder when the user's flag "DebugLejis" is on. Raises when it
 // cannot be written.
 void SaveDebugDocument(const msxml::Document& document, const std::wstring& fileName);

@@ -1,0 +1,22 @@
+// What the registry says about the library, for programs of either bitness.
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace lejis_client {
+
+enum class Bitness { k32 = 32, k64 = 64 };
+
+inline constexpr Bitness kOwnBitness = sizeof(void*) == 8 ? Bitness::k64 : Bitness::k32;
+inline constexpr Bitness kOtherBitness = sizeof(void*) == 8 ? Bitness::k32 : Bitness::k64;
+
+bool SystemHas(Bitness bitness);
+
+// Where the library is registered; nothing when it is not.
+std::optional<std::wstring> RegisteredFile(Bitness bitness);
+
+// The public version of a library's file; nothing when there is no such file, or none with a version.
+std::optional<std::wstring> VersionOf(const std::wstring& file);
+
+}  // namespace lejis_client

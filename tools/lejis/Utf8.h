@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace lejis_client {
+
+// Half a character becomes U+FFFD.
+std::string Utf8(std::wstring_view text);
+
+}  // namespace lejis_client
