@@ -1,8 +1,12 @@
 """Commands, options and what does not make sense."""
+import json
+import re
 import subprocess
 import unittest
 
-from lejis_case import DONE, REFUSED, TIME_LIMIT, WRONG_USAGE, LejisCase
+from lejis_case import DONE, PROJECT, REFUSED, TIME_LIMIT, WRONG_USAGE, LejisCase
+
+COMMANDS = ("check", "submit", "delete", "search", "doctor")
 
 NAMED = ("delete", "--ori", "PA0990100", "--id", "2024-1")
 NO_DAYS = ("2024-02-30", "2023-02-29", "2024-2-3", "20240203", "03/09/2024", "2024-13-01", "0000-01-01", "today", "")
@@ -13,6 +17,8 @@ WRONG = [
     (("--quick",), "unknown option --quick", "lejis --help"),
     (("check",), "no file given", "lejis check --help"),
     (("check", "x.xml", "--url", "u"), "unknown option --url", "lejis check --help"),
+    (("doctor", "x.xml"), "unexpected argument x.xml", "lejis doctor --help"),
+    (("doctor", "--user", "u"), "unknown option --user", "lejis doctor --help"),
     (("check", "x.xml", "-v"), "unknown option -v", "lejis check --help"),
     (("submit", "x.xml"), "--url is missing", "lejis submit --help"),
     (("submit", "--url", "u"), "no file given", "lejis submit --help"),
@@ -51,7 +57,8 @@ class CommandLineTest(LejisCase):
     def test_help_names_every_command_and_exit_code(self):
         for option in ("--help", "-h"):
             text = self.expect(DONE, option)
-            for word in ("lejis check", "lejis submit", "lejis delete", "lejis search", "--version", "Exit codes: 0 ", "64"):
+            for word in ("lejis check", "lejis submit", "lejis delete", "lejis search", "lejis doctor", "--version", "--json",
+                         "Exit codes:\n\n    0   all done", "   64   "):
                 self.assertIn(word, text)
 
     def test_each_command_has_help_of_its_own_whatever_else_is_given(self):
@@ -60,12 +67,24 @@ class CommandLineTest(LejisCase):
             self.assertIn(word, self.expect(DONE, command, "no such file.xml", "--help"))
 
     def test_help_fits_an_old_console(self):
-        for arguments in ((), ("check",), ("submit",), ("delete",), ("search",)):
+        for arguments in ((), *((command,) for command in COMMANDS)):
             for line in self.expect(DONE, *arguments, "--help").splitlines():
-                self.assertLessEqual(len(line), 85)
+                self.assertLessEqual(len(line), 87)
 
-    def test_version_is_that_of_the_library_and_says_where_it_is(self):
-        version, file = self.expect(DONE, "--version").splitlines()
+    def test_the_help_of_each_command_shows_examples_that_name_it(self):
+        for command in COMMANDS:
+            examples = self.expect(DONE, command, "--help").partition("Examples:\n")[2]
+            self.assertIn(f"  lejis {command}", examples)
+
+    def test_the_readme_has_the_same_exit_codes(self):
+        readme = (PROJECT / "tools" / "lejis" / "README.md").read_text(encoding="utf-8")
+        codes = re.findall(r"^ {2,4}(\d+)   ", self.expect(DONE, "--help"), re.MULTILINE)
+        self.assertEqual(codes, ["0", "1", "2", "64", "130"])
+        self.assertEqual(re.findall(r"^\| (\d+) \|", readme, re.MULTILINE), codes)
+
+    def test_version_is_that_of_the_program_and_of_the_library_and_says_where_it_is(self):
+        program, version, file = self.expect(DONE, "--version").splitlines()
+        self.assertRegex(program, r"^lejis \d+\.\d+\.\d+$")
         self.assertRegex(version, r"^TVLejisCore \d+\.\d+\.\d+$")
         self.assertTrue(file.endswith("\\TVLejisCore.dll"), file)
 
@@ -73,7 +92,7 @@ class CommandLineTest(LejisCase):
 class RegistrationTest(LejisCase):
     def setUp(self):
         super().setUp()
-        self.library = self.expect(DONE, "--version").splitlines()[1]
+        self.library = self.expect(DONE, "--version").splitlines()[2]
 
     def regsvr32(self, *arguments):
         subprocess.run(["wine", "regsvr32.exe", "/s", *arguments, self.library], stdin=subprocess.DEVNULL,
@@ -87,6 +106,16 @@ class RegistrationTest(LejisCase):
             self.assertEqual((run.code, run.output), (REFUSED, ""))
             self.assertRegex(run.complaint, NOT_REGISTERED)
         self.assertEqual(self.lejis("--help").code, DONE)
+        document = json.loads(self.expect(REFUSED, "check", "a.xml", "--json"))
+        self.assertEqual((document["command"], document["exitCode"], document["error"]["kind"]),
+                         ("check", REFUSED, "notRegistered"))
+
+    def test_the_doctor_says_how_to_register_it(self):
+        self.addCleanup(self.regsvr32)
+        self.regsvr32("/u")
+        report = self.expect(REFUSED, "doctor")
+        self.assertRegex(report, r"(?m)^failed   Library in use +this lejis is a (32|64)-bit program and finds no library"
+                                 r"\n +TVLejisCore is not registered .*regsvr32")
 
 
 if __name__ == "__main__":
