@@ -1,7 +1,8 @@
 #!/bin/bash
 # test.sh [x86|x64|all] [--filter PATTERN] [--require-x86] [--require-browser]
 # Builds everything and runs the tests under Wine: in each architecture the unit tests, the clients' tests (C++ and
-# scripts) and the tests over HTTP against the simulator; then the tests of the tools, written in Python.
+# scripts) and the tests over HTTP against the simulator; then the tests of the tools, written in Python, and of the
+# packages, which are made, installed, used and uninstalled.
 # PATTERN is GoogleTest's, such as "Vehicle*:-*Slow*"; scripts are chosen by their file names likewise, and the tests of
 # the tools, of the samples and of the guides are left out.
 # --require-x86 makes it an error that x86 programs cannot be run here, --require-browser that the simulator's page cannot
@@ -111,7 +112,7 @@ run_python() {
   done
 }
 
-# In a browser, with submissions from the library of the first architecture that runs here.
+# In a browser, with submissions from the library of this architecture.
 run_page() {
   if ! has_browser; then
     say "The simulator's page was not tested: Chromium is not there"
@@ -119,6 +120,11 @@ run_page() {
   fi
   run_tests - tools unittest simulator_page "$project/tests/support/with_simulator.sh" \
     "$project/tests/simulator_page/run.sh" "$1"
+}
+
+# run_packages ARCH...
+run_packages() {
+  run_tests - packages unittest packages "$project/tests/support/with_simulator.sh" "$project/tests/packages/run.sh" "$@"
 }
 
 # The guide's commands start and stop Wine themselves, so they come last. They are for the 32-bit library.
@@ -136,12 +142,13 @@ mkdir -p "$results"
 [[ -n $filter ]] || setup_options=(--browser "${setup_options[@]}")
 run "$project/tools/setup.sh" "${setup_options[@]}"
 run "$project/build.sh" "$selection"
+[[ -n $filter ]] || run "$project/package.sh" "$selection"
 start_wine
-tested=
+tested=()
 for architecture in $architectures; do
   if wine_runs "$architecture"; then
     run_architecture "$architecture"
-    tested=${tested:-$architecture}
+    tested+=("$architecture")
   else
     [[ $selection == all ]] || fail "x86 programs do not run here: 32-bit Wine is not there"
     say "x86 not tested: 32-bit Wine is not there"
@@ -149,7 +156,8 @@ for architecture in $architectures; do
 done
 if [[ -z $filter ]]; then
   run_python
-  run_page "$tested"
+  run_page "${tested[0]}"
+  run_packages "${tested[@]}"
   run_guide
 fi
 run /usr/bin/python3 "$project/tests/support/test_report.py" summary "$results"

@@ -38,7 +38,7 @@ add_registry_value() { run wine reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/nu
 
 make_prefix() {
   local log=$project/build/wine-prefix.log
-  say "Making the Wine prefix build/wine (about 15 seconds) ..."
+  say "Making the Wine prefix build/$(basename "$WINEPREFIX") (about 15 seconds) ..."
   rm -rf "$WINEPREFIX"
   mkdir -p "$WINEPREFIX"
   run timeout --kill-after=10 180 wine wineboot -i >"$log" 2>&1 || fail "wineboot failed, see $log"

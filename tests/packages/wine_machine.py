@@ -1,0 +1,74 @@
+"""The Wine prefix as a machine: programs run in it, and pictures of all that is kept in its registry and on its disk."""
+import os
+import re
+import subprocess
+from pathlib import Path
+from typing import NamedTuple
+
+PREFIX = Path(os.environ["WINEPREFIX"])
+DISK = PREFIX / "drive_c"
+HIVES = ("system.reg", "user.reg", "userdef.reg")
+TIME_LIMIT = 120
+
+# What Wine keeps for itself: the installer's empty folders and keys stay after the first product that was installed, the
+# last start writes its time, and what came from the web stays in its cache.
+KEPT_BY_WINE = re.compile(
+    r"""system\.reg \[Software\\\\Classes\\\\Installer\\\\(Features|Products|UpgradeCodes)\]$
+      | system\.reg \[Software\\\\Microsoft\\\\Windows\\\\CurrentVersion\\\\Installer\\\\
+            (UpgradeCodes|UserData\\\\S-1-5-18\\\\(Components|Products))\]$
+      | system\.reg .* "DriverDateData"=
+      | disk\ windows/Installer$
+      | disk\ users/[^/]+/(Temp|AppData/Local/Temp)(/|$)
+      | disk\ users/[^/]+/AppData/Local/Microsoft/Windows/INetCache/
+      | disk\ windows/temp(/|$)""", re.VERBOSE)
+
+
+class Run(NamedTuple):
+    code: int
+    output: str
+
+
+def run(*command, folder=None):
+    process = subprocess.run(["wine", *map(str, command)], cwd=folder or DISK, stdin=subprocess.DEVNULL,
+                             capture_output=True, timeout=TIME_LIMIT, check=False)
+    return Run(process.returncode, process.stdout.decode("utf-8", "replace").replace("\r\n", "\n"))
+
+
+def windows_path(path):
+    path = Path(path)
+    if path.is_relative_to(DISK):
+        return "C:\\" + str(path.relative_to(DISK)).replace("/", "\\")
+    return "Z:" + str(path).replace("/", "\\")
+
+
+def stop():
+    """Ends the prefix's programs, which writes its registry to the disk."""
+    for option in ("--kill", "--wait"):
+        subprocess.run(["wineserver", option], stdin=subprocess.DEVNULL, timeout=TIME_LIMIT, check=False)
+
+
+def _registry(hive):
+    key = ""
+    for line in (PREFIX / hive).read_text(encoding="utf-8", errors="replace").splitlines():
+        if line.startswith("["):
+            key = re.sub(r" \d+$", "", line)
+            yield f"{hive} {key}"
+        elif line and not line.startswith(("#", ";", "WINE REGISTRY")):
+            yield f"{hive} {key} {line}"
+
+
+def picture():
+    """Every key and value of the registry and every file and folder of the disk, each as one text."""
+    stop()
+    entries = {entry for hive in HIVES for entry in _registry(hive)}
+    entries |= {f"disk {path.relative_to(DISK)}" for path in DISK.rglob("*")}
+    return {entry for entry in entries if not KEPT_BY_WINE.match(entry)}
+
+
+CLASSES = "system.reg [Software\\\\Classes\\\\"
+
+
+def class_entries(before, after):
+    """What came below HKEY_CLASSES_ROOT, the installer's own bookkeeping apart."""
+    return {entry[len(CLASSES):] for entry in after - before if entry.startswith(CLASSES)
+            and not entry.startswith(CLASSES + "Installer")}
