@@ -57,7 +57,7 @@ class CommandLineTest(LejisCase):
     def test_help_names_every_command_and_exit_code(self):
         for option in ("--help", "-h"):
             text = self.expect(DONE, option)
-            for word in ("lejis check", "lejis submit", "lejis delete", "lejis search", "lejis doctor", "--version", "--json",
+            for word in (*(f"lejis {command}" for command in COMMANDS), "--version", "--json",
                          "Exit codes:\n\n    0   all done", "   64   "):
                 self.assertIn(word, text)
 
@@ -114,8 +114,8 @@ class RegistrationTest(LejisCase):
         self.addCleanup(self.regsvr32)
         self.regsvr32("/u")
         report = self.expect(REFUSED, "doctor")
-        self.assertRegex(report, r"(?m)^failed   Library in use +this lejis is a (32|64)-bit program and finds no library"
-                                 r"\n +TVLejisCore is not registered .*regsvr32")
+        self.assertRegex(report, r"(?m)^failed   Library in use +this lejis is a (32|64)-bit program and finds no "
+                                 r"library\n +TVLejisCore is not registered .*regsvr32")
 
 
 if __name__ == "__main__":

@@ -41,12 +41,14 @@ class DoctorTest(SimulatorCase):
         self.assertEqual(self.index(), [])
 
     def test_without_addresses_it_looks_at_this_machine_alone(self):
-        self.assertEqual(set(self.findings(DONE)), {"32-bit library", "64-bit library", "Library in use", "Debug dumps"})
+        self.assertEqual(set(self.findings(DONE)),
+                         {"32-bit library", "64-bit library", "Library in use", "Debug dumps"})
 
     def test_a_server_that_is_not_there_may_come(self):
         found = self.findings(TRY_AGAIN, "--url", "http://127.0.0.1:1/submission")
         self.assertEqual(found["Submission server"][0], "failed")
-        self.assertIn("takes no connection at this port\nSee that the LEJIS Interface runs", found["Submission server"][1])
+        self.assertIn("takes no connection at this port\nSee that the LEJIS Interface runs",
+                      found["Submission server"][1])
         self.assertEqual([found[f"Submission {what}"][0] for what in ("WSDL", "schemas")], ["skipped", "skipped"])
 
     def test_an_address_that_is_none(self):

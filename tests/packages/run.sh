@@ -1,6 +1,6 @@
 #!/bin/bash
-# run.sh ARCH...: tests of the packages in build/packages, in a Wine prefix of their own that is made anew. The simulator
-# runs (with_simulator.sh).
+# run.sh ARCH...: tests of the packages in build/packages, in a Wine prefix of their own that is made anew. The
+# simulator runs (with_simulator.sh).
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/../../tools/shell-support.sh"

@@ -6,8 +6,8 @@ import unittest
 from pathlib import Path
 
 import wine_machine as machine
-from package_case import (ARCHITECTURES, BITS, PROJECT, SEARCH_URL, PackageCase, for_each_architecture, installed_folder,
-                          package)
+from package_case import (ARCHITECTURES, BITS, PROJECT, SEARCH_URL, PackageCase, for_each_architecture,
+                          installed_folder, package)
 
 import installer
 import manifests
@@ -24,7 +24,7 @@ def other_bitness_interface(entry, architecture):
 
 
 def comparable(entries, folder):
-    """Without the folder, its spelling and the blackslash at its end."""
+    """Without the folder, its spelling and the backslash at its end."""
     written = re.escape(machine.windows_path(folder).replace("\\", "\\\\"))
     return {re.sub(written + r'(\\\\)?("?)', r"FOLDER\2", entry, flags=re.IGNORECASE) for entry in entries}
 

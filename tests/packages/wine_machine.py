@@ -1,4 +1,4 @@
-"""The Wine prefix as a machine: programs run in it, and pictures of all that is kept in its registry and on its disk."""
+"""The Wine prefix as a machine: programs run in it, and pictures of all that its registry and its disk hold."""
 import os
 import re
 import subprocess
@@ -10,8 +10,8 @@ DISK = PREFIX / "drive_c"
 HIVES = ("system.reg", "user.reg", "userdef.reg")
 TIME_LIMIT = 120
 
-# What Wine keeps for itself: the installer's empty folders and keys stay after the first product that was installed, the
-# last start writes its time, and what came from the web stays in its cache.
+# What Wine keeps for itself: the installer's empty folders and keys stay after the first product that was installed,
+# the last start writes its time, and what came from the web stays in its cache.
 KEPT_BY_WINE = re.compile(
     r"""system\.reg \[Software\\\\Classes\\\\Installer\\\\(Features|Products|UpgradeCodes)\]$
       | system\.reg \[Software\\\\Microsoft\\\\Windows\\\\CurrentVersion\\\\Installer\\\\

@@ -52,10 +52,7 @@ Outcome DeleteIncident(const CommandLine& commandLine, ILejisIncidentIndexCard* 
 }
 
 constexpr Command kCommands[] = {
-    {.name = L"check",
-     .help = kCheckHelp,
-     .success = L"fit for submission",
-     .run = CheckIncident},
+    {.name = L"check", .help = kCheckHelp, .success = L"fit for submission", .run = CheckIncident},
     {.name = L"submit",
      .help = kSubmitHelp,
      .takesUrl = true,

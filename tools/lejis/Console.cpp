@@ -66,8 +66,7 @@ const Console& Console::Errors() {
     return console;
 }
 
-Console::Console(DWORD standardHandle)
-    : handle_(GetStdHandle(standardHandle)), interactive_(false), coloured_(false) {
+Console::Console(DWORD standardHandle) : handle_(GetStdHandle(standardHandle)), interactive_(false), coloured_(false) {
     DWORD mode = 0;
     interactive_ = GetConsoleMode(handle_, &mode) != FALSE;
     coloured_ = interactive_ && !ColourIsUnwanted();

@@ -57,8 +57,8 @@ void TextReport::Tell(const std::wstring& name, const Outcome& outcome) {
 
 void TextReport::Finish() {
     if (total_ < 2) return;
-    std::wstring text =
-        L"\n" + Counted(total_, L"file") + L": " + std::to_wstring(tally_.Count(Result::Done)) + L' ' + command_.success;
+    std::wstring text = L"\n" + Counted(total_, L"file") + L": " + std::to_wstring(tally_.Count(Result::Done)) + L' ' +
+                        command_.success;
     if (tally_.WithWarnings()) text += L" (" + std::to_wstring(tally_.WithWarnings()) + L" with warnings)";
     for (const ResultWords& failure : kFailures) {
         const std::size_t count = tally_.Count(failure.result);

@@ -1,10 +1,11 @@
-// describe_type_library FILE: prints what registration needs to know of a type library, one line each, with tabs between
+// describe_type_library FILE: prints what registration needs to know of a type library, one line each, with tabs
+// between
 //
 //     library    GUID VERSION FLAGS DESCRIPTION
 //     class      GUID NAME DESCRIPTION              of each class that clients can create
 //     interface  GUID NAME KIND                     dual or events, of each interface that automation marshals
-#include <windows.h>
 #include <oleauto.h>
+#include <windows.h>
 #include <wrl/client.h>
 
 #include <cstdio>
