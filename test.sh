@@ -14,7 +14,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
 # shellcheck source=tools/wine-environment.sh
 source "$project/tools/wine-environment.sh"
 
-readonly time_limit=300
+time_limit=300
 results=$project/build/test-results
 selection=all
 filter=
@@ -124,6 +124,8 @@ run_page() {
 
 # run_packages ARCH...
 run_packages() {
+  # Each picture of the machine takes a new start of Wine.
+  local time_limit=600
   run_tests - packages unittest packages "$project/tests/support/with_simulator.sh" "$project/tests/packages/run.sh" "$@"
 }
 

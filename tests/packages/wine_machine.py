@@ -11,7 +11,7 @@ HIVES = ("system.reg", "user.reg", "userdef.reg")
 TIME_LIMIT = 120
 
 # What Wine keeps for itself: the installer's empty folders and keys stay after the first product that was installed,
-# the last start writes its time, and what came from the web stays in its cache.
+# the last start writes its time, and the first use of the web leaves a cache and a setting.
 KEPT_BY_WINE = re.compile(
     r"""system\.reg \[Software\\\\Classes\\\\Installer\\\\(Features|Products|UpgradeCodes)\]$
       | system\.reg \[Software\\\\Microsoft\\\\Windows\\\\CurrentVersion\\\\Installer\\\\
@@ -19,7 +19,8 @@ KEPT_BY_WINE = re.compile(
       | system\.reg .* "DriverDateData"=
       | disk\ windows/Installer$
       | disk\ users/[^/]+/(Temp|AppData/Local/Temp)(/|$)
-      | disk\ users/[^/]+/AppData/Local/Microsoft/Windows/INetCache/
+      | disk\ users/[^/]+/AppData/Local/Microsoft/Windows/INet(Cache|Cookies)/
+      | user\.reg\ .*\\Internet\ Settings\]\ "ProxyEnable"=
       | disk\ windows/temp(/|$)""", re.VERBOSE)
 
 
