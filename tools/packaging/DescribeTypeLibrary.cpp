@@ -4,7 +4,7 @@
 //     library    GUID VERSION FLAGS DESCRIPTION
 //     class      GUID NAME DESCRIPTION              of each class that clients can create
 //     interface  GUID NAME KIND                     dual or events, of each interface that automation marshals
-#include <oleauto.h>
+#include <ole2.h>
 #include <windows.h>
 #include <wrl/client.h>
 
