@@ -2,6 +2,7 @@
 #include "services/SchemaUtils.h"
 
 #include "platform/msxml/Document.h"
+#include "support/DeepXml.h"
 #include "support/Printing.h"
 #include "support/TemporaryFolder.h"
 #include "support/Xml.h"
@@ -148,10 +149,11 @@ TEST_F(SchemaUtilsTest, ReplacesEveryOccurrenceOfTheSecureScheme) {
 }
 
 TEST_F(SchemaUtilsTest, RaisesForAWsdlThatIsNoXml) {
-    for (const wchar_t* wsdl : {L"", L"no xml", L"<!DOCTYPE a><a/>"}) {
+    for (const std::wstring& wsdl : {std::wstring(), std::wstring(L"no xml"), std::wstring(L"<!DOCTYPE a><a/>"),
+                                    support::Nested(support::kVeryDeep)}) {
         try {
             Validate(wsdl, L"<x/>");
-            ADD_FAILURE() << "passed: " << support::Utf8(wsdl);
+            ADD_FAILURE() << "passed: " << support::Utf8(wsdl.substr(0, 80));
         } catch (const platform::ComError& error) {
             EXPECT_EQ(kSchemaError, error.Number());
             EXPECT_TRUE(error.Description().starts_with(L"The WSDL could not be read: error "));

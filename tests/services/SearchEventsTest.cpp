@@ -2,6 +2,7 @@
 // is documented.
 #include "services/LejisSearchWebService.h"
 
+#include "support/DeepXml.h"
 #include "support/Messages.h"
 #include "support/ServiceTexts.h"
 #include "unit_support/Answers.h"
@@ -87,6 +88,8 @@ const EventRow kRows[] = {
     {"Empty", Answered(L""), kNoObject},
     {"CutOff", Answered(InquiryResponse(AnsweredCard(L"1")).substr(0, 300)), kNoObject},
     {"Doctype", Answered(L"<!DOCTYPE x>" + InquiryResponse(L"")), kNoObject},
+    {"NestedVeryDeep", Answered(InquiryResponse(support::Nested(support::kVeryDeep))), kNoObject},
+    {"FaultNestedVeryDeep", Answered(support::SoapFault(L"a", support::Nested(support::kVeryDeep)), 500), kUnexpected},
     {"NoDocument", {.status = 200, .hasResponseXml = false}, L""},
     {"Forbidden",
      {.status = 403, .statusText = L"The user is not known to JNET."},

@@ -2,6 +2,7 @@
 #include "services/LejisSubmissionWebService.h"
 
 #include "deferred/FutureManager.h"
+#include "support/DeepXml.h"
 #include "support/Messages.h"
 #include "support/ServiceTexts.h"
 #include "unit_support/EventLog.h"
@@ -47,6 +48,9 @@ const EventRow kRows[] = {
     {"NotSoap",
      {.status = 500, .responseText = L"<html/>"},
      L"ServiceError: Internal error in web service code: Object required"},
+    {"NestedVeryDeep",
+     {.status = 500, .responseText = support::SoapFault(L"a", support::Nested(support::kVeryDeep))},
+     kUnexpectedAnswer},
     {"NoDocument", {.status = 500, .hasResponseXml = false}, L""},
 };
 

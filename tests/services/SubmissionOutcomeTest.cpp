@@ -1,6 +1,7 @@
 // What a submission that is waited for ends in, for every answer of the server and every failure of the connection.
 #include "services/LejisSubmissionWebService.h"
 
+#include "support/DeepXml.h"
 #include "support/Printing.h"
 #include "support/ServiceTexts.h"
 #include "unit_support/Incidents.h"
@@ -13,6 +14,8 @@
 using support::CleanIncident;
 using support::kUnexpectedAnswer;
 using support::kUnexpectedError;
+using support::kVeryDeep;
+using support::Nested;
 using support::PartiallyOffline;
 using support::Script;
 using support::ScriptedHttp;
@@ -71,6 +74,9 @@ const Outcome kOutcomes[] = {
      Answered(200, L"<s:Envelope xmlns:s='http://www.w3.org/2003/05/soap-envelope'><s:Body/></s:Envelope>"),
      tvTransientError, PartiallyOffline(200)},
     {"Doctype", Answered(200, L"<!DOCTYPE x>" + SubmissionResponse(L"0")), tvTransientError, PartiallyOffline(200)},
+    {"NestedVeryDeep", Answered(200, SubmissionResponse(Nested(kVeryDeep, L"0"))), tvTransientError,
+     PartiallyOffline(200)},
+    {"NestedAsDeepAsParses", Accepted(Nested(250, L"0")), 0, L""},
     {"NoDocument", {.status = 200, .hasResponseXml = false}, tvTransientError, PartiallyOffline(200)},
     {"Fault", Answered(500, SoapFault(L"soap:Server", L"The card is malformed.")), tvFatalError,
      L"The card is malformed."},

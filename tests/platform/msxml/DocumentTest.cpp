@@ -122,16 +122,16 @@ TEST(Document, IsTakenFromClients) {
     EXPECT_EQ(document.Get(), DocumentFrom(document.Get()).Get());
     EXPECT_EQ(document.Get(), DocumentFrom(ToClient(document).Get()).Get());
     ASSERT_TRUE(LoadXml(document, L"<r/>"));
-    EXPECT_TRUE(SameXml(ElementFrom(ToClient(Root(document)).Get()).Get(), L"<r/>"));
+    EXPECT_TRUE(SameXml(ElementToRead(ToClient(Root(document)).Get()).Get(), L"<r/>"));
 }
 
 TEST(Document, IsNotTakenFromNothingOrSomethingElse) {
     const Document document = CreateDocument();
     const auto card = platform::Create<lejis::LejisVehicleIndexCard>();
     EXPECT_TRUE(Raises(support::kObjectRequired, L"Object required", [] { DocumentFrom(nullptr); }));
-    EXPECT_TRUE(Raises(support::kObjectRequired, L"Object required", [] { ElementFrom(nullptr); }));
+    EXPECT_TRUE(Raises(support::kObjectRequired, L"Object required", [] { ElementToRead(nullptr); }));
     EXPECT_TRUE(Raises(DISP_E_TYPEMISMATCH, L"Type mismatch", [&] { DocumentFrom(card->Dispatch()); }));
-    EXPECT_TRUE(Raises(DISP_E_TYPEMISMATCH, L"Type mismatch", [&] { ElementFrom(document.Get()); }));
+    EXPECT_TRUE(Raises(DISP_E_TYPEMISMATCH, L"Type mismatch", [&] { ElementToRead(document.Get()); }));
 }
 
 TEST(Document, TellsWhetherItsLastLoadFailed) {

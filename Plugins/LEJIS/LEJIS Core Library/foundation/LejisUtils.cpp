@@ -21,7 +21,7 @@ void RequireElement(const msxml::Element& element) {
 
 msxml::Element ElementToRead(IDispatch* client) {
     if (!client) RequireElement(nullptr);
-    msxml::Element element = msxml::ElementFrom(client);
+    msxml::Element element = msxml::ElementToRead(client);
     SetSelectionNamespaces(msxml::OwnerDocument(element));
     return element;
 }

@@ -22,7 +22,7 @@ STDMETHODIMP LejisInquiryResponse::get_IncidentCount(long* result) {
 
 STDMETHODIMP LejisInquiryResponse::FromXmlElement(IDispatch* elem) {
     return Guard([&] {
-        const msxml::Element element = msxml::ElementFrom(elem);
+        const msxml::Element element = msxml::ElementToRead(elem);
         LejisUtils::SetSelectionNamespaces(msxml::OwnerDocument(element));
         FromXmlElement(element);
     });
@@ -30,7 +30,7 @@ STDMETHODIMP LejisInquiryResponse::FromXmlElement(IDispatch* elem) {
 
 STDMETHODIMP LejisInquiryResponse::FromXmlDocument(IDispatch* doc) {
     return Guard([&] {
-        const msxml::Document document = msxml::DocumentFrom(doc);
+        const msxml::Document document = msxml::DocumentToRead(doc);
         LejisUtils::SetSelectionNamespaces(document);
         FromXmlBelow(document);
     });

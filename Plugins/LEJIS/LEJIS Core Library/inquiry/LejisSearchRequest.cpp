@@ -29,7 +29,7 @@ STDMETHODIMP LejisSearchRequest::ToXmlDocument(IDispatch** result) {
 
 STDMETHODIMP LejisSearchRequest::FromXmlElement(IDispatch* elem) {
     return Guard([&] {
-        const msxml::Element element = msxml::ElementFrom(elem);
+        const msxml::Element element = msxml::ElementToRead(elem);
         LejisUtils::SetSelectionNamespaces(msxml::OwnerDocument(element));
         FromXmlElement(element);
     });

@@ -2,6 +2,7 @@
 
 #include "foundation/ElementWriter.h"
 #include "foundation/LejisUtils.h"
+#include "platform/msxml/Depth.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
 
@@ -39,11 +40,11 @@ STDMETHODIMP SOAPEnvelope::ToXmlElement(IDispatch* doc, IDispatch** result) {
 }
 
 STDMETHODIMP SOAPEnvelope::FromXmlElement(IDispatch* elem) {
-    return Guard([&] { FromXmlElement(msxml::ElementFrom(elem)); });
+    return Guard([&] { FromXmlElement(msxml::ElementToRead(elem)); });
 }
 
 STDMETHODIMP SOAPEnvelope::FromXmlDocument(IDispatch* doc) {
-    return Guard([&] { FromXmlDocument(msxml::DocumentFrom(doc)); });
+    return Guard([&] { FromXmlDocument(msxml::DocumentToRead(doc)); });
 }
 
 std::wstring SOAPEnvelope::Body() const { return readBody_ ? msxml::Markup(readBody_) : bodyText_; }
@@ -56,7 +57,10 @@ std::wstring SOAPEnvelope::FaultCode() const { return FaultText(L"soap:Fault/fau
 
 std::wstring SOAPEnvelope::FaultText(const wchar_t* path) const {
     const msxml::Node found = msxml::SelectNode(BodyElement(), path);
-    return found ? msxml::Text(found) : std::wstring();
+    if (!found) return {};
+    // The client's own tree may have grown since it was read.
+    msxml::RequireBoundedDepth(found);
+    return msxml::Text(found);
 }
 
 msxml::Document SOAPEnvelope::BodyXml() const {

@@ -3,6 +3,8 @@
 #include "platform/ComError.h"
 #include "platform/InText.h"
 #include "platform/msxml/DocumentClass.h"
+#include "platform/msxml/Depth.h"
+#include "platform/msxml/Node.h"
 #include "platform/Text.h"
 
 #include <comutil.h>
@@ -77,7 +79,23 @@ void Save(const Document& document, const std::wstring& path) {
 }
 
 Document DocumentFrom(IDispatch* client) { return From<IXMLDOMDocument2>(client); }
-Element ElementFrom(IDispatch* client) { return From<IXMLDOMElement>(client); }
+
+Document DocumentToRead(IDispatch* client) {
+    Document document = DocumentFrom(client);
+    // As if it had not been loaded at all, which is what MSXML 6 makes of it.
+    if (HasDoctype(document)) throw platform::ObjectRequired();
+    RequireBoundedDepth(document);
+    return document;
+}
+
+Element ElementToRead(IDispatch* client) {
+    Element element = From<IXMLDOMElement>(client);
+    if (HasDoctype(OwnerDocument(element))) {
+        throw platform::ComError(E_INVALIDARG, L"XML of a document with a DOCTYPE is not read");
+    }
+    RequireBoundedDepth(element);
+    return element;
+}
 
 ComPtr<IDispatch> ToClient(const Node& node) { return ComPtr<IDispatch>(node.Get()); }
 

@@ -27,10 +27,13 @@ void SetProperty(const Document& document, const wchar_t* name, const std::wstri
 // Writes the document to a file, replacing it. Raises when that fails.
 void Save(const Document& document, const std::wstring& path);
 
-// The document or element behind what a client passed. Raises the object error for no object, and the type mismatch
-// for something else.
+// The document behind what a client passed. Raises the object error for no object, and the type mismatch for something
+// else.
 Document DocumentFrom(IDispatch* client);
-Element ElementFrom(IDispatch* client);
+
+// The same for what is going to be read: it is refused with a DOCTYPE, and when it is nested too deep.
+Document DocumentToRead(IDispatch* client);
+Element ElementToRead(IDispatch* client);
 
 // What clients get of a document or element.
 Microsoft::WRL::ComPtr<IDispatch> ToClient(const Microsoft::WRL::ComPtr<IXMLDOMNode>& node);

@@ -2,6 +2,7 @@
 
 #include "platform/ComError.h"
 #include "platform/InText.h"
+#include "platform/msxml/Depth.h"
 #include "platform/msxml/Document.h"
 #include "platform/Text.h"
 
@@ -116,6 +117,7 @@ Document OwnerDocument(const Node& node) {
 }
 
 std::wstring Markup(const Element& element) {
+    RequireBoundedDepth(element);
     // Not every MSXML writes the ancestors' declarations with a subtree; the root of a document has none to miss.
     Node copy;
     Check(element->cloneNode(VARIANT_TRUE, copy.GetAddressOf()));

@@ -1,0 +1,69 @@
+#include "platform/msxml/Depth.h"
+
+#include "platform/msxml/Document.h"
+#include "platform/msxml/Node.h"
+#include "support/DeepXml.h"
+#include "unit_support/Raises.h"
+
+#include <gtest/gtest.h>
+
+namespace msxml {
+namespace {
+
+using support::Nested;
+using support::NestIn;
+using support::Raises;
+
+constexpr wchar_t kTooDeep[] = L"The XML is nested too deep: 260 levels or more";
+
+// A document of one element with `depth` others nested in it.
+Document Deep(int depth) {
+    const Document document = support::Parse(L"<r/>");
+    NestIn(Root(document).Get(), depth);
+    return document;
+}
+
+TEST(Depth, IsCountedBelowTheNode) {
+    const Document document = Deep(kMaximumDepth - 1);
+    EXPECT_NO_THROW(RequireBoundedDepth(Root(document)));
+    EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [&] { RequireBoundedDepth(document); }));
+    EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [&] { RequireBoundedDepth(Root(Deep(kMaximumDepth))); }));
+}
+
+TEST(Depth, IsThatOfTheDeepestBranch) {
+    const Document document = support::Parse(L"<r><x/><y><z/></y><w/></r>");
+    NestIn(SelectNode(document, L"r/y/z").Get(), kMaximumDepth);
+    EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [&] { RequireBoundedDepth(document); }));
+    EXPECT_NO_THROW(RequireBoundedDepth(SelectNode(document, L"r/w")));
+}
+
+TEST(Depth, OfWhatTheParserTakesIsAllowed) {
+    int parsed = 0;
+    for (int depth = 250; depth < kMaximumDepth + 10; ++depth) {
+        const Document document = CreateDocument();
+        if (!LoadXml(document, Nested(depth))) break;
+        parsed = depth;
+        EXPECT_NO_THROW(RequireBoundedDepth(document)) << depth;
+    }
+    EXPECT_GE(parsed, 250);
+}
+
+TEST(Depth, OfAHundredThousandIsMeasuredToo) {
+    EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [] { RequireBoundedDepth(Deep(support::kVeryDeep)); }));
+}
+
+TEST(Depth, IsRefusedInWhatIsReadAndInMarkup) {
+    const Document document = Deep(support::kVeryDeep);
+    EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [&] { DocumentToRead(document.Get()); }));
+    EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [&] { ElementToRead(Root(document).Get()); }));
+    EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [&] { Markup(Root(document)); }));
+}
+
+TEST(Depth, OfTextIsLimitedByTheParser) {
+    const Document document = CreateDocument();
+    EXPECT_FALSE(LoadXml(document, Nested(support::kVeryDeep)));
+    EXPECT_EQ(nullptr, Root(document).Get());
+}
+
+}  // namespace
+}  // namespace msxml

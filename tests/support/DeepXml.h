@@ -1,0 +1,17 @@
+// Elements that are nested deeper than a parser accepts.
+#pragma once
+
+#include "support/Xml.h"
+
+namespace support {
+
+inline constexpr int kVeryDeep = 100000;
+
+// Nests this many elements in the node, each in the one before, and a text in the last: as a client can build a tree
+// that no parser gives it.
+void NestIn(IXMLDOMNode* node, int depth);
+
+// The same as text: elements "a" around the content.
+std::wstring Nested(int depth, const std::wstring& content = L"x");
+
+}  // namespace support
