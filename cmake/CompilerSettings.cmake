@@ -15,6 +15,13 @@ target_compile_options(project_warnings INTERFACE
     # GCC 12 reports the standard library's own string concatenation.
     -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread)
 
+# A smashed stack ends the process instead of running on; addresses are random, and data is never run.
+add_compile_options(-fstack-protector-strong)
+add_link_options(-fstack-protector-strong -Wl,--dynamicbase -Wl,--nxcompat)
+if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    add_link_options(-Wl,--high-entropy-va)
+endif()
+
 # So that the linker can leave out what is not used.
 add_compile_options(-ffunction-sections -fdata-sections)
 add_link_options(-Wl,--gc-sections)
@@ -22,6 +29,9 @@ add_link_options(-Wl,--gc-sections)
 # Nothing beside the file: no run-time library of the compiler has to be installed with it.
 add_link_options(-static)
 
+# The DLL itself lists its living objects in a debug build, and what the tests check always does.
+add_compile_definitions($<$<CONFIG:Debug>:TVLEJIS_LIST_LIVING_OBJECTS>)
+
 # What the tests check the library with: undefined behaviour and broken standard library contracts end the process.
 set(CHECKED_BUILD_OPTIONS
-    -O1 -D_GLIBCXX_ASSERTIONS -fsanitize=undefined -fsanitize-undefined-trap-on-error)
+    -O1 -D_GLIBCXX_ASSERTIONS -DTVLEJIS_LIST_LIVING_OBJECTS -fsanitize=undefined -fsanitize-undefined-trap-on-error)

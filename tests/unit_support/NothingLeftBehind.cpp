@@ -1,4 +1,5 @@
 // After the last test no object of the library is alive: what DllCanUnloadNow would tell.
+#include "platform/com/Living.h"
 #include "platform/com/Module.h"
 
 #include <gtest/gtest.h>
@@ -7,7 +8,10 @@ namespace {
 
 class NothingLeftBehind : public testing::Environment {
 public:
-    void TearDown() override { EXPECT_FALSE(platform::module::InUse()) << "objects of the library are still alive"; }
+    void TearDown() override {
+        EXPECT_FALSE(platform::module::InUse()) << "objects of the library are still alive";
+        EXPECT_EQ(std::vector<std::string>(), platform::living::Names());
+    }
 };
 
 testing::Environment* const environment = testing::AddGlobalTestEnvironment(new NothingLeftBehind);

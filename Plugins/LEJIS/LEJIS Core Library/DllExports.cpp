@@ -12,6 +12,7 @@
 #include "model/LejisSubmissionDocument.h"
 #include "platform/com/ClassFactory.h"
 #include "platform/com/Guard.h"
+#include "platform/com/Living.h"
 #include "platform/com/Module.h"
 #include "platform/com/Registration.h"
 #include "platform/host/HostComponents.h"
@@ -64,7 +65,10 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID iid, void** factory) {
 }
 
 STDAPI DllCanUnloadNow() {
-    if (platform::module::InUse()) return S_FALSE;
+    if (platform::module::InUse()) {
+        platform::living::Report();
+        return S_FALSE;
+    }
     platform::host::ReleaseComponents();
     msxml::ReleaseDocumentClass();
     return S_OK;

@@ -1,6 +1,7 @@
 #include "deferred/InvokeLater.h"
 
 #include "deferred/FutureManager.h"
+#include "platform/com/Living.h"
 #include "platform/com/Module.h"
 
 namespace lejis::LejisUtils {
@@ -9,7 +10,10 @@ namespace {
 // One for each thread, made on first use and kept. It alone does not keep the DLL in memory; its pending futures do.
 class SharedManager {
 public:
-    SharedManager() { platform::module::Release(); }
+    SharedManager() {
+        platform::living::Leave(manager_.Get());
+        platform::module::Release();
+    }
     ~SharedManager() { platform::module::Retain(); }
     SharedManager(const SharedManager&) = delete;
     SharedManager& operator=(const SharedManager&) = delete;

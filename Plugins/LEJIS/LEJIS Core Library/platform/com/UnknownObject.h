@@ -1,6 +1,7 @@
 // Identity and lifetime of a COM object with the given interfaces, the first of which stands for the object itself.
 #pragma once
 
+#include "platform/com/Living.h"
 #include "platform/com/Module.h"
 
 #include <unknwn.h>
@@ -40,8 +41,17 @@ public:
     }
 
 protected:
-    UnknownObject() { module::Retain(); }
-    virtual ~UnknownObject() { module::Release(); }
+    UnknownObject() {
+        module::Retain();
+        living::Enter(this, [](const void* object) -> const std::type_info& {
+            return typeid(*static_cast<const UnknownObject*>(object));
+        });
+    }
+
+    virtual ~UnknownObject() {
+        living::Leave(this);
+        module::Release();
+    }
 
     // The object as this interface, without a new reference; null when it has none such.
     virtual void* Find(REFIID iid) {
