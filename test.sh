@@ -93,6 +93,13 @@ run_samples() {
   run_tests "$1" client unittest samples "$project/tests/support/with_simulator.sh" "$project/tests/samples/run.sh" "$1"
 }
 
+# What stands in the headers of the shipped files.
+run_binaries() {
+  [[ -z $filter ]] || return 0
+  run_tests "$1" binaries unittest headers env "LEJIS_BINARIES=$project/build/$1/bin" \
+    /usr/bin/python3 -m unittest discover -s "$project/tests/binaries"
+}
+
 run_architecture() {
   local started=$SECONDS
   register_dll "$1"
@@ -102,6 +109,7 @@ run_architecture() {
   run_lejis "$1"
   run_samples "$1"
   run_googletest "$1" end-to-end end_to_end_tests "$project/tests/support/with_simulator.sh" --in-schemas
+  run_binaries "$1"
   say "$1 tested in $((SECONDS - started)) s"
 }
 

@@ -35,6 +35,7 @@ missing_packages() {
   [[ -f /usr/include/nlohmann/json.hpp ]] || say nlohmann-json3-dev
   has_command wixl || say wixl
   has_command msibuild || say msitools
+  /usr/bin/python3 -c 'import pefile' 2>/dev/null || say python3-pefile
 }
 
 # Everything of Wine and the compilers but the 32-bit half of Wine.
