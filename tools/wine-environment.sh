@@ -21,7 +21,7 @@ windows_path() { printf '%s' "Z:${1//\//\\}"; }
 # The folder of Windows' own programs of one bitness.
 windows_programs() {
   case $1 in
-    x86) printf '%s' 'C:\windows\syswow64' ;;
+    x86 | coverage) printf '%s' 'C:\windows\syswow64' ;;
     x64) printf '%s' 'C:\windows\system32' ;;
   esac
 }
