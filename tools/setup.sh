@@ -1,8 +1,8 @@
 #!/bin/bash
-# setup.sh [--require-x86] [--browser | --require-browser]
-# Installs on Debian 12 what building and testing need and is not there yet. Without 32-bit Wine the x86 tests cannot
-# run; that is an error only with --require-x86. --browser: Chromium too, for the tests of the simulator's page; that it
-# cannot be had is an error only with --require-browser.
+# setup.sh [--require-x86] [--browser | --require-browser] [--with PROGRAM]...
+# Installs on Debian 12 what building and testing need and is not there yet, and programs whose package has their name.
+# Without 32-bit Wine the x86 tests cannot run; that is an error only with --require-x86. --browser: Chromium too, for the
+# tests of the simulator's page; that it cannot be had is an error only with --require-browser.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/shell-support.sh"
@@ -11,13 +11,19 @@ source "$project/tools/wine-environment.sh"
 
 require_x86=no
 browser=no
-for option in "$@"; do
-  case $option in
+programs=()
+while (($#)); do
+  case $1 in
     --require-x86) require_x86=yes ;;
     --browser) browser=wanted ;;
     --require-browser) browser=required ;;
-    *) wrong_usage "usage: setup.sh [--require-x86] [--browser | --require-browser]" ;;
+    --with)
+      programs+=("${2:?--with needs a program}")
+      shift
+      ;;
+    *) wrong_usage "usage: setup.sh [--require-x86] [--browser | --require-browser] [--with PROGRAM]..." ;;
   esac
+  shift
 done
 
 log=$project/build/setup.log
@@ -36,6 +42,10 @@ missing_packages() {
   has_command wixl || say wixl
   has_command msibuild || say msitools
   /usr/bin/python3 -c 'import pefile' 2>/dev/null || say python3-pefile
+  local program
+  for program in "${programs[@]}"; do
+    has_command "$program" || say "$program"
+  done
 }
 
 # Everything of Wine and the compilers but the 32-bit half of Wine.

@@ -1,0 +1,39 @@
+#!/bin/bash
+# lint.sh
+# What can be seen without running anything: the layout of the C++ sources (clang-format), mistakes in the library and
+# its command-line client (cppcheck; its exceptions stand in tools/cppcheck-exceptions.txt) and in the scripts
+# (shellcheck). The compiler's own warnings are errors in every build.
+set -euo pipefail
+# shellcheck source=tools/shell-support.sh
+source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
+
+(($# == 0)) || wrong_usage "usage: lint.sh"
+cd "$project"
+clean_up_with :
+lock_checkout
+run tools/setup.sh --with clang-format --with cppcheck --with shellcheck
+
+failed=0
+# check NAME COMMAND...
+check() {
+  if run "${@:2}"; then say "$1: nothing to say"; else failed=1; fi
+}
+
+# Files that git knows, or would add.
+files_of() { git ls-files --cached --others --exclude-standard -- "$@"; }
+
+mapfile -t sources < <(files_of '*.cpp' '*.h')
+mapfile -t scripts < <(files_of '*.sh' '.ci/run')
+core="Plugins/LEJIS/LEJIS Core Library"
+cppcheck_options=(
+  --quiet --error-exitcode=1 --template=gcc -j "$(nproc)"
+  --enable=warning,performance,portability --std=c++20 --platform=win32W --library=windows
+  --inline-suppr --suppressions-list=tools/cppcheck-exceptions.txt --suppress=missingInclude
+  # What the system's headers, which are not read, define.
+  -DSTDMETHODIMP=HRESULT '-DSTDMETHODIMP_(type)=type' -DSTDMETHODCALLTYPE= '-DLEJIS_HOST=L""'
+)
+
+check clang-format clang-format --dry-run --Werror "${sources[@]}"
+check cppcheck cppcheck "${cppcheck_options[@]}" -I "$core" "$core" tools/lejis
+check shellcheck shellcheck --external-sources "${scripts[@]}"
+exit "$failed"
