@@ -24,9 +24,9 @@ unsigned __stdcall RunInApartment(void* work) {
 }
 
 void OnASmallStack(const std::function<void()>& work) {
-    const auto thread = reinterpret_cast<HANDLE>(
-        _beginthreadex(nullptr, kSmallStack, RunInApartment, const_cast<std::function<void()>*>(&work),
-                       STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr));
+    const auto thread = reinterpret_cast<HANDLE>(_beginthreadex(nullptr, kSmallStack, RunInApartment,
+                                                                const_cast<std::function<void()>*>(&work),
+                                                                STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr));
     ASSERT_NE(nullptr, thread);
     EXPECT_EQ(WAIT_OBJECT_0, WaitForSingleObject(thread, 60000));
     CloseHandle(thread);
@@ -79,7 +79,8 @@ TEST(DeepXml, IsRefusedByEveryReader) {
 TEST(DeepXml, ThatGrowsAfterItWasReadIsRefusedWhenItIsAskedFor) {
     OnASmallStack([] {
         const support::Document document = support::Parse(
-            L"<soap:Envelope><soap:Body><soap:Fault><faultcode/><faultstring/></soap:Fault></soap:Body></soap:Envelope>");
+            L"<soap:Envelope><soap:Body><soap:Fault><faultcode/><faultstring/></soap:Fault></soap:Body></"
+            L"soap:Envelope>");
         const LateBound envelope = ReadEnvelope(document);
         NestBelow(document, L"//faultstring");
         EXPECT_TRUE(Done(envelope.Call(L"IsFault")));

@@ -92,15 +92,18 @@ TEST_F(NothingFetched, WhenTheUsernameIsMarkup) {
 
 TEST_F(NothingFetched, WhenAnswersAreValidated) {
     const support::TemporaryFolder folder;
-    const std::wstring schema = folder.Write(
-        L"x.xsd", "<xsd:schema xmlns:xsd='http://www.w3.org/2001/XMLSchema' targetNamespace='urn:count'>"
-                  "<xsd:element name='count' type='xsd:int'/></xsd:schema>");
+    const std::wstring schema =
+        folder.Write(L"x.xsd",
+                     "<xsd:schema xmlns:xsd='http://www.w3.org/2001/XMLSchema' targetNamespace='urn:count'>"
+                     "<xsd:element name='count' type='xsd:int'/></xsd:schema>");
     support::ScriptedHttp http(
         {.responseText = L"<wsdl:definitions xmlns:wsdl='http://schemas.xmlsoap.org/wsdl/' "
                          L"xmlns:xsd='http://www.w3.org/2001/XMLSchema'><wsdl:import location='" +
-                         Named(L"more.wsdl") + L"'/><wsdl:types><xsd:schema targetNamespace='urn:count'><xsd:include "
-                         L"schemaLocation='" + schema + L"'/><xsd:import namespace='urn:y' schemaLocation='" +
-                         Named(L"imported.xsd") + L"'/></xsd:schema></wsdl:types></wsdl:definitions>"});
+                         Named(L"more.wsdl") +
+                         L"'/><wsdl:types><xsd:schema targetNamespace='urn:count'><xsd:include "
+                         L"schemaLocation='" +
+                         schema + L"'/><xsd:import namespace='urn:y' schemaLocation='" + Named(L"imported.xsd") +
+                         L"'/></xsd:schema></wsdl:types></wsdl:definitions>"});
     for (const std::wstring& text : Temptations()) {
         const msxml::Document document = msxml::CreateDocument();
         if (!msxml::LoadXml(document, text)) continue;
@@ -119,8 +122,8 @@ TEST_F(NothingFetched, WhenAClientHandsInWhatHasADoctype) {
     const msxml::Element root = msxml::Root(document);
     const auto response = platform::Create<LejisInquiryResponse>();
     const auto vehicle = platform::Create<LejisVehicleIndexCard>();
-    EXPECT_TRUE(support::FailedWith(response->FromXmlDocument(document.Get()), support::kObjectRequired,
-                                    L"Object required"));
+    EXPECT_TRUE(
+        support::FailedWith(response->FromXmlDocument(document.Get()), support::kObjectRequired, L"Object required"));
     constexpr wchar_t kRefused[] = L"XML of a document with a DOCTYPE is not read";
     EXPECT_TRUE(support::FailedWith(response->FromXmlElement(root.Get()), E_INVALIDARG, kRefused));
     EXPECT_TRUE(support::FailedWith(vehicle->FromXmlElement(root.Get()), E_INVALIDARG, kRefused));

@@ -150,7 +150,7 @@ TEST_F(SchemaUtilsTest, ReplacesEveryOccurrenceOfTheSecureScheme) {
 
 TEST_F(SchemaUtilsTest, RaisesForAWsdlThatIsNoXml) {
     for (const std::wstring& wsdl : {std::wstring(), std::wstring(L"no xml"), std::wstring(L"<!DOCTYPE a><a/>"),
-                                    support::Nested(support::kVeryDeep)}) {
+                                     support::Nested(support::kVeryDeep)}) {
         try {
             Validate(wsdl, L"<x/>");
             ADD_FAILURE() << "passed: " << support::Utf8(wsdl.substr(0, 80));

@@ -26,8 +26,8 @@ List& Living() {
 
 std::string Readable(const std::type_info& type) {
     int status = 0;
-    const std::unique_ptr<char, decltype(&std::free)> name(
-        abi::__cxa_demangle(type.name(), nullptr, nullptr, &status), &std::free);
+    const std::unique_ptr<char, decltype(&std::free)> name(abi::__cxa_demangle(type.name(), nullptr, nullptr, &status),
+                                                           &std::free);
     return status == 0 ? name.get() : type.name();
 }
 

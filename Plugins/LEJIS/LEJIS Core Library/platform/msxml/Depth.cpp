@@ -21,8 +21,8 @@ std::wstring TooDeep() {
 void RequireBoundedDepth(const Node& node) {
     static const std::wstring tooDeep = TooDeep();
     if (!SelectNode(node, tooDeep)) return;
-    throw platform::ComError(E_INVALIDARG, L"The XML is nested too deep: " + std::to_wstring(kMaximumDepth) +
-                                               L" levels or more");
+    throw platform::ComError(E_INVALIDARG,
+                             L"The XML is nested too deep: " + std::to_wstring(kMaximumDepth) + L" levels or more");
 }
 
 }  // namespace msxml
