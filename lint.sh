@@ -27,7 +27,7 @@ mapfile -t scripts < <(files_of '*.sh' '.ci/run')
 core="Plugins/LEJIS/LEJIS Core Library"
 cppcheck_options=(
   --quiet --error-exitcode=1 --template=gcc -j "$(nproc)"
-  --enable=warning,performance,portability --std=c++20 --platform=win32W --library=windows
+  '--enable=warning,performance,portability' --std=c++20 --platform=win32W --library=windows
   --inline-suppr --suppressions-list=tools/cppcheck-exceptions.txt --suppress=missingInclude
   # What the system's headers, which are not read, define.
   -DSTDMETHODIMP=HRESULT '-DSTDMETHODIMP_(type)=type' -DSTDMETHODCALLTYPE= '-DLEJIS_HOST=L""'
