@@ -187,6 +187,24 @@ TEST_F(SearchService, ForgetsTheSearchThatAnotherReplaces) {
     EXPECT_EQ(std::vector<std::wstring>{L"SearchCompleted: 2 cards"}, log->events);
 }
 
+TEST_F(SearchService, EndsTheRequestThatAnotherOneReplaces) {
+    Search();
+    EXPECT_EQ(0, http.Last().Seen().aborts);
+    Search();
+    EXPECT_EQ(1, http.requests.front()->Seen().aborts);
+    EXPECT_FALSE(http.requests.front()->HasHandler());
+    EXPECT_EQ(0, http.Last().Seen().aborts);
+    http.Last().ClearHandler();
+}
+
+TEST_F(SearchService, EndsTheRequestUnderWayWhenTheNextSearchCannotBeSent) {
+    Search();
+    EXPECT_EQ(S_OK, service->Search(nullptr));
+    EXPECT_EQ(1, http.Last().Seen().aborts);
+    EXPECT_FALSE(http.Last().HasHandler());
+    EXPECT_EQ(1u, log->events.size());
+}
+
 TEST_F(SearchService, ForgetsAnAnswerThatCameWhileItsReplacementWasSent) {
     Search();
     http.Last().Advance();

@@ -41,6 +41,7 @@ STDMETHODIMP ScriptedRequest::send(VARIANT body) {
     ++sent_.sends;
     sent_.bodyIsText = V_VT(&body) == VT_BSTR;
     if (sent_.bodyIsText) sent_.body = V_BSTR(&body);
+    script_.onSend();
     return script_.sendResult;
 }
 
@@ -61,6 +62,7 @@ STDMETHODIMP ScriptedRequest::get_responseText(BSTR* text) {
 
 STDMETHODIMP ScriptedRequest::get_responseXML(IDispatch** document) {
     *document = nullptr;
+    if (FAILED(script_.responseXmlResult)) return script_.responseXmlResult;
     if (!script_.hasResponseXml) return S_FALSE;
     const Document parsed = NewDocument();
     VARIANT_BOOL loaded = VARIANT_FALSE;
@@ -82,10 +84,14 @@ STDMETHODIMP ScriptedRequest::put_onreadystatechange(IDispatch* handler) {
     return S_OK;
 }
 
+STDMETHODIMP ScriptedRequest::abort() {
+    ++sent_.aborts;
+    return S_OK;
+}
+
 // Nothing in the library asks for these.
 STDMETHODIMP ScriptedRequest::getResponseHeader(BSTR, BSTR*) { return E_UNEXPECTED; }
 STDMETHODIMP ScriptedRequest::getAllResponseHeaders(BSTR*) { return E_UNEXPECTED; }
-STDMETHODIMP ScriptedRequest::abort() { return E_UNEXPECTED; }
 STDMETHODIMP ScriptedRequest::get_responseBody(VARIANT*) { return E_UNEXPECTED; }
 STDMETHODIMP ScriptedRequest::get_responseStream(VARIANT*) { return E_UNEXPECTED; }
 

@@ -7,6 +7,7 @@
 #include <msxml6.h>
 #include <wrl/client.h>
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -26,6 +27,9 @@ struct Script {
     std::wstring responseText = {};
     // The response document is parsed from the text; false: the request offers no document at all.
     bool hasResponseXml = true;
+    HRESULT responseXmlResult = S_OK;
+    // Happens while the request is sent, as messages are dispatched meanwhile.
+    std::function<void()> onSend = [] {};
 };
 
 // What was asked of a request.
@@ -37,6 +41,7 @@ struct Sent {
     std::wstring body;
     bool bodyIsText = false;
     int sends = 0;
+    int aborts = 0;
 };
 
 class ScriptedRequest;

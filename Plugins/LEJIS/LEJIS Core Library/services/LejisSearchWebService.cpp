@@ -46,9 +46,9 @@ STDMETHODIMP LejisSearchWebService::Search(ILejisSearchRequest* request) {
             Send(*platform::Inside<LejisSearchRequest>(request).Get());
         } catch (...) {
             const SendingFailure failure = ToSendingFailure(platform::CaughtError(), URL);
-            // No answer will come that would part the request and this object.
+            // No answer is to come that would part the request and this object.
             isAwaited_ = false;
-            request_.ClearReadyStateHandler();
+            request_.Abandon();
             FireReason(failure.isNetworkError ? kNetworkError : kConfigurationError, failure.message);
         }
     });
@@ -59,7 +59,7 @@ void LejisSearchWebService::Send(const LejisSearchRequest& request) {
     LejisUtils::SaveDebugDocument(envelope, L"LejisSearchRequest.xml");
     if (ValidateSchema) SchemaUtils::ValidateSchemaFromWSDL(envelope, URL + L"?wsdl");
     // Late news of a search that this one replaces is not taken for its own.
-    request_.ClearReadyStateHandler();
+    request_.Abandon();
     request_ = HttpRequest::Create();
     isAwaited_ = true;
     request_.SetReadyStateHandler(Dispatch());

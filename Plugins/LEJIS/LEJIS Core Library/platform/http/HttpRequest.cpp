@@ -1,6 +1,7 @@
 #include "platform/http/HttpRequest.h"
 
 #include "platform/ComError.h"
+#include "platform/http/AbandonedRequests.h"
 #include "platform/Text.h"
 
 #include <comutil.h>
@@ -32,6 +33,7 @@ HttpRequestFactory& Factory() {
 }
 
 ComPtr<IXMLHTTPRequest> CreateRequest() {
+    ReleaseCompleteRequests();
     if (Factory()) return Factory()();
     ComPtr<IXMLHTTPRequest> request;
     Check(CoCreateInstance(__uuidof(XMLHTTP60), nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(request.GetAddressOf())));
@@ -64,6 +66,13 @@ void HttpRequest::SetReadyStateHandler(IDispatch* handler) { Check(Request().put
 
 void HttpRequest::ClearReadyStateHandler() noexcept {
     if (request_) request_->put_onreadystatechange(nullptr);
+}
+
+void HttpRequest::Abandon() noexcept {
+    if (!request_) return;
+    ClearReadyStateHandler();
+    if (UnderWine()) HoldUntilComplete(request_);
+    request_->abort();
 }
 
 void HttpRequest::Open(const wchar_t* method, const std::wstring& url, bool asynchronous) {

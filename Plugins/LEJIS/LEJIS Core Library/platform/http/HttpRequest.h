@@ -28,6 +28,9 @@ public:
     void SetReadyStateHandler(IDispatch* handler);
     // Lets go of the handler, which as a rule holds this request in turn.
     void ClearReadyStateHandler() noexcept;
+    // Ends a request whose answer nobody waits for any longer, without a call to the handler. To let go of one that is
+    // under way is not enough: not every MSXML takes its connection down with it.
+    void Abandon() noexcept;
 
     void Open(const wchar_t* method, const std::wstring& url, bool asynchronous);
     void SetHeader(const wchar_t* name, const std::wstring& value);
