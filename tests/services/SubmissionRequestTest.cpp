@@ -153,6 +153,20 @@ TEST_F(SubmissionRequest, LosesItsAnswerToASubmissionMadeWhileItWaits) {
     EXPECT_EQ(2u, http.requests.size());
 }
 
+TEST_F(SubmissionRequest, LivesUntilItIsSentAlsoWhenASubmissionMadeMeanwhileReplacesIt) {
+    int sends = 0;
+    http.script.onSend = [&] {
+        if (++sends > 1) return;
+        support::ScriptedRequest& first = http.Last();
+        first.AddRef();
+        http.requests.clear();
+        service->SubmitIncident(*CleanIncident().Get());
+        EXPECT_EQ(1u, first.Release());
+    };
+    EXPECT_NO_THROW(service->SubmitIncident(*CleanIncident().Get()));
+    EXPECT_EQ(2, sends);
+}
+
 TEST_F(SubmissionRequest, TakesNoTimeLimitFromTheTimeout) {
     support::TestHost host;
     http.script.readyStates = std::vector<long>(50, 1);

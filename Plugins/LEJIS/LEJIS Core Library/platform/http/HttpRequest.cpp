@@ -93,6 +93,8 @@ void HttpRequest::Send() { SendBody(_variant_t()); }
 void HttpRequest::Send(const std::wstring& body) { SendBody(_variant_t(ToBstr(body))); }
 
 void HttpRequest::SendBody(const VARIANT& body) {
+    // Sending may dispatch messages, and what they call may put another request in this one's place.
+    const ComPtr<IXMLHTTPRequest> held = request_;
     const HRESULT result = Request().send(body);
     const bool unreachable = result == kDownloadFailure && UnderWine();
     CheckAs(result, unreachable ? kServerUnreachable : result);
