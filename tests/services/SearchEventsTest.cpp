@@ -90,6 +90,7 @@ const EventRow kRows[] = {
     {"Doctype", Answered(L"<!DOCTYPE x>" + InquiryResponse(L"")), kNoObject},
     {"NestedVeryDeep", Answered(InquiryResponse(support::Nested(support::kVeryDeep))), kNoObject},
     {"FaultNestedVeryDeep", Answered(support::SoapFault(L"a", support::Nested(support::kVeryDeep)), 500), kUnexpected},
+    {"UnknownEncoding", {.status = 200, .responseXmlResult = E_FAIL}, kNoObject},
     {"NoDocument", {.status = 200, .hasResponseXml = false}, L""},
     {"Forbidden",
      {.status = 403, .statusText = L"The user is not known to JNET."},

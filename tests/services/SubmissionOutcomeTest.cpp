@@ -77,6 +77,7 @@ const Outcome kOutcomes[] = {
     {"NestedVeryDeep", Answered(200, SubmissionResponse(Nested(kVeryDeep, L"0"))), tvTransientError,
      PartiallyOffline(200)},
     {"NestedAsDeepAsParses", Accepted(Nested(250, L"0")), 0, L""},
+    {"UnknownEncoding", {.status = 200, .responseXmlResult = E_FAIL}, tvTransientError, PartiallyOffline(200)},
     {"NoDocument", {.status = 200, .hasResponseXml = false}, tvTransientError, PartiallyOffline(200)},
     {"Fault", Answered(500, SoapFault(L"soap:Server", L"The card is malformed.")), tvFatalError,
      L"The card is malformed."},

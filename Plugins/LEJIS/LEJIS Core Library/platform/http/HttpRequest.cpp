@@ -2,6 +2,7 @@
 
 #include "platform/ComError.h"
 #include "platform/http/AbandonedRequests.h"
+#include "platform/msxml/Document.h"
 #include "platform/Text.h"
 
 #include <comutil.h>
@@ -127,7 +128,10 @@ std::wstring HttpRequest::ResponseText() const {
 msxml::Document HttpRequest::ResponseXml() const {
     ComPtr<IDispatch> response;
     msxml::Document document;
-    Check(Request().get_responseXML(response.GetAddressOf()));
+    const HRESULT result = Request().get_responseXML(response.GetAddressOf());
+    // Wine's answer to bytes in an encoding that it does not know; Windows gives the document that this one becomes.
+    if (result == E_FAIL) return msxml::CreateDocument();
+    Check(result);
     if (response) response.As(&document);
     return document;
 }
