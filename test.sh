@@ -1,8 +1,8 @@
 #!/bin/bash
 # test.sh [x86|x64|all] [--filter PATTERN] [--require-x86] [--require-browser]
 # Builds everything and runs the tests under Wine: in each architecture the unit tests, the clients' tests (C++ and
-# scripts) and the tests over HTTP against the simulator; then the tests of the tools, written in Python, and of the
-# packages, which are made, installed, used and uninstalled.
+# scripts), the tests over HTTP against the simulator and against servers that fail, and a short run of endurance.sh;
+# then the tests of the tools, written in Python, and of the packages, which are made, installed, used and uninstalled.
 # PATTERN is GoogleTest's, such as "Vehicle*:-*Slow*"; scripts are chosen by their file names likewise, and the tests of
 # the tools, of the samples and of the guides are left out.
 # --require-x86 makes it an error that x86 programs cannot be run here, --require-browser that the simulator's page cannot
@@ -100,6 +100,12 @@ run_binaries() {
     /usr/bin/python3 -m unittest discover -s "$project/tests/binaries"
 }
 
+# Servers that fail, and a client that loses nothing to them; the pattern of --filter does not speak of these either.
+run_failing_servers() {
+  [[ -z $filter ]] || return 0
+  run_tests "$1" end-to-end unittest fault-matrix "$project/tests/fault_matrix/run.sh" "$1"
+}
+
 run_architecture() {
   local started=$SECONDS
   register_dll "$1"
@@ -110,6 +116,7 @@ run_architecture() {
   run_samples "$1"
   run_googletest "$1" end-to-end end_to_end_tests "$project/tests/support/with_simulator.sh" --in-schemas
   run_binaries "$1"
+  run_failing_servers "$1"
   say "$1 tested in $((SECONDS - started)) s"
 }
 

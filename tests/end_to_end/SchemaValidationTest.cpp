@@ -61,24 +61,9 @@ TEST_F(SchemaValidation, KeepsBackASubmissionThatTheSchemaRefuses) {
     ExpectRefusal(L"Schema validation error: ");
 }
 
-TEST_F(SchemaValidation, SaysWhatTheServerAnswersInsteadOfAWsdl) {
-    Play(R"({"kind": "http-status", "target": "wsdl", "status": 404, "body": "There is no such service."})");
-    ExpectRefusal(L"There is no such service. (Line 1)");
-}
-
-TEST_F(SchemaValidation, SaysWhatANetworkFailureMeans) {
-    Play(R"({"kind": "http-status", "target": "wsdl", "status": 502, "reason": ""})");
-    ExpectRefusal(L"The LEJIS server returned HTTP status code 502 (no message text) (Line 1)");
-}
-
 TEST_F(SchemaValidation, PassesEverythingWhenNoTypesArePublished) {
     Play(R"({"kind": "no-types", "target": "wsdl"})");
     EXPECT_OK(Submit(NewIncident().Get()));
-}
-
-TEST_F(SchemaValidation, RefusesAWsdlThatIsNoXml) {
-    Play(R"({"kind": "not-xml", "target": "wsdl"})");
-    ExpectRefusal(L"The WSDL could not be read: error ");
 }
 
 TEST_F(SchemaValidation, RefusesASchemaWithoutInclude) {

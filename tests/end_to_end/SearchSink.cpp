@@ -28,8 +28,10 @@ SearchSink::~SearchSink() { point_->Unadvise(cookie_); }
 std::vector<std::wstring> SearchSink::AwaitEvents() {
     support::PumpUntil([&] { return !events_.empty(); });
     support::PumpFor(150);
-    return std::exchange(events_, {});
+    return TakeEvents();
 }
+
+std::vector<std::wstring> SearchSink::TakeEvents() { return std::exchange(events_, {}); }
 
 STDMETHODIMP SearchSink::QueryInterface(REFIID iid, void** object) {
     const bool known =
