@@ -10,8 +10,7 @@ Figure Ratio(const Series& work, const Series& floor, std::optional<double> targ
         ratios.push_back(work.rounds[round] / (floor.rounds[round] * times));
     }
     const auto [lowest, highest] = std::ranges::minmax(ratios);
-    return {work.name,      floor.name, Median(work.rounds), Median(floor.rounds),
-            Median(ratios), lowest,     highest,             target};
+    return {work.name, floor.name, Median(work.rounds), Median(floor.rounds), Median(ratios), lowest, highest, target};
 }
 
 }  // namespace benchmarks

@@ -3,8 +3,8 @@
 #include "platform/com/Module.h"
 #include "platform/ComError.h"
 
-#include <windows.h>
 #include <objbase.h>
+#include <windows.h>
 #include <wrl/client.h>
 
 #include <chrono>
@@ -41,8 +41,8 @@ std::optional<int> FirstObjectCode(int count, char** texts) {
 }
 
 double FirstObjectMicroseconds(const std::wstring& progId) {
-    std::wstring command = L"\"" + platform::module::Path() + L"\" " + std::wstring(kOption.begin(), kOption.end()) +
-                           L" " + progId;
+    std::wstring command =
+        L"\"" + platform::module::Path() + L"\" " + std::wstring(kOption.begin(), kOption.end()) + L" " + progId;
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};

@@ -24,8 +24,8 @@ constexpr int kBitness = sizeof(void*) * 8;
 }  // namespace
 
 void PrintHeading() {
-    std::printf("x%s: medians of the ratios of at least %d rounds, work and floor in turn\n\n", kBitness == 32 ? "86" : "64",
-                kRounds);
+    std::printf("x%s: medians of the ratios of at least %d rounds, work and floor in turn\n\n",
+                kBitness == 32 ? "86" : "64", kRounds);
     std::printf("%-62s %-44s %8s %15s %7s\n", "work", "floor", "ratio", "lowest-highest", "target");
 }
 

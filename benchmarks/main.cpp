@@ -7,8 +7,8 @@
 
 #include "platform/ComError.h"
 
-#include <windows.h>
 #include <ole2.h>
+#include <windows.h>
 
 #include <cstdio>
 #include <exception>
@@ -23,9 +23,9 @@ struct Section {
 };
 
 constexpr Section kSections[] = {
-    {"reading", Reading},          {"reading-more", ReadingMore}, {"walking", WalkingCards},
-    {"held-bytes", HeldBytes},     {"submission", Submission},    {"many-persons", ManyPersons},
-    {"ncic-lookup", NcicLookup},   {"waiting", Waiting},          {"first-object", FirstObject},
+    {"reading", Reading},        {"reading-more", ReadingMore}, {"walking", WalkingCards},
+    {"held-bytes", HeldBytes},   {"submission", Submission},    {"many-persons", ManyPersons},
+    {"ncic-lookup", NcicLookup}, {"waiting", Waiting},          {"first-object", FirstObject},
 };
 
 struct Arguments {

@@ -150,8 +150,8 @@ BODIES = (
     _body("entities in entities, a thousand million", NO_XML,
           lambda data: bodies.with_prolog(bodies.entities(9))(bodies.inside("<x>&e9;</x>")(data))),
     _body("an entity that nobody declares", NO_XML, bodies.inside("<x>&nobody;</x>")),
-    # To be raised as far as the limit of the readers goes.
-    _body(f"elements {bodies.DEEP} deep", RIGHT, bodies.deep()),
+    _body("elements 200 deep", RIGHT, bodies.deep(200)),
+    _body("elements 100,000 deep", NO_XML, bodies.deep(100_000)),
     _body(f"{bodies.HUGE // 1_000_000} MB of blanks", RIGHT, lambda data: data + b" " * bodies.HUGE),
     _body(f"{bodies.HUGE // 1_000_000} MB in one attribute", RIGHT, bodies.inside(f"<x a='{'a' * bodies.HUGE}'/>")),
     _body("20,000 elements more", RIGHT, bodies.inside("<x/>" * 20_000)),

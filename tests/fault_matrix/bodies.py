@@ -12,7 +12,6 @@ Change = Callable[[bytes], bytes]
 
 SOAP = "http://schemas.xmlsoap.org/soap/envelope/"
 _DECLARATION = re.compile(rb"\s*<\?xml[^>]*\?>\s*")
-DEEP = 200
 HUGE = 2_000_000
 
 
@@ -52,7 +51,7 @@ def inside(markup: str) -> Change:
     return change
 
 
-def deep(levels: int = DEEP) -> Change:
+def deep(levels: int) -> Change:
     """With so many elements, one inside the other, beside the answer."""
     return inside("<x>" * levels + "</x>" * levels)
 

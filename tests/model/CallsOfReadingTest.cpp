@@ -1,5 +1,5 @@
-// What reading a card asks of MSXML. A call is cheap and a query is not, and an answer brings thousands of cards: what is
-// added here is paid by every clerk who waits for a search.
+// What reading a card asks of MSXML. A call is cheap and a query is not, and an answer brings thousands of cards: what
+// is added here is paid by every clerk who waits for a search.
 #include "model/LejisIncidentIndexCard.h"
 #include "support/Xml.h"
 #include "unit_support/CountingElement.h"

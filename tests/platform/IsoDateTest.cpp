@@ -57,14 +57,12 @@ TEST_P(IsoDateInLocale, IsThatOfThePlatformAtEveryTime) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, IsoDateInLocale,
-                         testing::Values(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US),
-                                         MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_UK),
-                                         MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN),
-                                         MAKELANGID(LANG_FRENCH, SUBLANG_FRENCH),
-                                         MAKELANGID(LANG_SPANISH, SUBLANG_SPANISH_MEXICAN),
-                                         MAKELANGID(LANG_JAPANESE, SUBLANG_DEFAULT),
-                                         MAKELANGID(LANG_SWEDISH, SUBLANG_SWEDISH)));
+INSTANTIATE_TEST_SUITE_P(
+    All, IsoDateInLocale,
+    testing::Values(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_UK),
+                    MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN), MAKELANGID(LANG_FRENCH, SUBLANG_FRENCH),
+                    MAKELANGID(LANG_SPANISH, SUBLANG_SPANISH_MEXICAN), MAKELANGID(LANG_JAPANESE, SUBLANG_DEFAULT),
+                    MAKELANGID(LANG_SWEDISH, SUBLANG_SWEDISH)));
 
 TEST(IsoDate, LeavesEveryOtherFormToThePlatform) {
     for (const wchar_t* text :

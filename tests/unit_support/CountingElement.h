@@ -8,8 +8,8 @@
 
 namespace support {
 
-// Answers what a pass over children and their texts asks, as MSXML does. Everything else fails: a query above all, which
-// costs as much as dozens of these calls.
+// Answers what a pass over children and their texts asks, as MSXML does. Everything else fails: a query above all,
+// which costs as much as dozens of these calls.
 class CountingElement final : public platform::UnknownObject<IXMLDOMElement> {
     using Node = IXMLDOMNode;
 

@@ -39,8 +39,6 @@ constexpr std::array<bool, kNumbers + 1> kIsCode = [] {
 
 std::span<const NcicOffenseCode> GetNcicOffenseCodes() { return kCodes; }
 
-bool IsNcicOffenseCode(std::wstring_view code) {
-    return kIsCode[NumberOf(code)];
-}
+bool IsNcicOffenseCode(std::wstring_view code) { return kIsCode[NumberOf(code)]; }
 
 }  // namespace lejis::LejisUtils

@@ -37,8 +37,7 @@ void ElementWriter::OptionalJurisdictionId(std::wstring_view name, std::wstring_
     Child(NodeFactory::CreateJurisdictionIdElement(document_, name, identifier, state));
 }
 
-void ElementWriter::OptionalMeasure(std::wstring_view name, std::wstring_view value,
-                                    std::wstring_view unitAttribute) {
+void ElementWriter::OptionalMeasure(std::wstring_view name, std::wstring_view value, std::wstring_view unitAttribute) {
     if (value.empty()) return;
     const msxml::Element element = NodeFactory::CreateTextElement(document_, name, value, NamespaceOf(name));
     msxml::SetAttribute(document_, element, unitAttribute, Constants::kJxdmNamespace, L"ncic");

@@ -7,8 +7,9 @@
 
 namespace platform {
 
-// The date of a text exactly of the form "2007-03-08" or "2007-03-08 23:15:00", from the year 1900 on: what XML carries,
-// and what reads alike under every regional setting. Nothing for any other text, however much a date it may be.
+// The date of a text exactly of the form "2007-03-08" or "2007-03-08 23:15:00", from the year 1900 on: what XML
+// carries, and what reads alike under every regional setting. Nothing for any other text, however much a date it may
+// be.
 std::optional<DATE> ParseIsoDate(std::wstring_view text);
 
 }  // namespace platform

@@ -2,8 +2,8 @@
 
 #include "platform/ComError.h"
 #include "platform/InText.h"
-#include "platform/msxml/DocumentClass.h"
 #include "platform/msxml/Depth.h"
+#include "platform/msxml/DocumentClass.h"
 #include "platform/msxml/Node.h"
 #include "platform/Text.h"
 

@@ -26,8 +26,8 @@ DocumentClass& TheClass() {
 
 ComPtr<IClassFactory> LookUp(HMODULE& module) {
     ComPtr<IClassFactory> factory;
-    Check(CoGetClassObject(__uuidof(DOMDocument60), CLSCTX_INPROC_SERVER, nullptr,
-                           IID_PPV_ARGS(factory.GetAddressOf())));
+    Check(
+        CoGetClassObject(__uuidof(DOMDocument60), CLSCTX_INPROC_SERVER, nullptr, IID_PPV_ARGS(factory.GetAddressOf())));
     const void* const anythingInModule = *reinterpret_cast<void**>(factory.Get());
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS, static_cast<LPCWSTR>(anythingInModule), &module);
     return factory;
