@@ -33,7 +33,7 @@ std::optional<std::wstring> RegisteredFile(Bitness bitness) {
     const LSTATUS result = RegGetValueW(key, nullptr, nullptr, RRF_RT_REG_SZ, nullptr, path.data(), &size);
     RegCloseKey(key);
     if (result != ERROR_SUCCESS) return {};
-    return path.c_str();
+    return std::wstring(path.c_str());
 }
 
 std::optional<std::wstring> VersionOf(const std::wstring& file) {
