@@ -1,7 +1,5 @@
 #include "foundation/NullableInteger.h"
 
-#include "foundation/NumberText.h"
-#include "platform/com/LateBound.h"
 #include "support/ComCheck.h"
 
 #include <gtest/gtest.h>
@@ -63,60 +61,6 @@ const Case kCases[] = {
 
 INSTANTIATE_TEST_SUITE_P(All, NullableIntegerValues, testing::ValuesIn(kCases),
                          [](const auto& row) { return std::string(row.param.name); });
-
-TEST(NullableInteger, IsNullWhenNew) {
-    const auto holder = platform::Create<NullableInteger>();
-    _variant_t value(7L);
-    EXPECT_OK(holder->get_Value(&value));
-    EXPECT_EQ(VT_NULL, V_VT(&value));
-    EXPECT_EQ(E_POINTER, holder->get_Value(nullptr));
-}
-
-TEST(NullableInteger, IsEmptiedByNull) {
-    const auto holder = platform::Create<NullableInteger>();
-    EXPECT_OK(holder->put_Value(_variant_t(5L)));
-    EXPECT_OK(holder->put_Value(support::Null()));
-    EXPECT_EQ(std::nullopt, holder->Number());
-}
-
-TEST(NullableInteger, BecomesZeroWhateverItHeldBeforeANumberOutOfRange) {
-    const auto holder = platform::Create<NullableInteger>();
-    EXPECT_OK(holder->put_Value(_variant_t(5L)));
-    EXPECT_EQ(S_OK, holder->put_Value(_variant_t(40000L)));
-    EXPECT_EQ(short{0}, holder->Number());
-}
-
-TEST(NullableInteger, TakesWhatScriptsPassByReference) {
-    const auto holder = platform::Create<NullableInteger>();
-    _variant_t number(2.5);
-    _variant_t reference;
-    V_VT(&reference) = VT_BYREF | VT_VARIANT;
-    V_VARIANTREF(&reference) = &number;
-    EXPECT_OK(holder->put_Value(reference));
-    EXPECT_EQ(short{2}, holder->Number());
-    number = support::Null();
-    EXPECT_OK(holder->put_Value(reference));
-    EXPECT_EQ(std::nullopt, holder->Number());
-}
-
-TEST(NullableInteger, HasValueAsItsDefaultMember) {
-    const auto holder = platform::Create<NullableInteger>();
-    platform::PutMember(holder->Dispatch(), L"Value", 42L);
-    DISPPARAMS none{};
-    _variant_t value;
-    EXPECT_OK(holder->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none, &value, nullptr,
-                             nullptr));
-    EXPECT_EQ(_variant_t(short{42}), value);
-}
-
-TEST(NullableInteger, IsWrittenInDecimalDigits) {
-    const auto holder = platform::Create<NullableInteger>();
-    EXPECT_EQ(L"", NumberText(*holder.Get()));
-    for (const short number : {short{0}, short{510}, short{-32768}}) {
-        holder->Set(number);
-        EXPECT_EQ(std::to_wstring(number), NumberText(*holder.Get()));
-    }
-}
 
 }  // namespace
 }  // namespace lejis

@@ -1,7 +1,5 @@
 #include "foundation/NullableLong.h"
 
-#include "foundation/NumberText.h"
-#include "platform/com/LateBound.h"
 #include "support/ComCheck.h"
 
 #include <gtest/gtest.h>
@@ -64,60 +62,6 @@ const Case kCases[] = {
 
 INSTANTIATE_TEST_SUITE_P(All, NullableLongValues, testing::ValuesIn(kCases),
                          [](const auto& row) { return std::string(row.param.name); });
-
-TEST(NullableLong, IsNullWhenNew) {
-    const auto holder = platform::Create<NullableLong>();
-    _variant_t value(7L);
-    EXPECT_OK(holder->get_Value(&value));
-    EXPECT_EQ(VT_NULL, V_VT(&value));
-    EXPECT_EQ(E_POINTER, holder->get_Value(nullptr));
-}
-
-TEST(NullableLong, IsEmptiedByNull) {
-    const auto holder = platform::Create<NullableLong>();
-    EXPECT_OK(holder->put_Value(_variant_t(5L)));
-    EXPECT_OK(holder->put_Value(support::Null()));
-    EXPECT_EQ(std::nullopt, holder->Number());
-}
-
-TEST(NullableLong, BecomesZeroWhateverItHeldBeforeANumberOutOfRange) {
-    const auto holder = platform::Create<NullableLong>();
-    EXPECT_OK(holder->put_Value(_variant_t(5L)));
-    EXPECT_EQ(S_OK, holder->put_Value(_variant_t(3000000000.0)));
-    EXPECT_EQ(0L, holder->Number());
-}
-
-TEST(NullableLong, TakesWhatScriptsPassByReference) {
-    const auto holder = platform::Create<NullableLong>();
-    _variant_t number(2.5);
-    _variant_t reference;
-    V_VT(&reference) = VT_BYREF | VT_VARIANT;
-    V_VARIANTREF(&reference) = &number;
-    EXPECT_OK(holder->put_Value(reference));
-    EXPECT_EQ(2L, holder->Number());
-    number = support::Null();
-    EXPECT_OK(holder->put_Value(reference));
-    EXPECT_EQ(std::nullopt, holder->Number());
-}
-
-TEST(NullableLong, HasValueAsItsDefaultMember) {
-    const auto holder = platform::Create<NullableLong>();
-    platform::PutMember(holder->Dispatch(), L"Value", 42L);
-    DISPPARAMS none{};
-    _variant_t value;
-    EXPECT_OK(holder->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none, &value, nullptr,
-                             nullptr));
-    EXPECT_EQ(_variant_t(42L), value);
-}
-
-TEST(NullableLong, IsWrittenInDecimalDigits) {
-    const auto holder = platform::Create<NullableLong>();
-    EXPECT_EQ(L"", NumberText(*holder.Get()));
-    for (const long number : {0L, 1234567L, LONG_MIN}) {
-        holder->Set(number);
-        EXPECT_EQ(std::to_wstring(number), NumberText(*holder.Get()));
-    }
-}
 
 }  // namespace
 }  // namespace lejis
