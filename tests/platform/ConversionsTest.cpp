@@ -31,6 +31,12 @@ TEST(Conversions, TakesTheValueBehindAReference) {
     EXPECT_EQ(_variant_t(7L), Dereference(_variant_t(7L)));
 }
 
+TEST(Conversions, RefusesAReferenceToNothing) {
+    VARIANT nothing{};
+    V_VT(&nothing) = VT_BYREF | VT_R8;
+    EXPECT_TRUE(Raises(DISP_E_TYPEMISMATCH, L"Type mismatch", [&] { Dereference(nothing); }));
+}
+
 TEST(Conversions, WritesValuesAsTexts) {
     EXPECT_EQ(L"", ToText(Null()));
     EXPECT_EQ(L"", ToText(_variant_t()));

@@ -148,6 +148,34 @@ TEST(ComObject, TellsAutomationWhatFailed) {
               card->Invoke(reader, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, nullptr, nullptr, nullptr, nullptr));
 }
 
+// The call of a member that takes one argument, with these parameters.
+HRESULT InvokeReader(const ComPtr<LejisVehicleIndexCard>& card, DISPPARAMS parameters) {
+    DISPID reader = 0;
+    EXPECT_OK(NumberOf(card->Dispatch(), L"FromXmlElement", &reader));
+    return card->Invoke(reader, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr);
+}
+
+TEST(ComObject, RefusesArgumentsThatAreNotThere) {
+    const auto card = Create<LejisVehicleIndexCard>();
+    _variant_t argument(1L);
+    DISPID name = 0;
+    EXPECT_EQ(E_INVALIDARG, InvokeReader(card, {nullptr, nullptr, 1, 0}));
+    EXPECT_EQ(E_INVALIDARG, InvokeReader(card, {&argument, nullptr, 1, 1}));
+    EXPECT_EQ(E_INVALIDARG, InvokeReader(card, {&argument, &name, 1, 2}));
+}
+
+TEST(ComObject, RefusesReferencesToNothing) {
+    const auto card = Create<LejisVehicleIndexCard>();
+    VARIANT number{};
+    V_VT(&number) = VT_BYREF | VT_I4;
+    VARIANT reference{};
+    V_VT(&reference) = VT_BYREF | VT_VARIANT;
+    EXPECT_EQ(E_INVALIDARG, InvokeReader(card, {&number, nullptr, 1, 0}));
+    EXPECT_EQ(E_INVALIDARG, InvokeReader(card, {&reference, nullptr, 1, 0}));
+    V_VARIANTREF(&reference) = &number;
+    EXPECT_EQ(E_INVALIDARG, InvokeReader(card, {&reference, nullptr, 1, 0}));
+}
+
 TEST(Inside, FindsTheObjectBehindItsInterfaces) {
     const auto card = Create<LejisPersonIndexCard>();
     EXPECT_EQ(card.Get(), Inside<LejisPersonIndexCard>(card->Dispatch()).Get());

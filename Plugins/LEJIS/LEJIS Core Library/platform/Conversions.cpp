@@ -1,5 +1,6 @@
 #include "platform/Conversions.h"
 
+#include "platform/com/Arguments.h"
 #include "platform/ComError.h"
 #include "platform/IsoDate.h"
 #include "platform/Text.h"
@@ -51,6 +52,7 @@ bool Convert(const VARIANT& value, VARTYPE type, _variant_t& result) {
 }  // namespace
 
 _variant_t Dereference(const VARIANT& value) {
+    if (LeadsNowhere(value)) throw TypeMismatch();
     _variant_t copy;
     Check(VariantCopyInd(&copy, const_cast<VARIANT*>(&value)));
     return copy;

@@ -2,6 +2,7 @@
 // errors.
 #pragma once
 
+#include "platform/com/Arguments.h"
 #include "platform/com/ClassInformation.h"
 #include "platform/com/Guard.h"
 #include "platform/com/TypeLibrary.h"
@@ -50,7 +51,7 @@ public:
 
     STDMETHODIMP Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                         EXCEPINFO* exception, UINT* argument) override {
-        if (!parameters) return E_INVALIDARG;
+        if (!parameters || !IsSound(*parameters)) return E_INVALIDARG;
         const Microsoft::WRL::ComPtr<Interface> self(this->First());
         HRESULT outcome = S_OK;
         const HRESULT entered = Guard([&] {
