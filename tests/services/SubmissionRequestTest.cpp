@@ -3,6 +3,7 @@
 
 #include "support/ComCheck.h"
 #include "support/Xml.h"
+#include "unit_support/EventLog.h"
 #include "unit_support/Incidents.h"
 #include "unit_support/Raises.h"
 #include "unit_support/ScriptedRequest.h"
@@ -175,6 +176,25 @@ TEST_F(SubmissionRequest, TakesNoTimeLimitFromTheTimeout) {
     EXPECT_NO_THROW(service->SubmitIncident(*CleanIncident().Get()));
     EXPECT_EQ(50, host.yields);
     EXPECT_EQ(1, service->Timeout);
+}
+
+// A careless client lets go of the service while the host works.
+TEST_F(SubmissionRequest, KeepsTheServiceUntilTheEndOfTheWait) {
+    support::TestHost host;
+    const auto sink = support::EventLog::ForSubmissions();
+    sink->ConnectTo(service->Dispatch());
+    http.script.readyStates = {1, 4};
+    bool lived = false;
+    host.onYield = [&] {
+        service.Reset();
+        // The service, as long as it lives, holds its sink.
+        sink->AddRef();
+        lived = sink->Release() > 1;
+    };
+    Microsoft::WRL::ComPtr<ICollection> warnings;
+    EXPECT_OK(service.Get()->SubmitIncident(CleanIncident().Get(), warnings.GetAddressOf()));
+    EXPECT_EQ(1, host.yields);
+    EXPECT_TRUE(lived);
 }
 
 }  // namespace

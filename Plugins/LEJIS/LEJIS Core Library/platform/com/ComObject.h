@@ -52,17 +52,18 @@ public:
     STDMETHODIMP Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                         EXCEPINFO* exception, UINT* argument) override {
         if (!parameters || !IsSound(*parameters)) return E_INVALIDARG;
-        const Microsoft::WRL::ComPtr<Interface> self(this->First());
         HRESULT outcome = S_OK;
         const HRESULT entered = Guard([&] {
-            outcome = InterfaceInfo()->Invoke(self.Get(), member, flags, parameters, result, exception, argument);
+            outcome = InterfaceInfo()->Invoke(this->First(), member, flags, parameters, result, exception, argument);
         });
         return FAILED(entered) ? entered : outcome;
     }
 
 protected:
     template <typename... Arguments>
-    HRESULT Guard(Arguments&&... arguments) const noexcept {
+    HRESULT Guard(Arguments&&... arguments) noexcept {
+        // Clients let go of an object from inside of its calls: in an event, or while the host works during a wait.
+        const Microsoft::WRL::ComPtr<Interface> self(this->First());
         return platform::Guard(ClassId(), std::forward<Arguments>(arguments)...);
     }
 
