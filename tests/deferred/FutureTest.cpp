@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 using Microsoft::WRL::ComPtr;
 using support::kInvalidArgument;
 using support::PumpFor;
@@ -116,6 +118,23 @@ TEST(Future, StopsTheHostsTimerWhenItIsReleasedAndHearsNoLateTick) {
     EXPECT_FALSE(host.timers[0]->enabled);
     host.timers[0]->Tick();
     EXPECT_EQ(0, runnable->runs);
+}
+
+// The work is held by the future alone, which it gives other work.
+TEST(Future, HoldsItsWorkUntilTheWorkEnds) {
+    const support::TestHost host;
+    const auto future = platform::Create<Future>();
+    auto runnable = platform::Create<RecordingRunnable>();
+    IRunnable* const running = runnable.Get();
+    ULONG held = 0;
+    runnable->onRun = [&] {
+        future->Schedule(platform::Create<RecordingRunnable>().Get(), nullptr);
+        running->AddRef();
+        held = running->Release();
+    };
+    future->Schedule(std::exchange(runnable, nullptr).Get(), nullptr);
+    host.timers[0]->Tick();
+    EXPECT_EQ(1u, held);
 }
 
 TEST(FutureManager, TracksAFutureUntilItHasRun) {

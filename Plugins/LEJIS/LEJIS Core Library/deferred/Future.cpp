@@ -33,7 +33,9 @@ void Future::OnElapsed() {
     const ComPtr<IFuture> self(this);
     invokeTimer_->SetEnabled(false);
     // A failure ends the tick here: the future stays incomplete and whoever keeps it goes on keeping it.
-    if (runnable_) platform::Check(runnable_->Run());
+    // The work may give this future other work, and must not end while it runs.
+    const ComPtr<IRunnable> runnable = runnable_;
+    if (runnable) platform::Check(runnable->Run());
     completed_ = true;
     runnable_.Reset();
     const ComPtr<IFutureObserver> observer = std::move(observer_);
