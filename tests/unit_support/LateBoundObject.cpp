@@ -26,10 +26,11 @@ STDMETHODIMP LateBoundObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID,
 
 STDMETHODIMP LateBoundObject::Invoke(DISPID member, REFIID, LCID, WORD kind, DISPPARAMS* parameters, VARIANT* result,
                                      EXCEPINFO* exception, UINT*) {
+    if (member < 1 || static_cast<size_t>(member) > members_.size()) return DISP_E_MEMBERNOTFOUND;
     std::vector<_variant_t> arguments;
     for (UINT left = parameters->cArgs; left > 0; --left) arguments.emplace_back(parameters->rgvarg[left - 1]);
     try {
-        _variant_t value = members_.at(static_cast<size_t>(member) - 1).second(arguments, kind);
+        _variant_t value = members_[static_cast<size_t>(member) - 1].second(arguments, kind);
         if (result) *result = value.Detach();
         return S_OK;
     } catch (const platform::ComError& error) {
