@@ -47,7 +47,9 @@ unsigned long HandlesInUse() {
                       [own = GetCurrentProcessId()](const HandleEntry& entry) { return entry.process == own; }));
 }
 
-// Committed pages that belong to this process alone. Wine's PrivateUsage is 0.
+}  // namespace
+
+// Wine's PrivateUsage is 0.
 std::size_t PrivateBytes() {
     std::size_t bytes = 0;
     MEMORY_BASIC_INFORMATION region{};
@@ -57,8 +59,6 @@ std::size_t PrivateBytes() {
     }
     return bytes;
 }
-
-}  // namespace
 
 Memory MemoryInUse() { return {PrivateBytes(), HandlesInUse()}; }
 

@@ -12,4 +12,7 @@ struct Memory {
 
 Memory MemoryInUse();
 
+// Committed pages that belong to this process alone.
+std::size_t PrivateBytes();
+
 }  // namespace endurance

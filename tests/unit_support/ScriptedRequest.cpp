@@ -74,7 +74,7 @@ STDMETHODIMP ScriptedRequest::get_responseXML(IDispatch** document) {
 
 // A look from the waiting loop moves the state on; a scripted asynchronous request moves by Advance alone.
 STDMETHODIMP ScriptedRequest::get_readyState(long* state) {
-    *state = script_.readyStates[state_];
+    *state = isEnded_ ? platform::HttpRequest::kComplete : script_.readyStates[state_];
     if (!sent_.asynchronous) state_ = std::min(state_ + 1, script_.readyStates.size() - 1);
     return S_OK;
 }

@@ -68,7 +68,10 @@ public:
     const Sent& Seen() const { return sent_; }
     bool HasHandler() const { return handler_ != nullptr; }
     // Ends a request that will never complete.
-    void ClearHandler() { handler_.Reset(); }
+    void ClearHandler() {
+        handler_.Reset();
+        isEnded_ = true;
+    }
     // Reports the next ready state to the handler, as the platform does from the message loop.
     void Advance();
 
@@ -98,6 +101,7 @@ private:
     const Script script_;
     Sent sent_;
     size_t state_ = 0;
+    bool isEnded_ = false;
     Microsoft::WRL::ComPtr<IDispatch> handler_;
 };
 
