@@ -1,8 +1,9 @@
 #!/bin/bash
 # test.sh [x86|x64|all] [--filter PATTERN] [--require-x86] [--require-browser]
 # Builds everything and runs the tests under Wine: in each architecture the unit tests, the clients' tests (C++ and
-# scripts), the tests over HTTP against the simulator and against servers that fail, and a short run of endurance.sh;
-# then the tests of the tools, written in Python, and of the packages, which are made, installed, used and uninstalled.
+# scripts), the tests over HTTP against the simulator and against servers that fail, short runs of endurance.sh and of
+# fuzz.sh; then the tests of the tools, written in Python, and of the packages, which are made, installed, used and
+# uninstalled.
 # PATTERN is GoogleTest's, such as "Vehicle*:-*Slow*"; scripts are chosen by their file names likewise, and the tests of
 # the tools, of the samples and of the guides are left out.
 # --require-x86 makes it an error that x86 programs cannot be run here, --require-browser that the simulator's page cannot
@@ -107,6 +108,12 @@ run_failing_servers() {
   run_tests "$1" end-to-end unittest endurance "$project/tests/endurance/run.sh" "$1"
 }
 
+# Half a minute of fuzzing; the pattern of --filter does not speak of it.
+run_fuzzing() {
+  [[ -z $filter && $1 != coverage ]] || return 0
+  run_tests "$1" fuzzing unittest fuzzing "$project/tests/fuzzing/run.sh" "$1"
+}
+
 run_architecture() {
   local started=$SECONDS
   register_dll "$1"
@@ -118,6 +125,7 @@ run_architecture() {
   run_googletest "$1" end-to-end end_to_end_tests "$project/tests/support/with_simulator.sh" --in-schemas
   run_binaries "$1"
   run_failing_servers "$1"
+  run_fuzzing "$1"
   say "$1 tested in $((SECONDS - started)) s"
 }
 

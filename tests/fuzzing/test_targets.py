@@ -1,0 +1,32 @@
+"""A short look by each target: the corpus, and then the same cases each time, as far as they come."""
+
+import unittest
+
+from fuzzer import NOTHING_FOUND, run
+
+# Of each target; with both bitnesses and the fuzzer's own tests about a minute.
+SECONDS = 5
+
+
+class Targets(unittest.TestCase):
+    def look(self, target: str, least: int) -> None:
+        found = run("--target", target, "--seconds", str(SECONDS), "--seed", "1")
+        self.assertEqual(NOTHING_FOUND, found.code, found.output)
+        # Far fewer than any machine manages; a target that did nothing would find nothing.
+        self.assertGreater(found.cases, least, found.output)
+
+    def test_readers(self) -> None:
+        self.look("readers", 100)
+
+    def test_values(self) -> None:
+        self.look("values", 1000)
+
+    def test_automation(self) -> None:
+        self.look("automation", 1000)
+
+    def test_sequences(self) -> None:
+        self.look("sequences", 100)
+
+
+if __name__ == "__main__":
+    unittest.main()
