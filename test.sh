@@ -52,7 +52,7 @@ run_googletest() {
   program=$(windows_path "$project/build/$1/tests/$3.exe")
   arguments=("--gtest_output=xml:$(windows_path "$results/$1-$2-$3.xml")" --gtest_color=no)
   [[ -z $filter ]] || arguments+=("--gtest_filter=$filter")
-  run_tests "$1" "$2" gtest "$3" "${@:4}" wine "$program" "${arguments[@]}"
+  run_tests "$1" "$2" gtest "$3" "${@:4}" "$project/tools/wine-program.sh" "$program" "${arguments[@]}"
 }
 
 # Does the filter want a test of this name? GoogleTest's rule: any of the patterns before "-", none of those after.
@@ -78,7 +78,7 @@ run_scripts() {
     name=$(basename "$script")
     wants "$name" || continue
     run_tests "$1" client script "$name" \
-      wine "$(windows_programs "$1")\\cscript.exe" //nologo "$(windows_path "$script")"
+      "$project/tools/wine-program.sh" "$(windows_programs "$1")\\cscript.exe" //nologo "$(windows_path "$script")"
   done
 }
 

@@ -11,7 +11,7 @@ source "$project/tools/wine-environment.sh"
 
 with_simulator() {
   local services=$LEJIS_SIMULATOR_URL/lejis-core-Rev01/services command=() argument
-  run wine "$(windows_path "$project/build/x86/bin/lejis.exe")" submit --url "$services/submission" \
+  run "$project/tools/wine-program.sh" "$(windows_path "$project/build/x86/bin/lejis.exe")" submit --url "$services/submission" \
     "$(windows_path "$project/samples/incidents/burglary.xml")" >/dev/null || fail "the simulator takes no incident"
   case $1 in
     *.vbs) command=("$(windows_programs x86)\\cscript.exe" //nologo "$(windows_path "$(realpath "$1")")") ;;
@@ -24,7 +24,7 @@ with_simulator() {
       *) command+=("$argument") ;;
     esac
   done
-  run timeout --kill-after=10 60 wine "${command[@]}"
+  run timeout --kill-after=10 60 "$project/tools/wine-program.sh" "${command[@]}"
 }
 
 [[ -f ${1:-} ]] || wrong_usage "usage: samples/run.sh PROGRAM [ARGUMENT...]"

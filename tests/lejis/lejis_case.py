@@ -17,6 +17,7 @@ from typing import NamedTuple
 
 PROJECT = Path(__file__).resolve().parents[2]
 SAMPLES = PROJECT / "samples" / "incidents"
+RUNNER = str(PROJECT / "tools" / "wine-program.sh")
 TIME_LIMIT = 60
 
 DONE, REFUSED, TRY_AGAIN, WRONG_USAGE = 0, 1, 2, 64
@@ -63,7 +64,7 @@ class LejisCase(unittest.TestCase):
 
     def lejis(self, *arguments, folder=None, environment=None):
         process = subprocess.run(
-            ["wine", os.environ["LEJIS_EXE"], *map(str, arguments)],
+            [RUNNER, os.environ["LEJIS_EXE"], *map(str, arguments)],
             cwd=folder or self.folder, env={**os.environ, **(environment or {})},
             stdin=subprocess.DEVNULL, capture_output=True, timeout=TIME_LIMIT, check=False)
         output, complaint = (text.decode("utf-8").replace("\r\n", "\n") for text in (process.stdout, process.stderr))

@@ -6,7 +6,7 @@ import time
 import unittest
 from pathlib import Path
 
-from lejis_case import DONE, REFUSED, TIME_LIMIT, TRY_AGAIN, WRONG_USAGE, LejisCase
+from lejis_case import DONE, REFUSED, RUNNER, TIME_LIMIT, TRY_AGAIN, WRONG_USAGE, LejisCase
 from search_case import USER, SearchCase
 
 INTERRUPTED = 130
@@ -94,7 +94,7 @@ class SlowAnswerTest(SearchCase):
                          (TRY_AGAIN, "", "No answer within 1 second.\n"))
 
     def program(self):
-        """The process of lejis itself: a 64-bit program runs beside the one that started it and waits for it."""
+        """The process of lejis itself: it runs beside the one that started it and waits for it."""
         for folder in Path("/proc").glob("[0-9]*"):
             try:
                 arguments = (folder / "cmdline").read_bytes().split(b"\0")
@@ -116,7 +116,7 @@ class SlowAnswerTest(SearchCase):
 
     def test_an_interruption_ends_it(self):
         self.play(kind="slow", seconds=30)
-        command = ["wine", os.environ["LEJIS_EXE"], "search", "--zip", "17098", "--user", USER, "--url", self.url]
+        command = [RUNNER, os.environ["LEJIS_EXE"], "search", "--zip", "17098", "--user", USER, "--url", self.url]
         with subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                               stderr=subprocess.PIPE) as process:
             self.addCleanup(process.kill)

@@ -4,7 +4,7 @@ import pty
 import re
 import unittest
 
-from lejis_case import DONE, SAMPLES, LejisCase
+from lejis_case import DONE, RUNNER, SAMPLES, LejisCase
 
 COLOUR = re.compile("\x1b\\[[0-9;]*[1-9][0-9;]*m")
 GREEN_SUCCESS = re.compile("\x1b\\[(?:1;32|92)mfit for submission")
@@ -18,7 +18,7 @@ class TerminalTest(LejisCase):
         if child == 0:
             os.chdir(SAMPLES)
             os.environ.update(environment, TERM="xterm")
-            os.execvp("wine", ["wine", os.environ["LEJIS_EXE"], *arguments])
+            os.execv(RUNNER, [RUNNER, os.environ["LEJIS_EXE"], *arguments])
         shown = b""
         while piece := self.read(terminal):
             shown += piece

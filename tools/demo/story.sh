@@ -33,7 +33,7 @@ lejis_gives() {
   printf '\n  $ lejis'
   printf ' %s' "${@:2}"
   printf '\n'
-  run timeout --kill-after=10 60 wine "$lejis" "${@:2}" >"$answer" 2>&1 || code=$?
+  run timeout --kill-after=10 60 "$project/tools/wine-program.sh" "$lejis" "${@:2}" >"$answer" 2>&1 || code=$?
   tr -d '\r' <"$answer" | sed 's/^/    /'
   say "    (exit code $code)"
   ((code == $1)) || not_as_told "exit code $1 was expected"
