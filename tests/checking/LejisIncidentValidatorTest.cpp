@@ -5,6 +5,7 @@
 #include "support/ComCheck.h"
 #include "unit_support/Members.h"
 #include "unit_support/Raises.h"
+#include "unit_support/TextField.h"
 
 #include <gtest/gtest.h>
 
@@ -55,14 +56,14 @@ TEST(LejisIncidentValidator, AcceptsACleanIncident) {
 
 TEST(LejisIncidentValidator, ReportsEverythingInTheOrderOfItsChecks) {
     const auto incident = platform::Create<LejisIncidentIndexCard>();
-    incident->ActivityID = std::wstring(31, L' ');
-    incident->Location->ZIP = L"1";
+    incident->SetActivityID(std::wstring(31, L' '));
+    incident->Location->SetZIP(L"1");
     for (const wchar_t* name : {L"ANN", L"BOB"}) {
         const Person person = AddPerson(incident, name);
-        person->address->ZIP = L"2";
-        person->SSN = L"3";
+        person->address->SetZIP(L"2");
+        person->SetSSN(L"3");
         person->BirthDate->Set(platform::Now() + 1);
-        person->SubjectCautionInformationCaveat = std::wstring(201, L'x');
+        person->SetSubjectCautionInformationCaveat(std::wstring(201, L'x'));
     }
     Errors expected = {kIdMissing,
                        kIdTooLong,
@@ -84,17 +85,19 @@ TEST(LejisIncidentValidator, AcceptsAnyVehicleAnyPropertyAndAnyTextOfTheRest) {
     const Incident incident = Clean();
     const std::wstring longText(1000, L'x');
     const auto vehicle = platform::Create<LejisVehicleIndexCard>();
-    vehicle->Model = longText;
+    vehicle->SetModel(longText);
     vehicle->Year->Set(short{1});
     incident->VehicleIndexCards->AddObject(vehicle->Dispatch());
     const auto property = platform::Create<LejisPropertyIndexCard>();
-    property->Make = longText;
+    property->SetMake(longText);
     incident->PropertyIndexCards->AddObject(property->Dispatch());
     const Person person = AddPerson(incident);
-    for (std::wstring* text : {&incident->OrganizationName, &incident->CaveatText, &incident->ChargeDescriptionText,
-                               &incident->ChargeNCICCode, &person->OrganizationName, &person->CaveatText,
-                               &person->ChargeDescriptionText, &person->ChargeNCICCode}) {
-        *text = longText;
+    for (const support::TextField& field :
+         {TEXT_FIELD(incident, OrganizationName), TEXT_FIELD(incident, CaveatText),
+          TEXT_FIELD(incident, ChargeDescriptionText), TEXT_FIELD(incident, ChargeNCICCode),
+          TEXT_FIELD(person, OrganizationName), TEXT_FIELD(person, CaveatText),
+          TEXT_FIELD(person, ChargeDescriptionText), TEXT_FIELD(person, ChargeNCICCode)}) {
+        field.Set(longText);
     }
     EXPECT_EQ(Errors{}, ErrorsOf(incident));
 }

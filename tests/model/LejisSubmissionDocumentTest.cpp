@@ -30,7 +30,7 @@ ComPtr<LejisSubmissionDocument> NewSubmission() {
 
 ComPtr<LejisIncidentIndexCard> AddIncident(const ComPtr<LejisSubmissionDocument>& submission, const wchar_t* id) {
     auto incident = platform::Create<LejisIncidentIndexCard>();
-    incident->ActivityID = id;
+    incident->SetActivityID(id);
     submission->Add(incident);
     return incident;
 }

@@ -34,6 +34,12 @@ TEST(Text, KeepsNullCharactersBothWays) {
     EXPECT_EQ(kWithNull, TakeText(SysAllocStringLen(kWithNull.data(), 3)));
 }
 
+TEST(Text, JoinsParts) {
+    EXPECT_EQ(L"", Join({}));
+    EXPECT_EQ(L"JOHN Q", Join({L"JOHN", L" ", L"", std::wstring(L"Q")}));
+    EXPECT_EQ(std::wstring(L"xa\0by", 5), Join({L"x", kWithNull, L"y"}));
+}
+
 TEST(Text, LeavesACopiedTextToItsOwner) {
     const _bstr_t text = ToBstr(L"JOHN");
     EXPECT_EQ(L"JOHN", CopyText(text));

@@ -86,19 +86,19 @@ TEST_F(SubmissionRequest, OfADeletionHoldsNothingButTheIdentifiersAndTheSubmitte
 
 TEST_F(SubmissionRequest, OfADeletionIsNeitherShapedNorChecked) {
     const auto incident = platform::Create<LejisIncidentIndexCard>();
-    incident->OrganizationName = std::wstring(80, L'A');
+    incident->SetOrganizationName(std::wstring(80, L'A'));
     service->DeleteIncident(*incident.Get());
     EXPECT_NE(std::wstring::npos, http.Last().Seen().body.find(std::wstring(80, L'A')));
 }
 
 TEST_F(SubmissionRequest, HoldsTheShapedCopyAndTheCallersCardStaysAsItIs) {
     const auto incident = CleanIncident();
-    incident->OrganizationName = std::wstring(76, L'A');
+    incident->SetOrganizationName(std::wstring(76, L'A'));
     const auto warnings = service->SubmitIncident(*incident.Get());
     EXPECT_EQ(std::wstring::npos, http.Last().Seen().body.find(std::wstring(76, L'A')));
     EXPECT_NE(std::wstring::npos, http.Last().Seen().body.find(std::wstring(75, L'A')));
     EXPECT_EQ(1u, warnings->Count());
-    EXPECT_EQ(76u, incident->OrganizationName.size());
+    EXPECT_EQ(76u, incident->OrganizationName().size());
 }
 
 TEST_F(SubmissionRequest, OfACleanIncidentHasNoWarnings) {
@@ -107,8 +107,8 @@ TEST_F(SubmissionRequest, OfACleanIncidentHasNoWarnings) {
 
 TEST_F(SubmissionRequest, IsNotMadeForAnIncidentThatFailsValidation) {
     const auto incident = CleanIncident();
-    incident->ActivityID.clear();
-    incident->OrganizationORI = L"PA";
+    incident->SetActivityID(L"");
+    incident->SetOrganizationORI(L"PA");
     EXPECT_TRUE(support::Raises(tvFatalError, L"ID is required.", [&] { service->SubmitIncident(*incident.Get()); }));
     EXPECT_TRUE(http.requests.empty());
 }

@@ -8,24 +8,24 @@ namespace support {
 
 ComPtr<lejis::LejisIncidentIndexCard> CleanIncident() {
     auto incident = platform::Create<lejis::LejisIncidentIndexCard>();
-    incident->OrganizationName = L"ERIE CITY POLICE";
-    incident->OrganizationORI = L"PA0250100";
-    incident->ActivityID = L"2007-000123";
+    incident->SetOrganizationName(L"ERIE CITY POLICE");
+    incident->SetOrganizationORI(L"PA0250100");
+    incident->SetActivityID(L"2007-000123");
     incident->SubmittedDate->Set(platform::ParseDate(L"2007-03-09"));
     return incident;
 }
 
 ComPtr<lejis::LejisIncidentIndexCard> FullIncident() {
     auto incident = CleanIncident();
-    incident->ChargeNCICCode = L"2299";
+    incident->SetChargeNCICCode(L"2299");
     incident->ActivityDateTime->Set(platform::ParseDate(L"2007-03-08 23:15:00"));
-    incident->Location->City = L"ERIE";
+    incident->Location->SetCity(L"ERIE");
     const auto person = platform::Create<lejis::LejisPersonIndexCard>();
-    person->SurName = L"PUBLIC";
+    person->SetSurName(L"PUBLIC");
     const auto vehicle = platform::Create<lejis::LejisVehicleIndexCard>();
-    vehicle->Make = L"FORD";
+    vehicle->SetMake(L"FORD");
     const auto item = platform::Create<lejis::LejisPropertyIndexCard>();
-    item->Make = L"SONY";
+    item->SetMake(L"SONY");
     incident->PersonIndexCards->AddObject(person->Dispatch());
     incident->VehicleIndexCards->AddObject(vehicle->Dispatch());
     incident->PropertyIndexCards->AddObject(item->Dispatch());

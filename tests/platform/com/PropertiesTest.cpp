@@ -1,5 +1,6 @@
 #include "platform/com/Properties.h"
 
+#include "inquiry/VehicleInquiryArguments.h"
 #include "model/LejisVehicleIndexCard.h"
 #include "platform/Text.h"
 #include "support/ComCheck.h"
@@ -25,6 +26,28 @@ TEST(Properties, GiveAnEmptyTextRatherThanNone) {
     EXPECT_OK(Create<LejisVehicleIndexCard>()->get_Make(&text));
     ASSERT_NE(nullptr, text);
     EXPECT_EQ(L"", support::Take(text));
+}
+
+TEST(Properties, TakeNullForAnEmptyText) {
+    const auto card = Create<LejisVehicleIndexCard>();
+    card->SetMake(L"FORD");
+    EXPECT_OK(card->put_Make(nullptr));
+    EXPECT_EQ(L"", card->Make());
+    const auto block = Create<lejis::VehicleInquiryArguments>();
+    block->Make = L"FORD";
+    EXPECT_OK(block->put_Make(nullptr));
+    EXPECT_EQ(L"", block->Make);
+}
+
+TEST(Properties, TakeATextOfTheSameObject) {
+    const auto card = Create<LejisVehicleIndexCard>();
+    card->SetModel(L"F150");
+    card->SetVIN(L"1FTFW1ET5DFC10312");
+    card->SetMake(card->VIN());
+    card->SetVIN(card->Model());
+    EXPECT_EQ(L"1FTFW1ET5DFC10312", card->Make());
+    EXPECT_EQ(L"F150", card->Model());
+    EXPECT_EQ(L"F150", card->VIN());
 }
 
 TEST(Properties, HandOutTheObjectItself) {

@@ -4,6 +4,7 @@
 #include "checking/NcicOffenseCodes.h"
 #include "checking/RecordLabels.h"
 #include "foundation/NumberText.h"
+#include "platform/Text.h"
 
 namespace lejis {
 namespace {
@@ -15,7 +16,7 @@ constexpr size_t kShortZip = 5;
 constexpr short kHeaviest = 999;
 constexpr short kFirstYear = 1900;
 
-std::wstring LengthOf(const std::wstring& text) { return std::to_wstring(text.size()); }
+std::wstring LengthOf(std::wstring_view text) { return std::to_wstring(text.size()); }
 
 }  // namespace
 
@@ -31,11 +32,11 @@ void FormattingRules::Apply(LejisPersonIndexCard& person) {
     // Made once: the rules below may change what it is made of.
     const std::wstring label = LabelOf(person);
     Apply(label, *person.address.Get());
-    TruncateName(label, L"First name", person.GivenName);
-    TruncateName(label, L"Middle name", person.MiddleName);
-    TruncateName(label, L"Last name", person.SurName);
-    RequireCode(label, L"race", L"Race", L"ABIUW", person.RaceNCIC);
-    RequireCode(label, L"sex", L"Sex", L"MFU", person.SexNCIC);
+    person.SetGivenName(TruncatedName(label, L"First name", person.GivenName()));
+    person.SetMiddleName(TruncatedName(label, L"Middle name", person.MiddleName()));
+    person.SetSurName(TruncatedName(label, L"Last name", person.SurName()));
+    person.SetRaceNCIC(CodeOrUnknown(label, L"race", L"Race", L"ABIUW", person.RaceNCIC()));
+    person.SetSexNCIC(CodeOrUnknown(label, L"sex", L"Sex", L"MFU", person.SexNCIC()));
     DropWeight(label, *person.Weight.Get());
     ApplyShared(label, person);
     // Only warned of, not shortened: the validator then refuses it.
@@ -44,65 +45,78 @@ void FormattingRules::Apply(LejisPersonIndexCard& person) {
 
 void FormattingRules::Apply(LejisPropertyIndexCard& property) {
     const std::wstring label = LabelOf(property);
-    Truncate(label, L"Category", property.Category, 35);
-    Truncate(label, L"Make", property.Make, 35);
-    Truncate(label, L"Model", property.Model, 35);
+    property.SetCategory(Truncated(label, L"Category", property.Category(), 35));
+    property.SetMake(Truncated(label, L"Make", property.Make(), 35));
+    property.SetModel(Truncated(label, L"Model", property.Model(), 35));
 }
 
 void FormattingRules::Apply(LejisVehicleIndexCard& vehicle) {
     const std::wstring label = LabelOf(vehicle);
     DropYear(label, *vehicle.Year.Get());
     // Shorter than a property's model, and the make has no limit; both are LEJIS's own.
-    Truncate(label, L"Model", vehicle.Model, 30);
-    Truncate(label, L"Color", vehicle.Color, 30);
+    vehicle.SetModel(Truncated(label, L"Model", vehicle.Model(), 30));
+    vehicle.SetColor(Truncated(label, L"Color", vehicle.Color(), 30));
 }
 
 void FormattingRules::Apply(const std::wstring& label, LejisStreetAddress& address) {
-    Truncate(label, L"Full street address", address.StreetFullText, 45);
+    address.SetStreetFullText(Truncated(label, L"Full street address", address.StreetFullText(), 45));
     DropLongStreetNumber(label, *address.StreetNumber.Get());
-    Truncate(label, L"Street name", address.StreetName, 30);
-    Truncate(label, L"Street extension", address.StreetExtension, 10);
-    Truncate(label, L"Street type", address.StreetType, 10);
-    Truncate(label, L"Street directional", address.StreetDirection, 9);
-    ShortenZip(label, address.ZIP);
+    address.SetStreetName(Truncated(label, L"Street name", address.StreetName(), 30));
+    address.SetStreetExtension(Truncated(label, L"Street extension", address.StreetExtension(), 10));
+    address.SetStreetType(Truncated(label, L"Street type", address.StreetType(), 10));
+    address.SetStreetDirection(Truncated(label, L"Street directional", address.StreetDirection(), 9));
+    address.SetZIP(ShortenedZip(label, address.ZIP()));
 }
 
 template <typename Record>
 void FormattingRules::ApplyShared(const std::wstring& label, Record& record) {
-    Truncate(label, L"Agency name", record.OrganizationName, 75);
-    Truncate(label, L"Caveat text", record.CaveatText, 200);
-    Truncate(label, L"Charge description", record.ChargeDescriptionText, 200);
-    RequireOffenseCode(label, record.ChargeNCICCode);
+    record.SetOrganizationName(Truncated(label, L"Agency name", record.OrganizationName(), 75));
+    record.SetCaveatText(Truncated(label, L"Caveat text", record.CaveatText(), 200));
+    record.SetChargeDescriptionText(Truncated(label, L"Charge description", record.ChargeDescriptionText(), 200));
+    record.SetChargeNCICCode(OffenseCodeOrNone(label, record.ChargeNCICCode()));
 }
 
-void FormattingRules::Truncate(const std::wstring& label, const std::wstring& field, std::wstring& value,
-                               size_t limit) {
-    if (value.size() <= limit) return;
-    Warn(label, field + L" '" + value + L"' was too long (" + LengthOf(value) + L" characters) and was truncated to " +
-                    std::to_wstring(limit) + L" characters.");
-    value.resize(limit);
+std::wstring_view FormattingRules::Truncated(const std::wstring& label, std::wstring_view field,
+                                             std::wstring_view value, size_t limit) {
+    if (value.size() <= limit) return value;
+    Warn(label, platform::Join({field, L" '", value, L"' was too long (", LengthOf(value),
+                                L" characters) and was truncated to ", std::to_wstring(limit), L" characters."}));
+    return value.substr(0, limit);
 }
 
-void FormattingRules::TruncateName(const std::wstring& label, const std::wstring& field, std::wstring& value) {
-    if (value.size() <= kLongestName) return;
-    Warn(label, field + L" '" + value + L"' was " + LengthOf(value) + L" characters long. Name was truncated to " +
-                    std::to_wstring(kLongestName) + L" characters.");
-    value.resize(kLongestName);
-}
-
-void FormattingRules::RequireOffenseCode(const std::wstring& label, std::wstring& code) {
-    if (code.empty() || LejisUtils::IsNcicOffenseCode(code)) return;
+std::wstring_view FormattingRules::TruncatedName(const std::wstring& label, std::wstring_view field,
+                                                 std::wstring_view value) {
+    if (value.size() <= kLongestName) return value;
     Warn(label,
-         L"Charge NCIC code '" + code + L"' is not a valid NCIC offense code. Will submit a blank code instead.");
-    code.clear();
+         platform::Join({field, L" '", value, L"' was ", LengthOf(value), L" characters long. Name was truncated to ",
+                         std::to_wstring(kLongestName), L" characters."}));
+    return value.substr(0, kLongestName);
 }
 
-void FormattingRules::RequireCode(const std::wstring& label, const std::wstring& kind, const std::wstring& list,
-                                  std::wstring_view accepted, std::wstring& code) {
-    if (code.empty() || (code.size() == 1 && accepted.find(code) != std::wstring_view::npos)) return;
-    Warn(label, L"'" + code + L"' is not a valid NCIC " + kind + L" code, will submit 'U' (Unknown) instead. Check " +
-                    list + L" Selection List settings in Administration and verify that NCIC Codes are set correctly.");
-    code = L"U";
+std::wstring_view FormattingRules::OffenseCodeOrNone(const std::wstring& label, std::wstring_view code) {
+    if (code.empty() || LejisUtils::IsNcicOffenseCode(code)) return code;
+    Warn(label, platform::Join({L"Charge NCIC code '", code,
+                                L"' is not a valid NCIC offense code. Will submit a blank code instead."}));
+    return {};
+}
+
+std::wstring_view FormattingRules::CodeOrUnknown(const std::wstring& label, std::wstring_view kind,
+                                                 std::wstring_view list, std::wstring_view accepted,
+                                                 std::wstring_view code) {
+    if (code.empty() || (code.size() == 1 && accepted.find(code) != std::wstring_view::npos)) return code;
+    Warn(label,
+         platform::Join({L"'", code, L"' is not a valid NCIC ", kind,
+                         L" code, will submit 'U' (Unknown) instead. Check ", list,
+                         L" Selection List settings in Administration and verify that NCIC Codes are set correctly."}));
+    return L"U";
+}
+
+std::wstring_view FormattingRules::ShortenedZip(const std::wstring& label, std::wstring_view zip) {
+    // Exactly nine characters: with a hyphen there are ten, which the validator refuses.
+    if (zip.size() != kLongZip) return zip;
+    const std::wstring_view shortened = zip.substr(0, kShortZip);
+    Warn(label, platform::Join({L"9-digit ZIP code '", zip, L"' will be sent as '", shortened, L"'"}));
+    return shortened;
 }
 
 void FormattingRules::DropLongStreetNumber(const std::wstring& label, NullableLong& number) {
@@ -111,14 +125,6 @@ void FormattingRules::DropLongStreetNumber(const std::wstring& label, NullableLo
     Warn(label, L"Street address number '" + text + L"' was too long (" + LengthOf(text) +
                     L" characters) and was not submitted.");
     number.Set(std::nullopt);
-}
-
-void FormattingRules::ShortenZip(const std::wstring& label, std::wstring& zip) {
-    // Exactly nine characters: with a hyphen there are ten, which the validator refuses.
-    if (zip.size() != kLongZip) return;
-    const std::wstring shortened = zip.substr(0, kShortZip);
-    Warn(label, L"9-digit ZIP code '" + zip + L"' will be sent as '" + shortened + L"'");
-    zip = shortened;
 }
 
 void FormattingRules::DropWeight(const std::wstring& label, NullableInteger& weight) {

@@ -5,6 +5,7 @@
 #include "platform/com/Collection.h"
 
 #include <string>
+#include <string_view>
 
 namespace lejis {
 
@@ -25,14 +26,17 @@ private:
     template <typename Record>
     void ApplyShared(const std::wstring& label, Record& record);
 
-    // A text longer than the limit is cut to it; `field` names it in the warning.
-    void Truncate(const std::wstring& label, const std::wstring& field, std::wstring& value, size_t limit);
-    void TruncateName(const std::wstring& label, const std::wstring& field, std::wstring& value);
-    void RequireOffenseCode(const std::wstring& label, std::wstring& code);
-    void RequireCode(const std::wstring& label, const std::wstring& kind, const std::wstring& list,
-                     std::wstring_view accepted, std::wstring& code);
+    // Each gives what becomes of a text: the text itself, a part of it, or another one that lasts. `field` names a text
+    // in the warning, and one longer than the limit is cut to it.
+    std::wstring_view Truncated(const std::wstring& label, std::wstring_view field, std::wstring_view value,
+                                size_t limit);
+    std::wstring_view TruncatedName(const std::wstring& label, std::wstring_view field, std::wstring_view value);
+    std::wstring_view OffenseCodeOrNone(const std::wstring& label, std::wstring_view code);
+    std::wstring_view CodeOrUnknown(const std::wstring& label, std::wstring_view kind, std::wstring_view list,
+                                    std::wstring_view accepted, std::wstring_view code);
+    std::wstring_view ShortenedZip(const std::wstring& label, std::wstring_view zip);
+
     void DropLongStreetNumber(const std::wstring& label, NullableLong& number);
-    void ShortenZip(const std::wstring& label, std::wstring& zip);
     void DropWeight(const std::wstring& label, NullableInteger& weight);
     void DropYear(const std::wstring& label, NullableInteger& year);
 

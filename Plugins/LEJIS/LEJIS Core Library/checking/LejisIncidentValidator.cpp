@@ -14,10 +14,10 @@ constexpr size_t kOriLength = 9;
 constexpr size_t kZipLength = 5;
 constexpr size_t kSsnLength = 9;
 
-bool IsBlank(const std::wstring& text) { return platform::TrimBlanks(text).empty(); }
+bool IsBlank(std::wstring_view text) { return platform::TrimBlanks(text).empty(); }
 
 // Only the length is looked at, not that the characters are digits.
-bool IsEmptyOrHasLength(const std::wstring& text, size_t length) { return text.empty() || text.size() == length; }
+bool IsEmptyOrHasLength(std::wstring_view text, size_t length) { return text.empty() || text.size() == length; }
 
 }  // namespace
 
@@ -42,36 +42,37 @@ bool LejisIncidentValidator::Validate(const LejisIncidentIndexCard& incident) {
 }
 
 void LejisIncidentValidator::CheckIdentifiers(const LejisIncidentIndexCard& incident) {
-    if (IsBlank(incident.ActivityID)) AddError(L"ID is required.");
-    if (incident.ActivityID.size() > kLongestId) {
+    if (IsBlank(incident.ActivityID())) AddError(L"ID is required.");
+    if (incident.ActivityID().size() > kLongestId) {
         AddError(L"ID is too long. Records submitted to LEJIS must have ID's between 1 and 30 characters long.");
     }
     if (!incident.SubmittedDate->Date()) AddError(L"Submission date is missing.");
-    if (IsBlank(incident.OrganizationORI)) {
+    if (IsBlank(incident.OrganizationORI())) {
         AddError(L"Agency ORI number cannot be blank. Check Agency settings in Administration.");
     }
     // A blank ORI is reported a second time here, on purpose.
-    if (incident.OrganizationORI.size() != kOriLength) {
-        AddError(L"'" + incident.OrganizationORI +
-                 L"' is not a valid ORI number. An ORI number must be 9 characters long. Check Agency settings in "
-                 L"Administration.");
+    if (incident.OrganizationORI().size() != kOriLength) {
+        AddError(platform::Join(
+            {L"'", incident.OrganizationORI(),
+             L"' is not a valid ORI number. An ORI number must be 9 characters long. Check Agency settings in "
+             L"Administration."}));
     }
 }
 
 void LejisIncidentValidator::CheckAddress(const std::wstring& label, const LejisStreetAddress& address) {
-    if (IsEmptyOrHasLength(address.ZIP, kZipLength)) return;
-    AddLabelledError(label, L"'" + address.ZIP +
-                                L"' is not a valid ZIP code. ZIP codes submitted to LEJIS must be 5 digits long, or "
-                                L"left blank.");
+    if (IsEmptyOrHasLength(address.ZIP(), kZipLength)) return;
+    AddLabelledError(label, platform::Join({L"'", address.ZIP(),
+                                            L"' is not a valid ZIP code. ZIP codes submitted to LEJIS must be 5 digits "
+                                            L"long, or left blank."}));
 }
 
 void LejisIncidentValidator::CheckPerson(const LejisPersonIndexCard& person) {
     const std::wstring label = LabelOf(person);
     CheckAddress(label, *person.address.Get());
-    if (!IsEmptyOrHasLength(person.SSN, kSsnLength)) {
-        AddLabelledError(label, L"'" + person.SSN +
-                                    L"' is not a valid SSN. SSN's submitted to LEJIS must be 9 digits long, or left "
-                                    L"blank.");
+    if (!IsEmptyOrHasLength(person.SSN(), kSsnLength)) {
+        AddLabelledError(label, platform::Join({L"'", person.SSN(),
+                                                L"' is not a valid SSN. SSN's submitted to LEJIS must be 9 digits "
+                                                L"long, or left blank."}));
     }
     if (person.BirthDate->Date() > platform::Now()) AddLabelledError(label, L"DOB cannot be in the future.");
     if (const auto message = CautionCaveatMessage(person)) AddLabelledError(label, *message);

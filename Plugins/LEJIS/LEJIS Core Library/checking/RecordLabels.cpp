@@ -5,23 +5,27 @@
 namespace lejis {
 namespace {
 
-std::wstring InParentheses(const std::wstring& text) { return text.empty() ? std::wstring() : L" (" + text + L")"; }
+std::wstring InParentheses(std::wstring_view text) {
+    return text.empty() ? std::wstring() : platform::Join({L" (", text, L")"});
+}
 
 }  // namespace
 
 std::wstring LabelOf(const LejisPersonIndexCard& person) {
-    const std::wstring afterMiddleName = person.MiddleName.empty() ? L"" : L" ";
-    return person.GivenName + L" " + person.MiddleName + afterMiddleName + person.SurName +
-           InParentheses(platform::ProperCase(person.Involvement));
+    const std::wstring_view afterMiddleName = person.MiddleName().empty() ? L"" : L" ";
+    const std::wstring involvement = platform::ProperCase(std::wstring(person.Involvement()));
+    return platform::Join(
+        {person.GivenName(), L" ", person.MiddleName(), afterMiddleName, person.SurName(), InParentheses(involvement)});
 }
 
 std::wstring LabelOf(const LejisPropertyIndexCard& property) {
-    const std::wstring label = property.Make + L" " + property.Model + InParentheses(property.SerialID);
+    const std::wstring label =
+        platform::Join({property.Make(), L" ", property.Model(), InParentheses(property.SerialID())});
     return std::wstring(platform::TrimBlanks(label));
 }
 
 std::wstring LabelOf(const LejisVehicleIndexCard& vehicle) {
-    return L"Vehicle " + vehicle.Color + L" " + vehicle.Make + L" " + vehicle.Model + L"  ";
+    return platform::Join({L"Vehicle ", vehicle.Color(), L" ", vehicle.Make(), L" ", vehicle.Model(), L"  "});
 }
 
 std::wstring Labelled(const std::wstring& label, const std::wstring& message) { return label + L": " + message; }

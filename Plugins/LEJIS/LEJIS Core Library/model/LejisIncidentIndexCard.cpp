@@ -43,10 +43,10 @@ bool AnyHasCaution(const Collection& cards) {
 
 msxml::Element LejisIncidentIndexCard::ToXmlElement(const msxml::Document& document) const {
     ElementWriter identifiers(document, L"card:LejisIndexUid");
-    identifiers.Id(L"j:OrganizationORIID", OrganizationORI);
-    identifiers.Id(L"j:ActivityID", ActivityID);
+    identifiers.Id(L"j:OrganizationORIID", OrganizationORI());
+    identifiers.Id(L"j:ActivityID", ActivityID());
     ElementWriter submitter(document, L"j:SubmissionSubmitter.Organization");
-    submitter.Text(L"j:OrganizationName", OrganizationName);
+    submitter.Text(L"j:OrganizationName", OrganizationName());
     ElementWriter location(document, L"j:IncidentLocation");
     location.Child(Location->ToXmlElement(document));
 
@@ -57,9 +57,9 @@ msxml::Element LejisIncidentIndexCard::ToXmlElement(const msxml::Document& docum
     incident.OptionalText(L"j:ActivityDate", FormatNullableDate(*ActivityDateTime.Get()));
     incident.OptionalText(L"j:ActivityTime", FormatNullableTime(*ActivityDateTime.Get()));
     incident.Child(location);
-    incident.Text(L"j:CaveatText", CaveatText);
-    incident.OptionalText(L"j:ChargeNCICCode", ChargeNCICCode);
-    incident.OptionalText(L"j:ChargeDescriptionText", ChargeDescriptionText);
+    incident.Text(L"j:CaveatText", CaveatText());
+    incident.OptionalText(L"j:ChargeNCICCode", ChargeNCICCode());
+    incident.OptionalText(L"j:ChargeDescriptionText", ChargeDescriptionText());
     // Not the incident's own flag alone: the index shows the caution of any card at the incident.
     incident.Boolean(L"ext:CautionIndicatorFlag", HasCaution());
     // Vehicles are written before property and read after it; both orders are deliberate.
@@ -74,9 +74,10 @@ void LejisIncidentIndexCard::FromXmlElement(const msxml::Element& element) {
     ReadIdentifiers(incident);
     ReadActivityDateTime(incident);
     if (const msxml::Element location = incident.Child(L"j:IncidentLocation")) Location->FromXmlElement(location);
-    ChargeNCICCode = incident.Text(L"j:ChargeNCICCode");
-    ChargeDescriptionText = incident.Text(L"j:ChargeDescriptionText");
-    CaveatText = incident.Text(L"j:CaveatText");
+    SetChargeNCICCode(incident.Text(L"j:ChargeNCICCode"));
+    SetChargeDescriptionText(incident.Text(L"j:ChargeDescriptionText"));
+    SetCaveatText(incident.Text(L"j:CaveatText"));
+    texts_.Fit();
     ReadFlag(incident.Text(L"ext:CautionIndicatorFlag"), CautionIndicator);
     ReadCards(incident);
 }
@@ -95,12 +96,12 @@ void LejisIncidentIndexCard::ReadIdentifiers(const ElementReader& incident) {
     const msxml::Element identifiers = incident.Child(L"card:LejisIndexUid");
     LejisUtils::RequireElement(identifiers);
     const ElementReader identifier(identifiers);
-    OrganizationORI = identifier.Text(L"j:OrganizationORIID/j:ID");
-    ActivityID = identifier.Text(L"j:ActivityID/j:ID");
+    SetOrganizationORI(identifier.Text(L"j:OrganizationORIID/j:ID"));
+    SetActivityID(identifier.Text(L"j:ActivityID/j:ID"));
     SubmittedDate->Set(platform::ParseDate(incident.Text(L"j:SubmissionSubmittedDate")));
     const msxml::Element submitter = incident.Child(L"j:SubmissionSubmitter.Organization");
     LejisUtils::RequireElement(submitter);
-    OrganizationName = ElementReader(submitter).Text(L"j:OrganizationName");
+    SetOrganizationName(ElementReader(submitter).Text(L"j:OrganizationName"));
 }
 
 void LejisIncidentIndexCard::ReadActivityDateTime(const ElementReader& incident) {

@@ -9,6 +9,7 @@
 #include "platform/com/Collection.h"
 #include "platform/com/ComObject.h"
 #include "platform/com/Properties.h"
+#include "platform/com/TextProperties.h"
 
 #include <TVLejisCore.h>
 
@@ -17,16 +18,19 @@ namespace lejis {
 class ElementReader;
 using platform::Collection;
 
+#define INCIDENT_TEXTS(EACH) \
+    EACH(OrganizationName)   \
+    EACH(OrganizationORI)    \
+    EACH(ActivityID)         \
+    EACH(CaveatText)         \
+    EACH(ChargeNCICCode)     \
+    EACH(ChargeDescriptionText)
+
 // An incident as lejis:RMSIncidentIndexCard. It stores and writes what it is given: shaping is the formatter's affair,
 // required values the validator's.
 class LejisIncidentIndexCard final : public platform::ComObject<::LejisIncidentIndexCard, ILejisIncidentIndexCard> {
 public:
-    TEXT_PROPERTY(OrganizationName)
-    TEXT_PROPERTY(OrganizationORI)
-    TEXT_PROPERTY(ActivityID)
-    TEXT_PROPERTY(CaveatText)
-    TEXT_PROPERTY(ChargeNCICCode)
-    TEXT_PROPERTY(ChargeDescriptionText)
+    TEXT_PROPERTIES(INCIDENT_TEXTS)
     BOOLEAN_PROPERTY(CautionIndicator)
     OBJECT_PROPERTY(NullableDate, SubmittedDate)
     OBJECT_PROPERTY(NullableDate, ActivityDateTime)

@@ -11,29 +11,29 @@ namespace lejis {
 
 msxml::Element LejisPersonIndexCard::ToXmlElement(const msxml::Document& document) const {
     ElementWriter organization(document, L"j:IncidentJurisdictionalOrganization");
-    organization.Text(L"j:OrganizationName", OrganizationName);
+    organization.Text(L"j:OrganizationName", OrganizationName());
     ElementWriter residence(document, L"j:Residence");
     residence.Child(address->ToXmlElement(document));
 
     ElementWriter card(document, L"card:RMSPersonIndexCards");
     card.Child(organization);
-    card.OptionalText(L"j:PersonSurName", SurName);
-    card.OptionalText(L"j:PersonGivenName", GivenName);
-    card.OptionalText(L"j:PersonMiddleName", MiddleName);
+    card.OptionalText(L"j:PersonSurName", SurName());
+    card.OptionalText(L"j:PersonGivenName", GivenName());
+    card.OptionalText(L"j:PersonMiddleName", MiddleName());
     card.Child(residence);
-    card.OptionalId(L"j:PersonSSNID", SSN);
-    card.OptionalJurisdictionId(L"j:PersonDriverLicenseID", DriversLicense, DriversLicenseState);
+    card.OptionalId(L"j:PersonSSNID", SSN());
+    card.OptionalJurisdictionId(L"j:PersonDriverLicenseID", DriversLicense(), DriversLicenseState());
     card.OptionalText(L"j:PersonBirthDate", FormatNullableDate(*BirthDate.Get()));
-    card.OptionalText(L"j:PersonSexCode", SexNCIC);
+    card.OptionalText(L"j:PersonSexCode", SexNCIC());
     card.OptionalMeasure(L"j:PersonHeightMeasure", NumberText(*Height.Get()), L"j:personHeightUnitCode");
     card.OptionalMeasure(L"j:PersonWeightMeasure", NumberText(*Weight.Get()), L"j:personWeightUnitCode");
-    card.OptionalText(L"j:PersonRaceCode", RaceNCIC);
-    card.OptionalText(L"j:ChargeNCICCode", ChargeNCICCode);
-    card.OptionalText(L"j:ChargeDescriptionText", ChargeDescriptionText);
-    card.OptionalText(L"j:SubjectCautionInformationCode", SubjectCautionInformationCode);
-    card.OptionalText(L"j:SubjectCautionInformationCaveat", SubjectCautionInformationCaveat);
-    card.OptionalText(L"j:CaveatText", CaveatText);
-    card.OptionalText(L"ext:PersonInvolvement", Involvement);
+    card.OptionalText(L"j:PersonRaceCode", RaceNCIC());
+    card.OptionalText(L"j:ChargeNCICCode", ChargeNCICCode());
+    card.OptionalText(L"j:ChargeDescriptionText", ChargeDescriptionText());
+    card.OptionalText(L"j:SubjectCautionInformationCode", SubjectCautionInformationCode());
+    card.OptionalText(L"j:SubjectCautionInformationCaveat", SubjectCautionInformationCaveat());
+    card.OptionalText(L"j:CaveatText", CaveatText());
+    card.OptionalText(L"ext:PersonInvolvement", Involvement());
     card.Boolean(L"ext:CautionIndicatorFlag", CautionIndicator);
     return card.Element();
 }
@@ -41,36 +41,32 @@ msxml::Element LejisPersonIndexCard::ToXmlElement(const msxml::Document& documen
 void LejisPersonIndexCard::FromXmlElement(const msxml::Element& element) {
     Reset();
     const ElementReader card(element);
-    OrganizationName = card.Text(L"j:IncidentJurisdictionalOrganization/j:OrganizationName");
-    SurName = card.Text(L"j:PersonSurName");
-    MiddleName = card.Text(L"j:PersonMiddleName");
-    GivenName = card.Text(L"j:PersonGivenName");
+    SetOrganizationName(card.Text(L"j:IncidentJurisdictionalOrganization/j:OrganizationName"));
+    SetSurName(card.Text(L"j:PersonSurName"));
+    SetMiddleName(card.Text(L"j:PersonMiddleName"));
+    SetGivenName(card.Text(L"j:PersonGivenName"));
     if (const msxml::Element residence = card.Child(L"j:Residence")) address->FromXmlElement(residence);
-    SSN = card.Text(L"j:PersonSSNID/j:ID");
-    DriversLicense = card.Text(L"j:PersonDriverLicenseID/j:ID");
-    DriversLicenseState = card.Text(L"j:PersonDriverLicenseID/j:IDJurisdictionCode.ncicLSTA");
+    SetSSN(card.Text(L"j:PersonSSNID/j:ID"));
+    SetDriversLicense(card.Text(L"j:PersonDriverLicenseID/j:ID"));
+    SetDriversLicenseState(card.Text(L"j:PersonDriverLicenseID/j:IDJurisdictionCode.ncicLSTA"));
     // The one field whose bad content is an error: an empty or malformed date stops the reading here.
     if (const auto date = card.TextIfAny(L"j:PersonBirthDate")) BirthDate->Assign(_variant_t(platform::ToBstr(*date)));
-    SexNCIC = card.Text(L"j:PersonSexCode");
-    RaceNCIC = card.Text(L"j:PersonRaceCode");
+    SetSexNCIC(card.Text(L"j:PersonSexCode"));
+    SetRaceNCIC(card.Text(L"j:PersonRaceCode"));
     ReadMeasure(card.Text(L"j:PersonHeightMeasure"), *Height.Get());
     ReadMeasure(card.Text(L"j:PersonWeightMeasure"), *Weight.Get());
-    ChargeNCICCode = card.Text(L"j:ChargeNCICCode");
-    ChargeDescriptionText = card.Text(L"j:ChargeDescriptionText");
-    SubjectCautionInformationCode = card.Text(L"j:SubjectCautionInformationCode");
-    SubjectCautionInformationCaveat = card.Text(L"j:SubjectCautionInformationCaveat");
-    Involvement = card.Text(L"ext:PersonInvolvement");
+    SetChargeNCICCode(card.Text(L"j:ChargeNCICCode"));
+    SetChargeDescriptionText(card.Text(L"j:ChargeDescriptionText"));
+    SetSubjectCautionInformationCode(card.Text(L"j:SubjectCautionInformationCode"));
+    SetSubjectCautionInformationCaveat(card.Text(L"j:SubjectCautionInformationCaveat"));
+    SetInvolvement(card.Text(L"ext:PersonInvolvement"));
+    texts_.Fit();
     ReadFlag(card.Text(L"ext:CautionIndicatorFlag"), CautionIndicator);
     // j:CaveatText is written and, deliberately, never read back.
 }
 
 void LejisPersonIndexCard::Reset() {
-    for (std::wstring* text :
-         {&OrganizationName, &GivenName, &MiddleName, &SurName, &SSN, &DriversLicense, &DriversLicenseState, &SexNCIC,
-          &RaceNCIC, &ChargeNCICCode, &ChargeDescriptionText, &SubjectCautionInformationCode,
-          &SubjectCautionInformationCaveat, &CaveatText, &Involvement}) {
-        text->clear();
-    }
+    texts_.Clear();
     CautionIndicator = false;
     address = platform::Create<LejisStreetAddress>();
     BirthDate->Set(std::nullopt);

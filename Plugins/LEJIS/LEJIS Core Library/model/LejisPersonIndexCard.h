@@ -6,29 +6,33 @@
 #include "model/XmlMethods.h"
 #include "platform/com/ComObject.h"
 #include "platform/com/Properties.h"
+#include "platform/com/TextProperties.h"
 
 #include <TVLejisCore.h>
 
 namespace lejis {
 
+#define PERSON_TEXTS(EACH)                \
+    EACH(OrganizationName)                \
+    EACH(GivenName)                       \
+    EACH(MiddleName)                      \
+    EACH(SurName)                         \
+    EACH(SSN)                             \
+    EACH(DriversLicense)                  \
+    EACH(DriversLicenseState)             \
+    EACH(SexNCIC)                         \
+    EACH(RaceNCIC)                        \
+    EACH(ChargeNCICCode)                  \
+    EACH(ChargeDescriptionText)           \
+    EACH(SubjectCautionInformationCode)   \
+    EACH(SubjectCautionInformationCaveat) \
+    EACH(CaveatText)                      \
+    EACH(Involvement)
+
 // A person of an incident as card:RMSPersonIndexCards.
 class LejisPersonIndexCard final : public platform::ComObject<::LejisPersonIndexCard, ILejisPersonIndexCard> {
 public:
-    TEXT_PROPERTY(OrganizationName)
-    TEXT_PROPERTY(GivenName)
-    TEXT_PROPERTY(MiddleName)
-    TEXT_PROPERTY(SurName)
-    TEXT_PROPERTY(SSN)
-    TEXT_PROPERTY(DriversLicense)
-    TEXT_PROPERTY(DriversLicenseState)
-    TEXT_PROPERTY(SexNCIC)
-    TEXT_PROPERTY(RaceNCIC)
-    TEXT_PROPERTY(ChargeNCICCode)
-    TEXT_PROPERTY(ChargeDescriptionText)
-    TEXT_PROPERTY(SubjectCautionInformationCode)
-    TEXT_PROPERTY(SubjectCautionInformationCaveat)
-    TEXT_PROPERTY(CaveatText)
-    TEXT_PROPERTY(Involvement)
+    TEXT_PROPERTIES(PERSON_TEXTS)
     BOOLEAN_PROPERTY(CautionIndicator)
     OBJECT_PROPERTY(LejisStreetAddress, address)
     OBJECT_PROPERTY(NullableDate, BirthDate)

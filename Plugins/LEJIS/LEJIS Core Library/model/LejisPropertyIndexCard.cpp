@@ -12,12 +12,12 @@ STDMETHODIMP LejisPropertyIndexCard::LoadDefaults() {
 
 msxml::Element LejisPropertyIndexCard::ToXmlElement(const msxml::Document& document) const {
     ElementWriter card(document, L"card:RMSPropertyIndexCards");
-    card.OptionalText(L"j:PropertyCategoryCode.nibrsPropertyCategory", NibrsCategoryCode);
-    card.OptionalText(L"j:PropertyTypeText", Category);
-    card.OptionalText(L"j:PropertyMakeName", Make);
-    card.OptionalText(L"j:PropertyModelName", Model);
-    card.OptionalId(L"j:PropertySerialID", SerialID);
-    card.OptionalText(L"j:CaveatText", CaveatText);
+    card.OptionalText(L"j:PropertyCategoryCode.nibrsPropertyCategory", NibrsCategoryCode());
+    card.OptionalText(L"j:PropertyTypeText", Category());
+    card.OptionalText(L"j:PropertyMakeName", Make());
+    card.OptionalText(L"j:PropertyModelName", Model());
+    card.OptionalId(L"j:PropertySerialID", SerialID());
+    card.OptionalText(L"j:CaveatText", CaveatText());
     card.Boolean(L"ext:CautionIndicatorFlag", CautionIndicator);
     return card.Element();
 }
@@ -25,17 +25,18 @@ msxml::Element LejisPropertyIndexCard::ToXmlElement(const msxml::Document& docum
 void LejisPropertyIndexCard::FromXmlElement(const msxml::Element& element) {
     Reset();
     const ElementReader card(element);
-    NibrsCategoryCode = card.Text(L"j:PropertyCategoryCode.nibrsPropertyCategory");
-    Category = card.Text(L"j:PropertyTypeText");
-    Make = card.Text(L"j:PropertyMakeName");
-    Model = card.Text(L"j:PropertyModelName");
-    SerialID = card.Text(L"j:PropertySerialID/j:ID");
-    CaveatText = card.Text(L"j:CaveatText");
+    SetNibrsCategoryCode(card.Text(L"j:PropertyCategoryCode.nibrsPropertyCategory"));
+    SetCategory(card.Text(L"j:PropertyTypeText"));
+    SetMake(card.Text(L"j:PropertyMakeName"));
+    SetModel(card.Text(L"j:PropertyModelName"));
+    SetSerialID(card.Text(L"j:PropertySerialID/j:ID"));
+    SetCaveatText(card.Text(L"j:CaveatText"));
+    texts_.Fit();
     ReadFlag(card.Text(L"ext:CautionIndicatorFlag"), CautionIndicator);
 }
 
 void LejisPropertyIndexCard::Reset() {
-    for (std::wstring* text : {&NibrsCategoryCode, &Category, &Make, &Model, &SerialID, &CaveatText}) text->clear();
+    texts_.Clear();
     CautionIndicator = false;
 }
 

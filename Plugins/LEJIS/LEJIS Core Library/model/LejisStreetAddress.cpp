@@ -11,23 +11,23 @@ namespace lejis {
 msxml::Element LejisStreetAddress::ToXmlElement(const msxml::Document& document) const {
     ElementWriter address(document, L"j:LocationAddress");
     address.Child(StreetElement(document));
-    address.Text(L"j:LocationCityName", City);
+    address.Text(L"j:LocationCityName", City());
     // The tests trim, the texts are written as they are held.
-    if (!platform::TrimBlanks(State).empty()) address.Text(L"j:LocationStateCode.ncicLSTA", State);
-    if (!platform::TrimBlanks(ZIP).empty()) address.Id(L"j:LocationPostalCodeID", ZIP);
+    if (!platform::TrimBlanks(State()).empty()) address.Text(L"j:LocationStateCode.ncicLSTA", State());
+    if (!platform::TrimBlanks(ZIP()).empty()) address.Id(L"j:LocationPostalCodeID", ZIP());
     return address.Element();
 }
 
 msxml::Element LejisStreetAddress::StreetElement(const msxml::Document& document) const {
     ElementWriter street(document, L"j:LocationStreet");
-    street.Text(L"j:StreetFullText", StreetFullText);
+    street.Text(L"j:StreetFullText", StreetFullText());
     street.Text(L"j:StreetNumberText", NumberText(*StreetNumber.Get()));
     // The one direction is always written as the direction before the name, and none behind it.
-    street.Text(L"j:StreetPredirectionalText", StreetDirection);
-    street.Text(L"j:StreetName", StreetName);
-    street.Text(L"j:StreetTypeText", StreetType);
+    street.Text(L"j:StreetPredirectionalText", StreetDirection());
+    street.Text(L"j:StreetName", StreetName());
+    street.Text(L"j:StreetTypeText", StreetType());
     street.Text(L"j:StreetPostdirectionalText", L"");
-    street.Text(L"j:StreetExtensionText", StreetExtension);
+    street.Text(L"j:StreetExtensionText", StreetExtension());
     return street.Element();
 }
 
@@ -37,31 +37,29 @@ void LejisStreetAddress::FromXmlElement(const msxml::Element& element) {
     if (!address) return;
     const ElementReader reader(address);
     if (const msxml::Element street = reader.Child(L"j:LocationStreet")) ReadStreet(ElementReader(street));
-    City = reader.Text(L"j:LocationCityName");
-    State = reader.Text(L"j:LocationStateCode.ncicLSTA");
-    ZIP = reader.Text(L"j:LocationPostalCodeID/j:ID");
+    SetCity(reader.Text(L"j:LocationCityName"));
+    SetState(reader.Text(L"j:LocationStateCode.ncicLSTA"));
+    SetZIP(reader.Text(L"j:LocationPostalCodeID/j:ID"));
+    texts_.Fit();
 }
 
 void LejisStreetAddress::ReadStreet(const ElementReader& street) {
-    StreetFullText = street.Text(L"j:StreetFullText");
+    SetStreetFullText(street.Text(L"j:StreetFullText"));
     const std::wstring number = street.Text(L"j:StreetNumberText");
     if (platform::ParseNumber(number)) {
         StreetNumber->Set(platform::ParseLong(number));
     } else {
         StreetNumber->Set(std::nullopt);
     }
-    StreetName = street.Text(L"j:StreetName");
-    StreetDirection = street.Text(L"j:StreetPredirectionalText");
-    StreetType = street.Text(L"j:StreetTypeText");
-    StreetExtension = street.Text(L"j:StreetExtensionText");
+    SetStreetName(street.Text(L"j:StreetName"));
+    SetStreetDirection(street.Text(L"j:StreetPredirectionalText"));
+    SetStreetType(street.Text(L"j:StreetTypeText"));
+    SetStreetExtension(street.Text(L"j:StreetExtensionText"));
 }
 
 void LejisStreetAddress::Reset() {
     StreetNumber->Set(std::nullopt);
-    for (std::wstring* text :
-         {&StreetFullText, &StreetName, &StreetType, &StreetDirection, &StreetExtension, &City, &State, &ZIP}) {
-        text->clear();
-    }
+    texts_.Clear();
 }
 
 }  // namespace lejis

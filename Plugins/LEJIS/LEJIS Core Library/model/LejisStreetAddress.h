@@ -4,6 +4,7 @@
 #include "model/XmlMethods.h"
 #include "platform/com/ComObject.h"
 #include "platform/com/Properties.h"
+#include "platform/com/TextProperties.h"
 
 #include <TVLejisCore.h>
 
@@ -11,17 +12,20 @@ namespace lejis {
 
 class ElementReader;
 
+#define ADDRESS_TEXTS(EACH) \
+    EACH(StreetFullText)    \
+    EACH(StreetName)        \
+    EACH(StreetType)        \
+    EACH(StreetDirection)   \
+    EACH(StreetExtension)   \
+    EACH(City)              \
+    EACH(State)             \
+    EACH(ZIP)
+
 // An address as j:LocationAddress. It is read from the element that contains that: j:IncidentLocation or j:Residence.
 class LejisStreetAddress final : public platform::ComObject<::LejisStreetAddress, ILejisStreetAddress> {
 public:
-    TEXT_PROPERTY(StreetFullText)
-    TEXT_PROPERTY(StreetName)
-    TEXT_PROPERTY(StreetType)
-    TEXT_PROPERTY(StreetDirection)
-    TEXT_PROPERTY(StreetExtension)
-    TEXT_PROPERTY(City)
-    TEXT_PROPERTY(State)
-    TEXT_PROPERTY(ZIP)
+    TEXT_PROPERTIES(ADDRESS_TEXTS)
     OBJECT_PROPERTY(NullableLong, StreetNumber)
     XML_METHODS()
 

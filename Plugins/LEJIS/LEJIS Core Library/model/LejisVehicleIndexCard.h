@@ -4,23 +4,27 @@
 #include "model/XmlMethods.h"
 #include "platform/com/ComObject.h"
 #include "platform/com/Properties.h"
+#include "platform/com/TextProperties.h"
 
 #include <TVLejisCore.h>
 
 namespace lejis {
 
+#define VEHICLE_TEXTS(EACH) \
+    EACH(Make)              \
+    EACH(Model)             \
+    EACH(Style)             \
+    EACH(Color)             \
+    EACH(LicensePlate)      \
+    EACH(LicensePlateState) \
+    EACH(VIN)               \
+    EACH(CaveatText)
+
 // A vehicle of an incident as card:RMSVehicleIndexCards.
 class LejisVehicleIndexCard final : public platform::ComObject<::LejisVehicleIndexCard, ILejisVehicleIndexCard> {
 public:
-    TEXT_PROPERTY(Make)
-    TEXT_PROPERTY(Model)
-    TEXT_PROPERTY(Style)
-    TEXT_PROPERTY(Color)
-    TEXT_PROPERTY(LicensePlate)
-    TEXT_PROPERTY(LicensePlateState)
-    TEXT_PROPERTY(VIN)
+    TEXT_PROPERTIES(VEHICLE_TEXTS)
     BOOLEAN_PROPERTY(CautionIndicator)
-    TEXT_PROPERTY(CaveatText)
     OBJECT_PROPERTY(NullableInteger, Year)
     XML_METHODS()
 

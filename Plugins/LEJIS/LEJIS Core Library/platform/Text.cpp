@@ -27,6 +27,15 @@ std::wstring_view TrimBlanks(std::wstring_view text) {
     return text.substr(first, text.find_last_not_of(L' ') - first + 1);
 }
 
+std::wstring Join(std::initializer_list<std::wstring_view> parts) {
+    size_t length = 0;
+    for (const std::wstring_view part : parts) length += part.size();
+    std::wstring text;
+    text.reserve(length);
+    for (const std::wstring_view part : parts) text += part;
+    return text;
+}
+
 bool EqualIgnoringCase(std::wstring_view one, std::wstring_view other) {
     return CompareStringOrdinal(one.data(), static_cast<int>(one.size()), other.data(), static_cast<int>(other.size()),
                                 TRUE) == CSTR_EQUAL;

@@ -4,6 +4,7 @@
 #include <comutil.h>
 #include <windows.h>
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,9 @@ _bstr_t ToBstr(std::wstring_view text);
 
 // `text` without the blanks at its ends; other white space stays.
 std::wstring_view TrimBlanks(std::wstring_view text);
+
+// The parts, one behind the other.
+std::wstring Join(std::initializer_list<std::wstring_view> parts);
 
 bool EqualIgnoringCase(std::wstring_view one, std::wstring_view other);
 

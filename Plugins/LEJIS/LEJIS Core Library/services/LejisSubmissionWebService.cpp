@@ -39,9 +39,9 @@ ComPtr<Collection> LejisSubmissionWebService::SubmitIncident(const LejisIncident
 
 void LejisSubmissionWebService::DeleteIncident(const LejisIncidentIndexCard& incident) {
     const auto bare = platform::Create<LejisIncidentIndexCard>();
-    bare->ActivityID = incident.ActivityID;
-    bare->OrganizationName = incident.OrganizationName;
-    bare->OrganizationORI = incident.OrganizationORI;
+    bare->SetActivityID(incident.ActivityID());
+    bare->SetOrganizationName(incident.OrganizationName());
+    bare->SetOrganizationORI(incident.OrganizationORI());
     bare->SubmittedDate->Set(incident.SubmittedDate->Date());
     const auto document = platform::Create<LejisSubmissionDocument>();
     document->Add(bare);

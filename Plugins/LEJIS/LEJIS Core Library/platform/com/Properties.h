@@ -4,16 +4,29 @@
 
 #include "platform/com/Guard.h"
 
+#include <oleauto.h>
 #include <windows.h>
 #include <wrl/client.h>
 
+#include <new>
 #include <string>
+#include <string_view>
 
 namespace platform {
 
-HRESULT ReturnText(const std::wstring& value, BSTR* result) noexcept;
-HRESULT AssignText(std::wstring& value, BSTR newValue) noexcept;
+HRESULT ReturnText(std::wstring_view value, BSTR* result) noexcept;
 HRESULT ReturnFlag(bool value, VARIANT_BOOL* result) noexcept;
+
+// Hands a client's text, which may be null, to `assign`; a null text is an empty one.
+template <typename Assign>
+HRESULT AssignText(BSTR newValue, const Assign& assign) noexcept {
+    try {
+        assign(std::wstring_view(newValue, SysStringLen(newValue)));
+        return S_OK;
+    } catch (const std::bad_alloc&) {
+        return E_OUTOFMEMORY;
+    }
+}
 
 template <typename Class, typename Interface>
 HRESULT ReturnObject(const Microsoft::WRL::ComPtr<Class>& object, Interface** result) noexcept {
@@ -29,9 +42,11 @@ HRESULT ReturnObject(const Microsoft::WRL::ComPtr<Class>& object, Interface** re
     std::wstring Name;                \
     STDMETHODIMP get_##Name(BSTR* result) override { return platform::ReturnText(Name, result); }
 
-#define TEXT_PROPERTY(Name)       \
-    READ_ONLY_TEXT_PROPERTY(Name) \
-    STDMETHODIMP put_##Name(BSTR newValue) override { return platform::AssignText(Name, newValue); }
+#define TEXT_PROPERTY(Name)                                                                     \
+    READ_ONLY_TEXT_PROPERTY(Name)                                                               \
+    STDMETHODIMP put_##Name(BSTR newValue) override {                                           \
+        return platform::AssignText(newValue, [this](std::wstring_view text) { Name = text; }); \
+    }
 
 #define BOOLEAN_PROPERTY(Name)                                                                            \
     bool Name = false;                                                                                    \
