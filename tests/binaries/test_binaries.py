@@ -27,9 +27,13 @@ FOUR_GIGABYTES = 1 << 32
 
 LARGEST_LIBRARY = 1_572_864
 
-
 PROJECT = Path(__file__).resolve().parents[2]
 SOURCES = (PROJECT / "Plugins" / "LEJIS" / "LEJIS Core Library", PROJECT / "tools" / "lejis")
+
+
+# The status as an argument of TerminateProcess, and how far behind its function's start it stands at most.
+STACK_BUFFER_OVERRUN = struct.pack("<I", 0xC0000409)
+LONGEST_START = 48
 
 
 def is_64_bit(file):
@@ -42,9 +46,18 @@ def slots(file, prefix):
             if function.name and function.name.startswith(prefix)]
 
 
+def code_of(file):
+    return next(section for section in file.sections if section.Name.startswith(b".text"))
+
+
+def call_targets(data):
+    """Where in the code the calls in it lead to."""
+    return [at + 5 + struct.unpack_from("<i", data, at + 1)[0] for at in range(len(data) - 5) if data[at] == 0xE8]
+
+
 def references(file, slot):
     """How often the code names the slot: by its address (x86) or by the distance from the place (x64)."""
-    code = next(section for section in file.sections if section.Name.startswith(b".text"))
+    code = code_of(file)
     data = code.get_data()
     start = file.OPTIONAL_HEADER.ImageBase + code.VirtualAddress
     if not is_64_bit(file):
@@ -103,9 +116,18 @@ class Binaries(unittest.TestCase):
         self.each(check)
 
     def test_the_stack_is_guarded(self):
-        # The last words of the guard, which are linked in only where a function is guarded.
+        # The one place that ends the process with this status, and the functions that call it before they return.
         def check(file):
-            self.assertTrue(b"stack smashing detected" in file.__data__[:])
+            data = code_of(file).get_data()
+            place = data.index(STACK_BUFFER_OVERRUN)
+            self.assertEqual(-1, data.find(STACK_BUFFER_OVERRUN, place + 1))
+            self.assertGreater(sum(0 <= place - target <= LONGEST_START for target in call_targets(data)), 50)
+        self.each(check)
+
+    def test_loading_draws_nothing_from_the_cryptography_of_the_system(self):
+        # Windows would have to load libraries for it while it loads this one.
+        def check(file):
+            self.assertEqual([], slots(file, b"Crypt"))
         self.each(check)
 
     def test_the_library_stays_small(self):
