@@ -3,6 +3,9 @@
 
 #include "platform/msxml/MsXml.h"
 
+#include <array>
+#include <cstddef>
+#include <memory_resource>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -40,10 +43,13 @@ private:
     std::wstring_view NameOf(const NamedChild& child) const;
     msxml::Node Find(std::wstring_view path) const;
 
+    // Enough for most elements, so that reading one takes nothing from the heap.
+    std::array<std::byte, 1536> memory_;
+    std::pmr::monotonic_buffer_resource resource_{memory_.data(), memory_.size()};
     // Those in a namespace of Constants.
-    std::vector<NamedChild> children_;
+    std::pmr::vector<NamedChild> children_{&resource_};
     // Copied, so that MSXML gets its texts back at once and uses their memory for the next ones.
-    std::wstring names_;
+    std::pmr::wstring names_{&resource_};
 };
 
 // What a path selects, for an element of which no more is asked; null when it selects nothing.

@@ -21,7 +21,11 @@ public:
     BSTR* Receive() { return &text_; }
 
     // A null text is no text.
-    std::wstring_view View() const { return {text_, SysStringLen(text_)}; }
+    std::wstring_view View() const {
+        if (!text_) return {};
+        // A BSTR's length in bytes stands before it; SysStringLen would be a call for each of a hundred thousand texts.
+        return {text_, reinterpret_cast<const DWORD*>(text_)[-1] / sizeof(wchar_t)};
+    }
 
 private:
     BSTR text_ = nullptr;

@@ -2,8 +2,7 @@
 
 #include "platform/ComError.h"
 #include "platform/msxml/Node.h"
-
-#include <comutil.h>
+#include "platform/OutText.h"
 
 using platform::Check;
 
@@ -32,11 +31,12 @@ std::wstring ElementText(const Node& element) {
     const Node only = FirstChild(element);
     if (!only) return {};
     if (!IsText(only) || NextSibling(only)) return Text(element);
-    _variant_t value;
+    // That of a text is a text.
+    VARIANT value;
     Check(only->get_nodeValue(&value));
-    if (V_VT(&value) != VT_BSTR) return Text(element);
-    const std::wstring_view text(V_BSTR(&value), SysStringLen(V_BSTR(&value)));
-    return IsTheSameInAnElement(text) ? std::wstring(text) : Text(element);
+    platform::OutText text;
+    *text.Receive() = V_BSTR(&value);
+    return IsTheSameInAnElement(text.View()) ? std::wstring(text.View()) : Text(element);
 }
 
 }  // namespace msxml
