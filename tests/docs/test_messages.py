@@ -25,6 +25,7 @@ WORDS = {
     "a prefix or name in XML, or a value in it": "soap wsse lejis j ext card inq xmlns: targetNamespace ncic true false",
     "a property of MSXML": "SelectionLanguage XPath SelectionNamespaces",
     "a key of a table": "K",
+    "a language of linkage": "C",
     "the source of an error, or what the suite calls itself": "TVLejisCore Talvex TalvexSuite",
     "a set of codes, or one": "ABIUW MFU U Y",
     "the name of a type, which stands for {type} in 'Cannot assign'":
