@@ -34,9 +34,12 @@ ElementReader::ElementReader(const Node& element) {
     }
 }
 
-std::wstring ElementReader::Text(std::wstring_view path) const { return TextIfAny(path).value_or(std::wstring()); }
+platform::OutText ElementReader::Text(std::wstring_view path) const {
+    const Node found = Find(path);
+    return found ? msxml::ElementText(found) : platform::OutText();
+}
 
-std::optional<std::wstring> ElementReader::TextIfAny(std::wstring_view path) const {
+std::optional<platform::OutText> ElementReader::TextIfAny(std::wstring_view path) const {
     const Node found = Find(path);
     if (!found) return std::nullopt;
     return msxml::ElementText(found);

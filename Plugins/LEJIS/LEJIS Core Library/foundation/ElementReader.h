@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/msxml/MsXml.h"
+#include "platform/OutText.h"
 
 #include <array>
 #include <cstddef>
@@ -20,9 +21,9 @@ public:
     explicit ElementReader(const msxml::Node& element);
 
     // The text of what the path selects, or an empty text. An empty element has an empty text too.
-    std::wstring Text(std::wstring_view path) const;
+    platform::OutText Text(std::wstring_view path) const;
     // The same, telling an empty element from a missing one.
-    std::optional<std::wstring> TextIfAny(std::wstring_view path) const;
+    std::optional<platform::OutText> TextIfAny(std::wstring_view path) const;
 
     // The first child, or all children, of this name; null and none when there is none.
     msxml::Element Child(std::wstring_view name) const;

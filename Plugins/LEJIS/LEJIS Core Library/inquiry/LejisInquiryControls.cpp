@@ -23,7 +23,8 @@ msxml::Element LejisInquiryControls::ToXmlElement(const msxml::Document& documen
 void LejisInquiryControls::FromXmlElement(const msxml::Element& element) {
     const ElementReader controls(element);
     // Exactly "false" is false; every other text, "FALSE" and "0" among them, is true on purpose.
-    IrrInfo = controls.TextIfAny(L"lejis:irrinfo").value_or(L"false") != L"false";
+    const auto irrInfo = controls.TextIfAny(L"lejis:irrinfo");
+    IrrInfo = irrInfo && irrInfo->View() != L"false";
     MaxIncidents = platform::ParseLong(controls.Text(L"lejis:maxincidents"));
     ExcludedORIIDs = platform::Create<Collection>();
     for (const msxml::Element& excluded : controls.Children(L"lejis:excludedOriid")) {

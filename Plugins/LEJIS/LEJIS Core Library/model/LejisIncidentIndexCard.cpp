@@ -105,7 +105,8 @@ void LejisIncidentIndexCard::ReadIdentifiers(const ElementReader& incident) {
 }
 
 void LejisIncidentIndexCard::ReadActivityDateTime(const ElementReader& incident) {
-    const std::wstring text = incident.Text(L"j:ActivityDate") + L" " + incident.Text(L"j:ActivityTime");
+    const std::wstring text =
+        platform::Join({incident.Text(L"j:ActivityDate"), L" ", incident.Text(L"j:ActivityTime")});
     ActivityDateTime->Set(platform::ParseDate(std::wstring(platform::TrimBlanks(text))));
 }
 

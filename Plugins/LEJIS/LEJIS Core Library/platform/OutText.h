@@ -3,6 +3,7 @@
 #include <oleauto.h>
 #include <windows.h>
 
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -26,6 +27,10 @@ public:
         // A BSTR's length in bytes stands before it; SysStringLen would be a call for each of a hundred thousand texts.
         return {text_, reinterpret_cast<const DWORD*>(text_)[-1] / sizeof(wchar_t)};
     }
+
+    operator std::wstring_view() const { return View(); }
+    operator std::wstring() const { return std::wstring(View()); }
+    friend bool operator==(const OutText& one, std::wstring_view other) { return one.View() == other; }
 
 private:
     BSTR text_ = nullptr;

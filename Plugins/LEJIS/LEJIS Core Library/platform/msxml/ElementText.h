@@ -1,12 +1,11 @@
 #pragma once
 
 #include "platform/msxml/MsXml.h"
-
-#include <string>
+#include "platform/OutText.h"
 
 namespace msxml {
 
 // The text of an element and its descendants, as Text gives it. Faster for an element that holds nothing but a text.
-std::wstring ElementText(const Node& element);
+platform::OutText ElementText(const Node& element);
 
 }  // namespace msxml
