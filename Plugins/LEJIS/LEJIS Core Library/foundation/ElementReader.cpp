@@ -35,14 +35,18 @@ ElementReader::ElementReader(const Node& element) {
 }
 
 platform::OutText ElementReader::Text(std::wstring_view path) const {
-    const Node found = Find(path);
-    return found ? msxml::ElementText(found) : platform::OutText();
+    auto text = TextIfAny(path);
+    return text ? std::move(*text) : platform::OutText();
 }
 
 std::optional<platform::OutText> ElementReader::TextIfAny(std::wstring_view path) const {
-    const Node found = Find(path);
-    if (!found) return std::nullopt;
-    return msxml::ElementText(found);
+    const size_t slash = path.find(L'/');
+    const std::wstring_view step = path.substr(0, slash);
+    for (const NamedChild* child = Next(step); child; child = Next(step, child)) {
+        if (slash == std::wstring_view::npos) return msxml::ElementText(child->node);
+        if (const Node found = FindBelow(child->node, path.substr(slash + 1))) return msxml::ElementText(found);
+    }
+    return std::nullopt;
 }
 
 Element ElementReader::Child(std::wstring_view name) const {
@@ -69,16 +73,6 @@ const ElementReader::NamedChild* ElementReader::Next(std::wstring_view name, con
 
 std::wstring_view ElementReader::NameOf(const NamedChild& child) const {
     return std::wstring_view(names_).substr(child.nameBegin, child.nameLength);
-}
-
-Node ElementReader::Find(std::wstring_view path) const {
-    const size_t slash = path.find(L'/');
-    const std::wstring_view step = path.substr(0, slash);
-    for (const NamedChild* child = Next(step); child; child = Next(step, child)) {
-        if (slash == std::wstring_view::npos) return child->node;
-        if (Node found = FindBelow(child->node, path.substr(slash + 1))) return found;
-    }
-    return nullptr;
 }
 
 Node FindBelow(const Node& element, std::wstring_view path) {

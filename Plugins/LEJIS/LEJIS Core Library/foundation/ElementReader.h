@@ -42,7 +42,6 @@ private:
     // The first child of this name, behind `previous` if there is one; null when there is none.
     const NamedChild* Next(std::wstring_view name, const NamedChild* previous = nullptr) const;
     std::wstring_view NameOf(const NamedChild& child) const;
-    msxml::Node Find(std::wstring_view path) const;
 
     // Enough for most elements, so that reading one takes nothing from the heap.
     std::array<std::byte, 1536> memory_;
