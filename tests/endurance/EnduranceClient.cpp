@@ -5,7 +5,8 @@
 //     held, incident number, version or "-", version that it may be instead or "=" where there is no doubt
 //     counts, exchanges, transient errors, refusals, doubts
 // The ledger is printed before doubts are settled. A line from standard input has them settled, and the ledger, the
-// counts and what is left behind are printed; then come half as many requests to CONTROL_URL without the library.
+// counts and what is left behind are printed; then come half as many requests to CONTROL_URL without the library. The
+// line is a number: how long their bodies shall be, for the platform may keep each body that it sends.
 #include "endurance/BareRequest.h"
 #include "endurance/CarefulClient.h"
 #include "endurance/Memory.h"
@@ -57,9 +58,8 @@ void SendAtRandom(CarefulClient& client, int count, unsigned seed) {
     }
 }
 
-void PostWithoutTheLibrary(const std::wstring& url, int count) {
-    // About as long as a submission.
-    const std::wstring body = L"<body>" + std::wstring(3000, L'x') + L"</body>";
+void PostWithoutTheLibrary(const std::wstring& url, int count, size_t length) {
+    const std::wstring body = L"<body>" + std::wstring(length, L'x') + L"</body>";
     for (int number = 1; number <= count; ++number) {
         PostBare(url, body);
         if (number % kSampleEvery == 0) PrintSample("control", number);
@@ -78,7 +78,7 @@ int Endure(const std::string& url, int count, unsigned seed, const std::string& 
     client.reset();
     std::cout << "left behind\t" << (support::LibraryCanUnload() == S_OK ? "nothing" : "objects of the library")
               << std::endl;
-    PostWithoutTheLibrary(support::Wide(controlUrl), count / 2);
+    PostWithoutTheLibrary(support::Wide(controlUrl), count / 2, std::stoul(line));
     return EXIT_SUCCESS;
 }
 

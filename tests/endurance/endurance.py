@@ -125,7 +125,7 @@ def endure(client: str, count: int, seed: int, data: Path) -> tuple[Run, Moods]:
         with subprocess.Popen(command, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True) as process:
             listen(process, server, run, "end of ledger")
             compare(server, run, "before doubts are settled")
-            process.stdin.write("settle\n")
+            process.stdin.write(f"{server.mean_body()}\n")
             process.stdin.flush()
             listen(process, server, run, "left behind")
             compare(server, run, "at the end")

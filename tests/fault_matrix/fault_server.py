@@ -38,6 +38,7 @@ class FaultServer:
         self._lock = threading.Lock()
         self._asked: Counter[tuple[str, str]] = Counter()
         self._served: Counter[tuple[str, str]] = Counter()
+        self._bodies: list[int] = []
         self._ending = threading.Event()
         self._doors: list[socket.socket] = []
         self._threads: list[threading.Thread] = []
@@ -60,6 +61,11 @@ class FaultServer:
         """How many of them the service has acted on."""
         with self._lock:
             return self._served[operation, behaviour.name]
+
+    def mean_body(self) -> int:
+        """How many bytes the body of a request has had."""
+        with self._lock:
+            return round(sum(self._bodies) / max(1, len(self._bodies)))
 
     def card(self, activity_id: str) -> str | None:
         """The card of an incident that is held."""
@@ -131,6 +137,7 @@ class FaultServer:
             behaviour = WELL_BEHAVED
         with self._lock:
             self._asked[operation, behaviour.name] += 1
+            self._bodies.append(len(request.body))
 
         def serve() -> HttpResponse:
             with self._lock:
