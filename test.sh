@@ -168,7 +168,7 @@ mkdir -p "$results"
 [[ -n $filter ]] || setup_options=(--browser "${setup_options[@]}")
 run "$project/tools/setup.sh" "${setup_options[@]}"
 run "$project/build.sh" "$selection"
-[[ -n $filter ]] || run "$project/package.sh" "$selection"
+[[ -n $filter || $selection == coverage ]] || run "$project/package.sh" "$selection"
 start_wine
 tested=()
 for architecture in $architectures; do
