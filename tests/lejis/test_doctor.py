@@ -30,7 +30,7 @@ class DoctorTest(SimulatorCase):
         self.assertEqual({subject for subject, (health, _) in found.items() if health == "ok"}, {
             "32-bit library", "64-bit library", "Library in use", "Submission server", "Submission WSDL",
             "Submission schemas", "Search server", "Search WSDL", "Search schemas", "Debug dumps"})
-        bits = "32-bit" if "/x86/" in os.environ["LEJIS_EXE"] else "64-bit"
+        bits = "64-bit" if "/x64/" in os.environ["LEJIS_EXE"] else "32-bit"
         version = self.expect(DONE, "--version").splitlines()
         self.assertEqual(found[f"{bits} library"][1], f"{version[1].split()[1]}, {version[2]}")
 
