@@ -7,18 +7,11 @@ source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
 # shellcheck source=tools/wine-environment.sh
 source "$project/tools/wine-environment.sh"
 
-architecture=x64
-case ${1:-} in
-  x86 | x64)
-    architecture=$1
-    shift
-    ;;
-esac
-
+take_architecture x64 "$@"
 clean_up_with stop_wine
 lock_checkout
 run "$project/build.sh" "$architecture" TVLejisCore benchmarks
 wine_runs "$architecture" || fail "x86 programs do not run here: 32-bit Wine is not there"
 start_wine
 register_dll "$architecture"
-run wine "$(windows_path "$project/build/$architecture/benchmarks/benchmarks.exe")" "$@"
+run wine "$(windows_path "$project/build/$architecture/benchmarks/benchmarks.exe")" "${arguments[@]}"

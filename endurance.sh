@@ -9,14 +9,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
 # shellcheck source=tools/wine-environment.sh
 source "$project/tools/wine-environment.sh"
 
-architecture=x86
-case ${1:-} in
-  x86 | x64)
-    architecture=$1
-    shift
-    ;;
-esac
-
+take_architecture x86 "$@"
 clean_up_with stop_wine
 lock_checkout
 run "$project/tools/setup.sh"
@@ -25,4 +18,4 @@ wine_runs "$architecture" || fail "x86 programs do not run here: 32-bit Wine is 
 start_wine
 register_dll "$architecture"
 run /usr/bin/python3 "$project/tests/endurance/endurance.py" \
-  "$(windows_path "$project/build/$architecture/tests/endurance_client.exe")" "$@"
+  "$(windows_path "$project/build/$architecture/tests/endurance_client.exe")" "${arguments[@]}"

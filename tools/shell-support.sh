@@ -76,3 +76,18 @@ clean_up_with() {
   trap 'exit 130' INT
   trap 'exit 143' TERM
 }
+
+# take_architecture DEFAULT [ARGUMENT...]: sets `architecture` to the first argument, where that is one, and `arguments`
+# to the others.
+# shellcheck disable=SC2034  # the script that called uses both
+take_architecture() {
+  architecture=$1
+  shift
+  case ${1:-} in
+    x86 | x64)
+      architecture=$1
+      shift
+      ;;
+  esac
+  arguments=("$@")
+}

@@ -9,18 +9,18 @@ FOLDER = PROJECT / "samples" / "vb6"
 class VisualBasicTest(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        cls.library = TypeLibrary()
+        cls.types = TypeLibrary()
 
     def read(self, text):
-        return VisualBasic("Option Explicit\n" + text, self.library)
+        return VisualBasic("Option Explicit\n" + text, self.types)
 
     def test_the_module_fits_the_type_library(self):
-        sample = VisualBasic((FOLDER / "LejisSubmission.bas").read_text(), self.library)
+        sample = VisualBasic((FOLDER / "LejisSubmission.bas").read_text(), self.types)
         self.assertEqual(sample.problems, [])
         self.assertGreater(sample.members_seen, 30)
 
     def test_the_class_fits_the_type_library(self):
-        sample = VisualBasic((FOLDER / "LejisSearch.cls").read_text(), self.library)
+        sample = VisualBasic((FOLDER / "LejisSearch.cls").read_text(), self.types)
         self.assertEqual(sample.problems, [])
         self.assertGreater(sample.members_seen, 8)
         self.assertEqual(sample.events_seen, 4)

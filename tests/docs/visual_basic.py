@@ -16,8 +16,8 @@ CONSTANT = re.compile(r"\btv\w+")
 
 
 class VisualBasic:
-    def __init__(self, text, library):
-        self.library = library
+    def __init__(self, text, types):
+        self.types = types
         self.problems = []
         self.members_seen = 0
         self.events_seen = 0
@@ -52,10 +52,10 @@ class VisualBasic:
         for with_events, name, new, owner, type_ in DECLARED.findall(line):
             self._declaration(name, bool(with_events), bool(new), owner, type_)
         for class_ in CREATED.findall(line):
-            if class_ not in self.library.default:
+            if class_ not in self.types.default:
                 self._problem(f"no class {class_}")
         for constant in CONSTANT.findall(line):
-            if constant not in self.library.values:
+            if constant not in self.types.values:
                 self._problem(f"no constant {constant}")
         self._chains(line)
 
@@ -76,7 +76,7 @@ class VisualBasic:
 
     def _handler(self, class_, event, parameters):
         self.events_seen += 1
-        declared = self.library.members_of(self.library.events[class_]).get(event)
+        declared = self.types.members_of(self.types.events[class_]).get(event)
         names = {"BSTR": "String", "long": "Long"}
         wanted = [] if declared is None else [(name, names.get(type_, type_)) for name, type_ in declared.parameters]
         given = [(name, type_) for _, name, _, _, type_ in DECLARED.findall(parameters)]
@@ -84,9 +84,9 @@ class VisualBasic:
             self._problem(f"the event {class_}.{event} has {wanted}, not {given}")
 
     def _declaration(self, name, with_events, new, owner, type_):
-        if owner == "TVLejisCore" and self.library.members_of(type_) is None:
+        if owner == "TVLejisCore" and self.types.members_of(type_) is None:
             self._problem(f"no type {type_}")
-        if new and owner == "TVLejisCore" and type_ not in self.library.default:
+        if new and owner == "TVLejisCore" and type_ not in self.types.default:
             self._problem(f"{type_} cannot be created")
         if with_events:
             self.listening[name] = type_
@@ -106,7 +106,7 @@ class VisualBasic:
     def _is_own(self, root):
         """Is it a variable of a type of Visual Basic's own?"""
         scope = {**self.module, **self.local}
-        return root in scope and self.library.members_of(scope[root]) is None
+        return root in scope and self.types.members_of(scope[root]) is None
 
     def _type_of_chain(self, text):
         root, _, tail = text.partition(".")
@@ -121,7 +121,7 @@ class VisualBasic:
             type_ = next((of for block, of in reversed(self.blocks) if block == "With"), None)
         member = None
         for name in re.findall(r"\.(\w+)", tail):
-            members = self.library.members_of(type_) or {}
+            members = self.types.members_of(type_) or {}
             member = members.get(name)
             if member is None:
                 self._problem(f"{type_ or root or 'With'} has no member {name}")

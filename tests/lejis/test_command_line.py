@@ -92,10 +92,10 @@ class CommandLineTest(LejisCase):
 class RegistrationTest(LejisCase):
     def setUp(self):
         super().setUp()
-        self.library = self.expect(DONE, "--version").splitlines()[2]
+        self.dll = self.expect(DONE, "--version").splitlines()[2]
 
     def regsvr32(self, *arguments):
-        subprocess.run(["wine", "regsvr32.exe", "/s", *arguments, self.library], stdin=subprocess.DEVNULL,
+        subprocess.run(["wine", "regsvr32.exe", "/s", *arguments, self.dll], stdin=subprocess.DEVNULL,
                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=TIME_LIMIT, check=True)
 
     def test_a_library_that_is_not_registered_is_one_sentence_for_all_files(self):

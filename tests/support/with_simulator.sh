@@ -22,7 +22,7 @@ simulators=$project/build/simulator
 mkdir -p "$simulators"
 # Folders of earlier runs are worth a look, not for ever.
 find "$simulators" -mindepth 1 -maxdepth 1 -type d -mmin +1440 -exec rm -rf {} +
-folder=$(mktemp -d "$simulators/$(date +%H%M%S)-XXXXXX")
+folder=$(mktemp --directory --tmpdir="$simulators")
 log=$folder/simulator.log
 simulator=
 

@@ -54,7 +54,7 @@ class Source:
     """The installer's source for one bitness; `files` are what goes into its folder, the DLL first."""
 
     def __init__(self, library, architecture, file_version, files):
-        self.library, self.architecture, self.files = library, architecture, files
+        self.type_library, self.architecture, self.files = library, architecture, files
         self.file_version, self.version = file_version, public_version(file_version)
         self.components = []
 
@@ -101,7 +101,7 @@ class Source:
     def _add_library(self, folder):
         component = self._component(folder, self.files[0].name)
         self._add_file(component, self.files[0])
-        _add_rows(component, own_rows(self.library, self.architecture))
+        _add_rows(component, own_rows(self.type_library, self.architecture))
 
     def _add_maker_folder(self, folder):
         component = self._component(folder, "MakerFolderRemoval")
@@ -113,7 +113,7 @@ class Source:
         # The same component in the packages of both bitnesses: the system counts who has installed it, and takes its
         # rows out with the last one. Hence it is a 32-bit component in both.
         component = self._component(folder, "SharedRegistration", is_shared=True)
-        _add_rows(component, shared_rows(self.library), key_path=True)
+        _add_rows(component, shared_rows(self.type_library), key_path=True)
 
 
 def _run_msibuild(package, *arguments):
