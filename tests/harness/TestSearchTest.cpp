@@ -69,6 +69,19 @@ TEST_F(TestSearchTest, EndsWhenTheHostsYieldRaises) {
     http.Last().ClearHandler();
 }
 
+TEST_F(TestSearchTest, HasNoTimeLimitOfItsOwn) {
+    constexpr int kLong = 10'000;
+    host.onYield = [this] {
+        if (host.yields == kLong) throw platform::ComError(static_cast<HRESULT>(0x80045555), L"enough");
+    };
+    const auto request = platform::Create<LejisSearchRequest>();
+    EXPECT_TRUE(support::FailedWith(
+        platform::Create<TestSearch>()->Search(support::Bstr(L"jdoe"), request.Get(), results.GetAddressOf()),
+        static_cast<long>(0x80045555), L"enough"));
+    EXPECT_EQ(kLong, host.yields);
+    http.Last().ClearHandler();
+}
+
 TEST_F(TestSearchTest, WordsAFailedSearchWithReasonAndStatus) {
     const auto harness = platform::Create<TestSearch>();
     support::MessageBoxCloser box(L"LEJIS Search Error");
