@@ -109,7 +109,7 @@ TEST(LejisIncidentIndexCardWriting, WritesPersonsThenVehiclesThenProperty) {
     std::wstring order;
     for (const auto& child : msxml::ChildElements(element)) {
         const std::wstring name(msxml::LocalName(child).View());
-        if (name.ends_with(L"IndexCards")) order += name + L"(" + msxml::Text(child) + L") ";
+        if (name.ends_with(L"IndexCards")) order += name + L"(" + std::wstring(msxml::Text(child)) + L") ";
     }
     EXPECT_EQ(
         L"RMSPersonIndexCards(FIRSTfalse) RMSPersonIndexCards(SECONDfalse) RMSVehicleIndexCards(FORDfalse) "

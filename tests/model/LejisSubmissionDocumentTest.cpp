@@ -74,8 +74,8 @@ TEST(LejisSubmissionDocument, WritesIncidentsInTheirOrderBeforeTheSystem) {
     ASSERT_EQ(3u, children.size());
     EXPECT_EQ(L"RMSIncidentIndexCard", msxml::LocalName(children[0]).View());
     EXPECT_EQ(L"http://lejis.example/lejis/jxdm/1.0/service", msxml::NamespaceUri(children[0]).View());
-    EXPECT_TRUE(msxml::Text(children[0]).starts_with(L"FIRST"));
-    EXPECT_TRUE(msxml::Text(children[1]).starts_with(L"SECOND"));
+    EXPECT_TRUE(msxml::Text(children[0]).View().starts_with(L"FIRST"));
+    EXPECT_TRUE(msxml::Text(children[1]).View().starts_with(L"SECOND"));
     EXPECT_TRUE(SameXml(children[2].Get(), kSystem));
 }
 

@@ -31,6 +31,7 @@ public:
     operator std::wstring_view() const { return View(); }
     operator std::wstring() const { return std::wstring(View()); }
     friend bool operator==(const OutText& one, std::wstring_view other) { return one.View() == other; }
+    friend bool operator==(const OutText& one, const OutText& other) { return one.View() == other.View(); }
 
 private:
     BSTR text_ = nullptr;

@@ -25,24 +25,18 @@ bool IsText(const Node& node) {
     return type == NODE_TEXT;
 }
 
-platform::OutText TextOfAll(const Node& element) {
-    platform::OutText text;
-    Check(element->get_text(text.Receive()));
-    return text;
-}
-
 }  // namespace
 
 platform::OutText ElementText(const Node& element) {
     const Node only = FirstChild(element);
     if (!only) return {};
-    if (!IsText(only) || NextSibling(only)) return TextOfAll(element);
+    if (!IsText(only) || NextSibling(only)) return Text(element);
     // The value of a text is a text.
     VARIANT value;
     Check(only->get_nodeValue(&value));
     platform::OutText text;
     *text.Receive() = V_BSTR(&value);
-    return IsTheSameInAnElement(text) ? std::move(text) : TextOfAll(element);
+    return IsTheSameInAnElement(text) ? std::move(text) : Text(element);
 }
 
 }  // namespace msxml

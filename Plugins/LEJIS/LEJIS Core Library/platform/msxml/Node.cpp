@@ -23,8 +23,6 @@ platform::OutText Get(const Node& node, TextGetter getter) {
     return text;
 }
 
-std::wstring GetText(const Node& node, TextGetter getter) { return std::wstring(Get(node, getter).View()); }
-
 Node CreateNode(const Document& document, DOMNodeType type, std::wstring_view name, std::wstring_view uri) {
     Node node;
     Check(document->createNode(_variant_t(static_cast<long>(type)), InText(name), InText(uri), node.GetAddressOf()));
@@ -60,7 +58,7 @@ void AppendRoot(const Document& document, const Element& root) {
     Append(document, root);
 }
 
-std::wstring Text(const Node& node) { return GetText(node, &IXMLDOMNode::get_text); }
+platform::OutText Text(const Node& node) { return Get(node, &IXMLDOMNode::get_text); }
 
 std::wstring Attribute(const Element& element, const wchar_t* name) {
     _variant_t value;
@@ -108,7 +106,7 @@ std::vector<Element> ChildElements(const Node& node) {
 
 platform::OutText LocalName(const Node& node) { return Get(node, &IXMLDOMNode::get_baseName); }
 platform::OutText NamespaceUri(const Node& node) { return Get(node, &IXMLDOMNode::get_namespaceURI); }
-std::wstring Xml(const Node& node) { return GetText(node, &IXMLDOMNode::get_xml); }
+std::wstring Xml(const Node& node) { return Get(node, &IXMLDOMNode::get_xml); }
 
 Document OwnerDocument(const Node& node) {
     ComPtr<IXMLDOMDocument> owner;

@@ -26,7 +26,7 @@ void Append(const Node& parent, const Node& child);
 void AppendRoot(const Document& document, const Element& root);
 
 // The text of a node and its descendants.
-std::wstring Text(const Node& node);
+platform::OutText Text(const Node& node);
 
 // The value of an attribute without a namespace; empty when there is none.
 std::wstring Attribute(const Element& element, const wchar_t* name);
