@@ -20,7 +20,7 @@ TEST(ElementWriter, BeginsWithAnUnattachedElement) {
     EXPECT_TRUE(SameXml(writer.Element().Get(), L"<card:RMSVehicleIndexCards/>"));
     Microsoft::WRL::ComPtr<IXMLDOMElement> root;
     EXPECT_EQ(S_FALSE, document->get_documentElement(root.GetAddressOf()));
-    EXPECT_EQ(document.Get(), writer.Document().Get());
+    EXPECT_EQ(document.Get(), writer.Document().Get().Get());
 }
 
 TEST(ElementWriter, WritesChildrenInTheOrderOfTheCalls) {

@@ -40,6 +40,14 @@ TEST(Text, JoinsParts) {
     EXPECT_EQ(std::wstring(L"xa\0by", 5), Join({L"x", kWithNull, L"y"}));
 }
 
+TEST(Text, IsMadeFromUtf8) {
+    EXPECT_EQ(L"", FromUtf8(""));
+    EXPECT_EQ(L"JOHN", FromUtf8("JOHN"));
+    EXPECT_EQ(kWithNull, FromUtf8(std::string_view("a\0b", 3)));
+    EXPECT_EQ(L"M\xFC \x4E2D \xD83D\xDE00", FromUtf8("M\xC3\xBC \xE4\xB8\xAD \xF0\x9F\x98\x80"));
+    EXPECT_EQ(L"a\xFFFDz", FromUtf8("a\xC3z"));
+}
+
 TEST(Text, LeavesACopiedTextToItsOwner) {
     const _bstr_t text = ToBstr(L"JOHN");
     EXPECT_EQ(L"JOHN", CopyText(text));

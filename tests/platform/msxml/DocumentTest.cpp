@@ -9,6 +9,7 @@
 #include "support/Printing.h"
 #include "support/Xml.h"
 #include "unit_support/Raises.h"
+#include "unit_support/UnsavableDocument.h"
 
 #include <gtest/gtest.h>
 
@@ -87,6 +88,38 @@ TEST(Document, LoadsNoCopyOfADocumentWithADoctype) {
     const Document copy = CreateDocument();
     EXPECT_FALSE(LoadCopy(copy, original));
     EXPECT_EQ(nullptr, Root(copy).Get());
+}
+
+TEST(Document, SaysAsMarkupWhatItsXmlSays) {
+    for (const wchar_t* text : {
+             L"<r/>",
+             L"<soap:Envelope><soap:Body><lejis:a j:b='&lt;&quot;1&quot;&amp;'>x</lejis:a></soap:Body></soap:Envelope>",
+             L"<r a='M\xFCller'>\x4E2D\x0416\xD83D\xDE00</r>",
+             L"<r>&amp;lt; ]]&gt; &#13;&#10;&#9; and blanks  </r>",
+             L"<r><a> </a><a/>mixed<a>content</a></r>",
+         }) {
+        const Document document = support::Parse(text);
+        const Document read = CreateDocument();
+        ASSERT_OK(read->put_preserveWhiteSpace(VARIANT_TRUE));
+        ASSERT_TRUE(LoadXml(read, Markup(document))) << support::Utf8(text);
+        EXPECT_TRUE(SameXml(read.Get(), text));
+    }
+    EXPECT_EQ(L"", Markup(CreateDocument()));
+}
+
+TEST(Document, SaysTextsAsMarkupWithoutXmlDeclarationOrLayout) {
+    const Document document = CreateDocument();
+    const Element root = CreateElement(document, L"r", L"");
+    AppendRoot(document, root);
+    Append(root, CreateElement(document, L"a", L""));
+    const std::wstring markup = Markup(document);
+    EXPECT_EQ(L"<r><a/></r>", markup.substr(0, markup.find_last_of(L'>') + 1)) << support::Utf8(markup);
+}
+
+TEST(Document, SaysItsXmlWhenItCannotBeWrittenToAStream) {
+    // A text cut off within a character.
+    const std::wstring xml = L"<r>\xD83D</r>";
+    EXPECT_EQ(xml, Markup(Document(platform::Create<support::UnsavableDocument>(xml))));
 }
 
 TEST(Document, WritesAFileAndReplacesIt) {

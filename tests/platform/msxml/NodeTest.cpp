@@ -48,6 +48,14 @@ TEST(Node, CreatesElementsWithPrefixAndNamespace) {
     EXPECT_EQ(nullptr, Root(document).Get());
 }
 
+TEST(Node, IsCopiedWithAllThatItHoldsAndUnattached) {
+    const Element original = ParseElement(L"<j:a j:b='1'><j:c>2</j:c>3</j:a>");
+    const Element copy = Copy(original);
+    SetText(original, L"changed");
+    EXPECT_TRUE(SameXml(Reparsed(copy.Get()).Get(), L"<j:a j:b='1'><j:c>2</j:c>3</j:a>"));
+    Append(NewDocument(), copy);
+}
+
 TEST(Node, BelongsToTheDocumentThatMadeIt) {
     const Document document = NewDocument();
     const Element element = CreateElement(document, L"r", L"");

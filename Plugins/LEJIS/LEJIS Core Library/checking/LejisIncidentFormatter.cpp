@@ -1,9 +1,9 @@
 #include "checking/LejisIncidentFormatter.h"
 
 #include "checking/FormattingRules.h"
+#include "foundation/OutputDocument.h"
 #include "platform/com/Inside.h"
 #include "platform/ComError.h"
-#include "platform/msxml/Document.h"
 
 using Microsoft::WRL::ComPtr;
 
@@ -12,8 +12,8 @@ namespace {
 
 // The copy holds what the card's XML form carries, blanks at the ends of texts included.
 ComPtr<LejisIncidentIndexCard> CopyOf(const LejisIncidentIndexCard& incident) {
-    const msxml::Document document = msxml::CreateDocument();
-    platform::Check(document->put_preserveWhiteSpace(VARIANT_TRUE));
+    const OutputDocument document = OutputDocument::Create();
+    platform::Check(document.Get()->put_preserveWhiteSpace(VARIANT_TRUE));
     auto copy = platform::Create<LejisIncidentIndexCard>();
     copy->FromXmlElement(incident.ToXmlElement(document));
     return copy;

@@ -1,13 +1,12 @@
 #include "foundation/ElementWriter.h"
 
-#include "foundation/Constants.h"
 #include "foundation/NodeFactory.h"
 #include "foundation/Prefixes.h"
 #include "platform/msxml/Node.h"
 
 namespace lejis {
 
-ElementWriter::ElementWriter(const msxml::Document& document, std::wstring_view qualifiedName)
+ElementWriter::ElementWriter(const OutputDocument& document, std::wstring_view qualifiedName)
     : document_(document),
       element_(NodeFactory::CreateQualifiedElement(document, qualifiedName, NamespaceOf(qualifiedName))) {}
 
@@ -39,8 +38,8 @@ void ElementWriter::OptionalJurisdictionId(std::wstring_view name, std::wstring_
 
 void ElementWriter::OptionalMeasure(std::wstring_view name, std::wstring_view value, std::wstring_view unitAttribute) {
     if (value.empty()) return;
-    const msxml::Element element = NodeFactory::CreateTextElement(document_, name, value, NamespaceOf(name));
-    msxml::SetAttribute(document_, element, unitAttribute, Constants::kJxdmNamespace, L"ncic");
+    const msxml::Element element = document_.CreateMeasure(name, unitAttribute);
+    msxml::SetText(element, value);
     Child(element);
 }
 

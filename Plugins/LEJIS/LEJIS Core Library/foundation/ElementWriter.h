@@ -1,6 +1,7 @@
 // Writes the children of one element in the order of the calls, one line a child.
 #pragma once
 
+#include "foundation/OutputDocument.h"
 #include "platform/msxml/MsXml.h"
 
 #include <string_view>
@@ -10,7 +11,7 @@ namespace lejis {
 class ElementWriter {
 public:
     // A new, unattached element. The namespace of each name is that of its prefix in Constants.
-    ElementWriter(const msxml::Document& document, std::wstring_view qualifiedName);
+    ElementWriter(const OutputDocument& document, std::wstring_view qualifiedName);
 
     // A text child, written even when its text is empty.
     void Text(std::wstring_view name, std::wstring_view value);
@@ -31,11 +32,11 @@ public:
     void Child(const msxml::Element& child);
     void Child(const ElementWriter& child) { Child(child.Element()); }
 
-    const msxml::Document& Document() const { return document_; }
+    const OutputDocument& Document() const { return document_; }
     const msxml::Element& Element() const { return element_; }
 
 private:
-    msxml::Document document_;
+    OutputDocument document_;
     msxml::Element element_;
 };
 

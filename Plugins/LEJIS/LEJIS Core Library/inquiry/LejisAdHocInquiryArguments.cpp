@@ -8,7 +8,7 @@ namespace lejis {
 // Blanks count here, unlike in the other blocks.
 bool LejisAdHocInquiryArguments::NotEmpty() const { return !QueryString.empty(); }
 
-msxml::Element LejisAdHocInquiryArguments::ToXmlElement(const msxml::Document& document) const {
+msxml::Element LejisAdHocInquiryArguments::ToXmlElement(const OutputDocument& document) const {
     ElementWriter query(document, L"lejis:AdHocInquiryArguments");
     query.Text(L"lejis:queryString", QueryString);
     return query.Element();

@@ -10,7 +10,7 @@ namespace lejis {
 // The controls are part of every search.
 bool LejisInquiryControls::NotEmpty() const { return true; }
 
-msxml::Element LejisInquiryControls::ToXmlElement(const msxml::Document& document) const {
+msxml::Element LejisInquiryControls::ToXmlElement(const OutputDocument& document) const {
     ElementWriter controls(document, L"lejis:InquiryControls");
     controls.Boolean(L"lejis:irrinfo", IrrInfo);
     if (MaxIncidents > 0) controls.Text(L"lejis:maxincidents", std::to_wstring(MaxIncidents));

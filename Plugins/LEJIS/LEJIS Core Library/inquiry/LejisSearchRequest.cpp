@@ -35,7 +35,7 @@ STDMETHODIMP LejisSearchRequest::FromXmlElement(IDispatch* elem) {
     });
 }
 
-msxml::Element LejisSearchRequest::ToXmlElement(const msxml::Document& document) const {
+msxml::Element LejisSearchRequest::ToXmlElement(const OutputDocument& document) const {
     ElementWriter inquiry(document, L"inq:LEJISIndexInquiry");
     msxml::AppendRoot(document, inquiry.Element());
     Write(inquiry, personArguments);
@@ -48,7 +48,7 @@ msxml::Element LejisSearchRequest::ToXmlElement(const msxml::Document& document)
 }
 
 msxml::Document LejisSearchRequest::ToXmlDocument() const {
-    const msxml::Document document = msxml::CreateDocument();
+    const OutputDocument document = OutputDocument::Create();
     ToXmlElement(document);
     return document;
 }

@@ -27,7 +27,7 @@ public:
     STDMETHODIMP FromXmlElement(IDispatch* elem) override;
 
     // Becomes the root of the document. Raises when that has a root.
-    msxml::Element ToXmlElement(const msxml::Document& document) const;
+    msxml::Element ToXmlElement(const OutputDocument& document) const;
     msxml::Document ToXmlDocument() const;
     // A block whose element is missing stays as it is.
     void FromXmlElement(const msxml::Element& element);

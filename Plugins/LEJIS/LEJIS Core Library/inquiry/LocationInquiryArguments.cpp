@@ -10,7 +10,7 @@ bool LocationInquiryArguments::NotEmpty() const {
     return AnyNotBlank({&StreetFullText, &StreetName, &City, &State, &ZIP});
 }
 
-msxml::Element LocationInquiryArguments::ToXmlElement(const msxml::Document& document) const {
+msxml::Element LocationInquiryArguments::ToXmlElement(const OutputDocument& document) const {
     ElementWriter location(document, L"inq:LocationInquiryArguments");
     location.OptionalText(L"j:StreetFullText", StreetFullText);
     location.OptionalText(L"j:StreetName", StreetName);

@@ -17,7 +17,7 @@ bool PersonInquiryArguments::NotEmpty() const {
 }
 
 // Blanks do not make the block worth sending, but are written where another field does.
-msxml::Element PersonInquiryArguments::ToXmlElement(const msxml::Document& document) const {
+msxml::Element PersonInquiryArguments::ToXmlElement(const OutputDocument& document) const {
     ElementWriter person(document, L"inq:PersonInquiryArguments");
     person.Text(L"j:PersonSurName", SurName);
     person.Text(L"j:PersonGivenName", GivenName);

@@ -9,7 +9,7 @@ namespace lejis {
 bool PropertyInquiryArguments::NotEmpty() const { return AnyNotBlank({&Category, &Make, &Model, &SerialNumber}); }
 
 // Unlike the other blocks this one writes all it has, empty texts too.
-msxml::Element PropertyInquiryArguments::ToXmlElement(const msxml::Document& document) const {
+msxml::Element PropertyInquiryArguments::ToXmlElement(const OutputDocument& document) const {
     ElementWriter property(document, L"inq:PropertyInquiryArguments");
     property.Text(L"j:PropertyCategoryText", Category);
     property.Text(L"j:PropertyMakeName", Make);

@@ -13,7 +13,7 @@ bool VehicleInquiryArguments::NotEmpty() const {
     return AnyNotBlank({&Make, &Model, &Style, &Color, &LicensePlate, &LicensePlateState, &VIN}) || Year->Number();
 }
 
-msxml::Element VehicleInquiryArguments::ToXmlElement(const msxml::Document& document) const {
+msxml::Element VehicleInquiryArguments::ToXmlElement(const OutputDocument& document) const {
     ElementWriter vehicle(document, L"inq:VehicleInquiryArguments");
     vehicle.OptionalId(L"j:VehicleID", VIN);
     // Either half will do for a search, and both elements are written then.

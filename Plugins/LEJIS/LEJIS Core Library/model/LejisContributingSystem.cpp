@@ -18,7 +18,7 @@ std::wstring LibraryVersion() {
 LejisContributingSystem::LejisContributingSystem()
     : CompanyName(L"Talvex"), SystemName(L"TalvexSuite"), SystemVersion(LibraryVersion()) {}
 
-msxml::Element LejisContributingSystem::ToXmlElement(const msxml::Document& document) const {
+msxml::Element LejisContributingSystem::ToXmlElement(const OutputDocument& document) const {
     // The names begin in lower case, unlike the GJXDM names around them.
     ElementWriter system(document, L"lejis:ContributingSystem");
     system.Text(L"ext:companyName", CompanyName);

@@ -41,7 +41,7 @@ bool AnyHasCaution(const Collection& cards) {
 
 }  // namespace
 
-msxml::Element LejisIncidentIndexCard::ToXmlElement(const msxml::Document& document) const {
+msxml::Element LejisIncidentIndexCard::ToXmlElement(const OutputDocument& document) const {
     ElementWriter identifiers(document, L"card:LejisIndexUid");
     identifiers.Id(L"j:OrganizationORIID", OrganizationORI());
     identifiers.Id(L"j:ActivityID", ActivityID());

@@ -9,7 +9,7 @@
 
 namespace lejis {
 
-msxml::Element LejisPersonIndexCard::ToXmlElement(const msxml::Document& document) const {
+msxml::Element LejisPersonIndexCard::ToXmlElement(const OutputDocument& document) const {
     ElementWriter organization(document, L"j:IncidentJurisdictionalOrganization");
     organization.Text(L"j:OrganizationName", OrganizationName());
     ElementWriter residence(document, L"j:Residence");

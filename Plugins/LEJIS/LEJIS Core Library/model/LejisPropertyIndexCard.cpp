@@ -10,7 +10,7 @@ STDMETHODIMP LejisPropertyIndexCard::LoadDefaults() {
     return Guard([&] { Reset(); });
 }
 
-msxml::Element LejisPropertyIndexCard::ToXmlElement(const msxml::Document& document) const {
+msxml::Element LejisPropertyIndexCard::ToXmlElement(const OutputDocument& document) const {
     ElementWriter card(document, L"card:RMSPropertyIndexCards");
     card.OptionalText(L"j:PropertyCategoryCode.nibrsPropertyCategory", NibrsCategoryCode());
     card.OptionalText(L"j:PropertyTypeText", Category());

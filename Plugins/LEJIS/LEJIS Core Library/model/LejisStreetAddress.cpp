@@ -8,7 +8,7 @@
 
 namespace lejis {
 
-msxml::Element LejisStreetAddress::ToXmlElement(const msxml::Document& document) const {
+msxml::Element LejisStreetAddress::ToXmlElement(const OutputDocument& document) const {
     ElementWriter address(document, L"j:LocationAddress");
     address.Child(StreetElement(document));
     address.Text(L"j:LocationCityName", City());
@@ -18,7 +18,7 @@ msxml::Element LejisStreetAddress::ToXmlElement(const msxml::Document& document)
     return address.Element();
 }
 
-msxml::Element LejisStreetAddress::StreetElement(const msxml::Document& document) const {
+msxml::Element LejisStreetAddress::StreetElement(const OutputDocument& document) const {
     ElementWriter street(document, L"j:LocationStreet");
     street.Text(L"j:StreetFullText", StreetFullText());
     street.Text(L"j:StreetNumberText", NumberText(*StreetNumber.Get()));

@@ -32,7 +32,7 @@ public:
 private:
     void Reset();
     void ReadStreet(const ElementReader& street);
-    msxml::Element StreetElement(const msxml::Document& document) const;
+    msxml::Element StreetElement(const OutputDocument& document) const;
 };
 
 }  // namespace lejis

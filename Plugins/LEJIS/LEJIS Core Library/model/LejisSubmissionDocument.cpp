@@ -18,7 +18,7 @@ void LejisSubmissionDocument::Add(const Microsoft::WRL::ComPtr<LejisIncidentInde
     IncidentIndexCards->AddObject(incident->Dispatch());
 }
 
-msxml::Element LejisSubmissionDocument::ToXmlElement(const msxml::Document& document) const {
+msxml::Element LejisSubmissionDocument::ToXmlElement(const OutputDocument& document) const {
     ElementWriter submission(document, L"lejis:SubmitRmsIndex");
     msxml::AppendRoot(document, submission.Element());
     for (const auto& incident : IncidentIndexCards->ItemsAs<LejisIncidentIndexCard>()) {
@@ -29,7 +29,7 @@ msxml::Element LejisSubmissionDocument::ToXmlElement(const msxml::Document& docu
 }
 
 msxml::Document LejisSubmissionDocument::ToXmlDocument() const {
-    const msxml::Document document = msxml::CreateDocument();
+    const OutputDocument document = OutputDocument::Create();
     ToXmlElement(document);
     return document;
 }

@@ -21,7 +21,7 @@ public:
     void Add(const Microsoft::WRL::ComPtr<LejisIncidentIndexCard>& incident);
 
     // Becomes the root of the document. Raises when that has a root.
-    msxml::Element ToXmlElement(const msxml::Document& document) const;
+    msxml::Element ToXmlElement(const OutputDocument& document) const;
     msxml::Document ToXmlDocument() const;
 };
 

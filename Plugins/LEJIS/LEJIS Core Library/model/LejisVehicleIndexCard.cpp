@@ -8,7 +8,7 @@
 
 namespace lejis {
 
-msxml::Element LejisVehicleIndexCard::ToXmlElement(const msxml::Document& document) const {
+msxml::Element LejisVehicleIndexCard::ToXmlElement(const OutputDocument& document) const {
     // Make and style are of the LEJIS extension, the rest is GJXDM.
     ElementWriter card(document, L"card:RMSVehicleIndexCards");
     card.OptionalText(L"ext:VehicleMakeText", Make());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "foundation/LejisUtils.h"
+#include "foundation/OutputDocument.h"
 #include "platform/msxml/Document.h"
 
 #define XML_METHODS()                                                                                  \
@@ -11,5 +12,5 @@
     STDMETHODIMP FromXmlElement(IDispatch* elem) override {                                            \
         return Guard([&] { FromXmlElement(LejisUtils::ElementToRead(elem)); });                        \
     }                                                                                                  \
-    msxml::Element ToXmlElement(const msxml::Document& document) const;                                \
+    msxml::Element ToXmlElement(const OutputDocument& document) const;                                \
     void FromXmlElement(const msxml::Element& element);

@@ -36,6 +36,14 @@ std::wstring Join(std::initializer_list<std::wstring_view> parts) {
     return text;
 }
 
+std::wstring FromUtf8(std::string_view bytes) {
+    // A byte is never more than one UTF-16 unit.
+    std::wstring text(bytes.size(), L'\0');
+    const int size = static_cast<int>(bytes.size());
+    text.resize(static_cast<size_t>(MultiByteToWideChar(CP_UTF8, 0, bytes.data(), size, text.data(), size)));
+    return text;
+}
+
 bool EqualIgnoringCase(std::wstring_view one, std::wstring_view other) {
     return CompareStringOrdinal(one.data(), static_cast<int>(one.size()), other.data(), static_cast<int>(other.size()),
                                 TRUE) == CSTR_EQUAL;

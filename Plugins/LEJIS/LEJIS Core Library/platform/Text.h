@@ -25,6 +25,9 @@ std::wstring_view TrimBlanks(std::wstring_view text);
 // The parts, one behind the other.
 std::wstring Join(std::initializer_list<std::wstring_view> parts);
 
+// Bytes that are no UTF-8 become U+FFFD.
+std::wstring FromUtf8(std::string_view bytes);
+
 bool EqualIgnoringCase(std::wstring_view one, std::wstring_view other);
 
 // Each word with its first letter in upper case and the others in lower case; white space separates words.

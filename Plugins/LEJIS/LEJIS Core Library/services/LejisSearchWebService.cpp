@@ -66,7 +66,7 @@ void LejisSearchWebService::Send(const LejisSearchRequest& request) {
     request_.Open(L"POST", URL, true);
     request_.SetHeader(L"SOAPAction", Constants::kSearchAction);
     request_.SetHeader(L"Content-Type", L"text/xml;charset=utf-8");
-    request_.Send(msxml::Xml(envelope));
+    request_.Send(msxml::Markup(envelope));
 }
 
 STDMETHODIMP LejisSearchWebService::OnReadyStateChange() {

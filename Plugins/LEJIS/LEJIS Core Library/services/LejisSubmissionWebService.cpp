@@ -76,7 +76,7 @@ void LejisSubmissionWebService::DoSubmit(const LejisSubmissionDocument& document
         request_.SetHeader(L"SOAPAction", Constants::kSubmitAction);
         request_.SetHeader(L"Content-Type", L"text/xml;charset=utf-8");
         step = 7;
-        request_.Send(msxml::Xml(envelope));
+        request_.Send(msxml::Markup(envelope));
         step = 8;
         if (!asynchronous) platform::WaitUntilComplete(request_);
     } catch (...) {

@@ -1,5 +1,6 @@
 #include "platform/msxml/Document.h"
 
+#include "platform/com/WrittenBytes.h"
 #include "platform/ComError.h"
 #include "platform/InText.h"
 #include "platform/msxml/Depth.h"
@@ -68,6 +69,13 @@ Element Root(const Document& document) {
 
 void SetProperty(const Document& document, const wchar_t* name, const std::wstring& value) {
     Check(document->setProperty(InText(name), _variant_t(ToBstr(value))));
+}
+
+std::wstring Markup(const Document& document) {
+    const auto bytes = platform::Create<platform::WrittenBytes>();
+    const HRESULT saved = document->save(_variant_t(static_cast<IUnknown*>(bytes.Get())));
+    // A text that was cut off within a character has no UTF-8; it is sent nevertheless.
+    return SUCCEEDED(saved) ? platform::FromUtf8(bytes->All()) : Xml(document);
 }
 
 void Save(const Document& document, const std::wstring& path) {

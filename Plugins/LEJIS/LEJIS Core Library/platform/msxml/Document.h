@@ -24,6 +24,10 @@ Element Root(const Document& document);
 
 void SetProperty(const Document& document, const wchar_t* name, const std::wstring& value);
 
+// What a document of this library's own says when it is sent: its xml, without an XML declaration and in a time that
+// grows no faster than the document. An MSXML may write characters as references.
+std::wstring Markup(const Document& document);
+
 // Writes the document to a file, replacing it. Raises when that fails.
 void Save(const Document& document, const std::wstring& path);
 

@@ -80,6 +80,12 @@ std::vector<Node> SelectNodes(const Node& node, const std::wstring& xpath) {
     return found;
 }
 
+Element Copy(const Element& element) {
+    Node copy;
+    Check(element->cloneNode(VARIANT_TRUE, copy.GetAddressOf()));
+    return AsElement(copy);
+}
+
 Element AsElement(const Node& node) { return As<IXMLDOMElement>(node); }
 
 Node FirstChild(const Node& node) {
@@ -117,10 +123,8 @@ Document OwnerDocument(const Node& node) {
 std::wstring Markup(const Element& element) {
     RequireBoundedDepth(element);
     // Not every MSXML writes the ancestors' declarations with a subtree; the root of a document has none to miss.
-    Node copy;
-    Check(element->cloneNode(VARIANT_TRUE, copy.GetAddressOf()));
     const Document alone = CreateDocument();
-    Append(alone, copy);
+    Append(alone, Copy(element));
     return Xml(Root(alone));
 }
 

@@ -36,6 +36,9 @@ Node SelectNode(const Node& node, const std::wstring& xpath);
 std::vector<Node> SelectNodes(const Node& node, const std::wstring& xpath);
 
 // The node, or null, as the element that it is. Raises for a node of another kind.
+// A copy of an element with all that it holds, unattached.
+Element Copy(const Element& element);
+
 Element AsElement(const Node& node);
 
 // Null when there is none.

@@ -1,0 +1,43 @@
+#include "foundation/OutputDocument.h"
+
+#include "foundation/Constants.h"
+#include "platform/msxml/Document.h"
+#include "platform/msxml/Node.h"
+#include "platform/Text.h"
+
+namespace lejis {
+namespace {
+
+constexpr wchar_t kUnit[] = L"ncic";
+
+// A made attribute costs more than the rest of its element, and not every MSXML gives the memory of its namespace back;
+// one that was parsed has neither fault.
+msxml::Element ParsedMeasure(std::wstring_view name, std::wstring_view unitAttribute) {
+    const msxml::Document document = msxml::CreateDocument();
+    msxml::LoadXml(document, platform::Join({L"<", name, L" xmlns:j='", Constants::kJxdmNamespace, L"' ", unitAttribute,
+                                             L"='", kUnit, L"'/>"}));
+    return msxml::Root(document);
+}
+
+}  // namespace
+
+OutputDocument OutputDocument::Create() {
+    OutputDocument own(msxml::CreateDocument());
+    own.patterns_ = std::make_shared<std::vector<Pattern>>();
+    return own;
+}
+
+msxml::Element OutputDocument::CreateMeasure(std::wstring_view name, std::wstring_view unitAttribute) const {
+    if (!patterns_) {
+        const msxml::Element element = msxml::CreateElement(document_, name, Constants::kJxdmNamespace);
+        msxml::SetAttribute(document_, element, unitAttribute, Constants::kJxdmNamespace, kUnit);
+        return element;
+    }
+    for (const Pattern& pattern : *patterns_) {
+        if (pattern.name == name) return msxml::Copy(pattern.element);
+    }
+    patterns_->push_back({name, ParsedMeasure(name, unitAttribute)});
+    return msxml::Copy(patterns_->back().element);
+}
+
+}  // namespace lejis

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "unit_support/SilentNode.h"
+
+#include <oleauto.h>
+
+#include <string>
+
+namespace support {
+
+// A document that has its xml and cannot be written to a stream: on Windows one with half a character in it.
+class UnsavableDocument final : public SilentNode<IXMLDOMDocument2> {
+public:
+    explicit UnsavableDocument(std::wstring xml) : xml_(std::move(xml)) {}
+
+    STDMETHODIMP get_xml(BSTR* xml) override {
+        *xml = SysAllocString(xml_.c_str());
+        return S_OK;
+    }
+    // As one that finds out in the middle of it.
+    STDMETHODIMP save(VARIANT stream) override {
+        Microsoft::WRL::ComPtr<IStream> begun;
+        if (SUCCEEDED(V_UNKNOWN(&stream)->QueryInterface(IID_PPV_ARGS(begun.GetAddressOf())))) {
+            begun->Write("<half", 5, nullptr);
+        }
+        return E_FAIL;
+    }
+
+    STDMETHODIMP get_doctype(IXMLDOMDocumentType**) override { return E_NOTIMPL; }
+    STDMETHODIMP get_implementation(IXMLDOMImplementation**) override { return E_NOTIMPL; }
+    STDMETHODIMP get_documentElement(IXMLDOMElement**) override { return E_NOTIMPL; }
+    STDMETHODIMP putref_documentElement(IXMLDOMElement*) override { return E_NOTIMPL; }
+    STDMETHODIMP createElement(BSTR, IXMLDOMElement**) override { return E_NOTIMPL; }
+    STDMETHODIMP createDocumentFragment(IXMLDOMDocumentFragment**) override { return E_NOTIMPL; }
+    STDMETHODIMP createTextNode(BSTR, IXMLDOMText**) override { return E_NOTIMPL; }
+    STDMETHODIMP createComment(BSTR, IXMLDOMComment**) override { return E_NOTIMPL; }
+    STDMETHODIMP createCDATASection(BSTR, IXMLDOMCDATASection**) override { return E_NOTIMPL; }
+    STDMETHODIMP createProcessingInstruction(BSTR, BSTR, IXMLDOMProcessingInstruction**) override { return E_NOTIMPL; }
+    STDMETHODIMP createAttribute(BSTR, IXMLDOMAttribute**) override { return E_NOTIMPL; }
+    STDMETHODIMP createEntityReference(BSTR, IXMLDOMEntityReference**) override { return E_NOTIMPL; }
+    STDMETHODIMP getElementsByTagName(BSTR, IXMLDOMNodeList**) override { return E_NOTIMPL; }
+    STDMETHODIMP createNode(VARIANT, BSTR, BSTR, Node**) override { return E_NOTIMPL; }
+    STDMETHODIMP nodeFromID(BSTR, Node**) override { return E_NOTIMPL; }
+    STDMETHODIMP load(VARIANT, VARIANT_BOOL*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_readyState(LONG*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_parseError(IXMLDOMParseError**) override { return E_NOTIMPL; }
+    STDMETHODIMP get_url(BSTR*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_async(VARIANT_BOOL*) override { return E_NOTIMPL; }
+    STDMETHODIMP put_async(VARIANT_BOOL) override { return E_NOTIMPL; }
+    STDMETHODIMP abort() override { return E_NOTIMPL; }
+    STDMETHODIMP loadXML(BSTR, VARIANT_BOOL*) override { return E_NOTIMPL; }
+    STDMETHODIMP get_validateOnParse(VARIANT_BOOL*) override { return E_NOTIMPL; }
+    STDMETHODIMP put_validateOnParse(VARIANT_BOOL) override { return E_NOTIMPL; }
+    STDMETHODIMP get_resolveExternals(VARIANT_BOOL*) override { return E_NOTIMPL; }
+    STDMETHODIMP put_resolveExternals(VARIANT_BOOL) override { return E_NOTIMPL; }
+    STDMETHODIMP get_preserveWhiteSpace(VARIANT_BOOL*) override { return E_NOTIMPL; }
+    STDMETHODIMP put_preserveWhiteSpace(VARIANT_BOOL) override { return E_NOTIMPL; }
+    STDMETHODIMP put_onreadystatechange(VARIANT) override { return E_NOTIMPL; }
+    STDMETHODIMP put_ondataavailable(VARIANT) override { return E_NOTIMPL; }
+    STDMETHODIMP put_ontransformnode(VARIANT) override { return E_NOTIMPL; }
+    STDMETHODIMP get_namespaces(IXMLDOMSchemaCollection**) override { return E_NOTIMPL; }
+    STDMETHODIMP get_schemas(VARIANT*) override { return E_NOTIMPL; }
+    STDMETHODIMP putref_schemas(VARIANT) override { return E_NOTIMPL; }
+    STDMETHODIMP validate(IXMLDOMParseError**) override { return E_NOTIMPL; }
+    STDMETHODIMP setProperty(BSTR, VARIANT) override { return E_NOTIMPL; }
+    STDMETHODIMP getProperty(BSTR, VARIANT*) override { return E_NOTIMPL; }
+
+private:
+    const std::wstring xml_;
+};
+
+}  // namespace support
