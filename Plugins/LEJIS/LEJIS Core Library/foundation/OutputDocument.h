@@ -20,8 +20,8 @@ public:
     operator const msxml::Document&() const { return document_; }
     const msxml::Document& Get() const { return document_; }
 
-    // A new, unattached element in the GJXDM namespace, with an attribute there which says that its value is in the NCIC
-    // unit. An element has one such attribute, always the same.
+    // A new, unattached element in the GJXDM namespace, with an attribute there which says that its value is in the
+    // NCIC unit. An element has one such attribute, always the same.
     msxml::Element CreateMeasure(std::wstring_view name, std::wstring_view unitAttribute) const;
 
 private:

@@ -12,5 +12,5 @@
     STDMETHODIMP FromXmlElement(IDispatch* elem) override {                                            \
         return Guard([&] { FromXmlElement(LejisUtils::ElementToRead(elem)); });                        \
     }                                                                                                  \
-    msxml::Element ToXmlElement(const OutputDocument& document) const;                                \
+    msxml::Element ToXmlElement(const OutputDocument& document) const;                                 \
     void FromXmlElement(const msxml::Element& element);
