@@ -52,6 +52,12 @@ LateBound ReadEnvelope(const support::Document& document) {
     return envelope;
 }
 
+std::wstring Repeated(const std::wstring& text, int times) {
+    std::wstring all;
+    for (int time = 0; time < times; ++time) all += text;
+    return all;
+}
+
 void NestBelow(const support::Document& document, const wchar_t* path) {
     ComPtr<IXMLDOMNode> node;
     ASSERT_EQ(S_OK, document->selectSingleNode(_bstr_t(path), node.GetAddressOf()));
@@ -73,6 +79,24 @@ TEST(DeepXml, IsRefusedByEveryReader) {
             EXPECT_TRUE(support::FailedWith(result, E_INVALIDARG, kTooDeep)) << support::Utf8(row.name);
         });
         EXPECT_GE(readers, 15);
+    });
+}
+
+TEST(DeepXml, InAnIncidentOfAnAnswerIsReadAsDeepAsItParsesAndRefusedBeyond) {
+    OnASmallStack([] {
+        const support::Document document = support::Parse(
+            L"<lejis:LEJISIndexInquiryResponse><lejis:RMSIncidentIndexCard><card:LejisIndexUid/>"
+            L"<j:SubmissionSubmitter.Organization/>" +
+            Repeated(L"<j:a>", 250) + Repeated(L"</j:a>", 250) +
+            L"</lejis:RMSIncidentIndexCard></lejis:LEJISIndexInquiryResponse>");
+        const LateBound response = CreateLateBound(L"LejisInquiryResponse");
+        const _variant_t argument(static_cast<IDispatch*>(document.Get()));
+        EXPECT_TRUE(Done(response.Call(L"FromXmlDocument", {argument})));
+        ComPtr<IXMLDOMNode> innermost;
+        ASSERT_EQ(S_OK,
+                  document->selectSingleNode(_bstr_t(L"//*[local-name() = 'a' and not(*)]"), innermost.GetAddressOf()));
+        support::NestIn(innermost.Get(), kVeryDeep, L"http://www.it.ojp.gov/jxdm/3.0.3");
+        EXPECT_TRUE(RaisedBy(response.Call(L"FromXmlDocument", {argument}), E_INVALIDARG, kTooDeep));
     });
 }
 

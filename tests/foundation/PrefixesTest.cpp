@@ -28,24 +28,11 @@ TEST(Prefixes, FindTheNamespaceOfAName) {
     for (const Row& row : kRows) {
         const std::wstring name = std::wstring(row.prefix) + L":Local.Name";
         EXPECT_EQ(row.uri, NamespaceOf(name));
-        EXPECT_EQ(row.uri, Expand(name).namespaceUri);
-        EXPECT_EQ(L"Local.Name", Expand(name).localName);
-    }
-}
-
-TEST(Prefixes, KnowTheirNamespacesByTheTextOfConstants) {
-    for (const Row& row : kRows) {
-        const std::wstring uri = row.uri;
-        EXPECT_EQ(Expand(std::wstring(row.prefix) + L":Name").namespaceUri.data(), KnownNamespace(uri).data());
-    }
-    for (const wchar_t* uri : {L"", L"http://www.it.ojp.gov/jxdm/3.0.4", L"http://www.it.ojp.gov/jxdm/3.0.3/"}) {
-        EXPECT_TRUE(KnownNamespace(uri).empty()) << support::Utf8(uri);
     }
 }
 
 TEST(Prefixes, RefuseNamesWithoutAKnownPrefix) {
     for (const wchar_t* name : {L"", L"Name", L":Name", L"xsd:Name", L"J:Name", L"lejis2:Name"}) {
-        EXPECT_THROW(Expand(name), std::logic_error) << support::Utf8(name);
         EXPECT_THROW(NamespaceOf(name), std::logic_error) << support::Utf8(name);
     }
 }

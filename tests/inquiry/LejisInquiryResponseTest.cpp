@@ -1,6 +1,11 @@
 #include "inquiry/LejisInquiryResponse.h"
 
+#include "foundation/Constants.h"
+#include "platform/msxml/Depth.h"
+#include "platform/msxml/Document.h"
+#include "platform/msxml/Node.h"
 #include "support/ComCheck.h"
+#include "support/DeepXml.h"
 #include "support/Xml.h"
 #include "unit_support/Answers.h"
 #include "unit_support/Raises.h"
@@ -13,6 +18,8 @@ using support::ParseElement;
 
 namespace lejis {
 namespace {
+
+constexpr wchar_t kTooDeep[] = L"The XML is nested too deep: 260 levels or more";
 
 std::wstring Answer(const std::wstring& content) {
     return L"<lejis:LEJISIndexInquiryResponse>" + content + L"</lejis:LEJISIndexInquiryResponse>";
@@ -81,6 +88,47 @@ TEST(LejisInquiryResponse, FindsTheAnswerAtAnyDepth) {
     const auto document = support::Parse(support::InquiryResponse(AnsweredCard(L"1")));
     EXPECT_OK(static_cast<ILejisInquiryResponse*>(response.Get())->FromXmlDocument(document.Get()));
     EXPECT_EQ(1u, response->IncidentIndexCards->Count());
+}
+
+TEST(LejisInquiryResponse, TakesTheFirstAnswerInDocumentOrder) {
+    const auto response = platform::Create<LejisInquiryResponse>();
+    response->FromXmlBelow(
+        support::Parse(L"<r><a>text<b>" + Answer(Counted(L"1")) + L"</b></a>" + Answer(Counted(L"2")) + L"</r>"));
+    EXPECT_EQ(1, response->IncidentCount);
+    response->FromXmlBelow(ParseElement(Answer(Counted(L"3") + Answer(Counted(L"4")))));
+    EXPECT_EQ(4, response->IncidentCount);
+}
+
+TEST(LejisInquiryResponse, TakesTheFirstCountOfSeveral) {
+    EXPECT_EQ(1, Read(Counted(L"1") + AnsweredCard(L"1") + Counted(L"2"))->IncidentCount);
+    EXPECT_EQ(0, Read(L"<lejis:incidentcount/>" + Counted(L"2"))->IncidentCount);
+}
+
+TEST(LejisInquiryResponse, RefusesWhatIsTooDeepWhereItReads) {
+    const auto document = support::Parse(Answer(Counted(L"1") + AnsweredCard(L"1") + L"<x/>"));
+    const auto response = platform::Create<LejisInquiryResponse>();
+    const auto read = [&] {
+        return static_cast<ILejisInquiryResponse*>(response.Get())->FromXmlDocument(document.Get());
+    };
+    const msxml::Element answer = msxml::Root(document);
+    support::NestIn(msxml::ChildElements(answer)[2].Get(), support::kVeryDeep);
+    EXPECT_OK(read());
+    EXPECT_EQ(1u, response->IncidentIndexCards->Count());
+    support::NestIn(msxml::ChildElements(answer)[1].Get(), support::kVeryDeep, Constants::kJxdmNamespace);
+    EXPECT_TRUE(support::FailedWith(read(), E_INVALIDARG, kTooDeep));
+    answer->removeChild(msxml::ChildElements(answer)[1].Get(), nullptr);
+    EXPECT_OK(read());
+    support::NestIn(msxml::ChildElements(answer)[0].Get(), support::kVeryDeep);
+    EXPECT_TRUE(support::FailedWith(read(), E_INVALIDARG, kTooDeep));
+}
+
+TEST(LejisInquiryResponse, LooksForItsAnswerAsDeepAsMsxmlParses) {
+    const auto document = support::Parse(L"<r/>");
+    support::NestIn(msxml::Root(document).Get(), msxml::kMaximumDepth);
+    const auto response = platform::Create<LejisInquiryResponse>();
+    EXPECT_TRUE(support::Raises(E_INVALIDARG, kTooDeep, [&] { response->FromXmlBelow(document); }));
+    EXPECT_TRUE(support::Raises(support::kObjectRequired, L"Object required",
+                                [&] { response->FromXmlBelow(support::Parse(support::Nested(250))); }));
 }
 
 TEST(LejisInquiryResponse, RaisesTheObjectErrorWithoutAnAnswer) {

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <oleauto.h>
+
 #include <cmath>
 #include <limits>
 
@@ -70,6 +72,22 @@ TEST(Conversions, ReadsNumbers) {
     EXPECT_EQ(99999.0, ParseNumber(L"99999"));
     for (const wchar_t* text : {L"", L" ", L"-", L"12A", L"1 2", L"0x10"}) {
         EXPECT_EQ(std::nullopt, ParseNumber(text)) << Utf8(text);
+    }
+}
+
+TEST(Conversions, ReadsDigitsAloneAsThePlatformDoes) {
+    // With as many digits as are read here, and with one more.
+    for (const wchar_t* text : {L"0", L"00510", L"999999999", L"1000000000", L"0000000001", L"2147483647"}) {
+        double number = 0;
+        ASSERT_EQ(S_OK, VarR8FromStr(const_cast<OLECHAR*>(text), LOCALE_USER_DEFAULT, 0, &number)) << Utf8(text);
+        EXPECT_EQ(number, ParseNumber(text)) << Utf8(text);
+        EXPECT_EQ(static_cast<long>(number), ParseLong(text)) << Utf8(text);
+    }
+    EXPECT_EQ(short{7}, ParseShort(L"000000007"));
+    // Digits of other scripts, which the platform does not read either.
+    for (const wchar_t* text : {L"\x0661\x0662", L"1\xFF12", L"12 3a"}) {
+        EXPECT_EQ(std::nullopt, ParseNumber(text)) << Utf8(text);
+        EXPECT_EQ(std::nullopt, ParseShort(text)) << Utf8(text);
     }
 }
 

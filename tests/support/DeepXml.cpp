@@ -8,14 +8,16 @@ using Microsoft::WRL::ComPtr;
 
 namespace support {
 
-void NestIn(IXMLDOMNode* node, int depth) {
+void NestIn(IXMLDOMNode* node, int depth, const std::wstring& namespaceUri) {
     ComPtr<IXMLDOMDocument> document;
     ComPtr<IXMLDOMNode> innermost(node);
-    const _bstr_t name(L"a");
+    const _bstr_t name(namespaceUri.empty() ? L"a" : L"j:a");
+    const _bstr_t uri(namespaceUri.c_str());
+    const _variant_t elementType(static_cast<long>(NODE_ELEMENT));
     ASSERT_OK(node->get_ownerDocument(document.GetAddressOf()));
     for (int level = 0; level < depth; ++level) {
-        ComPtr<IXMLDOMElement> next;
-        ASSERT_OK(document->createElement(name, next.GetAddressOf()));
+        ComPtr<IXMLDOMNode> next;
+        ASSERT_OK(document->createNode(elementType, name, uri, next.GetAddressOf()));
         ASSERT_OK(innermost->appendChild(next.Get(), nullptr));
         innermost = next;
     }

@@ -1,58 +1,44 @@
-// Reads the children of one element by name, in one pass over them: a query for each field costs sixty times as much.
 #pragma once
 
+#include "foundation/ElementName.h"
+#include "foundation/ElementTree.h"
 #include "platform/msxml/MsXml.h"
-#include "platform/OutText.h"
 
-#include <array>
 #include <cstddef>
-#include <memory_resource>
+#include <memory>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
 namespace lejis {
 
-// Paths have the meaning of XPath: "a/b" is the first b, in document order, below any child a. Names are compared by
-// namespace and local name.
+// Finds what an element holds by name. Paths have the meaning of XPath: "a/b" is the first b, in document order, below
+// any child a. Names are compared by namespace and local name.
 class ElementReader {
 public:
-    explicit ElementReader(const msxml::Node& element);
+    // Takes all of the element from MSXML; the readers of its children share that.
+    ElementReader(const msxml::Element& element);
 
-    // The text of what the path selects, or an empty text. An empty element has an empty text too.
-    platform::OutText Text(std::wstring_view path) const;
+    // The text of what the path selects, or an empty text. An empty element has an empty text too. Valid as long as
+    // there is a reader of the same tree.
+    std::wstring_view Text(const ElementPath& path) const&;
+    std::wstring_view Text(const ElementPath& path) const&& = delete;
     // The same, telling an empty element from a missing one.
-    std::optional<platform::OutText> TextIfAny(std::wstring_view path) const;
+    std::optional<std::wstring_view> TextIfAny(const ElementPath& path) const&;
+    std::optional<std::wstring_view> TextIfAny(const ElementPath& path) const&& = delete;
 
-    // The first child, or all children, of this name; null and none when there is none.
-    msxml::Element Child(std::wstring_view name) const;
-    std::vector<msxml::Element> Children(std::wstring_view name) const;
+    // The first element that the path selects, and all children of a name; none when there is none.
+    std::optional<ElementReader> Child(const ElementPath& path) const;
+    std::vector<ElementReader> Children(const ElementName& name) const;
+
+    // The text of the element itself.
+    std::wstring_view Text() const { return tree_->TextOf(number_); }
 
 private:
-    struct NamedChild {
-        msxml::Node node;
-        // That of Constants.
-        const wchar_t* namespaceUri;
-        // Where its local name stands in names_.
-        size_t nameBegin;
-        size_t nameLength;
-    };
+    ElementReader(const std::shared_ptr<const ElementTree>& tree, size_t number) : tree_(tree), number_(number) {}
 
-    // The first child of this name, behind `previous` if there is one; null when there is none.
-    const NamedChild* Next(std::wstring_view name, const NamedChild* previous = nullptr) const;
-    std::wstring_view NameOf(const NamedChild& child) const;
-
-    // Enough for most elements, so that reading one takes nothing from the heap.
-    std::array<std::byte, 1536> memory_;
-    std::pmr::monotonic_buffer_resource resource_{memory_.data(), memory_.size()};
-    // Those in a namespace of Constants.
-    std::pmr::vector<NamedChild> children_{&resource_};
-    // Copied, so that MSXML gets its texts back at once and uses their memory for the next ones.
-    std::pmr::wstring names_{&resource_};
+    std::shared_ptr<const ElementTree> tree_;
+    size_t number_;
 };
-
-// What a path selects, for an element of which no more is asked; null when it selects nothing.
-msxml::Node FindBelow(const msxml::Node& element, std::wstring_view path);
 
 }  // namespace lejis

@@ -14,8 +14,8 @@ msxml::Element LejisAdHocInquiryArguments::ToXmlElement(const OutputDocument& do
     return query.Element();
 }
 
-void LejisAdHocInquiryArguments::FromXmlElement(const msxml::Element& element) {
-    QueryString = ElementReader(element).Text(L"lejis:queryString");
+void LejisAdHocInquiryArguments::FromXmlElement(const ElementReader& words) {
+    QueryString = words.Text(L"lejis:queryString");
 }
 
 }  // namespace lejis

@@ -20,15 +20,14 @@ msxml::Element LejisInquiryControls::ToXmlElement(const OutputDocument& document
     return controls.Element();
 }
 
-void LejisInquiryControls::FromXmlElement(const msxml::Element& element) {
-    const ElementReader controls(element);
+void LejisInquiryControls::FromXmlElement(const ElementReader& controls) {
     // Exactly "false" is false; every other text, "FALSE" and "0" among them, is true on purpose.
     const auto irrInfo = controls.TextIfAny(L"lejis:irrinfo");
-    IrrInfo = irrInfo && irrInfo->View() != L"false";
+    IrrInfo = irrInfo && irrInfo != L"false";
     MaxIncidents = platform::ParseLong(controls.Text(L"lejis:maxincidents"));
     ExcludedORIIDs = platform::Create<Collection>();
-    for (const msxml::Element& excluded : controls.Children(L"lejis:excludedOriid")) {
-        ExcludedORIIDs->AddText(msxml::Text(excluded));
+    for (const ElementReader& excluded : controls.Children(L"lejis:excludedOriid")) {
+        ExcludedORIIDs->AddText(excluded.Text());
     }
 }
 

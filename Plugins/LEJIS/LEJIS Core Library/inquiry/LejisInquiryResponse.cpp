@@ -1,17 +1,32 @@
 #include "inquiry/LejisInquiryResponse.h"
 
-#include "foundation/ElementReader.h"
+#include "foundation/ElementName.h"
 #include "platform/Conversions.h"
+#include "platform/msxml/Depth.h"
 #include "platform/msxml/Node.h"
 
 namespace lejis {
 namespace {
 
 // The number that the text begins with, halves to the even neighbour; 0 for a text that begins with none.
-long Count(const std::wstring& text) {
+long Count(std::wstring_view text) {
     const auto count = platform::RoundTo<long>(_variant_t(platform::LeadingNumber(text)));
     if (!count) throw platform::Overflow();
     return *count;
+}
+
+bool IsNamed(const msxml::Node& node, const ElementName& name) {
+    return msxml::LocalName(node) == name.LocalName() && msxml::NamespaceUri(node) == name.NamespaceUri();
+}
+
+// The first answer below the node in document order. A query would go through all that stands behind it as well.
+msxml::Node FindAnswer(const msxml::Node& node, int depth = 0) {
+    if (depth == msxml::kMaximumDepth) msxml::RaiseTooDeep();
+    for (msxml::Node child = msxml::FirstChild(node); child; child = msxml::NextSibling(child)) {
+        if (IsNamed(child, L"lejis:LEJISIndexInquiryResponse")) return child;
+        if (msxml::Node found = FindAnswer(child, depth + 1)) return found;
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -37,22 +52,26 @@ STDMETHODIMP LejisInquiryResponse::FromXmlDocument(IDispatch* doc) {
 }
 
 void LejisInquiryResponse::FromXmlElement(const msxml::Element& element) {
-    const ElementReader response(element);
     IncidentIndexCards = platform::Create<Collection>();
-    for (const msxml::Element& cardElement : response.Children(L"lejis:RMSIncidentIndexCard")) {
-        const auto card = platform::Create<LejisIncidentIndexCard>();
-        card->FromXmlElement(cardElement);
-        IncidentIndexCards->AddObject(card->Dispatch());
+    std::optional<platform::OutText> count;
+    // One after the other: a large answer would be too much to take at once.
+    for (msxml::Node child = msxml::FirstChild(element); child; child = msxml::NextSibling(child)) {
+        if (IsNamed(child, L"lejis:RMSIncidentIndexCard")) {
+            const auto card = platform::Create<LejisIncidentIndexCard>();
+            card->FromXmlElement(msxml::AsElement(child));
+            IncidentIndexCards->AddObject(card->Dispatch());
+        } else if (!count && IsNamed(child, L"lejis:incidentcount")) {
+            msxml::RequireBoundedDepth(child);
+            count.emplace(msxml::Text(child));
+        }
     }
-    IncidentCount = Count(response.Text(L"lejis:incidentcount"));
+    IncidentCount = Count(count ? count->View() : std::wstring_view());
 }
 
 void LejisInquiryResponse::FromXmlBelow(const msxml::Node& node) {
-    const msxml::Node response = msxml::SelectNode(node, L".//lejis:LEJISIndexInquiryResponse");
-    if (!response) throw platform::ObjectRequired();
-    msxml::Element element;
-    platform::Check(response.As(&element));
-    FromXmlElement(element);
+    const msxml::Node answer = FindAnswer(node);
+    if (!answer) throw platform::ObjectRequired();
+    FromXmlElement(msxml::AsElement(answer));
 }
 
 }  // namespace lejis

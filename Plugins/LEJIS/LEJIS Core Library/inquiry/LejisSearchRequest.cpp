@@ -13,8 +13,8 @@ void Write(ElementWriter& inquiry, const Block& block) {
 }
 
 template <typename Block>
-void Read(const ElementReader& inquiry, const wchar_t* name, const Block& block) {
-    if (const msxml::Element element = inquiry.Child(name)) block->FromXmlElement(element);
+void Read(const ElementReader& inquiry, const ElementPath& name, const Block& block) {
+    if (const auto element = inquiry.Child(name)) block->FromXmlElement(*element);
 }
 
 }  // namespace
@@ -53,8 +53,7 @@ msxml::Document LejisSearchRequest::ToXmlDocument() const {
     return document;
 }
 
-void LejisSearchRequest::FromXmlElement(const msxml::Element& element) {
-    const ElementReader inquiry(element);
+void LejisSearchRequest::FromXmlElement(const ElementReader& inquiry) {
     Read(inquiry, L"inq:PersonInquiryArguments", personArguments);
     Read(inquiry, L"inq:LocationInquiryArguments", LocationArguments);
     Read(inquiry, L"inq:PropertyInquiryArguments", PropertyArguments);

@@ -30,7 +30,7 @@ public:
     msxml::Element ToXmlElement(const OutputDocument& document) const;
     msxml::Document ToXmlDocument() const;
     // A block whose element is missing stays as it is.
-    void FromXmlElement(const msxml::Element& element);
+    void FromXmlElement(const ElementReader& element);
 };
 
 }  // namespace lejis

@@ -20,8 +20,7 @@ msxml::Element LocationInquiryArguments::ToXmlElement(const OutputDocument& docu
     return location.Element();
 }
 
-void LocationInquiryArguments::FromXmlElement(const msxml::Element& element) {
-    const ElementReader location(element);
+void LocationInquiryArguments::FromXmlElement(const ElementReader& location) {
     StreetFullText = location.Text(L"j:StreetFullText");
     StreetName = location.Text(L"j:StreetName");
     City = location.Text(L"j:LocationCityName");

@@ -4,7 +4,7 @@
 
 namespace lejis {
 
-void ReadNumber(const std::wstring& text, NullableInteger& holder) {
+void ReadNumber(std::wstring_view text, NullableInteger& holder) {
     if (platform::ParseNumber(text)) {
         holder.Assign(_variant_t(platform::LeadingNumber(text)));
     } else {

@@ -2,11 +2,11 @@
 
 #include "foundation/NullableInteger.h"
 
-#include <string>
+#include <string_view>
 
 namespace lejis {
 
 // Sets the holder to the number that a numeric text begins with, and empties it for any other text.
-void ReadNumber(const std::wstring& text, NullableInteger& holder);
+void ReadNumber(std::wstring_view text, NullableInteger& holder);
 
 }  // namespace lejis

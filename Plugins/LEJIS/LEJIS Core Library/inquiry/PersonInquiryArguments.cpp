@@ -38,8 +38,7 @@ msxml::Element PersonInquiryArguments::ToXmlElement(const OutputDocument& docume
     return person.Element();
 }
 
-void PersonInquiryArguments::FromXmlElement(const msxml::Element& element) {
-    const ElementReader person(element);
+void PersonInquiryArguments::FromXmlElement(const ElementReader& person) {
     SurName = person.Text(L"j:PersonSurName");
     GivenName = person.Text(L"j:PersonGivenName");
     MiddleName = person.Text(L"j:PersonMiddleName");

@@ -18,8 +18,7 @@ msxml::Element PropertyInquiryArguments::ToXmlElement(const OutputDocument& docu
     return property.Element();
 }
 
-void PropertyInquiryArguments::FromXmlElement(const msxml::Element& element) {
-    const ElementReader property(element);
+void PropertyInquiryArguments::FromXmlElement(const ElementReader& property) {
     Category = property.Text(L"j:PropertyCategoryText");
     Make = property.Text(L"j:PropertyMakeName");
     Model = property.Text(L"j:PropertyModelName");

@@ -30,8 +30,7 @@ msxml::Element VehicleInquiryArguments::ToXmlElement(const OutputDocument& docum
     return vehicle.Element();
 }
 
-void VehicleInquiryArguments::FromXmlElement(const msxml::Element& element) {
-    const ElementReader vehicle(element);
+void VehicleInquiryArguments::FromXmlElement(const ElementReader& vehicle) {
     VIN = vehicle.Text(L"j:VehicleID/j:ID");
     LicensePlate = vehicle.Text(L"j:VehicleLicensePlateID/j:ID");
     LicensePlateState = vehicle.Text(L"j:VehicleLicensePlateID/j:IDJurisdictionCode.ncicLSTA");

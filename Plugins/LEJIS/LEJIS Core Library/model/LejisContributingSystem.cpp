@@ -27,8 +27,7 @@ msxml::Element LejisContributingSystem::ToXmlElement(const OutputDocument& docum
     return system.Element();
 }
 
-void LejisContributingSystem::FromXmlElement(const msxml::Element& element) {
-    const ElementReader system(element);
+void LejisContributingSystem::FromXmlElement(const ElementReader& system) {
     CompanyName = system.Text(L"ext:companyName");
     SystemName = system.Text(L"ext:systemName");
     SystemVersion = system.Text(L"ext:systemVersion");

@@ -15,10 +15,16 @@ void WriteCards(ElementWriter& incident, const Collection& cards) {
     for (const auto& card : cards.ItemsAs<Card>()) incident.Child(card->ToXmlElement(incident.Document()));
 }
 
+ElementReader RequiredChild(const ElementReader& element, const ElementPath& name) {
+    auto child = element.Child(name);
+    if (!child) LejisUtils::RequireElement(nullptr);
+    return *std::move(child);
+}
+
 template <typename Card>
-Microsoft::WRL::ComPtr<Collection> ReadCardsOf(const std::vector<msxml::Element>& elements) {
+Microsoft::WRL::ComPtr<Collection> ReadCardsOf(const std::vector<ElementReader>& elements) {
     auto cards = platform::Create<Collection>();
-    for (const msxml::Element& element : elements) {
+    for (const ElementReader& element : elements) {
         const auto card = platform::Create<Card>();
         try {
             card->FromXmlElement(element);
@@ -69,11 +75,10 @@ msxml::Element LejisIncidentIndexCard::ToXmlElement(const OutputDocument& docume
     return incident.Element();
 }
 
-void LejisIncidentIndexCard::FromXmlElement(const msxml::Element& element) {
-    const ElementReader incident(element);
+void LejisIncidentIndexCard::FromXmlElement(const ElementReader& incident) {
     ReadIdentifiers(incident);
     ReadActivityDateTime(incident);
-    if (const msxml::Element location = incident.Child(L"j:IncidentLocation")) Location->FromXmlElement(location);
+    if (const auto location = incident.Child(L"j:IncidentLocation")) Location->FromXmlElement(*location);
     SetChargeNCICCode(incident.Text(L"j:ChargeNCICCode"));
     SetChargeDescriptionText(incident.Text(L"j:ChargeDescriptionText"));
     SetCaveatText(incident.Text(L"j:CaveatText"));
@@ -93,21 +98,18 @@ bool LejisIncidentIndexCard::HasCaution() const {
 }
 
 void LejisIncidentIndexCard::ReadIdentifiers(const ElementReader& incident) {
-    const msxml::Element identifiers = incident.Child(L"card:LejisIndexUid");
-    LejisUtils::RequireElement(identifiers);
-    const ElementReader identifier(identifiers);
-    SetOrganizationORI(identifier.Text(L"j:OrganizationORIID/j:ID"));
-    SetActivityID(identifier.Text(L"j:ActivityID/j:ID"));
+    const ElementReader identifiers = RequiredChild(incident, L"card:LejisIndexUid");
+    SetOrganizationORI(identifiers.Text(L"j:OrganizationORIID/j:ID"));
+    SetActivityID(identifiers.Text(L"j:ActivityID/j:ID"));
     SubmittedDate->Set(platform::ParseDate(incident.Text(L"j:SubmissionSubmittedDate")));
-    const msxml::Element submitter = incident.Child(L"j:SubmissionSubmitter.Organization");
-    LejisUtils::RequireElement(submitter);
-    SetOrganizationName(ElementReader(submitter).Text(L"j:OrganizationName"));
+    const ElementReader submitter = RequiredChild(incident, L"j:SubmissionSubmitter.Organization");
+    SetOrganizationName(submitter.Text(L"j:OrganizationName"));
 }
 
 void LejisIncidentIndexCard::ReadActivityDateTime(const ElementReader& incident) {
     const std::wstring text =
         platform::Join({incident.Text(L"j:ActivityDate"), L" ", incident.Text(L"j:ActivityTime")});
-    ActivityDateTime->Set(platform::ParseDate(std::wstring(platform::TrimBlanks(text))));
+    ActivityDateTime->Set(platform::ParseDate(platform::TrimBlanks(text)));
 }
 
 void LejisIncidentIndexCard::ReadCards(const ElementReader& incident) {

@@ -38,14 +38,13 @@ msxml::Element LejisPersonIndexCard::ToXmlElement(const OutputDocument& document
     return card.Element();
 }
 
-void LejisPersonIndexCard::FromXmlElement(const msxml::Element& element) {
+void LejisPersonIndexCard::FromXmlElement(const ElementReader& card) {
     Reset();
-    const ElementReader card(element);
     SetOrganizationName(card.Text(L"j:IncidentJurisdictionalOrganization/j:OrganizationName"));
     SetSurName(card.Text(L"j:PersonSurName"));
     SetMiddleName(card.Text(L"j:PersonMiddleName"));
     SetGivenName(card.Text(L"j:PersonGivenName"));
-    if (const msxml::Element residence = card.Child(L"j:Residence")) address->FromXmlElement(residence);
+    if (const auto residence = card.Child(L"j:Residence")) address->FromXmlElement(*residence);
     SetSSN(card.Text(L"j:PersonSSNID/j:ID"));
     SetDriversLicense(card.Text(L"j:PersonDriverLicenseID/j:ID"));
     SetDriversLicenseState(card.Text(L"j:PersonDriverLicenseID/j:IDJurisdictionCode.ncicLSTA"));

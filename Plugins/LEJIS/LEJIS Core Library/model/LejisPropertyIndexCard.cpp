@@ -22,9 +22,8 @@ msxml::Element LejisPropertyIndexCard::ToXmlElement(const OutputDocument& docume
     return card.Element();
 }
 
-void LejisPropertyIndexCard::FromXmlElement(const msxml::Element& element) {
+void LejisPropertyIndexCard::FromXmlElement(const ElementReader& card) {
     Reset();
-    const ElementReader card(element);
     SetNibrsCategoryCode(card.Text(L"j:PropertyCategoryCode.nibrsPropertyCategory"));
     SetCategory(card.Text(L"j:PropertyTypeText"));
     SetMake(card.Text(L"j:PropertyMakeName"));

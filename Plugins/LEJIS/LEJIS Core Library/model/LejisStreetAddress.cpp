@@ -31,21 +31,20 @@ msxml::Element LejisStreetAddress::StreetElement(const OutputDocument& document)
     return street.Element();
 }
 
-void LejisStreetAddress::FromXmlElement(const msxml::Element& element) {
+void LejisStreetAddress::FromXmlElement(const ElementReader& element) {
     Reset();
-    const msxml::Node address = FindBelow(element, L"j:LocationAddress");
+    const auto address = element.Child(L"j:LocationAddress");
     if (!address) return;
-    const ElementReader reader(address);
-    if (const msxml::Element street = reader.Child(L"j:LocationStreet")) ReadStreet(ElementReader(street));
-    SetCity(reader.Text(L"j:LocationCityName"));
-    SetState(reader.Text(L"j:LocationStateCode.ncicLSTA"));
-    SetZIP(reader.Text(L"j:LocationPostalCodeID/j:ID"));
+    if (const auto street = address->Child(L"j:LocationStreet")) ReadStreet(*street);
+    SetCity(address->Text(L"j:LocationCityName"));
+    SetState(address->Text(L"j:LocationStateCode.ncicLSTA"));
+    SetZIP(address->Text(L"j:LocationPostalCodeID/j:ID"));
     texts_.Fit();
 }
 
 void LejisStreetAddress::ReadStreet(const ElementReader& street) {
     SetStreetFullText(street.Text(L"j:StreetFullText"));
-    const std::wstring number = street.Text(L"j:StreetNumberText");
+    const std::wstring_view number = street.Text(L"j:StreetNumberText");
     if (platform::ParseNumber(number)) {
         StreetNumber->Set(platform::ParseLong(number));
     } else {

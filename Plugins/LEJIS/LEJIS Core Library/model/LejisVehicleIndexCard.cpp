@@ -24,9 +24,8 @@ msxml::Element LejisVehicleIndexCard::ToXmlElement(const OutputDocument& documen
     return card.Element();
 }
 
-void LejisVehicleIndexCard::FromXmlElement(const msxml::Element& element) {
+void LejisVehicleIndexCard::FromXmlElement(const ElementReader& card) {
     Reset();
-    const ElementReader card(element);
     SetMake(card.Text(L"ext:VehicleMakeText"));
     SetModel(card.Text(L"j:VehicleModelCodeText"));
     SetStyle(card.Text(L"ext:VehicleStyleText"));

@@ -4,9 +4,9 @@
 
 namespace lejis {
 
-void ReadFlag(const std::wstring& text, bool& flag) { flag = platform::ParseBoolean(text).value_or(flag); }
+void ReadFlag(std::wstring_view text, bool& flag) { flag = platform::ParseBoolean(text).value_or(flag); }
 
-void ReadMeasure(const std::wstring& text, NullableInteger& holder) {
+void ReadMeasure(std::wstring_view text, NullableInteger& holder) {
     if (const auto number = platform::ParseNumber(text)) holder.Assign(_variant_t(*number));
 }
 

@@ -3,14 +3,14 @@
 
 #include "foundation/NullableInteger.h"
 
-#include <string>
+#include <string_view>
 
 namespace lejis {
 
 // "true" and "false" in any letter case, or a number, 0 being false.
-void ReadFlag(const std::wstring& text, bool& flag);
+void ReadFlag(std::wstring_view text, bool& flag);
 
 // A numeric text, rounded by the holder; out of its range it becomes 0.
-void ReadMeasure(const std::wstring& text, NullableInteger& holder);
+void ReadMeasure(std::wstring_view text, NullableInteger& holder);
 
 }  // namespace lejis

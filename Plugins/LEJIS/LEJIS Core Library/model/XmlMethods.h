@@ -1,6 +1,7 @@
 // The two methods by which a card meets its clients: they hand on to the card's own ToXmlElement and FromXmlElement.
 #pragma once
 
+#include "foundation/ElementReader.h"
 #include "foundation/LejisUtils.h"
 #include "foundation/OutputDocument.h"
 #include "platform/msxml/Document.h"
@@ -13,4 +14,4 @@
         return Guard([&] { FromXmlElement(LejisUtils::ElementToRead(elem)); });                        \
     }                                                                                                  \
     msxml::Element ToXmlElement(const OutputDocument& document) const;                                 \
-    void FromXmlElement(const msxml::Element& element);
+    void FromXmlElement(const ElementReader& element);

@@ -2,33 +2,42 @@
 
 #include "platform/com/Arguments.h"
 #include "platform/ComError.h"
+#include "platform/InText.h"
 #include "platform/IsoDate.h"
 #include "platform/Text.h"
 
 #include <oleauto.h>
 
 #include <cmath>
+#include <utility>
 
 namespace platform {
 namespace {
 
 constexpr LCID kUserLocale = LOCALE_USER_DEFAULT;
 
-// mingw-w64 declares the source texts of these functions as writable; none of them writes.
-OLECHAR* Source(const std::wstring& text) { return const_cast<OLECHAR*>(text.c_str()); }
-
 // A number that is none converts to nothing everywhere; the platforms disagree on what it becomes.
 bool IsNoNumber(const VARIANT& value) {
     return (V_VT(&value) == VT_R8 && std::isnan(V_R8(&value))) || (V_VT(&value) == VT_R4 && std::isnan(V_R4(&value)));
 }
 
-size_t SkipDigits(const std::wstring& text, size_t at) {
+size_t SkipDigits(std::wstring_view text, size_t at) {
     while (at < text.size() && text[at] >= L'0' && text[at] <= L'9') ++at;
     return at;
 }
 
-size_t SkipSign(const std::wstring& text, size_t at) {
+size_t SkipSign(std::wstring_view text, size_t at) {
     return at < text.size() && (text[at] == L'-' || text[at] == L'+') ? at + 1 : at;
+}
+
+// A whole number in digits alone, which is the same for every locale. The platform looks up the locale's signs for each
+// text, and an answer has thousands.
+std::optional<long> InDigits(std::wstring_view text) {
+    constexpr size_t kSurelyInRange = 9;
+    if (text.empty() || text.size() > kSurelyInRange || SkipDigits(text, 0) != text.size()) return std::nullopt;
+    long number = 0;
+    for (const wchar_t digit : text) number = 10 * number + (digit - L'0');
+    return number;
 }
 
 // What of the text is a number: a sign, digits with a point, and an exponent.
@@ -72,45 +81,51 @@ std::wstring ToText(const VARIANT& value) {
     return CopyText(V_BSTR(&text));
 }
 
-std::optional<DATE> ParseDate(const std::wstring& text) {
+std::optional<DATE> ParseDate(std::wstring_view text) {
     // The platform takes fifty times as long for the same date.
     if (const auto date = ParseIsoDate(text)) return date;
     DATE date = 0;
-    if (FAILED(VarDateFromStr(Source(text), kUserLocale, 0, &date))) return std::nullopt;
+    if (FAILED(VarDateFromStr(InText(text), kUserLocale, 0, &date))) return std::nullopt;
     return date;
 }
 
-std::optional<double> ParseNumber(const std::wstring& text) {
+std::optional<double> ParseNumber(std::wstring_view text) {
+    if (const auto whole = InDigits(text)) return *whole;
     double number = 0;
-    if (FAILED(VarR8FromStr(Source(text), kUserLocale, 0, &number))) return std::nullopt;
+    if (FAILED(VarR8FromStr(InText(text), kUserLocale, 0, &number))) return std::nullopt;
     return number;
 }
 
-std::optional<bool> ParseBoolean(const std::wstring& text) {
+std::optional<bool> ParseBoolean(std::wstring_view text) {
+    // As they are written; the platform takes other letter cases and languages as well, and its time.
+    if (text == L"true") return true;
+    if (text == L"false") return false;
     VARIANT_BOOL flag = VARIANT_FALSE;
-    if (FAILED(VarBoolFromStr(Source(text), kUserLocale, 0, &flag))) return std::nullopt;
+    if (FAILED(VarBoolFromStr(InText(text), kUserLocale, 0, &flag))) return std::nullopt;
     return flag != VARIANT_FALSE;
 }
 
-double LeadingNumber(const std::wstring& text) {
+double LeadingNumber(std::wstring_view text) {
     // A fixed locale, so that the point is always the decimal point.
     constexpr LCID kEnglish = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
-    const std::wstring prefix = NumericPrefix(text);
+    const std::wstring prefix = NumericPrefix(std::wstring(text));
     double number = 0;
-    return SUCCEEDED(VarR8FromStr(Source(prefix), kEnglish, 0, &number)) ? number : 0;
+    return SUCCEEDED(VarR8FromStr(InText(prefix), kEnglish, 0, &number)) ? number : 0;
 }
 
-long ParseLong(const std::wstring& text) {
+long ParseLong(std::wstring_view text) {
+    if (const auto whole = InDigits(text)) return *whole;
     LONG number = 0;
-    const HRESULT result = VarI4FromStr(Source(text), kUserLocale, 0, &number);
+    const HRESULT result = VarI4FromStr(InText(text), kUserLocale, 0, &number);
     if (result == DISP_E_OVERFLOW) throw Overflow();
     if (FAILED(result)) throw TypeMismatch();
     return number;
 }
 
-std::optional<short> ParseShort(const std::wstring& text) {
+std::optional<short> ParseShort(std::wstring_view text) {
+    if (const auto whole = InDigits(text); whole && std::in_range<short>(*whole)) return static_cast<short>(*whole);
     SHORT number = 0;
-    if (FAILED(VarI2FromStr(Source(text), kUserLocale, 0, &number))) return std::nullopt;
+    if (FAILED(VarI2FromStr(InText(text), kUserLocale, 0, &number))) return std::nullopt;
     return number;
 }
 

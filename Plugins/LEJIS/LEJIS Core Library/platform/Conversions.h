@@ -23,19 +23,19 @@ std::wstring ToText(const VARIANT& value);
 
 // A text read as a value; nothing when it is none. Dates include times and date-times, Booleans true, false and
 // numbers.
-std::optional<DATE> ParseDate(const std::wstring& text);
-std::optional<double> ParseNumber(const std::wstring& text);
-std::optional<bool> ParseBoolean(const std::wstring& text);
+std::optional<DATE> ParseDate(std::wstring_view text);
+std::optional<double> ParseNumber(std::wstring_view text);
+std::optional<bool> ParseBoolean(std::wstring_view text);
 
 // The number that a text begins with, "." being the decimal point whatever the regional settings; 0 when it begins with
 // none. Blanks count nowhere.
-double LeadingNumber(const std::wstring& text);
+double LeadingNumber(std::wstring_view text);
 
 // A numeric text as an integer, halves to the even neighbour. Raises the platform's overflow error out of range.
-long ParseLong(const std::wstring& text);
+long ParseLong(std::wstring_view text);
 
 // The same for 16 bits; nothing when the text is no number or out of range.
-std::optional<short> ParseShort(const std::wstring& text);
+std::optional<short> ParseShort(std::wstring_view text);
 
 // A number rounded, halves to the even neighbour; nothing when it is out of range or no number at all.
 template <typename Integer>

@@ -48,7 +48,7 @@ private:
     using Traits = std::char_traits<wchar_t>;
 
     // Room for more, since texts are set one after another: enough for all texts of most objects.
-    static constexpr size_t kStep = 128;
+    static constexpr size_t kStep = 256;
     // No BSTR is longer.
     static constexpr size_t kMost = 0x3fffffff;
 

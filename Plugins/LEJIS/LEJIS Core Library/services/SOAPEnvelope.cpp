@@ -44,7 +44,11 @@ STDMETHODIMP SOAPEnvelope::FromXmlElement(IDispatch* elem) {
 }
 
 STDMETHODIMP SOAPEnvelope::FromXmlDocument(IDispatch* doc) {
-    return Guard([&] { FromXmlDocument(msxml::DocumentToRead(doc)); });
+    return Guard([&] {
+        const msxml::Document document = msxml::DocumentToRead(doc);
+        msxml::RequireBoundedDepth(document);
+        FromXmlDocument(document);
+    });
 }
 
 std::wstring SOAPEnvelope::Body() const { return readBody_ ? msxml::Markup(readBody_) : bodyText_; }

@@ -18,11 +18,14 @@ std::wstring TooDeep() {
 
 }  // namespace
 
-void RequireBoundedDepth(const Node& node) {
-    static const std::wstring tooDeep = TooDeep();
-    if (!SelectNode(node, tooDeep)) return;
+void RaiseTooDeep() {
     throw platform::ComError(E_INVALIDARG,
                              L"The XML is nested too deep: " + std::to_wstring(kMaximumDepth) + L" levels or more");
+}
+
+void RequireBoundedDepth(const Node& node) {
+    static const std::wstring tooDeep = TooDeep();
+    if (SelectNode(node, tooDeep)) RaiseTooDeep();
 }
 
 }  // namespace msxml

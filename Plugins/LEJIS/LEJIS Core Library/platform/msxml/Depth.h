@@ -9,6 +9,9 @@ namespace msxml {
 // client builds by itself can be deeper; MSXML then runs out of stack when it takes a text, copies or moves elements.
 inline constexpr int kMaximumDepth = 260;
 
+// Raises the error of what is nested that deep or deeper, for those who count by themselves.
+[[noreturn]] void RaiseTooDeep();
+
 // Raises when elements are nested in the node that deep or deeper.
 void RequireBoundedDepth(const Node& node);
 

@@ -92,7 +92,6 @@ Document DocumentToRead(IDispatch* client) {
     Document document = DocumentFrom(client);
     // As if it had not been loaded at all, which is what MSXML 6 makes of it.
     if (HasDoctype(document)) throw platform::ObjectRequired();
-    RequireBoundedDepth(document);
     return document;
 }
 

@@ -35,8 +35,9 @@ void Save(const Document& document, const std::wstring& path);
 // else.
 Document DocumentFrom(IDispatch* client);
 
-// The same for what is going to be read: it is refused with a DOCTYPE, and when it is nested too deep.
+// The same for what is going to be read: it is refused with a DOCTYPE.
 Document DocumentToRead(IDispatch* client);
+// An element is refused also when it is nested too deep.
 Element ElementToRead(IDispatch* client);
 
 // What clients get of a document or element.

@@ -1,4 +1,4 @@
-#include "platform/msxml/ElementText.h"
+#include "platform/msxml/LeafText.h"
 
 #include "platform/ComError.h"
 #include "platform/msxml/Node.h"
@@ -27,13 +27,12 @@ bool IsText(const Node& node) {
 
 }  // namespace
 
-platform::OutText ElementText(const Node& element) {
-    const Node only = FirstChild(element);
-    if (!only) return {};
-    if (!IsText(only) || NextSibling(only)) return Text(element);
+std::optional<platform::OutText> LeafText(const Node& element, const Node& firstChild) {
+    if (!firstChild) return platform::OutText();
+    if (!IsText(firstChild) || NextSibling(firstChild)) return std::nullopt;
     // The value of a text is a text.
     VARIANT value;
-    Check(only->get_nodeValue(&value));
+    Check(firstChild->get_nodeValue(&value));
     platform::OutText text;
     *text.Receive() = V_BSTR(&value);
     return IsTheSameInAnElement(text) ? std::move(text) : Text(element);
