@@ -8,8 +8,8 @@
 #include "support/ComCheck.h"
 #include "support/Printing.h"
 #include "support/Xml.h"
+#include "unit_support/PlayedDocument.h"
 #include "unit_support/Raises.h"
-#include "unit_support/UnsavableDocument.h"
 
 #include <gtest/gtest.h>
 
@@ -117,9 +117,15 @@ TEST(Document, SaysTextsAsMarkupWithoutXmlDeclarationOrLayout) {
 }
 
 TEST(Document, SaysItsXmlWhenItCannotBeWrittenToAStream) {
-    // A text cut off within a character.
+    // A text cut off within a character, which a Windows MSXML finds in the middle of its writing.
     const std::wstring xml = L"<r>\xD83D</r>";
-    EXPECT_EQ(xml, Markup(Document(platform::Create<support::UnsavableDocument>(xml))));
+    EXPECT_EQ(xml, Markup(Document(platform::Create<support::PlayedDocument>("<r>", E_FAIL, xml))));
+}
+
+TEST(Document, SaysNoByteOrderMark) {
+    for (const char* written : {"\xEF\xBB\xBF<r>\xC3\xBC</r>\r\n", "<r>\xC3\xBC</r>\r\n"}) {
+        EXPECT_EQ(L"<r>\xFC</r>\r\n", Markup(Document(platform::Create<support::PlayedDocument>(written, S_OK))));
+    }
 }
 
 TEST(Document, WritesAFileAndReplacesIt) {

@@ -14,9 +14,10 @@ constexpr wchar_t kUnit[] = L"ncic";
 // one that was parsed has neither fault.
 msxml::Element ParsedMeasure(std::wstring_view name, std::wstring_view unitAttribute) {
     const msxml::Document document = msxml::CreateDocument();
-    msxml::LoadXml(document, platform::Join({L"<", name, L" xmlns:j='", Constants::kJxdmNamespace, L"' ", unitAttribute,
-                                             L"='", kUnit, L"'/>"}));
-    return msxml::Root(document);
+    // In another element, so that the copies do not carry the declaration that all around them has as well.
+    msxml::LoadXml(document, platform::Join({L"<patterns xmlns:j='", Constants::kJxdmNamespace, L"'><", name, L" ",
+                                             unitAttribute, L"='", kUnit, L"'/></patterns>"}));
+    return msxml::ChildElements(msxml::Root(document)).front();
 }
 
 }  // namespace

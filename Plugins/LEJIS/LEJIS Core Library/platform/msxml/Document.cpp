@@ -75,7 +75,11 @@ std::wstring Markup(const Document& document) {
     const auto bytes = platform::Create<platform::WrittenBytes>();
     const HRESULT saved = document->save(_variant_t(static_cast<IUnknown*>(bytes.Get())));
     // A text that was cut off within a character has no UTF-8; it is sent nevertheless.
-    return SUCCEEDED(saved) ? platform::FromUtf8(bytes->All()) : Xml(document);
+    if (FAILED(saved)) return Xml(document);
+    std::string_view markup = bytes->All();
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    if (markup.starts_with(kByteOrderMark)) markup.remove_prefix(kByteOrderMark.size());
+    return platform::FromUtf8(markup);
 }
 
 void Save(const Document& document, const std::wstring& path) {

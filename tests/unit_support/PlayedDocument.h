@@ -8,22 +8,21 @@
 
 namespace support {
 
-// A document that has its xml and cannot be written to a stream: on Windows one with half a character in it.
-class UnsavableDocument final : public SilentNode<IXMLDOMDocument2> {
+// A document that plays what another MSXML writes to a stream, and has its xml.
+class PlayedDocument final : public SilentNode<IXMLDOMDocument2> {
 public:
-    explicit UnsavableDocument(std::wstring xml) : xml_(std::move(xml)) {}
+    PlayedDocument(std::string written, HRESULT outcome, std::wstring xml = {})
+        : written_(std::move(written)), outcome_(outcome), xml_(std::move(xml)) {}
 
     STDMETHODIMP get_xml(BSTR* xml) override {
         *xml = SysAllocString(xml_.c_str());
         return S_OK;
     }
-    // As one that finds out in the middle of it.
-    STDMETHODIMP save(VARIANT stream) override {
-        Microsoft::WRL::ComPtr<IStream> begun;
-        if (SUCCEEDED(V_UNKNOWN(&stream)->QueryInterface(IID_PPV_ARGS(begun.GetAddressOf())))) {
-            begun->Write("<half", 5, nullptr);
-        }
-        return E_FAIL;
+    STDMETHODIMP save(VARIANT destination) override {
+        Microsoft::WRL::ComPtr<IStream> stream;
+        if (FAILED(V_UNKNOWN(&destination)->QueryInterface(IID_PPV_ARGS(stream.GetAddressOf())))) return E_INVALIDARG;
+        stream->Write(written_.data(), static_cast<ULONG>(written_.size()), nullptr);
+        return outcome_;
     }
 
     STDMETHODIMP get_doctype(IXMLDOMDocumentType**) override { return E_NOTIMPL; }
@@ -66,6 +65,8 @@ public:
     STDMETHODIMP getProperty(BSTR, VARIANT*) override { return E_NOTIMPL; }
 
 private:
+    const std::string written_;
+    const HRESULT outcome_;
     const std::wstring xml_;
 };
 
