@@ -41,21 +41,5 @@ TEST(ElementName, HasAnotherKeyInAnotherNamespaceAndMostlyForAnotherLocalName) {
     EXPECT_EQ(name.Key(), ElementName(L"j:Nume").Key());
 }
 
-TEST(ElementName, KnowsNoOtherNamespaces) {
-    for (const wchar_t* uri : {L"", L"http://www.it.ojp.gov/jxdm/3.0.4", L"http://www.it.ojp.gov/jxdm/3.0.3/"}) {
-        EXPECT_EQ(std::nullopt, FindNamespace(uri));
-    }
-}
-
-TEST(ElementPath, HasAStepForEachName) {
-    constexpr ElementPath kOne = L"j:a";
-    ASSERT_EQ(1u, kOne.Steps().size());
-    constexpr ElementPath kThree = L"j:a/ext:b.c/card:d";
-    ASSERT_EQ(3u, kThree.Steps().size());
-    EXPECT_EQ(L"a", kThree.Steps()[0].LocalName());
-    EXPECT_EQ(L"b.c", kThree.Steps()[1].LocalName());
-    EXPECT_EQ(ElementName(L"card:d").Key(), kThree.Steps()[2].Key());
-}
-
 }  // namespace
 }  // namespace lejis

@@ -31,6 +31,18 @@ TEST(Prefixes, FindTheNamespaceOfAName) {
     }
 }
 
+TEST(Prefixes, NumberTheirNamespacesByTheFirstPrefixOfEach) {
+    for (const Row& row : kRows) {
+        const auto number = FindNamespace(row.uri);
+        ASSERT_TRUE(number) << support::Utf8(row.uri);
+        EXPECT_EQ(row.uri, std::wstring_view(Constants::kPrefixes[*number].uri));
+    }
+    EXPECT_EQ(NamespaceNumber{2}, FindNamespace(NamespaceOf(L"inq:Name")));
+    for (const wchar_t* uri : {L"", L"http://www.it.ojp.gov/jxdm/3.0.4", L"http://www.it.ojp.gov/jxdm/3.0.3/"}) {
+        EXPECT_EQ(std::nullopt, FindNamespace(uri)) << support::Utf8(uri);
+    }
+}
+
 TEST(Prefixes, RefuseNamesWithoutAKnownPrefix) {
     for (const wchar_t* name : {L"", L"Name", L":Name", L"xsd:Name", L"J:Name", L"lejis2:Name"}) {
         EXPECT_THROW(NamespaceOf(name), std::logic_error) << support::Utf8(name);

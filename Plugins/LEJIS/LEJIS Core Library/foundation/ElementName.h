@@ -1,29 +1,15 @@
-// Names of elements as cards look for them, made ready by the compiler: a prefix that Constants does not know does not
-// compile.
 #pragma once
 
-#include "foundation/Constants.h"
+#include "foundation/Prefixes.h"
 
-#include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
-#include <span>
 #include <string_view>
 
 namespace lejis {
 
-// The place of a namespace in Constants; of two places with one namespace, the first.
-using NamespaceNumber = uint8_t;
-
-constexpr std::optional<NamespaceNumber> FindNamespace(std::wstring_view uri) {
-    for (NamespaceNumber number = 0; number < std::size(Constants::kPrefixes); ++number) {
-        if (uri == Constants::kPrefixes[number].uri) return number;
-    }
-    return std::nullopt;
-}
-
+// The name of an element as cards look for it, made ready by the compiler: a prefix that Constants does not know does
+// not compile.
 class ElementName {
 public:
     constexpr ElementName() = default;
@@ -57,26 +43,5 @@ private:
 };
 
 static_assert(std::size(Constants::kPrefixes) <= 0x10);
-
-// Names with slashes between them.
-class ElementPath {
-public:
-    template <size_t kSize>
-    consteval ElementPath(const wchar_t (&path)[kSize]) {
-        const std::wstring_view all(path, kSize - 1);
-        for (size_t begin = 0, end = 0; begin <= all.size(); begin = end + 1) {
-            end = std::min(all.find(L'/', begin), all.size());
-            steps_[count_++] = ElementName::Parse(all.substr(begin, end - begin));
-        }
-    }
-
-    constexpr std::span<const ElementName> Steps() const { return {steps_.data(), count_}; }
-
-private:
-    static constexpr size_t kMost = 3;
-
-    std::array<ElementName, kMost> steps_;
-    size_t count_ = 0;
-};
 
 }  // namespace lejis

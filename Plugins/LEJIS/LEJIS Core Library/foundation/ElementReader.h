@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/ElementName.h"
+#include "foundation/ElementPath.h"
 #include "foundation/ElementTree.h"
 #include "platform/msxml/MsXml.h"
 

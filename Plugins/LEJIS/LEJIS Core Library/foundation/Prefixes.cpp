@@ -1,7 +1,5 @@
 #include "foundation/Prefixes.h"
 
-#include "foundation/Constants.h"
-
 #include <stdexcept>
 
 namespace lejis {
