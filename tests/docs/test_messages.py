@@ -41,6 +41,8 @@ TEXTS = {
     "'><soap:Header><wsse:Security><wsse:UsernameToken><wsse:Username>": "a part of an envelope",
     "</wsse:Username></wsse:UsernameToken></wsse:Security></soap:Header><soap:Body></soap:Body></soap:Envelope>":
         "the rest of an envelope",
+    "<patterns xmlns:j='": "the beginning of a pattern of measures",
+    "'/></patterns>": "the end of a pattern of measures",
     "xmlns:wsdl='http://schemas.xmlsoap.org/wsdl/' xmlns:xsd='http://www.w3.org/2001/XMLSchema'":
         "the prefixes of queries",
 }

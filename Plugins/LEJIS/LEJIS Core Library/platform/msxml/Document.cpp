@@ -76,10 +76,10 @@ std::wstring Markup(const Document& document) {
     const HRESULT saved = document->save(_variant_t(static_cast<IUnknown*>(bytes.Get())));
     // A text that was cut off within a character has no UTF-8; it is sent nevertheless.
     if (FAILED(saved)) return Xml(document);
-    std::string_view markup = bytes->All();
-    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-    if (markup.starts_with(kByteOrderMark)) markup.remove_prefix(kByteOrderMark.size());
-    return platform::FromUtf8(markup);
+    constexpr wchar_t kByteOrderMark = L'\xFEFF';
+    std::wstring markup = platform::FromUtf8(bytes->All());
+    if (markup.starts_with(kByteOrderMark)) markup.erase(0, 1);
+    return markup;
 }
 
 void Save(const Document& document, const std::wstring& path) {
