@@ -36,8 +36,18 @@ TEST(WrittenBytes, AreAStreamToWriteToAlone) {
     ASSERT_OK(object.As(&stream));
     ASSERT_OK(object.As(&sequential));
     char byte = 0;
+    STATSTG state{};
+    ComPtr<IStream> other;
     EXPECT_EQ(E_NOTIMPL, stream->Read(&byte, 1, nullptr));
     EXPECT_EQ(E_NOTIMPL, stream->Seek({}, STREAM_SEEK_SET, nullptr));
+    EXPECT_EQ(E_NOTIMPL, stream->CopyTo(stream.Get(), {}, nullptr, nullptr));
+    EXPECT_EQ(E_NOTIMPL, stream->Revert());
+    EXPECT_EQ(E_NOTIMPL, stream->LockRegion({}, {}, 0));
+    EXPECT_EQ(E_NOTIMPL, stream->UnlockRegion({}, {}, 0));
+    EXPECT_EQ(E_NOTIMPL, stream->Stat(&state, STATFLAG_NONAME));
+    EXPECT_EQ(E_NOTIMPL, stream->Clone(other.GetAddressOf()));
+    // What a writer does before and after its writing.
+    EXPECT_OK(stream->SetSize({}));
     EXPECT_OK(stream->Commit(STGC_DEFAULT));
 }
 
