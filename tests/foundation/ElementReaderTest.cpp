@@ -16,11 +16,19 @@ namespace {
 
 using support::ParseElement;
 
+// A path in both its meanings.
+struct Path {
+    template <size_t kSize>
+    consteval Path(const wchar_t (&text)[kSize]) : xpath(text), path(text) {}
+
+    const wchar_t* xpath;
+    ElementPath path;
+};
+
 struct Case {
     const char* name;
     const wchar_t* xml;
-    const wchar_t* xpath;
-    ElementPath path;
+    Path path;
     // Null where the path selects nothing.
     const wchar_t* text;
 };
@@ -32,9 +40,9 @@ class ElementReaderPaths : public testing::TestWithParam<Case> {};
 TEST_P(ElementReaderPaths, SelectWhatXPathSelects) {
     const msxml::Element element = ParseElement(GetParam().xml);
     LejisUtils::SetSelectionNamespaces(msxml::OwnerDocument(element));
-    const _variant_t byXPath = LejisUtils::GetChildText(element, GetParam().xpath, support::Null());
+    const _variant_t byXPath = LejisUtils::GetChildText(element, GetParam().path.xpath, support::Null());
     const ElementReader reader(element);
-    const auto read = reader.TextIfAny(GetParam().path);
+    const auto read = reader.TextIfAny(GetParam().path.path);
     if (GetParam().text) {
         EXPECT_EQ(GetParam().text, read);
         EXPECT_EQ(_variant_t(GetParam().text), byXPath);
@@ -45,38 +53,36 @@ TEST_P(ElementReaderPaths, SelectWhatXPathSelects) {
 }
 
 constexpr Case kCases[] = {
-    {"Child", L"<r><j:a>1</j:a></r>", L"j:a", L"j:a", L"1"},
-    {"MissingChild", L"<r><j:a>1</j:a></r>", L"j:b", L"j:b", nullptr},
-    {"EmptyChild", L"<r><j:a/></r>", L"j:a", L"j:a", L""},
-    {"FirstOfSeveral", L"<r><j:a>1</j:a><j:a>2</j:a></r>", L"j:a", L"j:a", L"1"},
-    {"EmptyFirstOfSeveral", L"<r><j:a/><j:a>2</j:a></r>", L"j:a", L"j:a", L""},
-    {"OtherNamespace", L"<r><ext:a>1</ext:a><j:a>2</j:a></r>", L"j:a", L"j:a", L"2"},
-    {"OtherNamespaceOnly", L"<r><ext:a>1</ext:a></r>", L"j:a", L"j:a", nullptr},
-    {"NoNamespace", L"<r><a>1</a></r>", L"j:a", L"j:a", nullptr},
-    {"OtherPrefix", L"<r><x:a xmlns:x='http://www.it.ojp.gov/jxdm/3.0.3'>1</x:a></r>", L"j:a", L"j:a", L"1"},
-    {"DefaultNamespace", L"<r><a xmlns='http://www.it.ojp.gov/jxdm/3.0.3'>1</a></r>", L"j:a", L"j:a", L"1"},
-    {"InquiryAsService", L"<r><inq:a>1</inq:a></r>", L"lejis:a", L"lejis:a", L"1"},
-    {"ServiceAsInquiry", L"<r><lejis:a>1</lejis:a></r>", L"inq:a", L"inq:a", L"1"},
-    {"LetterCase", L"<r><j:A>1</j:A></r>", L"j:a", L"j:a", nullptr},
-    {"DottedName", L"<r><j:a.b>1</j:a.b></r>", L"j:a.b", L"j:a.b", L"1"},
-    {"NotDeeper", L"<r><j:b><j:a>1</j:a></j:b></r>", L"j:a", L"j:a", nullptr},
-    {"NotTheElementItself", L"<j:a>1</j:a>", L"j:a", L"j:a", nullptr},
-    {"Descendants", L"<r><j:a>1<j:b>2</j:b>3</j:a></r>", L"j:a", L"j:a", L"123"},
-    {"Comments", L"<r><!-- j:a --><j:a>1<!-- 2 -->3</j:a></r>", L"j:a", L"j:a", L"13"},
-    {"Instructions", L"<r><?j a?><j:a>1<?j a?>2</j:a></r>", L"j:a", L"j:a", L"12"},
-    {"CData", L"<r><![CDATA[<j:a>0</j:a>]]><j:a><![CDATA[<1>]]></j:a></r>", L"j:a", L"j:a", L"<1>"},
-    {"TextBetween", L"<r> x <j:b/> y <j:a>1</j:a></r>", L"j:a", L"j:a", L"1"},
-    {"Attribute", L"<r j:a='1'/>", L"j:a", L"j:a", nullptr},
-    {"Grandchild", L"<r><j:a><j:b>1</j:b></j:a></r>", L"j:a/j:b", L"j:a/j:b", L"1"},
-    {"GrandchildOfASecondParent", L"<r><j:a><j:c>1</j:c></j:a><j:a><j:b>2</j:b></j:a></r>", L"j:a/j:b", L"j:a/j:b",
-     L"2"},
+    {"Child", L"<r><j:a>1</j:a></r>", L"j:a", L"1"},
+    {"MissingChild", L"<r><j:a>1</j:a></r>", L"j:b", nullptr},
+    {"EmptyChild", L"<r><j:a/></r>", L"j:a", L""},
+    {"FirstOfSeveral", L"<r><j:a>1</j:a><j:a>2</j:a></r>", L"j:a", L"1"},
+    {"EmptyFirstOfSeveral", L"<r><j:a/><j:a>2</j:a></r>", L"j:a", L""},
+    {"OtherNamespace", L"<r><ext:a>1</ext:a><j:a>2</j:a></r>", L"j:a", L"2"},
+    {"OtherNamespaceOnly", L"<r><ext:a>1</ext:a></r>", L"j:a", nullptr},
+    {"NoNamespace", L"<r><a>1</a></r>", L"j:a", nullptr},
+    {"OtherPrefix", L"<r><x:a xmlns:x='http://www.it.ojp.gov/jxdm/3.0.3'>1</x:a></r>", L"j:a", L"1"},
+    {"DefaultNamespace", L"<r><a xmlns='http://www.it.ojp.gov/jxdm/3.0.3'>1</a></r>", L"j:a", L"1"},
+    {"InquiryAsService", L"<r><inq:a>1</inq:a></r>", L"lejis:a", L"1"},
+    {"ServiceAsInquiry", L"<r><lejis:a>1</lejis:a></r>", L"inq:a", L"1"},
+    {"LetterCase", L"<r><j:A>1</j:A></r>", L"j:a", nullptr},
+    {"DottedName", L"<r><j:a.b>1</j:a.b></r>", L"j:a.b", L"1"},
+    {"NotDeeper", L"<r><j:b><j:a>1</j:a></j:b></r>", L"j:a", nullptr},
+    {"NotTheElementItself", L"<j:a>1</j:a>", L"j:a", nullptr},
+    {"Descendants", L"<r><j:a>1<j:b>2</j:b>3</j:a></r>", L"j:a", L"123"},
+    {"Comments", L"<r><!-- j:a --><j:a>1<!-- 2 -->3</j:a></r>", L"j:a", L"13"},
+    {"Instructions", L"<r><?j a?><j:a>1<?j a?>2</j:a></r>", L"j:a", L"12"},
+    {"CData", L"<r><![CDATA[<j:a>0</j:a>]]><j:a><![CDATA[<1>]]></j:a></r>", L"j:a", L"<1>"},
+    {"TextBetween", L"<r> x <j:b/> y <j:a>1</j:a></r>", L"j:a", L"1"},
+    {"Attribute", L"<r j:a='1'/>", L"j:a", nullptr},
+    {"Grandchild", L"<r><j:a><j:b>1</j:b></j:a></r>", L"j:a/j:b", L"1"},
+    {"GrandchildOfASecondParent", L"<r><j:a><j:c>1</j:c></j:a><j:a><j:b>2</j:b></j:a></r>", L"j:a/j:b", L"2"},
     {"FirstGrandchildOfAll", L"<r><j:a/><j:a><j:b>1</j:b><j:b>2</j:b></j:a><j:a><j:b>3</j:b></j:a></r>", L"j:a/j:b",
-     L"j:a/j:b", L"1"},
-    {"GrandchildOfAnotherParent", L"<r><ext:a><j:b>1</j:b></ext:a></r>", L"j:a/j:b", L"j:a/j:b", nullptr},
-    {"GrandchildTooDeep", L"<r><j:a><j:c><j:b>1</j:b></j:c></j:a></r>", L"j:a/j:b", L"j:a/j:b", nullptr},
-    {"GrandchildWithoutParent", L"<r><j:b>1</j:b></r>", L"j:a/j:b", L"j:a/j:b", nullptr},
-    {"ThreeSteps", L"<r><j:a><j:b/></j:a><j:a><j:b/><j:b><j:c>1</j:c></j:b></j:a></r>", L"j:a/j:b/j:c", L"j:a/j:b/j:c",
      L"1"},
+    {"GrandchildOfAnotherParent", L"<r><ext:a><j:b>1</j:b></ext:a></r>", L"j:a/j:b", nullptr},
+    {"GrandchildTooDeep", L"<r><j:a><j:c><j:b>1</j:b></j:c></j:a></r>", L"j:a/j:b", nullptr},
+    {"GrandchildWithoutParent", L"<r><j:b>1</j:b></r>", L"j:a/j:b", nullptr},
+    {"ThreeSteps", L"<r><j:a><j:b/></j:a><j:a><j:b/><j:b><j:c>1</j:c></j:b></j:a></r>", L"j:a/j:b/j:c", L"1"},
 };
 
 INSTANTIATE_TEST_SUITE_P(All, ElementReaderPaths, testing::ValuesIn(kCases),

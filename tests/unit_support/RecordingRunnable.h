@@ -1,7 +1,7 @@
 // A client's work, and a client's observer.
 #pragma once
 
-#include "platform/com/UnknownObject.h"
+#include "unit_support/EarlyBound.h"
 
 #include <TVLejisCore.h>
 
@@ -9,18 +9,6 @@
 #include <vector>
 
 namespace support {
-
-// The dispatch half of an interface that is called early bound alone.
-template <typename Interface>
-class EarlyBound : public platform::UnknownObject<Interface> {
-public:
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
-        return E_NOTIMPL;
-    }
-};
 
 class RecordingRunnable final : public EarlyBound<IRunnable> {
 public:

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/com/UnknownObject.h"
+#include "unit_support/EarlyBound.h"
 
 #include <msxml6.h>
 
@@ -9,17 +9,11 @@ namespace support {
 // A node, by an interface that all nodes of its kind have, on which every call fails: the base of those that play
 // MSXML for a few calls.
 template <typename Interface>
-class SilentNode : public platform::UnknownObject<Interface> {
+class SilentNode : public EarlyBound<Interface> {
 protected:
     using Node = IXMLDOMNode;
 
 public:
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
-        return E_NOTIMPL;
-    }
     STDMETHODIMP get_firstChild(Node**) override { return E_NOTIMPL; }
     STDMETHODIMP get_nextSibling(Node**) override { return E_NOTIMPL; }
     STDMETHODIMP get_nodeType(DOMNodeType*) override { return E_NOTIMPL; }
@@ -60,7 +54,7 @@ public:
 protected:
     void* Find(REFIID iid) override {
         if (iid == __uuidof(IXMLDOMNode)) return static_cast<Interface*>(this);
-        return platform::UnknownObject<Interface>::Find(iid);
+        return EarlyBound<Interface>::Find(iid);
     }
 };
 

@@ -24,12 +24,7 @@ public:
     consteval ElementName(const wchar_t (&qualifiedName)[kSize]) : ElementName(Parse({qualifiedName, kSize - 1})) {}
 
     static consteval ElementName Parse(std::wstring_view qualifiedName) {
-        const size_t colon = qualifiedName.find(L':');
-        for (const Constants::Prefix& known : Constants::kPrefixes) {
-            if (qualifiedName.substr(0, colon) != known.name) continue;
-            return {*FindNamespace(known.uri), qualifiedName.substr(colon + 1)};
-        }
-        throw "a name without a known prefix";
+        return {*FindNamespace(NamespaceOf(qualifiedName)), qualifiedName.substr(qualifiedName.find(L':') + 1)};
     }
 
     constexpr std::wstring_view NamespaceUri() const { return Constants::kPrefixes[key_ & 0xf].uri; }

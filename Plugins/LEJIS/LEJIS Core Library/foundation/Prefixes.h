@@ -3,9 +3,11 @@
 
 #include "foundation/Constants.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <optional>
+#include <stdexcept>
 #include <string_view>
 
 namespace lejis {
@@ -21,7 +23,14 @@ constexpr std::optional<NamespaceNumber> FindNamespace(std::wstring_view uri) {
 }
 
 // The namespace of a qualified name as it is written in this library: a prefix of Constants, a colon and a local name.
-// Raises for a name without a known prefix, which is a mistake in the library.
-std::wstring_view NamespaceOf(std::wstring_view qualifiedName);
+// Raises for a name without a known prefix, which is a mistake in the library; the compiler refuses it where it asks.
+constexpr std::wstring_view NamespaceOf(std::wstring_view qualifiedName) {
+    if (const size_t colon = qualifiedName.find(L':'); colon != std::wstring_view::npos) {
+        for (const Constants::Prefix& known : Constants::kPrefixes) {
+            if (qualifiedName.substr(0, colon) == known.name) return known.uri;
+        }
+    }
+    throw std::logic_error("a name without a known prefix");
+}
 
 }  // namespace lejis
