@@ -1,7 +1,7 @@
 #include "foundation/LejisUtils.h"
 
-#include "platform/host/HostComponents.h"
 #include "platform/Registry.h"
+#include "platform/thread/ThreadState.h"
 #include "services/LejisSubmissionWebService.h"
 #include "support/Printing.h"
 #include "support/TemporaryFolder.h"
@@ -135,7 +135,7 @@ TEST_F(DebugDump, ThatCannotBeWrittenEndsTheSubmissionBeforeItIsSent) {
 }
 
 TEST(BuiltInDebugFolder, LiesBelowTheUsersLocalDataAndIsMadeWhenFirstWrittenTo) {
-    platform::host::ReleaseComponents();
+    platform::thread::ReleaseParts();
     const DebugFlag flag(L"Y");
     const support::TemporaryFolder data;
     wchar_t before[MAX_PATH] = L"";

@@ -1,8 +1,8 @@
 // The host suite's components where they are registered, and what stands in for them where they are not.
 #include "foundation/LejisUtils.h"
-#include "platform/host/HostComponents.h"
 #include "platform/host/MessagePump.h"
 #include "platform/host/SuiteServices.h"
+#include "platform/thread/ThreadState.h"
 #include "support/Messages.h"
 #include "unit_support/Raises.h"
 #include "unit_support/TestHost.h"
@@ -50,13 +50,13 @@ TEST(SuiteHost, WhoseYieldRaisesIsHeardWithItsOwnNumberAndText) {
 }
 
 TEST(BuiltInHost, HasOneNumberForArgumentErrorsInTheRangeOfComponents) {
-    ReleaseComponents();
+    thread::ReleaseParts();
     EXPECT_EQ(support::kInvalidArgument, InvalidArgument(L"x").Number());
     EXPECT_EQ(L"x", InvalidArgument(L"x").Description());
 }
 
 TEST(BuiltInHost, DispatchesWaitingMessagesWhenItYields) {
-    ReleaseComponents();
+    thread::ReleaseParts();
     ticks = 0;
     const UINT_PTR timer = SetTimer(nullptr, 0, 10, CountTick);
     EXPECT_TRUE(support::PumpUntil([] {
@@ -67,7 +67,7 @@ TEST(BuiltInHost, DispatchesWaitingMessagesWhenItYields) {
 }
 
 TEST(BuiltInHost, SleepsWhenThereIsNothingToDispatch) {
-    ReleaseComponents();
+    thread::ReleaseParts();
     support::PumpFor(50);
     const ULONGLONG start = GetTickCount64();
     for (int yields = 0; yields < 20; ++yields) YieldToHost();

@@ -1,8 +1,8 @@
 #include "unit_support/TestHost.h"
 
 #include "platform/ComError.h"
-#include "platform/host/HostComponents.h"
 #include "platform/Registry.h"
+#include "platform/thread/ThreadState.h"
 
 #include <TVLejisCore.h>
 
@@ -43,7 +43,7 @@ _variant_t ToVariant(const ComPtr<LateBoundObject>& object) {
 
 TestHost::TestHost() {
     // What a test before this one has found, or not found, is forgotten.
-    platform::host::ReleaseComponents();
+    platform::thread::ReleaseParts();
     Register(L"TalvexSuite.SuiteServices", kServices, [this] { return MakeServices(); });
     Register(L"TalvexSuite.SuiteEnvironment", kEnvironment, [this] { return MakeEnvironment(); });
     Register(L"TalvexSuite.SuiteTimer", kTimer, [this] { return MakeTimer(); });
@@ -54,7 +54,7 @@ TestHost::~TestHost() {
         CoRevokeClassObject(registration.cookie);
         platform::DeleteRegistryTree(HKEY_CLASSES_ROOT, registration.progId);
     }
-    platform::host::ReleaseComponents();
+    platform::thread::ReleaseParts();
 }
 
 void TestHost::Register(const wchar_t* progId, REFCLSID classId, Maker maker) {

@@ -15,8 +15,8 @@
 #include "platform/com/Living.h"
 #include "platform/com/Module.h"
 #include "platform/com/Registration.h"
-#include "platform/host/HostComponents.h"
 #include "platform/msxml/DocumentClass.h"
+#include "platform/thread/ThreadState.h"
 #include "services/LejisSearchWebService.h"
 #include "services/LejisSubmissionWebService.h"
 #include "services/SOAPEnvelope.h"
@@ -69,7 +69,7 @@ STDAPI DllCanUnloadNow() {
         platform::living::Report();
         return S_FALSE;
     }
-    platform::host::ReleaseComponents();
+    platform::thread::ReleaseParts();
     msxml::ReleaseDocumentClass();
     return S_OK;
 }

@@ -3,6 +3,7 @@
 
 #include "platform/com/Living.h"
 #include "platform/com/Module.h"
+#include "platform/thread/ThreadState.h"
 
 #include <unknwn.h>
 #include <windows.h>
@@ -43,6 +44,7 @@ public:
 protected:
     UnknownObject() {
         module::Retain();
+        thread::CountObject();
         living::Enter(this, [](const void* object) -> const std::type_info& {
             return typeid(*static_cast<const UnknownObject*>(object));
         });
@@ -50,6 +52,7 @@ protected:
 
     virtual ~UnknownObject() {
         living::Leave(this);
+        thread::UncountObject();
         module::Release();
     }
 

@@ -2,6 +2,8 @@
 
 #include "platform/com/LateBound.h"
 
+#include <utility>
+
 namespace platform::host {
 
 Microsoft::WRL::ComPtr<IDispatch> HostComponent::Get() {
@@ -13,9 +15,9 @@ Microsoft::WRL::ComPtr<IDispatch> HostComponent::Get() {
 }
 
 void HostComponent::Release() noexcept {
-    if (component_) component_->Release();
-    component_ = nullptr;
     lookedFor_ = false;
+    // The component's end may call back into the library.
+    if (IDispatch* const component = std::exchange(component_, nullptr)) component->Release();
 }
 
 }  // namespace platform::host

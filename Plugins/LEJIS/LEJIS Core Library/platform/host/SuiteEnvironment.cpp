@@ -4,6 +4,7 @@
 #include "platform/ComError.h"
 #include "platform/Conversions.h"
 #include "platform/host/HostComponent.h"
+#include "platform/thread/ThreadState.h"
 
 #include <windows.h>
 
@@ -14,7 +15,9 @@ using Microsoft::WRL::ComPtr;
 namespace platform::host {
 namespace {
 
-thread_local HostComponent environment(L"TalvexSuite.SuiteEnvironment");
+struct Environment final : HostComponent {
+    Environment() : HostComponent(L"TalvexSuite.SuiteEnvironment") {}
+};
 
 std::wstring BuiltInFolder() {
     wchar_t base[MAX_PATH];
@@ -32,13 +35,11 @@ std::wstring BuiltInFolder() {
 }  // namespace
 
 std::wstring DiagnosticsFolder() {
-    const ComPtr<IDispatch> host = environment.Get();
+    const ComPtr<IDispatch> host = thread::ThisThreads<Environment>().Get();
     if (!host) return BuiltInFolder();
     const _variant_t folders = GetMember(host.Get(), L"Folders");
     if (V_VT(&folders) != VT_DISPATCH || !V_DISPATCH(&folders)) throw ObjectRequired();
     return ToText(GetMember(V_DISPATCH(&folders), L"Diagnostics"));
 }
-
-void ReleaseEnvironment() noexcept { environment.Release(); }
 
 }  // namespace platform::host

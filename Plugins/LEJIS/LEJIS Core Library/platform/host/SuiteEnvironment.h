@@ -8,6 +8,4 @@ namespace platform::host {
 // The folder for debug dumps. The built-in one, below the user's local application data, is created here.
 std::wstring DiagnosticsFolder();
 
-void ReleaseEnvironment() noexcept;
-
 }  // namespace platform::host

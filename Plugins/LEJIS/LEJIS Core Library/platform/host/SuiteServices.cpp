@@ -3,6 +3,7 @@
 #include "platform/com/LateBound.h"
 #include "platform/host/HostComponent.h"
 #include "platform/host/MessagePump.h"
+#include "platform/thread/ThreadState.h"
 
 #include <utility>
 
@@ -15,12 +16,14 @@ constexpr long kInvalidArgument = 5;
 // Where the built-in error numbers begin, in the range that the platform leaves to components.
 constexpr HRESULT kBuiltInErrors = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_ITF, 0x0200);
 
-thread_local HostComponent services(L"TalvexSuite.SuiteServices");
+struct Services final : HostComponent {
+    Services() : HostComponent(L"TalvexSuite.SuiteServices") {}
+};
 
 HRESULT ErrorNumber(long kind) {
     const HRESULT builtIn = kBuiltInErrors + kind;
     try {
-        const auto host = services.Get();
+        const auto host = thread::ThisThreads<Services>().Get();
         if (!host) return builtIn;
         const auto number = static_cast<HRESULT>(static_cast<long>(CallMember(host.Get(), L"ErrorNumber", {kind})));
         return FAILED(number) ? number : builtIn;
@@ -33,7 +36,7 @@ HRESULT ErrorNumber(long kind) {
 }  // namespace
 
 void YieldToHost() {
-    if (const auto host = services.Get()) {
+    if (const auto host = thread::ThisThreads<Services>().Get()) {
         CallMember(host.Get(), L"Yield");
     } else {
         PumpMessages();
@@ -43,7 +46,5 @@ void YieldToHost() {
 ComError InvalidArgument(std::wstring description) {
     return ComError(ErrorNumber(kInvalidArgument), std::move(description));
 }
-
-void ReleaseServices() noexcept { services.Release(); }
 
 }  // namespace platform::host

@@ -14,7 +14,4 @@ void YieldToHost();
 // The error that every argument check of the library raises; its number is the host's for an invalid argument.
 ComError InvalidArgument(std::wstring description);
 
-// Lets go of the host's components that this thread has used.
-void ReleaseServices() noexcept;
-
 }  // namespace platform::host

@@ -1,7 +1,9 @@
 #include "platform/http/AbandonedRequests.h"
 
 #include "platform/http/HttpRequest.h"
+#include "platform/thread/ThreadState.h"
 
+#include <algorithm>
 #include <vector>
 
 using Microsoft::WRL::ComPtr;
@@ -9,25 +11,40 @@ using Microsoft::WRL::ComPtr;
 namespace platform {
 namespace {
 
-using Requests = std::vector<ComPtr<IXMLHTTPRequest>>;
-
-// Never destroyed: a thread may end after its apartment has, when nothing may be released any more.
-Requests& Abandoned() {
-    static thread_local Requests* const requests = new Requests;
-    return *requests;
-}
-
-bool IsComplete(const ComPtr<IXMLHTTPRequest>& request) {
+bool IsComplete(IXMLHTTPRequest* request) {
     long state = 0;
     return SUCCEEDED(request->get_readyState(&state)) && state == HttpRequest::kComplete;
 }
 
+class AbandonedRequests final : public thread::ThreadPart {
+public:
+    void Hold(const ComPtr<IXMLHTTPRequest>& request) {
+        requests_.push_back(request.Get());
+        request->AddRef();
+    }
+
+    // Those that have become complete; the others stay, whatever ends.
+    void Release() noexcept override {
+        for (auto complete = FirstComplete(); complete != requests_.end(); complete = FirstComplete()) {
+            IXMLHTTPRequest* const request = *complete;
+            requests_.erase(complete);
+            request->Release();
+        }
+    }
+
+private:
+    std::vector<IXMLHTTPRequest*>::iterator FirstComplete() { return std::ranges::find_if(requests_, IsComplete); }
+
+    // Released by Release alone: a ComPtr would call COM when the thread ends.
+    std::vector<IXMLHTTPRequest*> requests_;
+};
+
 }  // namespace
 
 void HoldUntilComplete(const ComPtr<IXMLHTTPRequest>& request) {
-    if (!IsComplete(request)) Abandoned().push_back(request);
+    if (!IsComplete(request.Get())) thread::ThisThreads<AbandonedRequests>().Hold(request);
 }
 
-void ReleaseCompleteRequests() { std::erase_if(Abandoned(), IsComplete); }
+void ReleaseCompleteRequests() { thread::ThisThreads<AbandonedRequests>().Release(); }
 
 }  // namespace platform
