@@ -7,17 +7,16 @@
 
 namespace fuzzing {
 
-// A client's work to be run later, which may fail the first time. It must not always: a future whose work fails is
-// kept for ever.
+// A client's work to be run later.
 class Runnable final : public support::EarlyBound<IRunnable> {
 public:
     explicit Runnable(
-        HRESULT first, std::function<void()> work = [] {})
-        : next_(first), work_(std::move(work)) {}
+        HRESULT result, std::function<void()> work = [] {})
+        : result_(result), work_(std::move(work)) {}
 
     STDMETHODIMP Run() override {
         work_();
-        return std::exchange(next_, S_OK);
+        return result_;
     }
 
 private:
@@ -25,7 +24,7 @@ private:
         return iid == __uuidof(IDispatch) ? static_cast<IDispatch*>(this) : EarlyBound::Find(iid);
     }
 
-    HRESULT next_;
+    const HRESULT result_;
     std::function<void()> work_;
 };
 

@@ -31,8 +31,8 @@ protected:
         });
     }
 
-    const ComPtr<IFutureManager> manager_ = Create<FutureManager, IFutureManager>();
-    const ComPtr<IFuture> future_ = Create<Future, IFuture>();
+    ComPtr<IFutureManager> manager_ = Create<FutureManager, IFutureManager>();
+    ComPtr<IFuture> future_ = Create<Future, IFuture>();
     std::wstring ran_;
 };
 
@@ -161,6 +161,49 @@ TEST_F(Deferred, WorkThatFailsIsNotCompletedNorRepeatedNorTold) {
     EXPECT_EQ(1, runs);
     EXPECT_FALSE(Completed(future_.Get()));
     EXPECT_EQ(L"", ran_);
+}
+
+TEST_F(Deferred, WorkThatFailsEndsWithItsManager) {
+    const Module module;
+    const auto canUnloadNow = module.Export<HRESULT STDAPICALLTYPE()>("DllCanUnloadNow");
+    bool ran = false;
+    bool ended = false;
+    auto manager = Create<FutureManager, IFutureManager>();
+    auto failing = Make<Work>([&] {
+        ran = true;
+        return E_FAIL;
+    });
+    failing->TellEnd(&ended);
+    ASSERT_OK(manager->InvokeLater(failing.Get()));
+    failing.Reset();
+    ASSERT_TRUE(PumpUntil([&] { return ran; }));
+    PumpFor(kLongAfter);
+    EXPECT_FALSE(ended) << "the manager keeps it";
+    manager.Reset();
+    EXPECT_TRUE(ended);
+    manager_.Reset();
+    future_.Reset();
+    EXPECT_EQ(S_OK, canUnloadNow());
+}
+
+TEST_F(Deferred, WorkMayGiveItsFutureMoreWork) {
+    const auto observer = Make<Observer>([&](IFuture*) {
+        ran_ += L'o';
+        return S_OK;
+    });
+    ComPtr<Work> work;
+    int left = 3;
+    work = Make<Work>([&] {
+        ran_ += L'a';
+        if (--left > 0) {
+            EXPECT_OK(future_->Execute(work.Get(), observer.Get()));
+        }
+        return S_OK;
+    });
+    ASSERT_OK(future_->Execute(work.Get(), observer.Get()));
+    ASSERT_TRUE(PumpUntil([&] { return ran_.size() == 6; }));
+    PumpFor(kLongAfter);
+    EXPECT_EQ(L"aoaoao", ran_);
 }
 
 TEST_F(Deferred, WorkMayReleaseItsFuture) {

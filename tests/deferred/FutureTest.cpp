@@ -29,6 +29,11 @@ bool IsCompleted(IFuture* future) {
     return completed != VARIANT_FALSE;
 }
 
+unsigned long HoldersOf(IRunnable& runnable) {
+    runnable.AddRef();
+    return runnable.Release();
+}
+
 TEST(Future, IsNotCompletedWhenNew) { EXPECT_FALSE(IsCompleted(platform::Create<Future>().Get())); }
 
 TEST(Future, RunsOnceAfterItsDelayAndThenTellsTheObserver) {
@@ -126,15 +131,69 @@ TEST(Future, HoldsItsWorkUntilTheWorkEnds) {
     const auto future = platform::Create<Future>();
     auto runnable = platform::Create<RecordingRunnable>();
     IRunnable* const running = runnable.Get();
-    ULONG held = 0;
+    unsigned long held = 0;
     runnable->onRun = [&] {
         future->Schedule(platform::Create<RecordingRunnable>().Get(), nullptr);
-        running->AddRef();
-        held = running->Release();
+        held = HoldersOf(*running);
     };
     future->Schedule(std::exchange(runnable, nullptr).Get(), nullptr);
     host.timers[0]->Tick();
     EXPECT_EQ(1u, held);
+}
+
+TEST(Future, RunsWorkThatItsOwnWorkGivesItAndTellsTheObserverOfEach) {
+    const auto future = platform::Create<Future>();
+    const auto first = platform::Create<RecordingRunnable>();
+    const auto second = platform::Create<RecordingRunnable>();
+    const auto firstObserver = platform::Create<RecordingObserver>();
+    const auto secondObserver = platform::Create<RecordingObserver>();
+    first->onRun = [&] { future->Schedule(second.Get(), secondObserver.Get()); };
+    future->Schedule(first.Get(), firstObserver.Get());
+    ASSERT_TRUE(PumpUntil([&] { return first->runs > 0; }));
+    EXPECT_EQ(0, second->runs) << "not inside of the work that gave it";
+    EXPECT_EQ(1u, firstObserver->completed.size());
+    EXPECT_TRUE(secondObserver->completed.empty());
+    ASSERT_TRUE(PumpUntil([&] { return second->runs > 0; }));
+    PumpFor(250);
+    EXPECT_EQ(1, first->runs);
+    EXPECT_EQ(1, second->runs);
+    EXPECT_EQ(1u, firstObserver->completed.size());
+    EXPECT_EQ(1u, secondObserver->completed.size());
+}
+
+TEST(Future, LetsItsWorkRepeatItself) {
+    const auto future = platform::Create<Future>();
+    const auto runnable = platform::Create<RecordingRunnable>();
+    const auto observer = platform::Create<RecordingObserver>();
+    runnable->onRun = [&] {
+        if (runnable->runs < 3) future->Schedule(runnable.Get(), observer.Get());
+    };
+    future->Schedule(runnable.Get(), observer.Get());
+    EXPECT_TRUE(PumpUntil([&] { return observer->completed.size() == 3; }));
+    PumpFor(250);
+    EXPECT_EQ(3, runnable->runs);
+}
+
+TEST(Future, RunsWorkThatFailingWorkGaveIt) {
+    const auto future = platform::Create<Future>();
+    const auto failing = platform::Create<RecordingRunnable>();
+    const auto next = platform::Create<RecordingRunnable>();
+    failing->result = E_FAIL;
+    failing->onRun = [&] { future->Schedule(next.Get(), nullptr); };
+    future->Schedule(failing.Get(), nullptr);
+    EXPECT_TRUE(PumpUntil([&] { return next->runs > 0; }));
+    EXPECT_TRUE(IsCompleted(future.Get()));
+}
+
+TEST(Future, HearsNoTickOfATimerThatGoesOnAfterItWasStopped) {
+    const support::TestHost host;
+    const auto future = platform::Create<Future>();
+    const auto runnable = platform::Create<RecordingRunnable>();
+    runnable->onRun = [&] { host.timers[0]->Tick(); };
+    future->Schedule(runnable.Get(), nullptr);
+    host.timers[0]->Tick();
+    host.timers[0]->Tick();
+    EXPECT_EQ(1, runnable->runs);
 }
 
 TEST(FutureManager, TracksAFutureUntilItHasRun) {
@@ -195,10 +254,18 @@ TEST(FutureManager, GoesOnTrackingAFutureWhoseRunnableFails) {
     manager->RunLater(runnable.Get());
     host.timers[0]->Tick();
     EXPECT_EQ(1u, manager->PendingCount());
-    // The next tick succeeds, so that the test leaves nothing behind.
-    runnable->result = S_OK;
-    host.timers[0]->Tick();
-    EXPECT_EQ(0u, manager->PendingCount());
+    EXPECT_EQ(2u, HoldersOf(*runnable.Get()));
+}
+
+TEST(FutureManager, EndsWithItsFuturesWhoseRunnableFailed) {
+    const auto runnable = platform::Create<RecordingRunnable>();
+    runnable->result = E_FAIL;
+    auto manager = platform::Create<FutureManager>();
+    manager->RunLater(runnable.Get());
+    ASSERT_TRUE(PumpUntil([&] { return runnable->runs > 0; }));
+    EXPECT_EQ(2u, HoldersOf(*runnable.Get()));
+    manager.Reset();
+    EXPECT_EQ(1u, HoldersOf(*runnable.Get()));
 }
 
 TEST(InvokeLater, KeepsTheRunnableAliveUntilItHasRunAndNoLonger) {

@@ -19,8 +19,9 @@ FORMS = {
 }
 WORDS = {
     "a key or value of the registry": "ThreadingModel Apartment win32 win64 DebugLejis TVLejisCore.",
-    "a member of the host's components": "ErrorNumber Yield Folders Diagnostics Interval Enabled",
-    "a name of the platform": "LOCALAPPDATA ntdll.dll wine_get_version",
+    "a member of the host's components": "ErrorNumber Yield Folders Diagnostics Interval Enabled "
+        "Elapsed",
+    "a name of the platform": "LOCALAPPDATA ntdll.dll wine_get_version .CRT$XLF",
     "a word of HTTP": "GET POST SOAPAction Content-Type text/xml;charset=utf-8 ?wsdl",
     "a prefix or name in XML, or a value in it": "soap wsse lejis j ext card inq xmlns: targetNamespace ncic true false",
     "a property of MSXML": "SelectionLanguage XPath SelectionNamespaces",

@@ -2,6 +2,8 @@
 
 #include "deferred/RunnableCheck.h"
 
+#include <utility>
+
 using Microsoft::WRL::ComPtr;
 
 namespace lejis {
@@ -21,24 +23,27 @@ STDMETHODIMP Future::get_Completed(VARIANT_BOOL* result) {
 
 void Future::Schedule(IRunnable* runnable, IFutureObserver* observer) {
     RequireRunnable(runnable);
+    invokeTimer_ = platform::host::StartSuiteTimer(kDelayMilliseconds, [this] { OnElapsed(); });
     runnable_ = runnable;
     observer_ = observer;
-    invokeTimer_ = platform::host::CreateSuiteTimer([this] { OnElapsed(); });
-    invokeTimer_->SetInterval(kDelayMilliseconds);
-    invokeTimer_->SetEnabled(true);
+    isScheduled_ = true;
 }
 
 void Future::OnElapsed() {
     // The observer lets go of the future, as a rule the last to hold it.
     const ComPtr<IFuture> self(this);
-    invokeTimer_->SetEnabled(false);
-    // A failure ends the tick here: the future stays incomplete and whoever keeps it goes on keeping it.
-    // The work may give this future other work, and must not end while it runs.
+    invokeTimer_->Stop();
+    // A timer that cannot be stopped ticks on.
+    if (!std::exchange(isScheduled_, false)) return;
+    // The work may give this future other work, which a later tick runs. So what this tick runs and whom it tells are
+    // taken out before.
     const ComPtr<IRunnable> runnable = runnable_;
-    if (runnable) platform::Check(runnable->Run());
-    completed_ = true;
-    runnable_.Reset();
     const ComPtr<IFutureObserver> observer = std::move(observer_);
+    // A failure ends the tick here: the future stays incomplete, and whoever keeps it goes on keeping it. It no longer
+    // holds its observer, so a manager that keeps it can still end.
+    platform::Check(runnable->Run());
+    completed_ = true;
+    if (!isScheduled_) runnable_.Reset();
     if (observer) platform::Check(observer->FutureCompleted(self.Get()));
 }
 

@@ -17,6 +17,7 @@ public:
     STDMETHODIMP Execute(IRunnable* runnable, IFutureObserver* observer) override;
     STDMETHODIMP get_Completed(VARIANT_BOOL* result) override;
 
+    // Work that the future already waits for is replaced; work that runs is not.
     void Schedule(IRunnable* runnable, IFutureObserver* observer);
 
 private:
@@ -24,6 +25,7 @@ private:
 
     Microsoft::WRL::ComPtr<IRunnable> runnable_;
     Microsoft::WRL::ComPtr<IFutureObserver> observer_;
+    bool isScheduled_ = false;
     bool completed_ = false;
     std::unique_ptr<platform::host::SuiteTimer> invokeTimer_;
 };

@@ -1,6 +1,7 @@
 #include "platform/com/Registration.h"
 
 #include "platform/com/Module.h"
+#include "platform/com/TypeInformation.h"
 #include "platform/com/TypeLibrary.h"
 #include "platform/ComError.h"
 #include "platform/Registry.h"
@@ -35,26 +36,17 @@ TLIBATTR LibraryAttributes(ITypeLib* library) {
     return copy;
 }
 
-bool IsCreatable(ITypeInfo* information, CLSID& id) {
-    TYPEATTR* attributes = nullptr;
-    Check(information->GetTypeAttr(&attributes));
-    id = attributes->guid;
-    const bool creatable = attributes->typekind == TKIND_COCLASS && (attributes->wTypeFlags & TYPEFLAG_FCANCREATE);
-    information->ReleaseTypeAttr(attributes);
-    return creatable;
-}
-
 std::vector<RegisteredClass> CreatableClasses(ITypeLib* library) {
     std::vector<RegisteredClass> classes;
     for (UINT index = 0; index < library->GetTypeInfoCount(); ++index) {
         ComPtr<ITypeInfo> information;
-        CLSID id;
         Check(library->GetTypeInfo(index, information.GetAddressOf()));
-        if (!IsCreatable(information.Get(), id)) continue;
+        const TYPEATTR type = AttributesOf(information.Get());
+        if (type.typekind != TKIND_COCLASS || !(type.wTypeFlags & TYPEFLAG_FCANCREATE)) continue;
         BSTR name = nullptr;
         BSTR description = nullptr;
         Check(information->GetDocumentation(MEMBERID_NIL, &name, &description, nullptr, nullptr));
-        classes.push_back({id, TakeText(name), TakeText(description)});
+        classes.push_back({type.guid, TakeText(name), TakeText(description)});
     }
     return classes;
 }

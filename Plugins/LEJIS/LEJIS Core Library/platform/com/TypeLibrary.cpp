@@ -1,6 +1,7 @@
 #include "platform/com/TypeLibrary.h"
 
 #include "platform/com/Module.h"
+#include "platform/com/TypeInformation.h"
 #include "platform/ComError.h"
 #include "platform/Text.h"
 
@@ -16,29 +17,6 @@ constexpr wchar_t kProgIdPrefix[] = L"TVLejisCore.";
 ITypeLib* ModuleTypeLibrary() {
     static const ComPtr<ITypeLib> library = LoadModuleTypeLibrary();
     return library.Get();
-}
-
-GUID GuidOf(ITypeInfo* information) {
-    TYPEATTR* attributes = nullptr;
-    Check(information->GetTypeAttr(&attributes));
-    const GUID guid = attributes->guid;
-    information->ReleaseTypeAttr(attributes);
-    return guid;
-}
-
-UINT ImplementedTypes(ITypeInfo* information) {
-    TYPEATTR* attributes = nullptr;
-    Check(information->GetTypeAttr(&attributes));
-    const UINT count = attributes->cImplTypes;
-    information->ReleaseTypeAttr(attributes);
-    return count;
-}
-
-bool IsDefaultEvents(ITypeInfo* classInformation, UINT index) {
-    constexpr INT kDefaultEvents = IMPLTYPEFLAG_FDEFAULT | IMPLTYPEFLAG_FSOURCE;
-    INT flags = 0;
-    Check(classInformation->GetImplTypeFlags(index, &flags));
-    return (flags & kDefaultEvents) == kDefaultEvents;
 }
 
 }  // namespace
@@ -64,16 +42,8 @@ std::wstring ClassNameOf(REFCLSID classId) {
 std::wstring ProgIdOf(REFCLSID classId) { return kProgIdPrefix + ClassNameOf(classId); }
 
 GUID DefaultEventsOf(REFCLSID classId) {
-    const ComPtr<ITypeInfo> information = TypeInfoOf(classId);
-    for (UINT index = 0; index < ImplementedTypes(information.Get()); ++index) {
-        if (!IsDefaultEvents(information.Get(), index)) continue;
-        HREFTYPE reference = 0;
-        ComPtr<ITypeInfo> events;
-        Check(information->GetRefTypeOfImplType(index, &reference));
-        Check(information->GetRefTypeInfo(reference, events.GetAddressOf()));
-        return GuidOf(events.Get());
-    }
-    return GUID_NULL;
+    const ComPtr<ITypeInfo> events = DefaultEventsOf(TypeInfoOf(classId).Get());
+    return events ? AttributesOf(events.Get()).guid : GUID_NULL;
 }
 
 }  // namespace platform

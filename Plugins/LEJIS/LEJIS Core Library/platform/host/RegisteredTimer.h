@@ -3,6 +3,7 @@
 
 #include "platform/host/SuiteTimer.h"
 
+#include <oaidl.h>
 #include <ocidl.h>
 #include <windows.h>
 #include <wrl/client.h>
@@ -13,14 +14,16 @@ class TimerSink;
 
 class RegisteredTimer final : public SuiteTimer {
 public:
-    // Connects to the timer's events. Raises when it has none.
-    RegisteredTimer(Microsoft::WRL::ComPtr<IDispatch> timer, std::function<void()> elapsed);
+    // Connects to the timer's event and starts the timer. Raises when either fails.
+    RegisteredTimer(Microsoft::WRL::ComPtr<IDispatch> timer, long milliseconds, std::function<void()> elapsed);
     ~RegisteredTimer() override;
 
-    void SetInterval(long milliseconds) override;
-    void SetEnabled(bool enabled) override;
+    void Stop() noexcept override;
 
 private:
+    void Start(long milliseconds);
+    void Disconnect() noexcept;
+
     Microsoft::WRL::ComPtr<IDispatch> timer_;
     Microsoft::WRL::ComPtr<TimerSink> sink_;
     Microsoft::WRL::ComPtr<IConnectionPoint> events_;

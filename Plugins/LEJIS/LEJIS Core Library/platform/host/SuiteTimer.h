@@ -1,4 +1,4 @@
-// The timer of deferred work: the host suite's where it is registered, else one of the thread's message loop.
+// The timer of deferred work.
 #pragma once
 
 #include <functional>
@@ -6,7 +6,7 @@
 
 namespace platform::host {
 
-// Ticks on the thread that made it, from its message loop. Destroying it stops it.
+// Ticks on the thread that started it, from its message loop. Destroying it stops it.
 class SuiteTimer {
 public:
     SuiteTimer() = default;
@@ -14,11 +14,12 @@ public:
     SuiteTimer& operator=(const SuiteTimer&) = delete;
     virtual ~SuiteTimer() = default;
 
-    virtual void SetInterval(long milliseconds) = 0;
-    virtual void SetEnabled(bool enabled) = 0;
+    // A tick may still be on its way.
+    virtual void Stop() noexcept = 0;
 };
 
+// Starts the host suite's timer; where it is not registered, or does not work, one of the thread's message loop.
 // `elapsed` is called on each tick and may destroy the timer; what it raises ends the tick and goes no further.
-std::unique_ptr<SuiteTimer> CreateSuiteTimer(std::function<void()> elapsed);
+std::unique_ptr<SuiteTimer> StartSuiteTimer(long milliseconds, std::function<void()> elapsed);
 
 }  // namespace platform::host

@@ -1,6 +1,7 @@
 #include "platform/host/ThreadTimer.h"
 
 #include "platform/ComError.h"
+#include "platform/thread/ThreadState.h"
 
 #include <unordered_map>
 #include <utility>
@@ -9,39 +10,37 @@ namespace platform::host {
 namespace {
 
 // The system tells a tick only its timer's number.
-thread_local std::unordered_map<UINT_PTR, ThreadTimer*> running;
+struct RunningTimers final : thread::ThreadPart {
+    std::unordered_map<UINT_PTR, ThreadTimer*> byNumber;
+
+    // A running timer belongs to an object that still lives.
+    void Release() noexcept override {}
+};
+
+std::unordered_map<UINT_PTR, ThreadTimer*>& Running() { return thread::ThisThreads<RunningTimers>().byNumber; }
 
 }  // namespace
 
-ThreadTimer::ThreadTimer(std::function<void()> elapsed) : elapsed_(std::move(elapsed)) {}
-
-ThreadTimer::~ThreadTimer() { Stop(); }
-
-void ThreadTimer::SetInterval(long milliseconds) {
-    interval_ = milliseconds > 0 ? static_cast<UINT>(milliseconds) : USER_TIMER_MINIMUM;
-    if (id_ != 0) Start();
-}
-
-void ThreadTimer::SetEnabled(bool enabled) { enabled ? Start() : Stop(); }
-
-void ThreadTimer::Start() {
-    Stop();
-    id_ = SetTimer(nullptr, 0, interval_, Tick);
+ThreadTimer::ThreadTimer(long milliseconds, std::function<void()> elapsed) : elapsed_(std::move(elapsed)) {
+    auto& running = Running();
+    id_ = SetTimer(nullptr, 0, static_cast<UINT>(milliseconds), Tick);
     if (id_ == 0) Check(HRESULT_FROM_WIN32(GetLastError()));
     running.emplace(id_, this);
 }
 
+ThreadTimer::~ThreadTimer() { Stop(); }
+
 void ThreadTimer::Stop() noexcept {
     if (id_ == 0) return;
     KillTimer(nullptr, id_);
-    running.erase(std::exchange(id_, 0));
+    Running().erase(std::exchange(id_, 0));
 }
 
 void CALLBACK ThreadTimer::Tick(HWND, UINT, UINT_PTR id, DWORD) noexcept {
-    // A tick may still be on its way when its timer has been stopped.
-    const auto entry = running.find(id);
-    if (entry == running.end()) return;
     try {
+        // A tick may still be on its way when its timer has been stopped.
+        const auto entry = Running().find(id);
+        if (entry == Running().end()) return;
         // A copy: the work may destroy the timer.
         const std::function<void()> elapsed = entry->second->elapsed_;
         elapsed();

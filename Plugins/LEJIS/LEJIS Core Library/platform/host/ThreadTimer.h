@@ -9,20 +9,15 @@ namespace platform::host {
 
 class ThreadTimer final : public SuiteTimer {
 public:
-    explicit ThreadTimer(std::function<void()> elapsed);
+    ThreadTimer(long milliseconds, std::function<void()> elapsed);
     ~ThreadTimer() override;
 
-    void SetInterval(long milliseconds) override;
-    void SetEnabled(bool enabled) override;
+    void Stop() noexcept override;
 
 private:
     static void CALLBACK Tick(HWND, UINT, UINT_PTR id, DWORD) noexcept;
 
-    void Start();
-    void Stop() noexcept;
-
     std::function<void()> elapsed_;
-    UINT interval_ = USER_TIMER_MINIMUM;
     UINT_PTR id_ = 0;
 };
 

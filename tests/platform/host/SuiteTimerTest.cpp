@@ -1,0 +1,77 @@
+#include "platform/host/SuiteTimer.h"
+
+#include "support/Messages.h"
+#include "support/OwnTimer.h"
+
+#include <gtest/gtest.h>
+
+using support::OwnTimerClass;
+using support::PumpUntil;
+using support::TimerKind;
+
+namespace platform::host {
+namespace {
+
+constexpr long kInterval = 20;
+
+class HeardTimer : public testing::TestWithParam<TimerKind> {
+protected:
+    OwnTimerClass registered_{GetParam()};
+    int ticks_ = 0;
+};
+
+TEST_P(HeardTimer, TicksByItsOwnEvent) {
+    const auto timer = StartSuiteTimer(kInterval, [this] { ++ticks_; });
+    ASSERT_EQ(1u, registered_.timers.size());
+    EXPECT_EQ(kInterval, registered_.timers[0]->interval);
+    EXPECT_TRUE(registered_.timers[0]->enabled);
+    registered_.timers[0]->Tick();
+    EXPECT_EQ(1, ticks_);
+}
+
+TEST_P(HeardTimer, IsStoppedAndNotHeardAnyMoreWhenItEnds) {
+    auto timer = StartSuiteTimer(kInterval, [this] { ++ticks_; });
+    ASSERT_EQ(1u, registered_.timers.size());
+    timer->Stop();
+    EXPECT_FALSE(registered_.timers[0]->enabled);
+    timer.reset();
+    ASSERT_EQ(1u, registered_.timers[0]->sinks.size());
+    EXPECT_EQ(nullptr, registered_.timers[0]->sinks[0]);
+}
+
+INSTANTIATE_TEST_SUITE_P(Suite, HeardTimer,
+                         testing::Values(TimerKind::kTellsClass, TimerKind::kTellsDefaultEvents,
+                                         TimerKind::kTellsPoints));
+
+class UnheardTimer : public testing::TestWithParam<TimerKind> {
+protected:
+    OwnTimerClass registered_{GetParam()};
+    int ticks_ = 0;
+};
+
+TEST_P(UnheardTimer, IsReplacedByTheBuiltInOne) {
+    const auto timer = StartSuiteTimer(kInterval, [this] { ++ticks_; });
+    EXPECT_EQ(1u, registered_.timers.size());
+    EXPECT_TRUE(PumpUntil([this] { return ticks_ > 1; }));
+    timer->Stop();
+    const int ticksBefore = ticks_;
+    support::PumpFor(5 * kInterval);
+    EXPECT_EQ(ticksBefore, ticks_);
+}
+
+INSTANTIATE_TEST_SUITE_P(Suite, UnheardTimer,
+                         testing::Values(TimerKind::kHasNoEvents, TimerKind::kRefusesSinks, TimerKind::kCannotStart));
+
+TEST(BuiltInTimer, MayBeDestroyedByItsOwnTick) {
+    int ticks = 0;
+    std::unique_ptr<SuiteTimer> timer = StartSuiteTimer(kInterval, [&] {
+        ++ticks;
+        timer.reset();
+    });
+    EXPECT_TRUE(PumpUntil([&] { return ticks > 0; }));
+    support::PumpFor(5 * kInterval);
+    EXPECT_EQ(1, ticks);
+}
+
+}  // namespace
+}  // namespace platform::host
