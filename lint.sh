@@ -23,7 +23,7 @@ check() {
 files_of() { git ls-files --cached --others --exclude-standard -- "$@"; }
 
 mapfile -t sources < <(files_of '*.cpp' '*.h')
-mapfile -t scripts < <(files_of '*.sh' '.ci/run')
+mapfile -t scripts < <(files_of '*.sh' '.ci/run' 'tools/wine/*')
 core="Plugins/LEJIS/LEJIS Core Library"
 cppcheck_options=(
   --quiet --error-exitcode=1 --template=gcc -j "$(nproc)"

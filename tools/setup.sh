@@ -51,7 +51,7 @@ missing_packages() {
 # Everything of Wine and the compilers but the 32-bit half of Wine.
 has_toolchain() {
   local cpu
-  has_command wine && [[ -f /usr/include/wine/wine/windows/msxml6.h ]] || return 1
+  chosen_wine >/dev/null && [[ -f /usr/include/wine/wine/windows/msxml6.h ]] || return 1
   compgen -G '/usr/lib/*/wine/x86_64-windows/regsvr32.exe' >/dev/null || return 1
   for cpu in x86_64 i686; do
     has_command "$cpu-w64-mingw32-g++-posix" && has_command "$cpu-w64-mingw32-widl" || return 1
@@ -92,7 +92,8 @@ install_toolchain() {
 }
 
 wants_32_bit_wine() {
-  has_32_bit_wine && return 1
+  # Nothing is installed for a Wine that WINE names.
+  [[ -z ${WINE:-} ]] && ! has_32_bit_wine || return 1
   [[ $require_x86 == yes || ! -e $gave_up_32_bit ]]
 }
 

@@ -1,9 +1,21 @@
 # shellcheck shell=bash
 # Sourced after shell-support.sh by scripts that hold the lock: Wine with a prefix of this checkout's own in build/wine.
+# WINE names another Wine than the one on PATH; that one's prefix is build/wine-VERSION.
 
 : "${project:?shell-support.sh comes first}"
+# shellcheck source=tools/wine-choice.sh
+source "$project/tools/wine-choice.sh"
 
 export WINEPREFIX=$project/build/wine
+if [[ -n ${WINE:-} ]]; then
+  chosen_wine >/dev/null || fail "WINE names no program: $WINE"
+  WINE=$(realpath --no-symlinks "$(chosen_wine)")
+  export WINE
+  wine_version=$("$WINE" --version) || fail "'$WINE --version' tells no version"
+  WINEPREFIX=$project/build/${wine_version%% *}
+fi
+# Whatever starts `wine` or `wineserver` gets those of the chosen Wine.
+[[ :$PATH: == *:$project/tools/wine:* ]] || export PATH=$project/tools/wine:$PATH
 export WINEARCH=win64
 export WINEDEBUG=-all
 # Mono and Gecko would ask to be downloaded; the menu builder would write into the user's home.
@@ -12,13 +24,11 @@ export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
 export LANG=C.UTF-8 LC_ALL=C.UTF-8
 unset DISPLAY WAYLAND_DISPLAY WINELOADER WINESERVER LANGUAGE
 
-has_32_bit_wine() { [[ -x /usr/lib/wine/wine ]] && compgen -G '/usr/lib/*/wine/i386-windows/regsvr32.exe' >/dev/null; }
-
 wine_runs() { [[ $1 == x64 ]] || has_32_bit_wine; }
 
 windows_path() { printf '%s' "Z:${1//\//\\}"; }
 
-# The folder of Windows' own programs of one bitness.
+# The folder of Windows' own programs of one bitness, as 64-bit programs and wine_loader see it.
 windows_programs() {
   case $1 in
     x86 | coverage) printf '%s' 'C:\windows\syswow64' ;;
@@ -31,7 +41,7 @@ windows_programs() {
 prefix_mark() {
   local bits=64
   has_32_bit_wine && bits=32+64
-  printf '1 %s %s\n' "$bits" "$(wine --version)"
+  printf '2 %s %s\n' "$bits" "$(wine --version)"
 }
 
 add_registry_value() { run wine reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null 2>&1; }

@@ -8,7 +8,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/../../tools/shell-support.sh"
 source "$project/tools/wine-environment.sh"
 
 : "${LEJIS_SIMULATOR_DATA:?with_simulator.sh starts this}"
-export WINEPREFIX=$project/build/wine-packages
+WINEPREFIX+=-packages
 export LEJIS_PACKAGES=$project/build/packages
 export LEJIS_ARCHITECTURES="$*"
 export LEJIS_SIMULATOR_SCHEMAS=$LEJIS_SIMULATOR_DATA/schemas

@@ -1,0 +1,104 @@
+"""Which Wine the scripts use. The Wines are stand-ins."""
+import os
+import subprocess
+import tempfile
+import unittest
+from pathlib import Path
+
+PROJECT = Path(__file__).resolve().parents[2]
+SOURCED = "set -euo pipefail; source tools/shell-support.sh; source tools/wine-environment.sh"
+DLLS_32 = "i386-windows/regsvr32.exe"
+
+# Says who it is, and keeps a list of what it was asked to do. `wineboot` fails as often as the file "refusals" has lines.
+STAND_IN = """#!/bin/bash
+here={folder}
+[[ $1 != --version ]] || {{ echo "wine-77.1 (stand-in)"; exit; }}
+echo "{name} $*" >>"$here/calls"
+[[ $1 != wineboot ]] || {{
+  if [[ -s $here/refusals ]]; then sed -i 1d "$here/refusals"; echo "no kernel32.dll"; exit 1; fi
+  echo made >"$WINEPREFIX/system.reg"
+}}
+echo "{name}"
+"""
+
+
+class WineCase(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory(prefix="wine-")
+        self.addCleanup(folder.cleanup)
+        self.folder = Path(folder.name)
+
+    def put(self, *paths):
+        """Programs, and 32-bit DLLs; returns the first."""
+        for path in paths:
+            place = self.folder / path
+            place.parent.mkdir(parents=True, exist_ok=True)
+            place.write_text(STAND_IN.format(folder=self.folder, name=path))
+            place.chmod(0o755)
+        return self.folder / paths[0]
+
+    def shell(self, command, wine=None, path=None):
+        """Runs the command with the scripts' environment; WINE names this Wine, or `path` comes first on PATH."""
+        environment = {key: value for key, value in os.environ.items() if not key.startswith("WINE")}
+        own = str(PROJECT / "tools" / "wine")
+        places = [place for place in environment["PATH"].split(":") if place != own]
+        environment["PATH"] = ":".join([*([str(path)] if path else []), *places])
+        if wine:
+            environment["WINE"] = str(wine)
+        return subprocess.run(["bash", "-c", f"{SOURCED}; {command}"], cwd=PROJECT, env=environment, text=True,
+                              stdin=subprocess.DEVNULL, capture_output=True, timeout=60, check=False)
+
+    def expect(self, command, **options):
+        run = self.shell(command, **options)
+        self.assertEqual(run.returncode, 0, run)
+        return run.stdout.splitlines()
+
+
+class ChoiceTest(WineCase):
+    def test_the_named_wine_runs_and_not_that_on_the_path(self):
+        wine = self.put("new/bin/wine", "new/bin/wineserver", "old/wine", "old/wineserver")
+        self.assertEqual(self.expect("wine; wineserver", wine=wine, path=self.folder / "old"),
+                         ["new/bin/wine", "new/bin/wineserver"])
+        self.assertEqual(self.expect("wine; wineserver", path=self.folder / "old"), ["old/wine", "old/wineserver"])
+
+    def test_programs_that_the_scripts_start_get_the_same_wine(self):
+        wine = self.put("bin/wine", "bin/wineserver")
+        for command in ('run bash -c "wine"', "bash -c 'source tools/shell-support.sh; "
+                        "source tools/wine-environment.sh; wine'"):
+            self.assertEqual(self.expect(command, wine=wine), ["bin/wine"])
+
+    def test_a_64_bit_loader_of_its_own_runs_the_programs(self):
+        for loader in ("a/bin/wine64", "b/lib/wine/wine64"):
+            wine = self.put(f"{loader[0]}/bin/wine", f"{loader[0]}/bin/wineserver", loader)
+            self.assertEqual(self.expect("wine", wine=wine), [loader])
+            self.assertEqual(self.expect("wine", path=wine.parent), [loader])
+
+    def test_a_link_to_a_wine_is_that_wine(self):
+        target = self.put("opt/bin/wine", "opt/bin/wineserver", "opt/bin/wine64")
+        link = self.folder / "link"
+        link.symlink_to(target)
+        self.assertEqual(self.expect("wine; wineserver", wine=link), ["opt/bin/wine64", "opt/bin/wineserver"])
+
+    def test_each_wine_that_is_named_has_a_prefix_of_its_own(self):
+        wine = self.put("bin/wine", "bin/wineserver")
+        self.assertEqual(self.expect('echo "$WINEPREFIX"', wine=wine), [f"{PROJECT}/build/wine-77.1"])
+        self.assertEqual(self.expect('echo "$WINEPREFIX"'), [f"{PROJECT}/build/wine"])
+
+    def test_a_name_of_nothing_is_told(self):
+        run = self.shell("wine", wine=self.folder / "nothing")
+        self.assertEqual(run.returncode, 1)
+        self.assertIn(f"WINE names no program: {self.folder}/nothing", run.stderr)
+
+    def test_the_32_bit_half_needs_its_dlls_and_a_loader(self):
+        for number, (programs, expected) in enumerate((
+                (["bin/wine"], "no"),
+                (["bin/wine", f"lib/wine/{DLLS_32}"], "yes"),
+                (["bin/wine", f"lib/i386-linux-gnu/wine/{DLLS_32}"], "yes"),
+                (["bin/wine", "lib/wine/wine64", f"lib/i386-linux-gnu/wine/{DLLS_32}"], "no"),
+                (["bin/wine", "lib/wine/wine64", "lib/wine/wine", f"lib/i386-linux-gnu/wine/{DLLS_32}"], "yes"))):
+            wine = self.put(*(f"{number}/{program}" for program in programs))
+            self.assertEqual(self.expect("if wine_runs x86; then echo yes; else echo no; fi", wine=wine), [expected])
+
+
+if __name__ == "__main__":
+    unittest.main()
