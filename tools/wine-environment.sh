@@ -46,12 +46,23 @@ prefix_mark() {
 
 add_registry_value() { run wine reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null 2>&1; }
 
-make_prefix() {
-  local log=$project/build/wine-prefix.log
-  say "Making the Wine prefix build/$(basename "$WINEPREFIX") (about 15 seconds) ..."
+# boot_prefix LOG: a new one.
+boot_prefix() {
   rm -rf "$WINEPREFIX"
   mkdir -p "$WINEPREFIX"
-  run timeout --kill-after=10 180 wine wineboot -i >"$log" 2>&1 || fail "wineboot failed, see $log"
+  run timeout --kill-after=10 180 wine wineboot -i >>"$1" 2>&1
+}
+
+make_prefix() {
+  local log=$WINEPREFIX.log
+  say "Making the Wine prefix build/$(basename "$WINEPREFIX") (about 15 seconds) ..."
+  : >"$log"
+  # On a busy machine the first start of a new prefix was seen to fail: "could not load kernel32.dll".
+  boot_prefix "$log" || {
+    say "wineboot failed, see $log; trying once more ..."
+    stop_wine
+    boot_prefix "$log"
+  } || fail "wineboot failed, see $log"
   # Windows and message boxes work without a display.
   add_registry_value 'HKCU\Software\Wine\Drivers' Graphics REG_SZ null || fail "the prefix takes no settings"
   # A crashed test ends instead of showing a dialog that nobody sees.

@@ -1,4 +1,4 @@
-"""Which Wine the scripts use. The Wines are stand-ins."""
+"""Which Wine the scripts use, and what they do when it does not start at once. The Wines are stand-ins."""
 import os
 import subprocess
 import tempfile
@@ -9,7 +9,8 @@ PROJECT = Path(__file__).resolve().parents[2]
 SOURCED = "set -euo pipefail; source tools/shell-support.sh; source tools/wine-environment.sh"
 DLLS_32 = "i386-windows/regsvr32.exe"
 
-# Says who it is, and keeps a list of what it was asked to do. `wineboot` fails as often as the file "refusals" has lines.
+# Says who it is, and keeps a list of what it was asked to do. `wineboot` fails as often as the file "refusals" has
+# lines.
 STAND_IN = """#!/bin/bash
 here={folder}
 [[ $1 != --version ]] || {{ echo "wine-77.1 (stand-in)"; exit; }}
@@ -98,6 +99,30 @@ class ChoiceTest(WineCase):
                 (["bin/wine", "lib/wine/wine64", "lib/wine/wine", f"lib/i386-linux-gnu/wine/{DLLS_32}"], "yes"))):
             wine = self.put(*(f"{number}/{program}" for program in programs))
             self.assertEqual(self.expect("if wine_runs x86; then echo yes; else echo no; fi", wine=wine), [expected])
+
+
+class PrefixTest(WineCase):
+    def make_prefix(self, refusals):
+        wine = self.put("bin/wine", "bin/wineserver")
+        (self.folder / "refusals").write_text("once\n" * refusals)
+        run = self.shell(f"WINEPREFIX={self.folder}/prefix; make_prefix", wine=wine)
+        starts = (self.folder / "calls").read_text().count("wineboot")
+        return run, starts, (self.folder / "prefix" / "finished").exists()
+
+    def test_it_is_made_at_the_first_try(self):
+        run, starts, finished = self.make_prefix(0)
+        self.assertEqual((run.returncode, starts, finished), (0, 1, True), run)
+
+    def test_a_first_start_that_fails_is_tried_once_more(self):
+        run, starts, finished = self.make_prefix(1)
+        self.assertEqual((run.returncode, starts, finished), (0, 2, True), run)
+        self.assertIn("trying once more", run.stdout)
+
+    def test_a_second_failure_is_final_and_its_log_is_named(self):
+        run, starts, finished = self.make_prefix(2)
+        self.assertEqual((run.returncode, starts, finished), (1, 2, False), run)
+        self.assertIn(f"wineboot failed, see {self.folder}/prefix.log", run.stderr)
+        self.assertEqual((self.folder / "prefix.log").read_text().count("no kernel32.dll"), 2)
 
 
 if __name__ == "__main__":
