@@ -89,24 +89,13 @@ stop_wine() {
   wineserver --kill </dev/null >/dev/null 2>&1 9>&- || :
 }
 
-# regsvr32_of ARCH ARGUMENT...
-regsvr32_of() {
-  local output
-  output=$project/build/regsvr32.log
-  run timeout --kill-after=10 60 wine "$(windows_programs "$1")\\regsvr32.exe" "${@:2}" >"$output" 2>&1
-}
-
 library_of() { printf '%s' "$project/build/$1/bin/TVLejisCore.dll"; }
 
 register_dll() {
+  local code=0
   [[ -f $(library_of "$1") ]] || fail "$(library_of "$1") has not been built"
-  regsvr32_of "$1" "$(windows_path "$(library_of "$1")")" && return
-  cat "$project/build/regsvr32.log" >&2
-  fail "the $1 library could not be registered"
-}
-
-unregister_dll() {
-  regsvr32_of "$1" /u "$(windows_path "$(library_of "$1")")" && return
-  cat "$project/build/regsvr32.log" >&2
-  fail "the $1 library could not be unregistered"
+  # Without /s a newer Wine shows a message box, and nobody is there to close it.
+  run timeout --kill-after=10 60 wine "$(windows_programs "$1")\\regsvr32.exe" /s \
+    "$(windows_path "$(library_of "$1")")" >/dev/null 2>&1 || code=$?
+  ((code == 0)) || fail "the $1 library could not be registered: regsvr32 ended with code $code"
 }
