@@ -5,8 +5,9 @@
     test_report.py summary FOLDER
         prints a table and, as the last line, "N passed, M failed"; exit code 1 unless all is well
 
-KIND is gtest, script (a VBScript that ends with code 7 after its end marker) or unittest. A program that crashes,
-hangs or runs no test counts as one failed test. --filtered: a program that runs no test is no failure.
+KIND is gtest, script (a VBScript that ends with code 7 after its end marker, which names the processor architecture
+that the script saw) or unittest. A program that crashes, hangs or runs no test counts as one failed test. --filtered: a
+program that runs no test is no failure.
 """
 import re
 import sys
@@ -16,6 +17,8 @@ from typing import NamedTuple
 
 TIMED_OUT = (124, 137)
 SCRIPT_SUCCEEDED = 7
+# What %PROCESSOR_ARCHITECTURE% is in programs of each bitness. The coverage run is that of the 32-bit library.
+PROCESSORS = {"x86": "x86", "coverage": "x86", "x64": "AMD64"}
 SHOWN_LINES = 60
 
 
@@ -74,14 +77,16 @@ def read_gtest(code, log, xml):
     return Outcome(passed, skipped, failures)
 
 
-def read_script(code, log):
-    marker = re.fullmatch(r"END OF SCRIPT (\d+) checks", log[-1]) if log else None
-    if code == SCRIPT_SUCCEEDED and marker and int(marker[1]):
-        return Outcome(1, 0, [])
+def read_script(code, log, architecture):
+    marker = re.fullmatch(r"END OF SCRIPT (\d+) checks on (\w+)", log[-1]) if log else None
     if not marker:
         reason = f"{ending(code)} without its end marker"
     elif not int(marker[1]):
         reason = "made no check"
+    elif marker[2] != PROCESSORS[architecture]:
+        reason = f"ran on {marker[2]}, not on {PROCESSORS[architecture]}"
+    elif code == SCRIPT_SUCCEEDED:
+        return Outcome(1, 0, [])
     else:
         reason = ending(code)
     return Outcome(0, 0, [(f"the script {reason}", last_lines(log))])
@@ -103,17 +108,17 @@ def read_unittest(code, log):
     return Outcome(max(0, int(ran[1]) - skipped - len(names)), skipped, failures)
 
 
-def read(kind, code, stem):
+def read(kind, code, stem, architecture):
     log = Path(f"{stem}.log").read_text(encoding="utf-8", errors="replace").splitlines()
     log = [line.rstrip() for line in log if line.strip()]
     if kind == "gtest":
         return read_gtest(code, log, Path(f"{stem}.xml"))
-    return {"script": read_script, "unittest": read_unittest}[kind](code, log)
+    return read_script(code, log, architecture) if kind == "script" else read_unittest(code, log)
 
 
 def record(folder, architecture, ring, kind, program, code, filtered):
     stem = f"{folder}/{architecture}-{ring}-{program}"
-    outcome = read(kind, int(code), stem)
+    outcome = read(kind, int(code), stem, architecture)
     if not (outcome.passed or outcome.failures or filtered):
         outcome.failures.append(("the program ran no test", []))
     for name, output in outcome.failures:

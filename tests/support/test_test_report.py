@@ -23,15 +23,15 @@ class TestReportTest(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.folder = folder.name
 
-    def record(self, kind, code, log, xml=None, filtered=False):
+    def record(self, kind, code, log, xml=None, filtered=False, architecture="x86"):
         """The columns passed, failed, skipped and what was printed."""
-        stem = Path(self.folder, "x86-unit-program")
+        stem = Path(self.folder, f"{architecture}-unit-program")
         stem.with_suffix(".log").write_text(log, encoding="utf-8", newline="")
         if xml is not None:
             stem.with_suffix(".xml").write_text(xml, encoding="utf-8")
         printed = io.StringIO()
         with contextlib.redirect_stdout(printed):
-            test_report.record(self.folder, "x86", "unit", kind, "program", str(code), filtered)
+            test_report.record(self.folder, architecture, "unit", kind, "program", str(code), filtered)
         row = Path(self.folder, "rows.tsv").read_text(encoding="utf-8").splitlines()[-1]
         return tuple(map(int, row.split("\t")[2:])), printed.getvalue()
 
@@ -87,10 +87,18 @@ class TestReportTest(unittest.TestCase):
         self.assertEqual(self.record("gtest", 53, "", filtered=True)[0], (0, 1, 0))
 
     def test_script_needs_code_marker_and_checks(self):
-        self.assertEqual(self.record("script", 7, "x\r\nEND OF SCRIPT 3 checks\r\n")[0], (1, 0, 0))
-        for code, log in ((0, "END OF SCRIPT 3 checks\n"), (1, "END OF SCRIPT 3 checks\n"), (7, "x\n"), (0, ""),
-                          (7, "END OF SCRIPT 0 checks\n"), (7, "END OF SCRIPT 3 checks\nx\n")):
+        self.assertEqual(self.record("script", 7, "x\r\nEND OF SCRIPT 3 checks on x86\r\n")[0], (1, 0, 0))
+        for code, log in ((0, "END OF SCRIPT 3 checks on x86\n"), (1, "END OF SCRIPT 3 checks on x86\n"), (7, "x\n"),
+                          (0, ""), (7, "END OF SCRIPT 0 checks on x86\n"), (7, "END OF SCRIPT 3 checks on x86\nx\n")):
             self.assertEqual(self.record("script", code, log)[0], (0, 1, 0), (code, log))
+
+    def test_script_must_have_run_in_the_bitness_of_the_library(self):
+        for architecture, processor in (("x86", "x86"), ("coverage", "x86"), ("x64", "AMD64")):
+            for seen in ("x86", "AMD64"):
+                counts, _ = self.record("script", 7, f"END OF SCRIPT 3 checks on {seen}\n", architecture=architecture)
+                self.assertEqual(counts, (1, 0, 0) if seen == processor else (0, 1, 0), (architecture, seen))
+        _, printed = self.record("script", 7, "END OF SCRIPT 3 checks on x86\n", architecture="x64")
+        self.assertIn("the script ran on x86, not on AMD64", printed)
 
     def test_python_tests(self):
         self.assertEqual(self.record("unittest", 0, "..\nRan 3 tests in 0.1s\n\nOK (skipped=1)\n")[0], (2, 0, 1))
@@ -105,7 +113,7 @@ class TestReportTest(unittest.TestCase):
     def test_summary(self):
         self.assertEqual(self.summary(), (1, "0 passed, 0 failed"))
         self.record("gtest", 0, GOOD_LOG, XML.format(""))
-        self.record("script", 7, "END OF SCRIPT 3 checks\n")
+        self.record("script", 7, "END OF SCRIPT 3 checks on x86\n")
         self.assertEqual(self.summary(), (0, "2 passed, 0 failed"))
         self.record("script", 1, "x\n")
         self.assertEqual(self.summary(), (1, "2 passed, 1 failed"))

@@ -77,6 +77,7 @@ Check "the date read back", copy.SubmittedDate.Value, #3/10/2007#
 item.LoadDefaults
 Check "a card that was emptied", item.Category, ""
 
-WScript.Echo "END OF SCRIPT " & checks & " checks"
+WScript.Echo "END OF SCRIPT " & checks & " checks on " & _
+    WScript.CreateObject("WScript.Shell").ExpandEnvironmentStrings("%PROCESSOR_ARCHITECTURE%")
 If failures = 0 Then WScript.Quit 7
 WScript.Quit 1

@@ -62,6 +62,7 @@ Check "the person itself", person.RaceNCIC, "X"
 Check "the unshaped incident is refused", validator.Validate(incident), True
 Check "the shaped copy passes", validator.Validate(copy), False
 
-WScript.Echo "END OF SCRIPT " & checks & " checks"
+WScript.Echo "END OF SCRIPT " & checks & " checks on " & _
+    WScript.CreateObject("WScript.Shell").ExpandEnvironmentStrings("%PROCESSOR_ARCHITECTURE%")
 If failures = 0 Then WScript.Quit 7
 WScript.Quit 1

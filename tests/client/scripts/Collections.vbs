@@ -67,6 +67,7 @@ While persons.Count > 0
 Wend
 Check "the count at the end", persons.Count, 0
 
-WScript.Echo "END OF SCRIPT " & checks & " checks"
+WScript.Echo "END OF SCRIPT " & checks & " checks on " & _
+    WScript.CreateObject("WScript.Shell").ExpandEnvironmentStrings("%PROCESSOR_ARCHITECTURE%")
 If failures = 0 Then WScript.Quit 7
 WScript.Quit 1

@@ -55,6 +55,7 @@ Check "markup is written as text", root.lastChild.text, "<b/>"
 envelope.Username = ""
 Check "no user, no header", envelope.ToXmlElement(doc).childNodes.length, 1
 
-WScript.Echo "END OF SCRIPT " & checks & " checks"
+WScript.Echo "END OF SCRIPT " & checks & " checks on " & _
+    WScript.CreateObject("WScript.Shell").ExpandEnvironmentStrings("%PROCESSOR_ARCHITECTURE%")
 If failures = 0 Then WScript.Quit 7
 WScript.Quit 1

@@ -78,6 +78,7 @@ card.Make = "FORD"
 CheckError "no mistake", 0, ""
 Check "the object works afterwards", card.Make, "FORD"
 
-WScript.Echo "END OF SCRIPT " & checks & " checks"
+WScript.Echo "END OF SCRIPT " & checks & " checks on " & _
+    WScript.CreateObject("WScript.Shell").ExpandEnvironmentStrings("%PROCESSOR_ARCHITECTURE%")
 If failures = 0 Then WScript.Quit 7
 WScript.Quit 1

@@ -57,6 +57,7 @@ Check "the time text", common.LejisFormatTime(#3/9/2007 2:05:00 PM#), "14:05:00"
 variable = #1/2/1970#
 Check "the date text of a variable", common.LejisFormatDate(variable), "1970-01-02"
 
-WScript.Echo "END OF SCRIPT " & checks & " checks"
+WScript.Echo "END OF SCRIPT " & checks & " checks on " & _
+    WScript.CreateObject("WScript.Shell").ExpandEnvironmentStrings("%PROCESSOR_ARCHITECTURE%")
 If failures = 0 Then WScript.Quit 7
 WScript.Quit 1
