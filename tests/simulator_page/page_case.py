@@ -5,6 +5,7 @@ from pathlib import Path
 
 from selenium import webdriver
 from selenium.webdriver.chrome.service import Service
+from selenium.webdriver.common import utils
 from selenium.webdriver.common.by import By
 from selenium.webdriver.common.keys import Keys
 from selenium.webdriver.support.ui import WebDriverWait
@@ -15,18 +16,32 @@ from lejis_case import SimulatorCase, card  # noqa: E402  (the path comes first)
 
 PATIENCE_SECONDS = 20
 WIDE, NARROW = (1280, 900), (360, 740)
+LOOPBACK = "127.0.0.1"
+
+
+class Driver(Service):
+    """Spoken to by its address, not as "localhost": a bare machine may lack that name."""
+
+    @property
+    def service_url(self):
+        return f"http://{LOOPBACK}:{self.port}"
+
+    def is_connectable(self):
+        return utils.is_connectable(self.port, LOOPBACK)
 
 
 def start_browser():
     options = webdriver.ChromeOptions()
     options.binary_location = "/usr/bin/chromium"
-    for argument in ("--headless=new", "--disable-gpu", "--disable-dev-shm-usage", "--disable-background-networking"):
+    # The driver steers the browser by a pipe, for otherwise it would look for "localhost" as well.
+    for argument in ("--headless=new", "--disable-gpu", "--disable-dev-shm-usage", "--disable-background-networking",
+                     "--remote-debugging-pipe"):
         options.add_argument(argument)
     if os.geteuid() == 0:
         # Chromium's sandbox is not to be had for root.
         options.add_argument("--no-sandbox")
     options.set_capability("goog:loggingPrefs", {"browser": "ALL"})
-    return webdriver.Chrome(service=Service("/usr/bin/chromedriver"), options=options)
+    return webdriver.Chrome(service=Driver("/usr/bin/chromedriver"), options=options)
 
 
 class PageCase(SimulatorCase):

@@ -1,21 +1,30 @@
 """The simulator's page as people use it."""
 import os
 import re
+import socket
 import subprocess
 import sys
 import unittest
 import urllib.error
 import urllib.request
 from pathlib import Path
+from unittest import mock
 from xml.sax.saxutils import escape
 
 from selenium.webdriver.common.keys import Keys
 
-from page_case import NARROW, PATIENCE_SECONDS, WIDE, PageCase
+from page_case import LOOPBACK, NARROW, PATIENCE_SECONDS, WIDE, PageCase, start_browser
 from lejis_case import DONE, PROJECT, TRY_AGAIN
 
 PROGRAM = PROJECT / "tools/simulator/lejis_simulator.py"
 MARKUP = "<img src=x onerror=document.title=1><script>document.title=2</script>"
+
+
+class DriverTest(unittest.TestCase):
+    def test_no_name_is_looked_up_to_steer_the_browser(self):
+        with mock.patch("socket.getaddrinfo", wraps=socket.getaddrinfo) as looked_up:
+            start_browser().quit()
+        self.assertEqual({call.args[0] for call in looked_up.call_args_list}, {LOOPBACK})
 
 
 class PageTest(PageCase):
