@@ -124,6 +124,7 @@ class GoodFileTest(LejisCase):
         text = card().replace("Millbrook", "Montr\u00e9al")
         declared = '<?xml version="1.0" encoding="{}"?>\n'
         for content in (text.encode(), text.encode("utf-8-sig"), text.encode("utf-16"),
+                        b"\xfe\xff" + text.encode("utf-16-be"), (declared.format("UTF-16") + text).encode("utf-16"),
                         text.replace("\n", "\r\n").encode(),
                         (declared.format("UTF-8") + text).encode(),
                         (declared.format("ISO-8859-1") + text).encode("latin-1"),

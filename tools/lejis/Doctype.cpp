@@ -3,18 +3,15 @@
 #include "FileError.h"
 
 #include <algorithm>
-#include <string>
 #include <string_view>
 
 namespace lejis_client {
 namespace {
 
 // The text as far as it is ASCII. UTF-16 becomes readable by leaving out its zero bytes.
-std::string AsciiOf(const _variant_t& content) {
-    const auto* bytes = static_cast<const char*>(content.parray->pvData);
-    std::string text(bytes, content.parray->rgsabound[0].cElements);
-    std::erase(text, '\0');
-    return text;
+std::string AsciiOf(std::string content) {
+    std::erase(content, '\0');
+    return content;
 }
 
 // Where a comment or a processing instruction ends; npos for everything else.
@@ -37,7 +34,7 @@ std::size_t FindDoctype(std::string_view text) {
 
 }  // namespace
 
-void RefuseDoctype(const _variant_t& content) {
+void RefuseDoctype(const std::string& content) {
     const std::string text = AsciiOf(content);
     const std::size_t place = FindDoctype(text);
     if (place == std::string::npos) return;

@@ -4,6 +4,8 @@
 #include "FilePattern.h"
 #include "WindowsText.h"
 
+#include <windows.h>
+
 #include <memory>
 
 namespace lejis_client {
@@ -60,16 +62,14 @@ ULONG SizeOf(HANDLE file) {
 
 }  // namespace
 
-_variant_t ReadFileContent(const std::wstring& path) {
+std::string ReadFileContent(const std::wstring& path) {
     const FileHandle file = Open(path);
-    const ULONG size = SizeOf(file.get());
-    _variant_t content;
-    content.parray = SafeArrayCreateVector(VT_UI1, 0, size);
-    if (!content.parray) throw std::bad_alloc();
-    content.vt = VT_ARRAY | VT_UI1;
+    std::string content(SizeOf(file.get()), '\0');
     DWORD read = 0;
-    if (!ReadFile(file.get(), content.parray->pvData, size, &read, nullptr)) ThrowReason(GetLastError());
-    if (read != size) throw FileError{L"The file changed while it was read."};
+    if (!ReadFile(file.get(), content.data(), static_cast<DWORD>(content.size()), &read, nullptr)) {
+        ThrowReason(GetLastError());
+    }
+    if (read != content.size()) throw FileError{L"The file changed while it was read."};
     return content;
 }
 

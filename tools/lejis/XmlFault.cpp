@@ -1,12 +1,13 @@
 #include "XmlFault.h"
 
 #include "XmlFaultHandler.h"
+#include "XmlSource.h"
 
 #include <wrl/client.h>
 
 namespace lejis_client {
 
-std::wstring DescribeXmlFault(const _variant_t& content) {
+std::wstring DescribeXmlFault(const std::string& content) {
     Microsoft::WRL::ComPtr<ISAXXMLReader> reader;
     XmlFaultHandler handler;
     HRESULT result = CoCreateInstance(__uuidof(SAXXMLReader60), nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&reader));
@@ -16,7 +17,7 @@ std::wstring DescribeXmlFault(const _variant_t& content) {
         const _variant_t lexicalHandler(static_cast<ISAXLexicalHandler*>(&handler));
         result = reader->putProperty(L"http://xml.org/sax/properties/lexical-handler", lexicalHandler);
     }
-    if (SUCCEEDED(result)) result = reader->parse(content);
+    if (SUCCEEDED(result)) result = reader->parse(XmlSource(content));
     if (FAILED(result) && !handler.Fault().empty()) return handler.Fault();
     return L"The XML cannot be loaded.";
 }
