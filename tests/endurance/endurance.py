@@ -20,7 +20,8 @@ from dataclasses import dataclass, field
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parents[2]
-sys.path[:0] = [str(PROJECT / folder) for folder in ("tools/simulator", "tests/fault_matrix", "tests/endurance")]
+sys.path[:0] = [str(PROJECT / folder)
+                for folder in ("tools/simulator", "tests/fault_matrix", "tests/endurance", "tests/support")]
 
 from fault_server import FaultServer  # noqa: E402  the paths come first
 from moods import Moods  # noqa: E402

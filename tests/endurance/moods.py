@@ -12,6 +12,7 @@ from lejis.namespaces import Namespaces
 
 import documented
 import plays
+import wine_version
 from behaviour import Behaviour, Exchange, Play
 from behaviours import BEHAVIOURS, GIVEN_UP, RIGHT
 from fault_server import WELL_BEHAVED
@@ -20,6 +21,7 @@ FAULT_SHARE = 0.1
 # These would only cost time.
 _LEFT_OUT = frozenset(behaviour.name for behaviour in GIVEN_UP)
 _LARGE = "MB"
+_WINE = wine_version.major()
 
 
 def _code(text: str, outcome: str) -> Behaviour:
@@ -39,7 +41,7 @@ CODES = (
 
 
 def _is_refusal(behaviour: Behaviour) -> bool:
-    (outcome,) = behaviour.documented("submit")[:1]
+    (outcome,) = behaviour.documented("submit", _WINE)[:1]
     return outcome.startswith("fatal: ") and not outcome.startswith("fatal: Internal error")
 
 

@@ -13,6 +13,8 @@ from arrival import Arrival
 from connection import Connection
 
 OPERATIONS = ("submit", "delete", "search", "wsdl")
+# The major versions of Wine that the outcomes were seen under. One between them counts as the older.
+WINES = (8, 10)
 
 
 @dataclass(frozen=True)
@@ -43,6 +45,7 @@ class Behaviour:
     those of a race that the platform loses now one way, now the other. `gives_up` is how the
     client ends a search that nothing else ends. `scripted` names the tests of the services that
     play the row, because the platform under the tests never completes it or reports it differently.
+    `from_wine_10` is what arrives from that version on, where it is not what arrives before.
     `twice`: the client has had one such exchange before. `note` says what the platform has to do with it.
     """
 
@@ -56,6 +59,7 @@ class Behaviour:
     gives_up: str | None = None
     twice: bool = False
     scripted: str | None = None
+    from_wine_10: Arrival | None = None
     note: str = ""
 
     @property
@@ -63,7 +67,8 @@ class Behaviour:
         """How many requests the server gets to see."""
         return 1 + self.twice if self.play else 0
 
-    def documented(self, operation: str) -> tuple[str, ...]:
-        """What the client of the operation has to be told: one of these."""
-        outcome = self.exceptions.get(operation, documented.RULES[operation](self.arrives))
+    def documented(self, operation: str, wine: int) -> tuple[str, ...]:
+        """What the client of the operation has to be told under this version of Wine: one of these."""
+        arrives = self.from_wine_10 if self.from_wine_10 and wine >= 10 else self.arrives
+        outcome = self.exceptions.get(operation, documented.RULES[operation](arrives))
         return (outcome,) if isinstance(outcome, str) else outcome

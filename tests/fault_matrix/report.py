@@ -6,7 +6,7 @@ import re
 from collections.abc import Iterable
 
 import documented
-from behaviour import OPERATIONS, Behaviour
+from behaviour import OPERATIONS, WINES, Behaviour
 from matrix import Outcomes
 
 _TITLES = {"submit": "Submission", "delete": "Deletion", "search": "Search", "wsdl": "Schema check"}
@@ -23,6 +23,7 @@ and holds the incident whole or not at all: as submitted where it has acted, unt
 
 A plain outcome is that of the submission; " repeats it for the deletion. *kept back*: the submission that was to be
 checked is not sent. In a row with a note about Wine, the outcome is what Wine's HTTP and XML make of the behaviour.
+Where two versions of Wine make different things of it, each is named with its outcome.
 A search that nothing ends is given up by its client: it is *replaced* by another one, whose event is the outcome, or
 *withdrawn* by a search for nothing.
 
@@ -48,8 +49,9 @@ _KEPT_BACK = re.compile(r"fatal: Internal error -\d+: Error in DoSubmit \(line 3
 _NUMBER = r"(\d+)"
 
 
-def render(behaviours: Iterable[Behaviour], outcomes: Outcomes) -> str:
-    """The whole page. A cell whose outcome is not the documented one shows what was seen."""
+def render(behaviours: Iterable[Behaviour], outcomes: Outcomes, wine: int) -> str:
+    """The whole page, which is the same for all versions of Wine. A cell whose outcome is not the one documented for
+    this version shows what was seen."""
     behaviours = list(behaviours)
     parts = [_INTRODUCTION.format(rows=len(behaviours), cells=len(behaviours) * len(OPERATIONS))]
     parts += [f"| *{word}* | {_escaped(text)} |\n" for word, text in _WORDS]
@@ -58,7 +60,7 @@ def render(behaviours: Iterable[Behaviour], outcomes: Outcomes) -> str:
         if behaviour.group != group:
             group = behaviour.group
             parts.append(_heading(group))
-        parts.append(_row(behaviour, outcomes))
+        parts.append(_row(behaviour, outcomes, wine))
     return "".join(parts)
 
 
@@ -67,20 +69,24 @@ def _heading(group: str) -> str:
     return f"\n## {group}\n\n| The server | {titles} | Note |\n|---|---|---|---|---|---|\n"
 
 
-def _row(behaviour: Behaviour, outcomes: Outcomes) -> str:
-    cells = [_cell(behaviour, operation, outcomes) for operation in OPERATIONS]
+def _row(behaviour: Behaviour, outcomes: Outcomes, wine: int) -> str:
+    cells = [_cell(behaviour, operation, outcomes[behaviour, operation], wine) for operation in OPERATIONS]
     if cells[1] == cells[0]:
         cells[1] = '"'
     return f"| {_escaped(behaviour.name)} | {' | '.join(cells)} | {behaviour.note} |\n"
 
 
-def _cell(behaviour: Behaviour, operation: str, outcomes: Outcomes) -> str:
-    wanted = behaviour.documented(operation)
-    seen = outcomes[behaviour, operation]
-    if not documented.fulfils(seen, wanted):
+def _cell(behaviour: Behaviour, operation: str, seen: str, wine: int) -> str:
+    if not documented.fulfils(seen, behaviour.documented(operation, wine)):
         return _escaped(f"NOT AS DOCUMENTED: {seen}")
+    if not behaviour.from_wine_10:
+        return _wanted(behaviour, operation, wine)
+    return "; ".join(f"Wine {each}: {_wanted(behaviour, operation, each)}" for each in WINES)
+
+
+def _wanted(behaviour: Behaviour, operation: str, wine: int) -> str:
     given_up = f"*{behaviour.gives_up}*: " if behaviour.gives_up and operation == "search" else ""
-    return given_up + " or ".join(_escaped(_short(outcome)) for outcome in wanted)
+    return given_up + " or ".join(_escaped(_short(outcome)) for outcome in behaviour.documented(operation, wine))
 
 
 def _short(outcome: str) -> str:
