@@ -1,5 +1,6 @@
 // How scripts and other clients of the late-bound kind may call the members.
 #include "client/LateBound.h"
+#include "support/WineVersion.h"
 #include "support/Xml.h"
 
 #include <gtest/gtest.h>
@@ -151,8 +152,10 @@ TEST(LateBoundArgument, MayBeAVariableThatHoldsAnObject) {
 }
 
 TEST(LateBoundMember, ThatIsReadOnlyCannotBeSet) {
+    // Wine 10 takes the value for an argument that the property does not have; Wine 8 and Windows find no such member.
+    const HRESULT refusal = support::WineVersion() >= 10 ? DISP_E_BADPARAMCOUNT : DISP_E_MEMBERNOTFOUND;
     const LateBound system = CreateLateBound(L"LejisContributingSystem");
-    EXPECT_EQ(DISP_E_MEMBERNOTFOUND, system.Put(L"CompanyName", L"Other").result);
+    EXPECT_EQ(refusal, system.Put(L"CompanyName", L"Other").result);
     EXPECT_EQ(L"Talvex", system.Get(L"CompanyName").Text());
 }
 
