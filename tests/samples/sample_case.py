@@ -13,6 +13,7 @@ PROJECT = Path(__file__).resolve().parents[2]
 SAMPLES = PROJECT / "samples"
 BUILD = PROJECT / "build" / os.environ["LEJIS_ARCHITECTURE"]
 SYSTEM = {"x86": "SysWOW64", "x64": "System32"}[os.environ["LEJIS_ARCHITECTURE"]]
+PROCESSOR = {"x86": "x86", "x64": "AMD64"}[os.environ["LEJIS_ARCHITECTURE"]]
 SERVICES = os.environ["LEJIS_SIMULATOR_URL"] + "/lejis-core-Rev01/services"
 SUBMISSION, SEARCH = f"{SERVICES}/submission", f"{SERVICES}/search"
 TIME_LIMIT = 60

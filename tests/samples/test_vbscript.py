@@ -1,11 +1,12 @@
 import unittest
 
-from sample_case import DONE, REFUSED, SAMPLES, SEARCH, SUBMISSION, TRY_AGAIN, SampleCase
+from sample_case import DONE, PROCESSOR, REFUSED, SAMPLES, SEARCH, SUBMISSION, TRY_AGAIN, SampleCase
 
 FOLDER = SAMPLES / "vbscript"
 
-# Wine's cscript connects no events and cannot sleep, so no event can reach a script. The script's search is sent all the
-# same; then the sleep is replaced by asking once more and handing the answer, as the library reads it, to the handler.
+# Wine's cscript connects no events, and that of Wine 8 cannot sleep, so no event can reach a script. The script's
+# search is sent all the same; then the sleep is replaced by asking once more and handing the answer, as the library
+# reads it, to the handler.
 CONNECT = 'WScript.ConnectObject service, "service_"\n'
 SLEEP = "    WScript.Sleep 50\n"
 ASK = """    Dim post, answer
@@ -22,6 +23,14 @@ ASK = """    Dim post, answer
     answer.FromXmlDocument post.responseXML
     service_SearchCompleted answer.IncidentIndexCards
 """
+
+
+class BitnessTest(SampleCase):
+    def test_the_scripts_run_in_the_bitness_of_the_library(self):
+        path = self.folder / "bitness.vbs"
+        path.write_text('WScript.Echo WScript.CreateObject("WScript.Shell").ExpandEnvironmentStrings('
+                        '"%PROCESSOR_ARCHITECTURE%")\n')
+        self.assertEqual(self.script(path).output, f"{PROCESSOR}\n")
 
 
 class SubmitTest(SampleCase):
