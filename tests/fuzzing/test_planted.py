@@ -2,11 +2,16 @@
 
 from __future__ import annotations
 
+import sys
 import tempfile
 import unittest
 from pathlib import Path
 
 from fuzzer import CRASHED, DEVOURED, FOUND, HUNG, NOTHING_FOUND, Run, run, windows_path
+
+sys.path.append(str(Path(__file__).resolve().parents[1] / "support"))
+
+import wine_version  # noqa: E402  (the path comes first)
 
 PLANTED = {
     "overrun": (FOUND, "overrun: a block of the heap was written beyond its end"),
@@ -22,6 +27,9 @@ PLANTED = {
     "trap": (CRASHED, "crash: exception c000001d"),
     "abort": (CRASHED, "crash: the program aborted itself"),
 }
+# Wine 10 keeps blocks of the sizes that are often asked for in groups, and neither lists nor checks what is in a group.
+UNSEEN_BY_WINE_10 = {"overrun", "leaked-memory"}
+UNSEEN = UNSEEN_BY_WINE_10 if wine_version.major() >= 10 else set()
 
 
 class Planted(unittest.TestCase):
@@ -40,6 +48,8 @@ class Planted(unittest.TestCase):
 
     def test_each_is_found_and_saved(self) -> None:
         for fault, (code, text) in PLANTED.items():
+            if fault in UNSEEN:
+                continue
             with self.subTest(fault=fault):
                 found = self.look(fault)
                 self.assertEqual(code, found.code, found.output)
@@ -49,8 +59,14 @@ class Planted(unittest.TestCase):
                 self.assertTrue(case.read_text(encoding="utf-8").startswith("target planted\n"))
                 case.unlink()
 
+    def test_what_this_heap_does_not_show_is_not_found(self) -> None:
+        for fault in UNSEEN:
+            with self.subTest(fault=fault):
+                found = self.look(fault)
+                self.assertEqual((NOTHING_FOUND, 2000), (found.code, found.cases), found.output)
+
     def test_a_saved_case_is_found_again(self) -> None:
-        for fault in ("overrun", "leaked-object", "leaked-memory", "crash"):
+        for fault in sorted({"overrun", "leaked-object", "leaked-memory", "crash"} - UNSEEN):
             with self.subTest(fault=fault):
                 code, text = PLANTED[fault]
                 self.look(fault)
