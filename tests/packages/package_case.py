@@ -70,11 +70,11 @@ class PackageCase(unittest.TestCase):
         self.assertEqual(different[:20], [], f"{len(different)} entries are different")
 
     def msiexec(self, *arguments):
-        self.expect("msiexec", *arguments, "/qn")
+        self.expect(machine.MSIEXEC, *arguments, "/qn")
 
     def install(self, architecture):
         path = package(architecture, ".msi")
-        self.addCleanup(machine.run, "msiexec", "/x", machine.windows_path(path), "/qn")
+        self.addCleanup(machine.run, machine.MSIEXEC, "/x", machine.windows_path(path), "/qn")
         self.msiexec("/i", machine.windows_path(path))
         return path
 

@@ -89,13 +89,13 @@ class InstallationTest(PackageCase):
         newer = self.newer_installer(architecture)
         before = machine.picture()
         self.install(architecture)
-        self.addCleanup(machine.run, "msiexec", "/x", newer, "/qn")
+        self.addCleanup(machine.run, machine.MSIEXEC, "/x", newer, "/qn")
         self.msiexec("/i", newer)
         self.check_use(installed_folder(architecture))
         installed = self.expect("reg", "query", r"HKLM\Software\Microsoft\Windows\CurrentVersion\Uninstall", "/s",
                                 f"/reg:{BITS[architecture]}")
         self.assertEqual(re.findall(r"DisplayVersion +REG_SZ +(\S+)", installed), ["99.0.1"])
-        self.assertNotEqual(machine.run("msiexec", "/i", machine.windows_path(package(architecture, ".msi")),
+        self.assertNotEqual(machine.run(machine.MSIEXEC, "/i", machine.windows_path(package(architecture, ".msi")),
                                         "/qn").code, 0, "an older one does not take the place of a newer one")
         self.check_use(installed_folder(architecture))
         self.msiexec("/x", newer)

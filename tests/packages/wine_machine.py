@@ -2,13 +2,21 @@
 import os
 import re
 import subprocess
+import sys
 from pathlib import Path
 from typing import NamedTuple
+
+sys.path.append(str(Path(__file__).resolve().parents[1] / "support"))
+
+import wine_version  # noqa: E402  (the path comes first)
 
 PREFIX = Path(os.environ["WINEPREFIX"])
 DISK = PREFIX / "drive_c"
 HIVES = ("system.reg", "user.reg", "userdef.reg")
 TIME_LIMIT = 120
+# What a 64-bit program of Wine 8 registers for both bitnesses, such as the name of a class, comes below Wow6432Node,
+# where no 64-bit program looks. Windows and Wine 10 keep it in one place, as Wine 8 does for 32-bit programs.
+MSIEXEC = "msiexec" if wine_version.major() >= 10 else r"C:\windows\syswow64\msiexec.exe"
 
 # What Wine keeps for itself: the installer's empty folders and keys stay after the first product that was installed,
 # the last start writes its time, and the first use of the web leaves a cache and a setting.
