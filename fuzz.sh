@@ -76,7 +76,7 @@ for architecture in "${architectures[@]}"; do
   run "$project/build.sh" "$architecture" fuzz
 done
 start_wine
-check_heap_of_fuzz
+check_heap_of fuzz.exe
 for architecture in "${architectures[@]}"; do
   if wine_runs "$architecture"; then
     fuzz_architecture "$architecture"

@@ -1,9 +1,9 @@
 #!/bin/bash
 # test.sh [x86|x64|all] [--filter PATTERN] [--require-x86] [--require-browser]
 # Builds everything and runs the tests under Wine: in each architecture the unit tests, the clients' tests (C++ and
-# scripts), the tests over HTTP against the simulator and against servers that fail, short runs of endurance.sh and of
-# fuzz.sh; then the tests of the tools, written in Python, and of the packages, which are made, installed, used and
-# uninstalled.
+# scripts), the tests over HTTP against the simulator and against servers that fail, clients in many apartments, short
+# runs of endurance.sh and of fuzz.sh; then the tests of the tools, written in Python, and of the packages, which are
+# made, installed, used and uninstalled.
 # PATTERN is GoogleTest's, such as "Vehicle*:-*Slow*"; scripts are chosen by their file names likewise, and the tests of
 # the tools, of the samples and of the guides are left out.
 # --require-x86 makes it an error that x86 programs cannot be run here, --require-browser that the simulator's page cannot
@@ -108,6 +108,23 @@ run_failing_servers() {
   run_tests "$1" end-to-end unittest endurance "$project/tests/endurance/run.sh" "$1"
 }
 
+# run_apartments_of ARCH RING DLL ROUNDS
+run_apartments_of() {
+  run_googletest "$1" "$2" apartment_tests env "LEJIS_LIBRARY=$(windows_path "$3")" "LEJIS_ROUNDS=$4" \
+    "$project/tests/support/with_simulator.sh"
+}
+
+# Clients in many apartments whose threads end, of the DLL that is shipped and, for a shorter time, of one with checks
+# inside. What the controls do with bare requests tells what is Wine's own, when something fails here: --filter
+# '*Control*' runs them.
+run_apartments() {
+  [[ $1 != coverage ]] || return 0
+  local filter=${filter:-*-*Control*}
+  check_heap_of apartment_tests.exe
+  run_apartments_of "$1" apartments "$(library_of "$1")" 50
+  run_apartments_of "$1" apartments-checked "$project/build/$1/tests/checked/TVLejisCore.dll" 10
+}
+
 # Half a minute of fuzzing; the pattern of --filter does not speak of it.
 run_fuzzing() {
   [[ -z $filter && $1 != coverage ]] || return 0
@@ -123,6 +140,7 @@ run_architecture() {
   run_lejis "$1"
   run_samples "$1"
   run_googletest "$1" end-to-end end_to_end_tests "$project/tests/support/with_simulator.sh" --in-schemas
+  run_apartments "$1"
   run_binaries "$1"
   run_failing_servers "$1"
   run_fuzzing "$1"

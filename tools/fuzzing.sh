@@ -8,15 +8,6 @@ readonly fuzz_targets=(readers values automation sequences)
 # Beside build/x86 and build/x64, where cleaning the one or the other leaves them.
 fuzz_findings=$project/build/fuzz-findings
 
-# Heap checking (the flags for tails, free blocks and parameters), which Windows and Wine look up by a program's name.
-check_heap_of_fuzz() {
-  local bits
-  for bits in 32 64; do
-    run wine reg add 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\Image File Execution Options\fuzz.exe' \
-      /v GlobalFlag /t REG_DWORD /d 0x70 /f "/reg:$bits" >/dev/null 2>&1 || fail "the prefix takes no settings"
-  done
-}
-
 # set_fuzz_command ARCH ARGUMENT...: puts what runs fuzz.exe into the array fuzz_command. The program says everything on
 # its standard output; on the other Wine's XML parser complains of what it is made to read.
 set_fuzz_command() {

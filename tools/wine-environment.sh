@@ -89,6 +89,16 @@ stop_wine() {
   wineserver --kill </dev/null >/dev/null 2>&1 9>&- || :
 }
 
+# check_heap_of PROGRAM.EXE: turns on heap checking (the flags for tails, free blocks and parameters), which Windows and
+# Wine look up by a program's name.
+check_heap_of() {
+  local bits
+  for bits in 32 64; do
+    run wine reg add "HKLM\\Software\\Microsoft\\Windows NT\\CurrentVersion\\Image File Execution Options\\$1" \
+      /v GlobalFlag /t REG_DWORD /d 0x70 /f "/reg:$bits" >/dev/null 2>&1 || fail "the prefix takes no settings"
+  done
+}
+
 library_of() { printf '%s' "$project/build/$1/bin/TVLejisCore.dll"; }
 
 register_dll() {

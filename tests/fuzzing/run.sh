@@ -9,7 +9,7 @@ source "$project/tools/wine-environment.sh"
 # shellcheck source=tools/fuzzing.sh
 source "$project/tools/fuzzing.sh"
 
-check_heap_of_fuzz
+check_heap_of fuzz.exe
 set_fuzz_command "$1"
 FUZZ_COMMAND=$(printf '%s\n' "${fuzz_command[@]}")
 export FUZZ_COMMAND
