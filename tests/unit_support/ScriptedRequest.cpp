@@ -1,5 +1,6 @@
 #include "unit_support/ScriptedRequest.h"
 
+#include "platform/ComError.h"
 #include "support/ComCheck.h"
 #include "support/Xml.h"
 
@@ -11,6 +12,7 @@ namespace support {
 
 ScriptedHttp::ScriptedHttp(Script first) : script(std::move(first)) {
     platform::SetHttpRequestFactory([this] {
+        platform::Check(script.createResult);
         requests.push_back(platform::Create<ScriptedRequest>(script));
         return ComPtr<IXMLHTTPRequest>(requests.back().Get());
     });
@@ -22,13 +24,15 @@ void ScriptedRequest::Advance() {
     state_ = std::min(state_ + 1, script_.readyStates.size() - 1);
     if (!handler_) return;
     DISPPARAMS none{};
-    handler_->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &none, nullptr, nullptr, nullptr);
+    handler_->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD,
+                     script_.callsWithoutParameters ? nullptr : &none, nullptr, nullptr, nullptr);
 }
 
 STDMETHODIMP ScriptedRequest::open(BSTR method, BSTR url, VARIANT asynchronous, VARIANT, VARIANT) {
     sent_.method = method;
     sent_.url = url ? url : L"";
-    sent_.asynchronous = V_BOOL(&asynchronous) != VARIANT_FALSE;
+    sent_.isModeGiven = V_VT(&asynchronous) == VT_BOOL;
+    sent_.asynchronous = !sent_.isModeGiven || V_BOOL(&asynchronous) != VARIANT_FALSE;
     return script_.openResult;
 }
 
@@ -80,6 +84,7 @@ STDMETHODIMP ScriptedRequest::get_readyState(long* state) {
 }
 
 STDMETHODIMP ScriptedRequest::put_onreadystatechange(IDispatch* handler) {
+    if (!handler && FAILED(script_.clearHandlerResult)) return script_.clearHandlerResult;
     handler_ = handler;
     return S_OK;
 }

@@ -16,6 +16,8 @@ namespace support {
 
 // What a request of the script does and answers.
 struct Script {
+    // Of the request's creation.
+    HRESULT createResult = S_OK;
     HRESULT openResult = S_OK;
     HRESULT sendResult = S_OK;
     // The ready states that are reported one after the other; the last one stays.
@@ -28,6 +30,10 @@ struct Script {
     // The response document is parsed from the text; false: the request offers no document at all.
     bool hasResponseXml = true;
     HRESULT responseXmlResult = S_OK;
+    // Of taking the handler away.
+    HRESULT clearHandlerResult = S_OK;
+    // The handler is called without DISPPARAMS.
+    bool callsWithoutParameters = false;
     // Happens while the request is sent, as messages are dispatched meanwhile.
     std::function<void()> onSend = [] {};
 };
@@ -36,6 +42,8 @@ struct Script {
 struct Sent {
     std::wstring method;
     std::wstring url;
+    // What `open` was told; without a word on it a request is asynchronous.
+    bool isModeGiven = false;
     bool asynchronous = false;
     std::vector<std::pair<std::wstring, std::wstring>> headers;
     std::wstring body;
