@@ -4,6 +4,7 @@
 #include "platform/http/AbandonedRequests.h"
 #include "platform/msxml/Document.h"
 #include "platform/Text.h"
+#include "platform/Wine.h"
 
 #include <comutil.h>
 
@@ -20,13 +21,8 @@ namespace {
 constexpr HRESULT kAddressRefused[] = {kInvalidUrl, E_INVALIDARG, static_cast<HRESULT>(0x800C0002),
                                        static_cast<HRESULT>(0x800C000D)};
 
-// What Wine's `send` reports for a server that cannot be reached; Windows means something else by it.
+// What Wine's `send` reports for a server that cannot be reached.
 constexpr HRESULT kDownloadFailure = static_cast<HRESULT>(0x800C0008);
-
-bool UnderWine() {
-    static const bool wine = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-    return wine;
-}
 
 HttpRequestFactory& Factory() {
     static HttpRequestFactory factory;
@@ -72,7 +68,7 @@ void HttpRequest::ClearReadyStateHandler() noexcept {
 void HttpRequest::Abandon() noexcept {
     if (!request_) return;
     ClearReadyStateHandler();
-    if (UnderWine()) HoldUntilComplete(request_);
+    if (wine::CallsReleasedRequests()) HoldUntilComplete(request_);
     request_->abort();
 }
 
@@ -97,7 +93,7 @@ void HttpRequest::SendBody(const VARIANT& body) {
     // Sending may dispatch messages, and what they call may put another request in this one's place.
     const ComPtr<IXMLHTTPRequest> held = request_;
     const HRESULT result = Request().send(body);
-    const bool unreachable = result == kDownloadFailure && UnderWine();
+    const bool unreachable = result == kDownloadFailure && wine::NamesFailuresOfSendOtherwise();
     CheckAs(result, unreachable ? kServerUnreachable : result);
 }
 
@@ -129,8 +125,8 @@ msxml::Document HttpRequest::ResponseXml() const {
     ComPtr<IDispatch> response;
     msxml::Document document;
     const HRESULT result = Request().get_responseXML(response.GetAddressOf());
-    // Wine's answer to bytes in an encoding that it does not know; Windows gives the document that this one becomes.
-    if (result == E_FAIL) return msxml::CreateDocument();
+    // Windows gives the document that this one becomes.
+    if (result == E_FAIL && wine::FailsForUnknownEncodings()) return msxml::CreateDocument();
     Check(result);
     if (response) response.As(&document);
     return document;
