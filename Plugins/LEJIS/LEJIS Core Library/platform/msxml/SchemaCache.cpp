@@ -5,6 +5,7 @@
 #include "platform/msxml/Node.h"
 #include "platform/msxml/ParseError.h"
 #include "platform/Text.h"
+#include "platform/Wine.h"
 
 #include <comutil.h>
 
@@ -38,8 +39,7 @@ std::optional<std::wstring> SchemaCache::FindFault(const std::wstring& xml) cons
     Check(document->put_validateOnParse(VARIANT_TRUE));
     Check(document->putref_schemas(_variant_t(static_cast<IDispatch*>(schemas_.Get()))));
     if (!LoadXml(document, xml)) return LastParseError(document).reason;
-    // Not every MSXML validates while it parses, so what the body holds is checked once more.
-    return FindFaultInBody(document);
+    return platform::wine::ParsesWithoutValidating() ? FindFaultInBody(document) : std::nullopt;
 }
 
 std::optional<std::wstring> SchemaCache::FindFaultInBody(const Document& document) const {
