@@ -18,6 +18,7 @@ CompletedSearch::CompletedSearch(const msxml::Document& answer)
       answer_(answer) {
     Check(service_->FindConnectionPoint(__uuidof(_LejisSearchWebServiceEvents), events_.GetAddressOf()));
     Check(events_->Advise(counter_.Get(), &cookie_));
+    service_->URL = L"http://lejis-interface/search";
 }
 
 CompletedSearch::~CompletedSearch() {

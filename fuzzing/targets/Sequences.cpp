@@ -122,6 +122,9 @@ private:
         search_ = New<ILejisSearchWebService>(__uuidof(::LejisSearchWebService));
         submission_ = New<ILejisSubmissionWebService>(__uuidof(::LejisSubmissionWebService));
         request_ = New<ILejisSearchRequest>(__uuidof(::LejisSearchRequest));
+        const _bstr_t address = platform::ToBstr(L"http://lejis-interface/");
+        Check(search_->put_URL(address), L"put_URL");
+        Check(submission_->put_URL(address), L"put_URL");
     }
 
     void Search() {

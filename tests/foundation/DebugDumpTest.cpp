@@ -106,7 +106,9 @@ TEST_F(DebugDump, ReplacesTheFileOfTheDumpBefore) {
 TEST_F(DebugDump, OfASubmissionHoldsRequestAndResponse) {
     const DebugFlag flag(L"Y");
     const support::ScriptedHttp http({.responseText = support::SubmissionResponse(L"0")});
-    platform::Create<LejisSubmissionWebService>()->SubmitIncident(*support::CleanIncident().Get());
+    const auto service = platform::Create<LejisSubmissionWebService>();
+    service->URL = L"http://lejis-interface/submission";
+    service->SubmitIncident(*support::CleanIncident().Get());
     EXPECT_TRUE(folder.Holds(L"LejisSubmitRequest.xml"));
     EXPECT_TRUE(folder.Holds(L"LejisSubmitResponse.xml"));
 }

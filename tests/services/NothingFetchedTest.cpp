@@ -72,6 +72,7 @@ TEST_F(NothingFetched, WhenAnAnswerIsRead) {
     for (const std::wstring& text : Temptations()) {
         support::ScriptedHttp http({.responseText = text});
         const auto service = platform::Create<LejisSearchWebService>();
+        service->URL = L"http://lejis-interface/search";
         const auto log = support::EventLog::ForSearches();
         log->ConnectTo(service->Dispatch());
         EXPECT_EQ(S_OK, service->Search(platform::Create<LejisSearchRequest>().Get()));
@@ -84,6 +85,7 @@ TEST_F(NothingFetched, WhenTheUsernameIsMarkup) {
     for (const std::wstring& text : Temptations()) {
         support::ScriptedHttp http({.responseText = support::Soap(L"")});
         const auto service = platform::Create<LejisSearchWebService>();
+        service->URL = L"http://lejis-interface/search";
         service->Username = text;
         EXPECT_EQ(S_OK, service->Search(platform::Create<LejisSearchRequest>().Get()));
         if (!http.requests.empty()) http.Last().ClearHandler();

@@ -129,6 +129,8 @@ const EventRow kRows[] = {
     {"WinInet12031", WithoutText(12031), L"NetworkError: Network error: Connection reset."},
 };
 
+constexpr wchar_t kUrl[] = L"http://lejis-interface/search";
+
 class SearchEvents : public testing::TestWithParam<EventRow> {};
 
 std::vector<std::wstring> Expected(const std::wstring& event) {
@@ -139,6 +141,7 @@ TEST_P(SearchEvents, AreAsDocumented) {
     ScriptedHttp http(GetParam().script);
     http.script.readyStates = {1, 2, 3, 4};
     const auto service = platform::Create<LejisSearchWebService>();
+    service->URL = kUrl;
     const auto log = EventLog::ForSearches();
     log->ConnectTo(service->Dispatch());
     const auto request = platform::Create<LejisSearchRequest>();
@@ -163,8 +166,13 @@ INSTANTIATE_TEST_SUITE_P(Answers, SearchEvents, testing::ValuesIn(kRows),
                          [](const auto& row) { return std::string(row.param.name); });
 
 const EventRow kSendingFailures[] = {
-    {"InvalidUrl", {.openResult = MK_E_SYNTAX}, L"ConfigurationError: Invalid URL 'no url'."},
-    {"InvalidUrlAsInvalidArgument", {.openResult = E_INVALIDARG}, L"ConfigurationError: Invalid URL 'no url'."},
+    {"InvalidUrl", {.openResult = MK_E_SYNTAX}, L"ConfigurationError: Invalid URL 'http://lejis-interface/search'."},
+    {"InvalidUrlAsInvalidArgument",
+     {.openResult = E_INVALIDARG},
+     L"ConfigurationError: Invalid URL 'http://lejis-interface/search'."},
+    {"InvalidUrlWhenItIsSent",
+     {.sendResult = static_cast<HRESULT>(0x800C0002)},
+     L"ConfigurationError: Invalid URL 'http://lejis-interface/search'."},
     {"Unreachable", {.sendResult = static_cast<HRESULT>(0x800C0005)}, L"NetworkError: The server is down."},
     {"Other", {.openResult = E_ACCESSDENIED}, L"ConfigurationError: Internal error -2147024891: Access denied."},
 };
@@ -174,7 +182,7 @@ class SearchSendingFailure : public testing::TestWithParam<EventRow> {};
 TEST_P(SearchSendingFailure, IsAnEventAtOnceAndNoError) {
     const ScriptedHttp http(GetParam().script);
     const auto service = platform::Create<LejisSearchWebService>();
-    service->URL = L"no url";
+    service->URL = kUrl;
     const auto log = EventLog::ForSearches();
     log->ConnectTo(service->Dispatch());
     EXPECT_EQ(S_OK, service->Search(platform::Create<LejisSearchRequest>().Get()));
@@ -186,6 +194,24 @@ TEST_P(SearchSendingFailure, IsAnEventAtOnceAndNoError) {
 
 INSTANTIATE_TEST_SUITE_P(Failures, SearchSendingFailure, testing::ValuesIn(kSendingFailures),
                          [](const auto& row) { return std::string(row.param.name); });
+
+TEST(SearchAddress, ThatIsNoneIsAnEventAtOnceAndNothingIsSent) {
+    for (const std::wstring url :
+         {L"", L"no url", L"ftp://host/", L"file:///C:/answer.xml", L"http://", L"http:///x"}) {
+        for (const bool validates : {false, true}) {
+            const ScriptedHttp http;
+            const auto service = platform::Create<LejisSearchWebService>();
+            service->URL = url;
+            service->ValidateSchema = validates;
+            const auto log = EventLog::ForSearches();
+            log->ConnectTo(service->Dispatch());
+            EXPECT_EQ(S_OK, service->Search(platform::Create<LejisSearchRequest>().Get()));
+            EXPECT_EQ(Expected(L"ConfigurationError: Invalid URL '" + url + L"'."), log->events);
+            EXPECT_EQ(0, http.Last().Seen().sends);
+            EXPECT_FALSE(http.Last().HasHandler());
+        }
+    }
+}
 
 }  // namespace
 }  // namespace lejis

@@ -54,6 +54,8 @@ const EventRow kRows[] = {
     {"NoDocument", {.status = 500, .hasResponseXml = false}, L""},
 };
 
+constexpr wchar_t kUrl[] = L"http://lejis-interface/submission";
+
 class SubmissionEvents : public testing::TestWithParam<EventRow> {};
 
 ComPtr<LejisSubmissionDocument> Document() {
@@ -66,6 +68,7 @@ TEST_P(SubmissionEvents, AreAsDocumented) {
     ScriptedHttp http(GetParam().script);
     http.script.readyStates = {1, 2, 3, 4};
     const auto service = platform::Create<LejisSubmissionWebService>();
+    service->URL = kUrl;
     const auto log = EventLog::ForSubmissions();
     log->ConnectTo(service->Dispatch());
     service->SubmitAsync(*Document().Get());
@@ -89,7 +92,9 @@ struct SendingFailure {
 };
 
 const SendingFailure kSendingFailures[] = {
-    {"InvalidUrl", {.openResult = MK_E_SYNTAX}, L"ConfigurationError: Invalid URL 'no url'."},
+    {"InvalidUrl",
+     {.openResult = MK_E_SYNTAX},
+     L"ConfigurationError: Invalid URL 'http://lejis-interface/submission'."},
     {"Unreachable", {.sendResult = static_cast<HRESULT>(0x800C0005)}, L"NetworkError: The server is down."},
     {"Other",
      {.openResult = E_ACCESSDENIED},
@@ -101,7 +106,7 @@ class SubmissionSendingFailure : public testing::TestWithParam<SendingFailure> {
 TEST_P(SubmissionSendingFailure, IsAnEventAtOnce) {
     const ScriptedHttp http(GetParam().script);
     const auto service = platform::Create<LejisSubmissionWebService>();
-    service->URL = L"no url";
+    service->URL = kUrl;
     const auto log = EventLog::ForSubmissions();
     log->ConnectTo(service->Dispatch());
     service->SubmitAsync(*Document().Get());
@@ -115,6 +120,7 @@ INSTANTIATE_TEST_SUITE_P(Failures, SubmissionSendingFailure, testing::ValuesIn(k
 TEST(SubmissionEventsLifetime, TheServiceLivesUntilItsAnswerHasBeenToldEvenWhenItsClientLetsGo) {
     ScriptedHttp http({.responseText = support::SubmissionResponse(L"0")});
     auto service = platform::Create<LejisSubmissionWebService>();
+    service->URL = kUrl;
     const auto sink = EventLog::ForSubmissions();
     sink->ConnectTo(service->Dispatch());
     service->SubmitAsync(*Document().Get());

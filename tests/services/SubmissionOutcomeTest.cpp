@@ -173,6 +173,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, SubmissionOutcome, testing::ValuesIn(kOutcomes
 TEST(SubmissionService, SucceedsAfterAFailure) {
     ScriptedHttp http(Answered(503, L""));
     const auto service = platform::Create<LejisSubmissionWebService>();
+    service->URL = kUrl;
     EXPECT_TRUE(support::Raises(tvTransientError, PartiallyOffline(503),
                                 [&] { service->SubmitIncident(*CleanIncident().Get()); }));
     http.script = Accepted(L"0");

@@ -2,6 +2,7 @@
 
 #include "platform/ComError.h"
 #include "platform/http/AbandonedRequests.h"
+#include "platform/http/Address.h"
 #include "platform/msxml/Document.h"
 #include "platform/Text.h"
 #include "platform/Wine.h"
@@ -17,12 +18,12 @@ using Microsoft::WRL::ComPtr;
 namespace platform {
 namespace {
 
-// What `open` reports for an address that is empty or none.
-constexpr HRESULT kAddressRefused[] = {kInvalidUrl, E_INVALIDARG, static_cast<HRESULT>(0x800C0002),
-                                       static_cast<HRESULT>(0x800C000D)};
+// What `open` and `send` report for an address that they do not take.
+constexpr HRESULT kAddressRefused[] = {kInvalidUrl, static_cast<HRESULT>(0x800C0002), static_cast<HRESULT>(0x800C000D)};
 
-// What Wine's `send` reports for a server that cannot be reached.
+// What Wine's `send` reports for a server that cannot be reached, and for an address without a host.
 constexpr HRESULT kDownloadFailure = static_cast<HRESULT>(0x800C0008);
+constexpr HRESULT kCannotConnect = static_cast<HRESULT>(0x800C0004);
 
 HttpRequestFactory& Factory() {
     static HttpRequestFactory factory;
@@ -35,6 +36,19 @@ ComPtr<IXMLHTTPRequest> CreateRequest() {
     ComPtr<IXMLHTTPRequest> request;
     Check(CoCreateInstance(__uuidof(XMLHTTP60), nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(request.GetAddressOf())));
     return request;
+}
+
+bool RefusesAddress(HRESULT result) {
+    return std::find(std::begin(kAddressRefused), std::end(kAddressRefused), result) != std::end(kAddressRefused);
+}
+
+HRESULT NumberOfOpen(HRESULT result) { return RefusesAddress(result) || result == E_INVALIDARG ? kInvalidUrl : result; }
+
+HRESULT NumberOfSend(HRESULT result) {
+    if (RefusesAddress(result)) return kInvalidUrl;
+    if (!wine::NamesFailuresOfSendOtherwise()) return result;
+    if (result == kDownloadFailure) return kServerUnreachable;
+    return result == kCannotConnect ? kInvalidUrl : result;
 }
 
 // Raises the failure `result` under the number `number`.
@@ -73,11 +87,11 @@ void HttpRequest::Abandon() noexcept {
 }
 
 void HttpRequest::Open(const wchar_t* method, const std::wstring& url, bool asynchronous) {
+    IXMLHTTPRequest& request = Request();
+    if (!IsHttpAddress(url)) throw LastError(kInvalidUrl);
     const _variant_t none(DISP_E_PARAMNOTFOUND, VT_ERROR);
-    const HRESULT result = Request().open(ToBstr(method), ToBstr(url), _variant_t(asynchronous), none, none);
-    const bool refused =
-        std::find(std::begin(kAddressRefused), std::end(kAddressRefused), result) != std::end(kAddressRefused);
-    CheckAs(result, refused ? kInvalidUrl : result);
+    const HRESULT result = request.open(ToBstr(method), ToBstr(url), _variant_t(asynchronous), none, none);
+    CheckAs(result, NumberOfOpen(result));
 }
 
 void HttpRequest::SetHeader(const wchar_t* name, const std::wstring& value) {
@@ -93,8 +107,7 @@ void HttpRequest::SendBody(const VARIANT& body) {
     // Sending may dispatch messages, and what they call may put another request in this one's place.
     const ComPtr<IXMLHTTPRequest> held = request_;
     const HRESULT result = Request().send(body);
-    const bool unreachable = result == kDownloadFailure && wine::NamesFailuresOfSendOtherwise();
-    CheckAs(result, unreachable ? kServerUnreachable : result);
+    CheckAs(result, NumberOfSend(result));
 }
 
 long HttpRequest::ReadyState() const {

@@ -32,6 +32,7 @@ public:
     // under way is not enough: not every MSXML takes its connection down with it.
     void Abandon() noexcept;
 
+    // Raises kInvalidUrl for an address that is none of HTTP with a host, before MSXML sees it.
     void Open(const wchar_t* method, const std::wstring& url, bool asynchronous);
     void SetHeader(const wchar_t* name, const std::wstring& value);
     void Send();
