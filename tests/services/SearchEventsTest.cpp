@@ -213,5 +213,36 @@ TEST(SearchAddress, ThatIsNoneIsAnEventAtOnceAndNothingIsSent) {
     }
 }
 
+TEST(SearchEventsOfAStricterPlatform, ComeToAHandlerThatIsCalledWithoutParameters) {
+    ScriptedHttp http({.responseText = InquiryResponse(AnsweredCard(L"1")), .callsWithoutParameters = true});
+    const auto service = platform::Create<LejisSearchWebService>();
+    service->URL = kUrl;
+    const auto log = EventLog::ForSearches();
+    log->ConnectTo(service->Dispatch());
+    EXPECT_EQ(S_OK, service->Search(platform::Create<LejisSearchRequest>().Get()));
+    http.Last().Advance();
+    EXPECT_TRUE(support::PumpUntil([&] { return !log->events.empty(); }));
+    EXPECT_EQ(Expected(L"SearchCompleted: 1 cards"), log->events);
+}
+
+TEST(SearchEventsOfAStricterPlatform, PartTheServiceFromARequestThatKeepsItsHandler) {
+    ScriptedHttp http({.responseText = InquiryResponse(AnsweredCard(L"1")), .clearHandlerResult = E_FAIL});
+    auto service = platform::Create<LejisSearchWebService>();
+    service->URL = kUrl;
+    const auto log = EventLog::ForSearches();
+    log->ConnectTo(service->Dispatch());
+    EXPECT_EQ(S_OK, service->Search(platform::Create<LejisSearchRequest>().Get()));
+    const Microsoft::WRL::ComPtr<support::ScriptedRequest> request = http.requests.back();
+    http.requests.clear();
+    request->Advance();
+    EXPECT_TRUE(support::PumpUntil([&] { return !log->events.empty(); }));
+    support::PumpFor(120);
+    EXPECT_TRUE(request->HasHandler());
+    service.Reset();
+    // The service, as long as it lives, holds its request.
+    request->AddRef();
+    EXPECT_EQ(1u, request->Release()) << "nobody but this test";
+}
+
 }  // namespace
 }  // namespace lejis

@@ -3,6 +3,7 @@
 #include "platform/ComError.h"
 #include "platform/http/AbandonedRequests.h"
 #include "platform/http/Address.h"
+#include "platform/http/ReadyStateRelay.h"
 #include "platform/msxml/Document.h"
 #include "platform/Text.h"
 #include "platform/Wine.h"
@@ -65,6 +66,7 @@ void SetHttpRequestFactory(HttpRequestFactory factory) { Factory() = std::move(f
 HttpRequest HttpRequest::Create() {
     HttpRequest request;
     request.request_ = CreateRequest();
+    request.handler_ = std::make_shared<ComPtr<IDispatch>>();
     return request;
 }
 
@@ -73,10 +75,18 @@ IXMLHTTPRequest& HttpRequest::Request() const {
     return *request_.Get();
 }
 
-void HttpRequest::SetReadyStateHandler(IDispatch* handler) { Check(Request().put_onreadystatechange(handler)); }
+void HttpRequest::SetReadyStateHandler(IDispatch* handler) {
+    IXMLHTTPRequest& request = Request();
+    const auto relay = platform::Create<ReadyStateRelay>(handler_);
+    *handler_ = handler;
+    Check(request.put_onreadystatechange(relay.Get()));
+}
 
 void HttpRequest::ClearReadyStateHandler() noexcept {
-    if (request_) request_->put_onreadystatechange(nullptr);
+    if (!request_ || !*handler_) return;
+    // The relay lets go of the handler whether or not the request lets go of the relay.
+    const ComPtr<IDispatch> handler = std::exchange(*handler_, nullptr);
+    if (FAILED(request_->put_onreadystatechange(nullptr))) SetErrorInfo(0, nullptr);
 }
 
 void HttpRequest::Abandon() noexcept {

@@ -4,6 +4,7 @@
 #include "platform/msxml/MsXml.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace platform {
@@ -26,7 +27,7 @@ public:
 
     // `handler`'s default member is called on each change of state, inside of calls to this class too.
     void SetReadyStateHandler(IDispatch* handler);
-    // Lets go of the handler, which as a rule holds this request in turn.
+    // Lets go of the handler, which as a rule holds this request in turn, also where MSXML does not.
     void ClearReadyStateHandler() noexcept;
     // Ends a request whose answer nobody waits for any longer, without a call to the handler. To let go of one that is
     // under way is not enough: not every MSXML takes its connection down with it.
@@ -53,6 +54,8 @@ private:
     void SendBody(const VARIANT& body);
 
     Microsoft::WRL::ComPtr<IXMLHTTPRequest> request_;
+    // Shared by all copies and by the relay that MSXML has; holds null while there is no handler.
+    std::shared_ptr<Microsoft::WRL::ComPtr<IDispatch>> handler_;
 };
 
 // What makes the underlying requests; null puts MSXML's own back.

@@ -1,0 +1,20 @@
+#include "platform/http/ReadyStateRelay.h"
+
+namespace platform {
+
+STDMETHODIMP ReadyStateRelay::GetTypeInfoCount(UINT* count) {
+    if (!count) return E_POINTER;
+    *count = 0;
+    return S_OK;
+}
+
+// Whatever the arguments are: a request has nothing else to say than that its state has changed.
+STDMETHODIMP ReadyStateRelay::Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) {
+    const Handler handler = *handler_;
+    if (!handler) return S_OK;
+    DISPPARAMS none{};
+    return handler->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &none, nullptr, nullptr,
+                           nullptr);
+}
+
+}  // namespace platform
