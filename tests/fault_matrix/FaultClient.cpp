@@ -107,7 +107,7 @@ public:
         EXPECT_OK(service_->Search(request_.Get()));
     }
 
-    void Withdraw() { EXPECT_OK(service_->Search(nullptr)); }
+    void Withdraw() { Begin(L""); }
 
     // Leaves the search alone, and keeps what it says nevertheless.
     void BePatient() {
@@ -159,7 +159,7 @@ Result TrySearchReplaced(const Order& order) {
     return TryGivingUp(order, [&](Searching& searching) { return searching.OutcomeAt(order.goodUrl); });
 }
 
-// The client asks for nothing instead.
+// The client asks nobody instead.
 Result TrySearchWithdrawn(const Order& order) {
     return TryGivingUp(order, [](Searching& searching) {
         searching.Withdraw();

@@ -25,7 +25,7 @@ A plain outcome is that of the submission; " repeats it for the deletion. *kept 
 checked is not sent. In a row with a note about Wine, the outcome is what Wine's HTTP and XML make of the behaviour.
 Where two versions of Wine make different things of it, each is named with its outcome.
 A search that nothing ends is given up by its client: it is *replaced* by another one, whose event is the outcome, or
-*withdrawn* by a search for nothing.
+*withdrawn* by a search at no address.
 
 The outcomes in italics stand for these texts:
 

@@ -197,14 +197,6 @@ TEST_F(SearchService, EndsTheRequestThatAnotherOneReplaces) {
     http.Last().ClearHandler();
 }
 
-TEST_F(SearchService, EndsTheRequestUnderWayWhenTheNextSearchCannotBeSent) {
-    Search();
-    EXPECT_EQ(S_OK, service->Search(nullptr));
-    EXPECT_EQ(1, http.Last().Seen().aborts);
-    EXPECT_FALSE(http.Last().HasHandler());
-    EXPECT_EQ(1u, log->events.size());
-}
-
 TEST_F(SearchService, ForgetsAnAnswerThatCameWhileItsReplacementWasSent) {
     Search();
     http.Last().Advance();

@@ -19,14 +19,16 @@ SearchConnection::SearchConnection(const CommandLine& commandLine)
 SearchConnection::~SearchConnection() {
     point_->Unadvise(cookie_);
     // A service that waits for its answer and the request that would bring it hold each other, and so would the library
-    // stay in use. A search for nothing takes the place of the one under way and is over at once.
-    if (Outcome().end == SearchEnd::None) service_->Search(nullptr);
+    // stay in use. The same search at no address takes the place of the one under way and is over at once.
+    if (Outcome().end != SearchEnd::None || !request_) return;
+    if (FAILED(service_->put_URL(nullptr)) || FAILED(service_->put_ValidateSchema(VARIANT_FALSE))) return;
+    service_->Search(request_.Get());
 }
 
 void SearchConnection::Send(const SearchValues& values) {
-    const auto request = Create<LejisSearchRequest, ILejisSearchRequest>();
-    for (const SearchValue& value : values) value.option->put(request.Get(), value.value);
-    Check(service_->Search(request.Get()));
+    request_ = Create<LejisSearchRequest, ILejisSearchRequest>();
+    for (const SearchValue& value : values) value.option->put(request_.Get(), value.value);
+    Check(service_->Search(request_.Get()));
 }
 
 }  // namespace lejis_client

@@ -23,6 +23,8 @@ public:
 
 private:
     Microsoft::WRL::ComPtr<ILejisSearchWebService> service_;
+    // That of the search sent.
+    Microsoft::WRL::ComPtr<ILejisSearchRequest> request_;
     Microsoft::WRL::ComPtr<SearchSink> sink_;
     Microsoft::WRL::ComPtr<IConnectionPoint> point_;
     DWORD cookie_ = 0;

@@ -46,9 +46,6 @@ STDMETHODIMP LejisSearchWebService::Search(ILejisSearchRequest* request) {
             Send(*platform::Inside<LejisSearchRequest>(request).Get());
         } catch (...) {
             const SendingFailure failure = ToSendingFailure(platform::CaughtError(), URL);
-            // No answer is to come that would part the request and this object.
-            isAwaited_ = false;
-            request_.Abandon();
             FireReason(failure.isNetworkError ? kNetworkError : kConfigurationError, failure.message);
         }
     });
@@ -58,15 +55,28 @@ void LejisSearchWebService::Send(const LejisSearchRequest& request) {
     const msxml::Document envelope = WrapInSearchEnvelope(msxml::Root(request.ToXmlDocument()), Username);
     LejisUtils::SaveDebugDocument(envelope, L"LejisSearchRequest.xml");
     if (ValidateSchema) SchemaUtils::ValidateSchemaFromWSDL(envelope, URL + L"?wsdl");
+    Post(envelope);
+}
+
+void LejisSearchWebService::Post(const msxml::Document& envelope) {
+    HttpRequest request = HttpRequest::Create();
     // Late news of a search that this one replaces is not taken for its own.
     request_.Abandon();
-    request_ = HttpRequest::Create();
+    request_ = request;
     isAwaited_ = true;
-    request_.SetReadyStateHandler(Dispatch());
-    request_.Open(L"POST", URL, true);
-    request_.SetHeader(L"SOAPAction", Constants::kSearchAction);
-    request_.SetHeader(L"Content-Type", L"text/xml;charset=utf-8");
-    request_.Send(msxml::Markup(envelope));
+    try {
+        request.SetReadyStateHandler(Dispatch());
+        request.Open(L"POST", URL, true);
+        request.SetHeader(L"SOAPAction", Constants::kSearchAction);
+        request.SetHeader(L"Content-Type", L"text/xml;charset=utf-8");
+        request.Send(msxml::Markup(envelope));
+    } catch (...) {
+        // No answer is to come that would part the request and this object. A search that was made while this one was
+        // sent goes on.
+        request.Abandon();
+        if (request_ == request) isAwaited_ = false;
+        throw;
+    }
 }
 
 STDMETHODIMP LejisSearchWebService::OnReadyStateChange() {

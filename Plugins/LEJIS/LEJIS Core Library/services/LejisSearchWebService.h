@@ -13,7 +13,8 @@ namespace lejis {
 using platform::Collection;
 
 // Sends a search and reports its outcome by exactly one event. It stays alive while its answer is under way, also when
-// its client has let go of it. A search replaces one that is still under way, whose answer is lost.
+// its client has let go of it. A search replaces one that is still under way, whose answer is lost, as soon as it is
+// ready to be posted; one that fails before leaves the other alone.
 class LejisSearchWebService final : public platform::EventSource<::LejisSearchWebService, ILejisSearchWebService,
                                                                  _LejisSearchWebServiceEvents, IRunnable> {
 public:
@@ -29,6 +30,7 @@ private:
     STDMETHODIMP IRunnable_Run();
 
     void Send(const LejisSearchRequest& request);
+    void Post(const msxml::Document& envelope);
     void RaiseOutcome();
     void RaiseFound();
     void RaiseServiceError();

@@ -24,6 +24,7 @@ public:
     HttpRequest() = default;
     static HttpRequest Create();
     explicit operator bool() const { return request_ != nullptr; }
+    bool operator==(const HttpRequest& other) const { return request_.Get() == other.request_.Get(); }
 
     // `handler`'s default member is called on each change of state, inside of calls to this class too.
     void SetReadyStateHandler(IDispatch* handler);
