@@ -130,6 +130,37 @@ TEST(SubmissionEventsLifetime, TheServiceLivesUntilItsAnswerHasBeenToldEvenWhenI
     EXPECT_EQ(std::vector<std::wstring>{L"SubmissionCompleted"}, sink->events);
 }
 
+TEST(SubmissionEventsLifetime, TheSubmissionUnderWayIsLeftAloneByOneThatCannotBeSent) {
+    ScriptedHttp http({.responseText = support::SubmissionResponse(L"0")});
+    const auto service = platform::Create<LejisSubmissionWebService>();
+    service->URL = kUrl;
+    const auto sink = EventLog::ForSubmissions();
+    sink->ConnectTo(service->Dispatch());
+    service->SubmitAsync(*Document().Get());
+    http.script.createResult = E_OUTOFMEMORY;
+    service->SubmitAsync(*Document().Get());
+    EXPECT_TRUE(http.Last().HasHandler());
+    http.Last().Advance();
+    EXPECT_TRUE(support::PumpUntil([&] { return sink->events.size() == 2; }));
+    const std::vector<std::wstring> expected = {
+        L"ConfigurationError: Internal error -2147024882: Error in DoSubmit (line 4): Out of memory.",
+        L"SubmissionCompleted"};
+    EXPECT_EQ(expected, sink->events);
+}
+
+TEST(SubmissionEventsLifetime, ASubmissionThatAnotherReplacesBringsNoNews) {
+    ScriptedHttp http({.responseText = support::SubmissionResponse(L"0")});
+    const auto service = platform::Create<LejisSubmissionWebService>();
+    service->URL = kUrl;
+    const auto sink = EventLog::ForSubmissions();
+    sink->ConnectTo(service->Dispatch());
+    service->SubmitAsync(*Document().Get());
+    service->SubmitAsync(*Document().Get());
+    for (const auto& request : http.requests) request->Advance();
+    support::PumpFor(250);
+    EXPECT_EQ(std::vector<std::wstring>{L"SubmissionCompleted"}, sink->events);
+}
+
 TEST(SubmissionEventsLifetime, AStateChangeOrARunWithoutARequestHarmsNothing) {
     const auto service = platform::Create<LejisSubmissionWebService>();
     const auto log = EventLog::ForSubmissions();

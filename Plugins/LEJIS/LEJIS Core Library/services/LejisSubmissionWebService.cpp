@@ -61,6 +61,7 @@ void LejisSubmissionWebService::Submit(const LejisSubmissionDocument& document) 
 
 void LejisSubmissionWebService::DoSubmit(const LejisSubmissionDocument& document, bool asynchronous) {
     int step = 1;
+    platform::HttpRequest request;
     try {
         const msxml::Document envelope = WrapInEnvelope(msxml::Root(document.ToXmlDocument()));
         step = 2;
@@ -68,19 +69,24 @@ void LejisSubmissionWebService::DoSubmit(const LejisSubmissionDocument& document
         step = 3;
         if (ValidateSchema) SchemaUtils::ValidateSchemaFromWSDL(envelope, URL + L"?wsdl");
         step = 4;
-        request_ = platform::HttpRequest::Create();
-        if (asynchronous) request_.SetReadyStateHandler(Dispatch());
+        request = platform::HttpRequest::Create();
+        // Late news of a submission that this one replaces is not taken for its own.
+        request_.ClearReadyStateHandler();
+        request_ = request;
+        if (asynchronous) request.SetReadyStateHandler(Dispatch());
         step = 5;
-        request_.Open(L"POST", URL, asynchronous);
+        request.Open(L"POST", URL, asynchronous);
         step = 6;
-        request_.SetHeader(L"SOAPAction", Constants::kSubmitAction);
-        request_.SetHeader(L"Content-Type", L"text/xml;charset=utf-8");
+        request.SetHeader(L"SOAPAction", Constants::kSubmitAction);
+        request.SetHeader(L"Content-Type", L"text/xml;charset=utf-8");
         step = 7;
-        request_.Send(msxml::Markup(envelope));
+        request.Send(msxml::Markup(envelope));
         step = 8;
         if (!asynchronous) platform::WaitUntilComplete(request_);
     } catch (...) {
         const ComError error = platform::CaughtError();
+        // No answer will come that would part the request and this object.
+        request.ClearReadyStateHandler();
         throw ComError(error.Number(),
                        L"Error in DoSubmit (line " + std::to_wstring(step) + L"): " + error.Description(),
                        error.Source());

@@ -8,8 +8,6 @@
 #include "services/SOAPEnvelope.h"
 #include "services/SubmissionResponse.h"
 
-using platform::ComError;
-
 namespace lejis {
 namespace {
 
@@ -27,10 +25,7 @@ void LejisSubmissionWebService::SubmitAsync(const LejisSubmissionDocument& docum
     try {
         DoSubmit(document, true);
     } catch (...) {
-        const ComError error = platform::CaughtError();
-        // No answer will come that would part the request and this object.
-        request_.ClearReadyStateHandler();
-        const SendingFailure failure = ToSendingFailure(error, URL);
+        const SendingFailure failure = ToSendingFailure(platform::CaughtError(), URL);
         FireReason(failure.isNetworkError ? kNetworkError : kConfigurationError, failure.message);
     }
 }
