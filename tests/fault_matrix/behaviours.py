@@ -315,7 +315,8 @@ def _broken(status_number: int) -> Arrival:
     return Arrival(status_number, Content.NO_XML, reason="")
 
 
-_DOWN = {operation: f"transient: {SERVICE_DOWN}" for operation in ("submit", "delete", "wsdl")}
+# On Windows a synchronous request fails; the description is fetched by an asynchronous one, as a search is.
+_DOWN = {operation: f"transient: {SERVICE_DOWN}" for operation in ("submit", "delete")}
 _CANCELLED = f"fatal: Internal error {CANCELLED}: Error in DoSubmit (line {{}}): The user has cancelled. (Line 1)"
 
 SCRIPTED = (

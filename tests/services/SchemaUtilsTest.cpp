@@ -1,11 +1,13 @@
 // Validation against a scripted WSDL whose schema is a file beside the test.
 #include "services/SchemaUtils.h"
 
+#include "platform/host/MessagePump.h"
 #include "platform/msxml/Document.h"
 #include "support/DeepXml.h"
 #include "support/Printing.h"
 #include "support/TemporaryFolder.h"
 #include "support/Xml.h"
+#include "unit_support/PlayedWindows.h"
 #include "unit_support/Raises.h"
 #include "unit_support/ScriptedRequest.h"
 #include "unit_support/TestHost.h"
@@ -71,6 +73,98 @@ TEST_F(SchemaUtilsTest, YieldsOnceAfterEachLookThatFindsTheWsdlIncomplete) {
     http.script.readyStates = {1, 2, 4};
     EXPECT_NO_THROW(Validate(Wsdl(L""), L"<x/>"));
     EXPECT_EQ(2, host.yields);
+}
+
+// The request as it is on Windows: asynchronous, and brought on by what the host does in its yields.
+class WsdlOnWindows : public SchemaUtilsTest {
+protected:
+    WsdlOnWindows() {
+        http.script.readyStates = {1, 1, 1, 2, 3, 4};
+        host.onYield = [this] { http.Last().Advance(); };
+    }
+
+    support::PlayedWindows windows;
+    support::TestHost host;
+};
+
+TEST_F(WsdlOnWindows, IsFetchedWithMethodAndAddressAlone) {
+    EXPECT_NO_THROW(Validate(Wsdl(L""), L"<x/>"));
+    EXPECT_FALSE(http.Last().Seen().isModeGiven);
+    EXPECT_EQ(1, http.Last().Seen().sends);
+    EXPECT_FALSE(http.Last().HasHandler());
+}
+
+TEST_F(WsdlOnWindows, IsWaitedForByOneYieldAfterEachLookThatFindsItIncomplete) {
+    EXPECT_NO_THROW(Validate(Wsdl(L""), L"<x/>"));
+    EXPECT_EQ(5, host.yields);
+}
+
+TEST_F(WsdlOnWindows, IsToldByTheStatusWhenTheConnectionFails) {
+    http.script.status = 12029;
+    http.script.hasStatusText = false;
+    EXPECT_TRUE(Raises(kSchemaError,
+                       L"The LEJIS Interface is down or not accessible. Make sure the LEJIS Interface server role is "
+                       L"running on your Talvex server.",
+                       [&] { Validate(L"", L"<x/>"); }));
+    EXPECT_EQ(5, host.yields);
+}
+
+TEST_F(WsdlOnWindows, IsGivenUpWhenTheHostsYieldRaises) {
+    host.onYield = [] { throw platform::ComError(static_cast<HRESULT>(0x80042222), L"The user has cancelled."); };
+    EXPECT_TRUE(Raises(static_cast<long>(0x80042222), L"The user has cancelled.", [&] { Validate(L"", L"<x/>"); }));
+    EXPECT_EQ(1, http.Last().Seen().aborts);
+}
+
+// What the timers of the next test do, which get no argument.
+struct Timers {
+    static inline int ticks = 0;
+    static inline ScriptedHttp* answered = nullptr;
+
+    static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) { ++ticks; }
+    static void CALLBACK Answer(HWND, UINT, UINT_PTR, DWORD) { answered->Last().Advance(); }
+};
+
+TEST_F(WsdlOnWindows, StopsNoTimerOfTheClientWhileItIsFetched) {
+    constexpr DWORD kWait = 2000;
+    http.script.readyStates = {1, 4};
+    host.onYield = [] { platform::host::PumpMessages(); };
+    Timers::ticks = 0;
+    Timers::answered = &http;
+    const UINT_PTR tick = SetTimer(nullptr, 0, 50, Timers::Tick);
+    const UINT_PTR answer = SetTimer(nullptr, 0, kWait, Timers::Answer);
+    const DWORD begin = GetTickCount();
+    EXPECT_NO_THROW(Validate(Wsdl(L""), L"<x/>"));
+    const DWORD waited = GetTickCount() - begin;
+    KillTimer(nullptr, tick);
+    KillTimer(nullptr, answer);
+    EXPECT_GE(waited, kWait - 100);
+    // On a machine that has much else to do some are late.
+    EXPECT_GE(Timers::ticks, 20);
+    EXPECT_GE(host.yields, 20);
+    RecordProperty("ticks", Timers::ticks);
+    RecordProperty("yields", host.yields);
+}
+
+// Under Wine a request that is not waited for never completes when nobody listens; so the WSDL's is waited for.
+TEST(WsdlUnderWine, OfAServerThatRefusesTheConnectionEndsAtOnce) {
+    if (!platform::wine::IsHere()) GTEST_SKIP() << "this is no Wine";
+    support::TestHost host;
+    EXPECT_TRUE(Raises(platform::kServerUnreachable, L"Error -2146697208", [] {
+        SchemaUtils::ValidateSchemaFromWSDL(Request(L"<x/>"), L"http://127.0.0.1:1/submission?wsdl");
+    }));
+    EXPECT_EQ(0, host.yields);
+}
+
+TEST_F(SchemaUtilsTest, RaisesTheNumberOfAnAddressThatIsNoneBeforeAnythingIsSent) {
+    for (const wchar_t* url : {L"?wsdl", L"no url?wsdl", L"ftp://host/?wsdl", L"file:///C:/x?wsdl", L"http://?wsdl"}) {
+        try {
+            SchemaUtils::ValidateSchemaFromWSDL(Request(L"<x/>"), url);
+            ADD_FAILURE() << "passed: " << support::Utf8(url);
+        } catch (const platform::ComError& error) {
+            EXPECT_EQ(platform::kInvalidUrl, error.Number());
+        }
+        EXPECT_EQ(0, http.Last().Seen().sends);
+    }
 }
 
 TEST_F(SchemaUtilsTest, RaisesWithoutDocumentBeforeAnyRequest) {

@@ -9,6 +9,7 @@
 #include "unit_support/Answers.h"
 #include "unit_support/EventLog.h"
 #include "unit_support/Incidents.h"
+#include "unit_support/PlayedWindows.h"
 #include "unit_support/ScriptedRequest.h"
 #include "unit_support/TestHost.h"
 
@@ -28,9 +29,9 @@ namespace {
 
 struct Row {
     const char* name;
-    // What a request that is waited for does, and what one that is not.
-    Script waited;
-    Script posted;
+    // What a synchronous request does, and what an asynchronous one.
+    Script synchronous;
+    Script asynchronous;
 };
 
 constexpr HRESULT kUnreachable = static_cast<HRESULT>(0x800C0005);
@@ -50,7 +51,7 @@ const Row kRows[] = {
     {"UnknownHost", {.sendResult = kUnreachable}, Broken(12007)},
     {"ConnectFailsWhileWaited", Broken(12029), Broken(12029)},
     {"NoDocument", {.hasResponseXml = false}, {.hasResponseXml = false}},
-    // The posted one ends long after its client has given it up.
+    // The asynchronous one ends long after its client has given it up.
     {"SilenceWithoutEnd", {.readyStates = {1}}, {.readyStates = {1, 1, 4}}},
 };
 
@@ -69,7 +70,8 @@ protected:
         return service->SubmitIncident(CleanIncident().Get(), warnings.GetAddressOf());
     }
 
-    ScriptedHttp http{GetParam().waited};
+    support::PlayedWindows windows;
+    ScriptedHttp http{GetParam().synchronous};
     ComPtr<LejisSubmissionWebService> service = platform::Create<LejisSubmissionWebService>();
 };
 
@@ -80,13 +82,15 @@ TEST_P(ScriptedFault, IsToldToWhoeverWaits) {
     Record("submit", OutcomeOf(Submit()));
     Record("delete", OutcomeOf(service->DeleteIncident(CleanIncident().Get())));
     service->ValidateSchema = true;
-    // The only request is that for the description.
+    // The only request is that for the description, which is asynchronous.
+    http.script = GetParam().asynchronous;
     Record("wsdl", OutcomeOf(Submit()));
 }
 
 TEST_P(ScriptedFault, IsToldOnceToWhoeverSearches) {
-    http.script = GetParam().posted;
+    http.script = GetParam().asynchronous;
     const auto search = platform::Create<LejisSearchWebService>();
+    search->URL = L"http://lejis-interface/search";
     const auto log = EventLog::ForSearches();
     log->ConnectTo(search->Dispatch());
     const auto request = platform::Create<LejisSearchRequest>();

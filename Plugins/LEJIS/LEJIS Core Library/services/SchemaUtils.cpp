@@ -18,11 +18,20 @@ constexpr long kOk = 200;
 
 [[noreturn]] void Raise(std::wstring description) { throw platform::ComError(kSchemaError, std::move(description)); }
 
+void Await(platform::HttpRequest& request) {
+    try {
+        platform::WaitUntilComplete(request);
+    } catch (...) {
+        request.Abandon();
+        throw;
+    }
+}
+
 platform::HttpRequest Fetch(const std::wstring& url) {
     platform::HttpRequest request = platform::HttpRequest::Create();
-    request.Open(L"GET", url, false);
+    request.Open(L"GET", url);
     request.Send();
-    platform::WaitUntilComplete(request);
+    Await(request);
     const long status = request.Status();
     if (LejisUtils::IsTransientStatus(status)) Raise(LejisUtils::GetNetworkErrorMessage(request));
     if (status != kOk) Raise(request.ResponseText());

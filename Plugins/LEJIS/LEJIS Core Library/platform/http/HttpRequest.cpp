@@ -52,6 +52,8 @@ HRESULT NumberOfSend(HRESULT result) {
     return result == kCannotConnect ? kInvalidUrl : result;
 }
 
+_variant_t Missing() { return _variant_t(DISP_E_PARAMNOTFOUND, VT_ERROR); }
+
 // Raises the failure `result` under the number `number`.
 void CheckAs(HRESULT result, HRESULT number) {
     if (SUCCEEDED(result)) return;
@@ -97,10 +99,17 @@ void HttpRequest::Abandon() noexcept {
 }
 
 void HttpRequest::Open(const wchar_t* method, const std::wstring& url, bool asynchronous) {
+    OpenAs(method, url, _variant_t(asynchronous));
+}
+
+void HttpRequest::Open(const wchar_t* method, const std::wstring& url) {
+    OpenAs(method, url, wine::NeverCompletesRefusedRequests() ? _variant_t(false) : Missing());
+}
+
+void HttpRequest::OpenAs(const wchar_t* method, const std::wstring& url, const VARIANT& asynchronous) {
     IXMLHTTPRequest& request = Request();
     if (!IsHttpAddress(url)) throw LastError(kInvalidUrl);
-    const _variant_t none(DISP_E_PARAMNOTFOUND, VT_ERROR);
-    const HRESULT result = request.open(ToBstr(method), ToBstr(url), _variant_t(asynchronous), none, none);
+    const HRESULT result = request.open(ToBstr(method), ToBstr(url), asynchronous, Missing(), Missing());
     CheckAs(result, NumberOfOpen(result));
 }
 
@@ -114,8 +123,6 @@ void HttpRequest::Send() { SendBody(_variant_t()); }
 void HttpRequest::Send(const std::wstring& body) { SendBody(_variant_t(ToBstr(body))); }
 
 void HttpRequest::SendBody(const VARIANT& body) {
-    // Sending may dispatch messages, and what they call may put another request in this one's place.
-    const ComPtr<IXMLHTTPRequest> held = request_;
     const HRESULT result = Request().send(body);
     CheckAs(result, NumberOfSend(result));
 }

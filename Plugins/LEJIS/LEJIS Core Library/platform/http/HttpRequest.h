@@ -14,8 +14,8 @@ inline constexpr HRESULT kInvalidUrl = MK_E_SYNTAX;  // 0x800401E4
 inline constexpr HRESULT kServerUnreachable = static_cast<HRESULT>(0x800C0005);
 
 // Failures are raised as ComError. On Windows a server that cannot be reached fails a synchronous send with
-// kServerUnreachable and completes an asynchronous one with a status of 12029 or its like; under Wine an asynchronous
-// one never completes.
+// kServerUnreachable and completes an asynchronous one with a status of 12029 or its like. What is different under Wine
+// stands in platform/Wine.h.
 class HttpRequest {
 public:
     static constexpr long kComplete = 4;
@@ -36,7 +36,11 @@ public:
 
     // Raises kInvalidUrl for an address that is none of HTTP with a host, before MSXML sees it.
     void Open(const wchar_t* method, const std::wstring& url, bool asynchronous);
+    // With the method and the address alone, for a request that is waited for while the host works: MSXML's default is
+    // asynchronous.
+    void Open(const wchar_t* method, const std::wstring& url);
     void SetHeader(const wchar_t* name, const std::wstring& value);
+    // May dispatch messages, so what is sent is a copy that nothing else can replace meanwhile.
     void Send();
     void Send(const std::wstring& body);
 
@@ -52,6 +56,7 @@ public:
 
 private:
     IXMLHTTPRequest& Request() const;
+    void OpenAs(const wchar_t* method, const std::wstring& url, const VARIANT& asynchronous);
     void SendBody(const VARIANT& body);
 
     Microsoft::WRL::ComPtr<IXMLHTTPRequest> request_;
