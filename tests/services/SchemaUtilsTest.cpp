@@ -209,6 +209,17 @@ TEST_F(SchemaUtilsTest, RaisesForASchemaWithoutInclude) {
                        [&] { Validate(Wsdl(Types(L"")), L"<x/>"); }));
 }
 
+TEST_F(SchemaUtilsTest, RaisesForASchemaWithoutTargetNamespace) {
+    const std::wstring include = L"<xsd:include schemaLocation='" + schema + L"'/>";
+    for (const std::wstring& types :
+         {L"<xsd:schema>" + include + L"</xsd:schema>",
+          L"<xsd:schema xmlns:x='urn:x' x:targetNamespace='urn:count'>" + include + L"</xsd:schema>",
+          std::wstring(L"<xsd:schema/>")}) {
+        EXPECT_TRUE(Raises(kSchemaError, L"A schema of the WSDL has no targetNamespace.",
+                           [&] { Validate(Wsdl(L"<wsdl:types>" + types + L"</wsdl:types>"), L"<x/>"); }));
+    }
+}
+
 TEST_F(SchemaUtilsTest, RaisesForASchemaThatCannotBeLoaded) {
     const std::wstring missing = folder.Path() + L"\\missing.xsd";
     try {

@@ -74,7 +74,7 @@ TEST(Node, ReadsAttributesThatMayBeMissing) {
     const Element element = ParseElement(L"<a name='value' empty=''/>");
     EXPECT_EQ(L"value", Attribute(element, L"name"));
     EXPECT_EQ(L"", Attribute(element, L"empty"));
-    EXPECT_EQ(L"", Attribute(element, L"missing"));
+    EXPECT_EQ(std::nullopt, Attribute(element, L"missing"));
 }
 
 TEST(Node, EscapesWhatTextsHold) {

@@ -62,6 +62,12 @@ std::wstring OverPlainHttp(std::wstring location) {
     return location;
 }
 
+std::wstring TargetNamespace(const msxml::Element& schema) {
+    const auto target = msxml::Attribute(schema, L"targetNamespace");
+    if (!target) Raise(L"A schema of the WSDL has no targetNamespace.");
+    return *target;
+}
+
 // Of each schema only its first include is added, not what stands in the WSDL itself.
 msxml::SchemaCache SchemasOf(const msxml::Document& wsdl) {
     msxml::SchemaCache schemas;
@@ -70,9 +76,10 @@ msxml::SchemaCache SchemasOf(const msxml::Document& wsdl) {
     for (const msxml::Node& node : msxml::SelectNodes(root, L"wsdl:types/xsd:schema")) {
         msxml::Element schema;
         platform::Check(node.As(&schema));
+        const std::wstring target = TargetNamespace(schema);
         const msxml::Node location = msxml::SelectNode(schema, L"xsd:include/@schemaLocation");
         if (!location) Raise(L"A schema of the WSDL includes no schema document.");
-        schemas.Add(msxml::Attribute(schema, L"targetNamespace"), OverPlainHttp(msxml::Text(location)));
+        schemas.Add(target, OverPlainHttp(msxml::Text(location)));
     }
     return schemas;
 }

@@ -60,10 +60,11 @@ void AppendRoot(const Document& document, const Element& root) {
 
 platform::OutText Text(const Node& node) { return Get(node, &IXMLDOMNode::get_text); }
 
-std::wstring Attribute(const Element& element, const wchar_t* name) {
+std::optional<std::wstring> Attribute(const Element& element, const wchar_t* name) {
     _variant_t value;
     Check(element->getAttribute(InText(name), &value));
-    return V_VT(&value) == VT_BSTR ? platform::CopyText(V_BSTR(&value)) : std::wstring();
+    if (V_VT(&value) != VT_BSTR) return std::nullopt;
+    return platform::CopyText(V_BSTR(&value));
 }
 
 Node SelectNode(const Node& node, const std::wstring& xpath) {

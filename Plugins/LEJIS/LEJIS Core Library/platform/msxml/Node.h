@@ -4,6 +4,7 @@
 #include "platform/msxml/MsXml.h"
 #include "platform/OutText.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,8 +29,8 @@ void AppendRoot(const Document& document, const Element& root);
 // The text of a node and its descendants.
 platform::OutText Text(const Node& node);
 
-// The value of an attribute without a namespace; empty when there is none.
-std::wstring Attribute(const Element& element, const wchar_t* name);
+// The value of an attribute without a namespace; none when there is no such attribute.
+std::optional<std::wstring> Attribute(const Element& element, const wchar_t* name);
 
 // The first node, or all, that the expression selects relative to `node`; the document's selection namespaces hold.
 Node SelectNode(const Node& node, const std::wstring& xpath);
