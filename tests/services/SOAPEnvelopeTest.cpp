@@ -1,5 +1,7 @@
 #include "services/SOAPEnvelope.h"
 
+#include "platform/msxml/Document.h"
+#include "platform/msxml/Node.h"
 #include "support/ComCheck.h"
 #include "support/Xml.h"
 #include "unit_support/Raises.h"
@@ -108,6 +110,86 @@ TEST(SOAPEnvelope, RefusesADocumentThatIsNoEnvelope) {
         EXPECT_TRUE(Raises(kObjectRequired, L"Object required", [&] { envelope->FromXmlDocument(Parse(xml)); })) << xml;
     }
     EXPECT_TRUE(Raises(kObjectRequired, L"Object required", [&] { envelope->FromXmlDocument(NewDocument()); }));
+}
+
+// What a client has read, by the document or by its root, and how it goes on to change what it handed in.
+struct Change {
+    const char* name;
+    void (*make)(const msxml::Document& document);
+};
+
+void RemoveTheBody(const msxml::Document& document) {
+    const msxml::Node body = msxml::SelectNode(document, L"//*[local-name() = 'Body']");
+    EXPECT_OK(msxml::Root(document)->removeChild(body.Get(), nullptr));
+}
+
+const Change kChanges[] = {
+    {"AnotherText",
+     [](const msxml::Document& document) {
+         msxml::SetText(msxml::AsElement(msxml::SelectNode(document, L"//faultstring")), L"changed");
+         msxml::SetText(msxml::AsElement(msxml::SelectNode(document, L"//faultcode")), L"changed");
+     }},
+    {"NoBody", RemoveTheBody},
+    {"AnotherDocument", [](const msxml::Document& document) { msxml::LoadXml(document, L"<a/>"); }},
+    {"NoSelectionNamespaces",
+     [](const msxml::Document& document) {
+         msxml::SetProperty(document, L"SelectionNamespaces", L"xmlns:soap='urn:another'");
+     }},
+    {"WhiteSpace",
+     [](const msxml::Document& document) {
+         EXPECT_OK(document->put_preserveWhiteSpace(VARIANT_TRUE));
+         msxml::Append(msxml::SelectNode(document, L"//faultstring"), msxml::CreateElement(document, L"more", L""));
+     }},
+};
+
+class ClientsDocument : public testing::TestWithParam<Change> {
+protected:
+    static void ExpectWhatWasRead(SOAPEnvelope& envelope, const std::wstring& body) {
+        EXPECT_EQ(body, envelope.Body());
+        EXPECT_TRUE(envelope.IsFault());
+        EXPECT_EQ(L"soap:Server", envelope.FaultCode());
+        EXPECT_EQ(L"x", envelope.FaultMessage());
+        EXPECT_TRUE(SameXml(envelope.BodyXml().Get(),
+                            L"<soap:Body><soap:Fault><faultcode>soap:Server</faultcode><faultstring>x</faultstring>"
+                            L"</soap:Fault></soap:Body>"));
+    }
+
+    const support::Document document = Parse(support::SoapFault(L"soap:Server", L"x"));
+    const ComPtr<SOAPEnvelope> envelope = platform::Create<SOAPEnvelope>();
+};
+
+TEST_P(ClientsDocument, MayChangeWhenItHasBeenRead) {
+    EXPECT_OK(envelope->FromXmlDocument(static_cast<IDispatch*>(document.Get())));
+    const std::wstring body = envelope->Body();
+    GetParam().make(document);
+    ExpectWhatWasRead(*envelope.Get(), body);
+}
+
+TEST_P(ClientsDocument, MayChangeWhenItsRootHasBeenRead) {
+    EXPECT_OK(envelope->FromXmlElement(static_cast<IDispatch*>(msxml::Root(document).Get())));
+    GetParam().make(document);
+    ExpectWhatWasRead(*envelope.Get(), envelope->Body());
+    EXPECT_TRUE(envelope->Body().starts_with(L"<soap:Body"));
+}
+
+TEST_P(ClientsDocument, MayChangeBeforeAnythingIsAskedOfTheEnvelope) {
+    EXPECT_OK(envelope->FromXmlDocument(static_cast<IDispatch*>(document.Get())));
+    GetParam().make(document);
+    EXPECT_EQ(L"x", envelope->FaultMessage());
+    EXPECT_TRUE(envelope->IsFault());
+}
+
+INSTANTIATE_TEST_SUITE_P(Changes, ClientsDocument, testing::ValuesIn(kChanges),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST(SOAPEnvelope, ReadsWhiteSpaceAsItsOwnBodyXmlDoesWhateverTheClientsDocumentKeeps) {
+    const msxml::Document document = msxml::CreateDocument();
+    ASSERT_OK(document->put_preserveWhiteSpace(VARIANT_TRUE));
+    ASSERT_TRUE(msxml::LoadXml(document, support::SoapFault(L"a", L"  x  ")));
+    const auto envelope = platform::Create<SOAPEnvelope>();
+    EXPECT_OK(envelope->FromXmlDocument(static_cast<IDispatch*>(document.Get())));
+    const msxml::Node inBodyXml = msxml::SelectNode(envelope->BodyXml(), L"soap:Body/soap:Fault/faultstring");
+    EXPECT_EQ(std::wstring(msxml::Text(inBodyXml)), envelope->FaultMessage());
 }
 
 TEST(SOAPEnvelope, WritesNoHeaderWithoutUsername) {

@@ -6,6 +6,8 @@
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
 
+#include <utility>
+
 namespace lejis {
 
 STDMETHODIMP SOAPEnvelope::get_Body(BSTR* result) {
@@ -40,7 +42,10 @@ STDMETHODIMP SOAPEnvelope::ToXmlElement(IDispatch* doc, IDispatch** result) {
 }
 
 STDMETHODIMP SOAPEnvelope::FromXmlElement(IDispatch* elem) {
-    return Guard([&] { FromXmlElement(msxml::ElementToRead(elem)); });
+    return Guard([&] {
+        FromXmlElement(msxml::ElementToRead(elem));
+        TakeBodyText();
+    });
 }
 
 STDMETHODIMP SOAPEnvelope::FromXmlDocument(IDispatch* doc) {
@@ -48,7 +53,13 @@ STDMETHODIMP SOAPEnvelope::FromXmlDocument(IDispatch* doc) {
         const msxml::Document document = msxml::DocumentToRead(doc);
         msxml::RequireBoundedDepth(document);
         FromXmlDocument(document);
+        TakeBodyText();
     });
+}
+
+void SOAPEnvelope::TakeBodyText() {
+    const msxml::Element body = std::exchange(readBody_, nullptr);
+    if (body) bodyText_ = msxml::Markup(body);
 }
 
 std::wstring SOAPEnvelope::Body() const { return readBody_ ? msxml::Markup(readBody_) : bodyText_; }
@@ -61,10 +72,7 @@ std::wstring SOAPEnvelope::FaultCode() const { return FaultText(L"soap:Fault/fau
 
 std::wstring SOAPEnvelope::FaultText(const wchar_t* path) const {
     const msxml::Node found = msxml::SelectNode(BodyElement(), path);
-    if (!found) return {};
-    // The client's own tree may have grown since it was read.
-    msxml::RequireBoundedDepth(found);
-    return msxml::Text(found);
+    return found ? std::wstring(msxml::Text(found)) : std::wstring();
 }
 
 msxml::Document SOAPEnvelope::BodyXml() const {

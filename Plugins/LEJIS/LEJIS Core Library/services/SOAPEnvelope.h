@@ -12,7 +12,8 @@
 namespace lejis {
 
 // Reads SOAP 1.1 answers, and writes envelopes with a WS-Security user name. The web services write their requests
-// themselves. The markup of a body that was read is made when it is asked for: large answers never need it.
+// themselves. A client's document is read at once, for the client may go on to change it. Of a document that no client
+// has, the answer to a service, the markup of the body is made when it is asked for: large answers never need it.
 class SOAPEnvelope final : public platform::ComObject<::SOAPEnvelope, ISOAPEnvelope> {
 public:
     TEXT_PROPERTY(Username)
@@ -42,8 +43,9 @@ public:
 
 private:
     std::wstring FaultText(const wchar_t* path) const;
+    void TakeBodyText();
 
-    // One of the two: the body as it was read, or the text that a client has set.
+    // One of the two: the body as it was read, or the text of one.
     msxml::Element readBody_;
     std::wstring bodyText_;
 };
