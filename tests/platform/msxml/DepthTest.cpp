@@ -3,6 +3,7 @@
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
 #include "support/DeepXml.h"
+#include "unit_support/CountingElement.h"
 #include "unit_support/Raises.h"
 
 #include <gtest/gtest.h>
@@ -35,6 +36,34 @@ TEST(Depth, IsThatOfTheDeepestBranch) {
     NestIn(SelectNode(document, L"r/y/z").Get(), kMaximumDepth);
     EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [&] { RequireBoundedDepth(document); }));
     EXPECT_NO_THROW(RequireBoundedDepth(SelectNode(document, L"r/w")));
+}
+
+// An MSXML that refuses queries, as one might refuse a path of so many steps.
+Node WithoutQueries(const Node& node, int& calls) {
+    return Node(platform::Create<support::CountingElement>(node.Get(), calls).Get());
+}
+
+TEST(Depth, IsCountedByAWalkWhereTheQueryFails) {
+    int calls = 0;
+    EXPECT_NO_THROW(RequireBoundedDepth(WithoutQueries(Root(Deep(kMaximumDepth - 1)), calls)));
+    EXPECT_GT(calls, kMaximumDepth);
+    for (const int depth : {kMaximumDepth, kMaximumDepth + 1, support::kVeryDeep}) {
+        EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [&] {
+            RequireBoundedDepth(WithoutQueries(Root(Deep(depth)), calls));
+        })) << depth;
+    }
+}
+
+TEST(Depth, IsThatOfTheDeepestBranchAlsoByAWalk) {
+    int calls = 0;
+    const Document document = support::Parse(L"<r>text<x/><!-- --><y>text<z/>text<v/></y><w/>text</r>");
+    EXPECT_NO_THROW(RequireBoundedDepth(WithoutQueries(document, calls)));
+    NestIn(SelectNode(document, L"r/y/z").Get(), kMaximumDepth - 4);
+    EXPECT_NO_THROW(RequireBoundedDepth(WithoutQueries(document, calls)));
+    NestIn(SelectNode(document, L"r/y/v").Get(), kMaximumDepth - 3);
+    EXPECT_TRUE(
+        Raises(E_INVALIDARG, kTooDeep, [&] { RequireBoundedDepth(WithoutQueries(document, calls)); }));
+    EXPECT_NO_THROW(RequireBoundedDepth(WithoutQueries(SelectNode(document, L"r/w"), calls)));
 }
 
 TEST(Depth, OfWhatTheParserTakesIsAllowed) {

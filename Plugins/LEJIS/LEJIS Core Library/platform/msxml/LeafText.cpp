@@ -19,17 +19,11 @@ bool IsTheSameInAnElement(std::wstring_view text) {
     return !blankBefore;
 }
 
-bool IsText(const Node& node) {
-    DOMNodeType type = NODE_INVALID;
-    Check(node->get_nodeType(&type));
-    return type == NODE_TEXT;
-}
-
 }  // namespace
 
 std::optional<platform::OutText> LeafText(const Node& element, const Node& firstChild) {
     if (!firstChild) return platform::OutText();
-    if (!IsText(firstChild) || NextSibling(firstChild)) return std::nullopt;
+    if (TypeOf(firstChild) != NODE_TEXT || NextSibling(firstChild)) return std::nullopt;
     // The value of a text is a text.
     VARIANT value;
     Check(firstChild->get_nodeValue(&value));

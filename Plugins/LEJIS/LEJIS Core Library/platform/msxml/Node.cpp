@@ -101,12 +101,16 @@ Node NextSibling(const Node& node) {
     return next;
 }
 
+DOMNodeType TypeOf(const Node& node) {
+    DOMNodeType type = NODE_INVALID;
+    Check(node->get_nodeType(&type));
+    return type;
+}
+
 std::vector<Element> ChildElements(const Node& node) {
     std::vector<Element> elements;
     for (Node child = FirstChild(node); child; child = NextSibling(child)) {
-        DOMNodeType type = NODE_INVALID;
-        Check(child->get_nodeType(&type));
-        if (type == NODE_ELEMENT) elements.push_back(As<IXMLDOMElement>(child));
+        if (TypeOf(child) == NODE_ELEMENT) elements.push_back(As<IXMLDOMElement>(child));
     }
     return elements;
 }

@@ -36,15 +36,17 @@ std::optional<std::wstring> Attribute(const Element& element, const wchar_t* nam
 Node SelectNode(const Node& node, const std::wstring& xpath);
 std::vector<Node> SelectNodes(const Node& node, const std::wstring& xpath);
 
-// The node, or null, as the element that it is. Raises for a node of another kind.
 // A copy of an element with all that it holds, unattached.
 Element Copy(const Element& element);
 
+// The node, or null, as the element that it is. Raises for a node of another kind.
 Element AsElement(const Node& node);
 
 // Null when there is none.
 Node FirstChild(const Node& node);
 Node NextSibling(const Node& node);
+
+DOMNodeType TypeOf(const Node& node);
 
 // The element children, in document order.
 std::vector<Element> ChildElements(const Node& node);
