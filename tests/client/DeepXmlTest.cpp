@@ -14,6 +14,8 @@ using support::kVeryDeep;
 
 constexpr unsigned kSmallStack = 256 * 1024;
 
+// The built-in number, where no host suite is registered.
+constexpr long kInvalidArgument = static_cast<long>(0x80040205);
 constexpr wchar_t kTooDeep[] = L"The XML is nested too deep: 260 levels or more";
 
 unsigned __stdcall RunInApartment(void* work) {
@@ -76,7 +78,7 @@ TEST(DeepXml, IsRefusedByEveryReader) {
             ++readers;
             IDispatch* const argument = readsDocument ? static_cast<IDispatch*>(document.Get()) : root.Get();
             const HRESULT result = CallDirectly(object, member, {Argument(argument)});
-            EXPECT_TRUE(support::FailedWith(result, E_INVALIDARG, kTooDeep)) << support::Utf8(row.name);
+            EXPECT_TRUE(support::FailedWith(result, kInvalidArgument, kTooDeep)) << support::Utf8(row.name);
         });
         EXPECT_GE(readers, 15);
     });
@@ -96,7 +98,7 @@ TEST(DeepXml, InAnIncidentOfAnAnswerIsReadAsDeepAsItParsesAndRefusedBeyond) {
         ASSERT_EQ(S_OK,
                   document->selectSingleNode(_bstr_t(L"//*[local-name() = 'a' and not(*)]"), innermost.GetAddressOf()));
         support::NestIn(innermost.Get(), kVeryDeep, L"http://www.it.ojp.gov/jxdm/3.0.3");
-        EXPECT_TRUE(RaisedBy(response.Call(L"FromXmlDocument", {argument}), E_INVALIDARG, kTooDeep));
+        EXPECT_TRUE(RaisedBy(response.Call(L"FromXmlDocument", {argument}), kInvalidArgument, kTooDeep));
     });
 }
 

@@ -71,14 +71,14 @@ TEST(ElementTree, KeepsNamesAndTextsOfLargeElements) {
 TEST(ElementTree, IsTakenFromWhatIsNotTooDeep) {
     EXPECT_EQ(static_cast<size_t>(msxml::kMaximumDepth), ElementTree(Deep(msxml::kMaximumDepth - 1)).EndOf(0));
     for (const int depth : {msxml::kMaximumDepth, support::kVeryDeep}) {
-        EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [&] { ElementTree tree(Deep(depth)); }));
+        EXPECT_TRUE(Raises(support::kInvalidArgument, kTooDeep, [&] { ElementTree tree(Deep(depth)); }));
     }
 }
 
 TEST(ElementTree, IsTakenWhateverIsInElementsThatAreLeftOut) {
     const ElementTree tree(Deep(support::kVeryDeep, L""));
     EXPECT_EQ(1u, tree.EndOf(0));
-    EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [&] { tree.TextOf(0); }));
+    EXPECT_TRUE(Raises(support::kInvalidArgument, kTooDeep, [&] { tree.TextOf(0); }));
 }
 
 }  // namespace

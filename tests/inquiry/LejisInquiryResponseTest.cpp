@@ -115,18 +115,18 @@ TEST(LejisInquiryResponse, RefusesWhatIsTooDeepWhereItReads) {
     EXPECT_OK(read());
     EXPECT_EQ(1u, response->IncidentIndexCards->Count());
     support::NestIn(msxml::ChildElements(answer)[1].Get(), support::kVeryDeep, Constants::kJxdmNamespace);
-    EXPECT_TRUE(support::FailedWith(read(), E_INVALIDARG, kTooDeep));
+    EXPECT_TRUE(support::FailedWith(read(), support::kInvalidArgument, kTooDeep));
     answer->removeChild(msxml::ChildElements(answer)[1].Get(), nullptr);
     EXPECT_OK(read());
     support::NestIn(msxml::ChildElements(answer)[0].Get(), support::kVeryDeep);
-    EXPECT_TRUE(support::FailedWith(read(), E_INVALIDARG, kTooDeep));
+    EXPECT_TRUE(support::FailedWith(read(), support::kInvalidArgument, kTooDeep));
 }
 
 TEST(LejisInquiryResponse, LooksForItsAnswerAsDeepAsMsxmlParses) {
     const auto document = support::Parse(L"<r/>");
     support::NestIn(msxml::Root(document).Get(), msxml::kMaximumDepth);
     const auto response = platform::Create<LejisInquiryResponse>();
-    EXPECT_TRUE(support::Raises(E_INVALIDARG, kTooDeep, [&] { response->FromXmlBelow(document); }));
+    EXPECT_TRUE(support::Raises(support::kInvalidArgument, kTooDeep, [&] { response->FromXmlBelow(document); }));
     EXPECT_TRUE(support::Raises(support::kObjectRequired, L"Object required",
                                 [&] { response->FromXmlBelow(support::Parse(support::Nested(250))); }));
 }

@@ -127,8 +127,8 @@ TEST_F(NothingFetched, WhenAClientHandsInWhatHasADoctype) {
     EXPECT_TRUE(
         support::FailedWith(response->FromXmlDocument(document.Get()), support::kObjectRequired, L"Object required"));
     constexpr wchar_t kRefused[] = L"XML of a document with a DOCTYPE is not read";
-    EXPECT_TRUE(support::FailedWith(response->FromXmlElement(root.Get()), E_INVALIDARG, kRefused));
-    EXPECT_TRUE(support::FailedWith(vehicle->FromXmlElement(root.Get()), E_INVALIDARG, kRefused));
+    EXPECT_TRUE(support::FailedWith(response->FromXmlElement(root.Get()), support::kInvalidArgument, kRefused));
+    EXPECT_TRUE(support::FailedWith(vehicle->FromXmlElement(root.Get()), support::kInvalidArgument, kRefused));
 }
 
 }  // namespace

@@ -27,14 +27,14 @@ Document Deep(int depth) {
 TEST(Depth, IsCountedBelowTheNode) {
     const Document document = Deep(kMaximumDepth - 1);
     EXPECT_NO_THROW(RequireBoundedDepth(Root(document)));
-    EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [&] { RequireBoundedDepth(document); }));
-    EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [&] { RequireBoundedDepth(Root(Deep(kMaximumDepth))); }));
+    EXPECT_TRUE(Raises(support::kInvalidArgument, kTooDeep, [&] { RequireBoundedDepth(document); }));
+    EXPECT_TRUE(Raises(support::kInvalidArgument, kTooDeep, [&] { RequireBoundedDepth(Root(Deep(kMaximumDepth))); }));
 }
 
 TEST(Depth, IsThatOfTheDeepestBranch) {
     const Document document = support::Parse(L"<r><x/><y><z/></y><w/></r>");
     NestIn(SelectNode(document, L"r/y/z").Get(), kMaximumDepth);
-    EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [&] { RequireBoundedDepth(document); }));
+    EXPECT_TRUE(Raises(support::kInvalidArgument, kTooDeep, [&] { RequireBoundedDepth(document); }));
     EXPECT_NO_THROW(RequireBoundedDepth(SelectNode(document, L"r/w")));
 }
 
@@ -48,7 +48,7 @@ TEST(Depth, IsCountedByAWalkWhereTheQueryFails) {
     EXPECT_NO_THROW(RequireBoundedDepth(WithoutQueries(Root(Deep(kMaximumDepth - 1)), calls)));
     EXPECT_GT(calls, kMaximumDepth);
     for (const int depth : {kMaximumDepth, kMaximumDepth + 1, support::kVeryDeep}) {
-        EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [&] {
+        EXPECT_TRUE(Raises(support::kInvalidArgument, kTooDeep, [&] {
             RequireBoundedDepth(WithoutQueries(Root(Deep(depth)), calls));
         })) << depth;
     }
@@ -62,7 +62,7 @@ TEST(Depth, IsThatOfTheDeepestBranchAlsoByAWalk) {
     EXPECT_NO_THROW(RequireBoundedDepth(WithoutQueries(document, calls)));
     NestIn(SelectNode(document, L"r/y/v").Get(), kMaximumDepth - 3);
     EXPECT_TRUE(
-        Raises(E_INVALIDARG, kTooDeep, [&] { RequireBoundedDepth(WithoutQueries(document, calls)); }));
+        Raises(support::kInvalidArgument, kTooDeep, [&] { RequireBoundedDepth(WithoutQueries(document, calls)); }));
     EXPECT_NO_THROW(RequireBoundedDepth(WithoutQueries(SelectNode(document, L"r/w"), calls)));
 }
 
@@ -78,13 +78,13 @@ TEST(Depth, OfWhatTheParserTakesIsAllowed) {
 }
 
 TEST(Depth, OfAHundredThousandIsMeasuredToo) {
-    EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [] { RequireBoundedDepth(Deep(support::kVeryDeep)); }));
+    EXPECT_TRUE(Raises(support::kInvalidArgument, kTooDeep, [] { RequireBoundedDepth(Deep(support::kVeryDeep)); }));
 }
 
 TEST(Depth, IsRefusedInElementsThatAreReadAndInMarkup) {
     const Document document = Deep(support::kVeryDeep);
-    EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [&] { ElementToRead(Root(document).Get()); }));
-    EXPECT_TRUE(Raises(E_INVALIDARG, kTooDeep, [&] { Markup(Root(document)); }));
+    EXPECT_TRUE(Raises(support::kInvalidArgument, kTooDeep, [&] { ElementToRead(Root(document).Get()); }));
+    EXPECT_TRUE(Raises(support::kInvalidArgument, kTooDeep, [&] { Markup(Root(document)); }));
 }
 
 TEST(Depth, OfTextIsLimitedByTheParser) {

@@ -1,6 +1,6 @@
 #include "platform/msxml/Depth.h"
 
-#include "platform/ComError.h"
+#include "platform/host/SuiteServices.h"
 #include "platform/InText.h"
 #include "platform/msxml/Node.h"
 
@@ -51,8 +51,8 @@ bool IsTooDeep(const Node& node) {
 }  // namespace
 
 void RaiseTooDeep() {
-    throw platform::ComError(E_INVALIDARG,
-                             L"The XML is nested too deep: " + std::to_wstring(kMaximumDepth) + L" levels or more");
+    throw platform::host::InvalidArgument(L"The XML is nested too deep: " + std::to_wstring(kMaximumDepth) +
+                                          L" levels or more");
 }
 
 void RequireBoundedDepth(const Node& node) {

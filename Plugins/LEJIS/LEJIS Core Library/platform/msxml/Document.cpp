@@ -2,6 +2,7 @@
 
 #include "platform/com/WrittenBytes.h"
 #include "platform/ComError.h"
+#include "platform/host/SuiteServices.h"
 #include "platform/InText.h"
 #include "platform/msxml/Depth.h"
 #include "platform/msxml/DocumentClass.h"
@@ -102,7 +103,7 @@ Document DocumentToRead(IDispatch* client) {
 Element ElementToRead(IDispatch* client) {
     Element element = From<IXMLDOMElement>(client);
     if (HasDoctype(OwnerDocument(element))) {
-        throw platform::ComError(E_INVALIDARG, L"XML of a document with a DOCTYPE is not read");
+        throw platform::host::InvalidArgument(L"XML of a document with a DOCTYPE is not read");
     }
     RequireBoundedDepth(element);
     return element;
