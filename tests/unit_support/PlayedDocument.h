@@ -8,7 +8,7 @@
 
 namespace support {
 
-// A document that plays what another MSXML writes to a stream, and has its xml.
+// A document that plays what another MSXML writes to a stream or says when it cannot write, and has its xml.
 class PlayedDocument final : public SilentNode<IXMLDOMDocument2> {
 public:
     PlayedDocument(std::string written, HRESULT outcome, std::wstring xml = {})
@@ -19,11 +19,16 @@ public:
         return S_OK;
     }
     STDMETHODIMP save(VARIANT destination) override {
+        if (!description.empty()) Describe();
+        if (V_VT(&destination) == VT_BSTR) return outcome_;
         Microsoft::WRL::ComPtr<IStream> stream;
         if (FAILED(V_UNKNOWN(&destination)->QueryInterface(IID_PPV_ARGS(stream.GetAddressOf())))) return E_INVALIDARG;
         stream->Write(written_.data(), static_cast<ULONG>(written_.size()), nullptr);
         return outcome_;
     }
+
+    // Of a failure.
+    std::wstring description;
 
     STDMETHODIMP get_doctype(IXMLDOMDocumentType**) override { return E_NOTIMPL; }
     STDMETHODIMP get_implementation(IXMLDOMImplementation**) override { return E_NOTIMPL; }
@@ -65,6 +70,14 @@ public:
     STDMETHODIMP getProperty(BSTR, VARIANT*) override { return E_NOTIMPL; }
 
 private:
+    void Describe() const {
+        Microsoft::WRL::ComPtr<ICreateErrorInfo> creation;
+        Microsoft::WRL::ComPtr<IErrorInfo> information;
+        if (FAILED(CreateErrorInfo(creation.GetAddressOf()))) return;
+        creation->SetDescription(const_cast<wchar_t*>(description.c_str()));
+        if (SUCCEEDED(creation.As(&information))) SetErrorInfo(0, information.Get());
+    }
+
     const std::string written_;
     const HRESULT outcome_;
     const std::wstring xml_;

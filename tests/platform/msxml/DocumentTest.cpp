@@ -156,6 +156,12 @@ TEST(Document, SaysWhichFileItCannotWrite) {
     }
 }
 
+TEST(Document, SaysWhatThePlatformSaysOfAFileThatCannotBeWritten) {
+    const auto document = platform::Create<support::PlayedDocument>("", E_FAIL);
+    document->description = L"The disk is full.";
+    EXPECT_TRUE(Raises(E_FAIL, L"The disk is full.", [&] { Save(Document(document.Get()), L"C:\\x.xml"); }));
+}
+
 TEST(Document, IsTakenFromClients) {
     const Document document = CreateDocument();
     EXPECT_EQ(document.Get(), DocumentFrom(document.Get()).Get());

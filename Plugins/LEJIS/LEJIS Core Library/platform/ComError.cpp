@@ -27,7 +27,9 @@ ComError::ComError(HRESULT number, std::wstring description, std::wstring source
     // A success code in an error would tell the client that all went well.
     : number_(FAILED(number) ? number : E_FAIL), description_(std::move(description)), source_(std::move(source)) {}
 
-ComError LastError(HRESULT number) {
+ComError LastError(HRESULT number) { return LastError(number, {}); }
+
+ComError LastError(HRESULT number, const std::wstring& beginning) {
     Microsoft::WRL::ComPtr<IErrorInfo> information;
     std::wstring description;
     std::wstring source;
@@ -37,7 +39,7 @@ ComError LastError(HRESULT number) {
         text = nullptr;
         if (SUCCEEDED(information->GetSource(&text))) source = TakeText(text);
     }
-    if (description.empty()) description = SystemText(number);
+    if (description.empty()) description = beginning + SystemText(number);
     return ComError(number, std::move(description), std::move(source));
 }
 

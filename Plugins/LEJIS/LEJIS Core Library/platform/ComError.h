@@ -26,6 +26,9 @@ private:
 // The failure `number` with the description that the callee left, else the system's own text for it.
 ComError LastError(HRESULT number);
 
+// The same; `beginning` stands before the system's own text, which alone would not tell what has failed.
+ComError LastError(HRESULT number, const std::wstring& beginning);
+
 // Raises LastError when `result` is a failure.
 inline void Check(HRESULT result) {
     if (FAILED(result)) throw LastError(result);

@@ -85,10 +85,7 @@ std::wstring Markup(const Document& document) {
 
 void Save(const Document& document, const std::wstring& path) {
     const HRESULT result = document->save(_variant_t(ToBstr(path)));
-    if (FAILED(result)) {
-        const platform::ComError error = platform::LastError(result);
-        throw platform::ComError(result, L"Cannot write '" + path + L"': " + error.Description(), error.Source());
-    }
+    if (FAILED(result)) throw platform::LastError(result, L"Cannot write '" + path + L"': ");
 }
 
 Document DocumentFrom(IDispatch* client) { return From<IXMLDOMDocument2>(client); }

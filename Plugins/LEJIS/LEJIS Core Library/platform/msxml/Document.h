@@ -28,7 +28,8 @@ void SetProperty(const Document& document, const wchar_t* name, const std::wstri
 // grows no faster than the document. An MSXML may write characters as references.
 std::wstring Markup(const Document& document);
 
-// Writes the document to a file, replacing it. Raises when that fails.
+// Writes the document to a file, replacing it. Raises when that fails, with the platform's description where there is
+// one.
 void Save(const Document& document, const std::wstring& path);
 
 // The document behind what a client passed. Raises the object error for no object, and the type mismatch for something
