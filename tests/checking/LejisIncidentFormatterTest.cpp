@@ -193,6 +193,19 @@ TEST(LejisIncidentFormatter, RefusesForeignObjectsAmongTheCards) {
     }
 }
 
+TEST(LejisIncidentFormatter, EmptiesItsListForAnArgumentThatItRefuses) {
+    const auto formatter = platform::Create<LejisIncidentFormatter>();
+    formatter->Format(*AllWrong().Get());
+    const auto before = formatter->Warnings;
+    const size_t count = before->Count();
+    ASSERT_NE(0u, count);
+    ComPtr<ILejisIncidentIndexCard> copy;
+    EXPECT_TRUE(
+        FailedWith(formatter->Format(nullptr, copy.GetAddressOf()), support::kObjectRequired, L"Object required"));
+    EXPECT_EQ(0u, formatter->Warnings->Count());
+    EXPECT_EQ(count, before->Count());
+}
+
 TEST(LejisIncidentFormatter, NeedsAnIncident) {
     const auto formatter = platform::Create<LejisIncidentFormatter>();
     ComPtr<ILejisIncidentIndexCard> copy;

@@ -125,6 +125,27 @@ TEST(LejisIncidentValidator, RefusesForeignObjectsAmongTheCards) {
     }
 }
 
+TEST(LejisIncidentValidator, ChecksThePersonsBeforeAForeignObject) {
+    const auto validator = platform::Create<LejisIncidentValidator>();
+    const Incident incident = Clean();
+    AddPerson(incident)->SetSSN(L"3");
+    incident->PersonIndexCards->AddObject(platform::Create<LejisStreetAddress>()->Dispatch());
+    AddPerson(incident, L"BOB")->SetSSN(L"3");
+    VARIANT_BOOL found = VARIANT_FALSE;
+    EXPECT_TRUE(FailedWith(validator->Validate(incident.Get(), &found), DISP_E_TYPEMISMATCH, L"Type mismatch"));
+    EXPECT_EQ((Errors{std::wstring(L"ANN LEE (Witness): '3") + kSsnWrong}), support::Texts(*validator->Errors.Get()));
+}
+
+TEST(LejisIncidentValidator, EmptiesItsListForAnArgumentThatItRefuses) {
+    const auto validator = platform::Create<LejisIncidentValidator>();
+    validator->Validate(*platform::Create<LejisIncidentIndexCard>().Get());
+    const auto before = validator->Errors;
+    VARIANT_BOOL found = VARIANT_FALSE;
+    EXPECT_TRUE(FailedWith(validator->Validate(nullptr, &found), support::kObjectRequired, L"Object required"));
+    EXPECT_EQ(0u, validator->Errors->Count());
+    EXPECT_EQ(4u, before->Count());
+}
+
 TEST(LejisIncidentValidator, NeedsAnIncident) {
     const auto validator = platform::Create<LejisIncidentValidator>();
     VARIANT_BOOL found = VARIANT_FALSE;

@@ -133,6 +133,19 @@ TEST(LejisSubmissionDocument, RefusesForeignObjectsAmongItsIncidents) {
     EXPECT_EQ(nullptr, document.Get());
 }
 
+TEST(LejisSubmissionDocument, AppendsEachCardBeforeItAsksForTheNext) {
+    const auto submission = NewSubmission();
+    AddIncident(submission, L"FIRST");
+    submission->IncidentIndexCards->AddObject(platform::Create<LejisPersonIndexCard>()->Dispatch());
+    const auto document = NewDocument();
+    ComPtr<IDispatch> element;
+    EXPECT_TRUE(FailedWith(submission->ToXmlElement(document.Get(), element.GetAddressOf()), DISP_E_TYPEMISMATCH,
+                           L"Type mismatch"));
+    const auto children = msxml::ChildElements(msxml::Root(document));
+    ASSERT_EQ(1u, children.size());
+    EXPECT_TRUE(msxml::Text(children[0]).View().starts_with(L"FIRST"));
+}
+
 TEST(LejisSubmissionDocument, NeedsADocumentToWriteTo) {
     ComPtr<IDispatch> element;
     EXPECT_TRUE(FailedWith(NewSubmission()->ToXmlElement(nullptr, element.GetAddressOf()), support::kObjectRequired,

@@ -1,6 +1,6 @@
 ' The formatter's warnings and the validator's errors.
 Option Explicit
-Dim checks, failures, incident, person, formatter, validator, copy, warning, texts
+Dim checks, failures, incident, person, formatter, validator, copy, warning, texts, result, refused
 checks = 0
 failures = 0
 
@@ -24,6 +24,14 @@ Check "the third error", validator.Errors(3), _
     "Agency ORI number cannot be blank. Check Agency settings in Administration."
 Check "the fourth error", validator.Errors(4), _
     "'' is not a valid ORI number. An ORI number must be 9 characters long. Check Agency settings in Administration."
+
+On Error Resume Next
+result = validator.Validate(Nothing)
+refused = Err.Number <> 0
+On Error Goto 0
+Check "no incident is refused", refused, True
+Check "a refusal empties the list", validator.Errors.Count, 0
+Check "no errors after a refusal", validator.HasErrors, False
 
 incident.ActivityID = "2007-0042"
 incident.OrganizationORI = "PA0123456"

@@ -122,6 +122,29 @@ TEST(Collection, RaisesTheTypeMismatchForAnItemOfAnotherKind) {
     }
 }
 
+TEST(Collection, VisitsEachItemBeforeItAsksForTheNext) {
+    const auto collection = Create<Collection>();
+    const auto vehicle = Create<LejisVehicleIndexCard>();
+    collection->AddObject(vehicle->Dispatch());
+    collection->AddObject(Create<LejisPersonIndexCard>()->Dispatch());
+    std::vector<const LejisVehicleIndexCard*> visited;
+    EXPECT_TRUE(Raises(DISP_E_TYPEMISMATCH, L"Type mismatch", [&] {
+        collection->ForEach<LejisVehicleIndexCard>([&](const auto& card) { visited.push_back(&card); });
+    }));
+    EXPECT_EQ((std::vector<const LejisVehicleIndexCard*>{vehicle.Get()}), visited);
+}
+
+TEST(Collection, MayShrinkWhileItIsVisited) {
+    const auto collection = Create<Collection>();
+    for (int count = 0; count < 3; ++count) collection->AddObject(Create<LejisVehicleIndexCard>()->Dispatch());
+    int visits = 0;
+    collection->ForEach<LejisVehicleIndexCard>([&](const auto&) {
+        ++visits;
+        EXPECT_OK(collection->Remove(1));
+    });
+    EXPECT_EQ(2, visits);
+}
+
 TEST(Collection, RaisesTheObjectErrorForNoObject) {
     const auto collection = Create<Collection>();
     collection->AddObject(nullptr);

@@ -26,11 +26,19 @@ STDMETHODIMP LejisIncidentFormatter::get_HasWarnings(VARIANT_BOOL* result) {
 }
 
 STDMETHODIMP LejisIncidentFormatter::Format(ILejisIncidentIndexCard* incident, ILejisIncidentIndexCard** result) {
-    return Guard(result, [&] { return Format(*platform::Inside<LejisIncidentIndexCard>(incident).Get()); });
+    return Guard(result, [&] {
+        // Before the argument is looked at: one that is refused leaves no warnings of an earlier call.
+        StartList();
+        return ShapedCopy(*platform::Inside<LejisIncidentIndexCard>(incident).Get());
+    });
 }
 
 ComPtr<LejisIncidentIndexCard> LejisIncidentFormatter::Format(const LejisIncidentIndexCard& incident) {
-    Warnings = platform::Create<Collection>();
+    StartList();
+    return ShapedCopy(incident);
+}
+
+ComPtr<LejisIncidentIndexCard> LejisIncidentFormatter::ShapedCopy(const LejisIncidentIndexCard& incident) {
     auto copy = CopyOf(incident);
     FormattingRules(*Warnings.Get()).Apply(*copy.Get());
     return copy;

@@ -18,6 +18,10 @@ public:
     STDMETHODIMP Format(ILejisIncidentIndexCard* incident, ILejisIncidentIndexCard** result) override;
 
     Microsoft::WRL::ComPtr<LejisIncidentIndexCard> Format(const LejisIncidentIndexCard& incident);
+
+private:
+    void StartList() { Warnings = platform::Create<Collection>(); }
+    Microsoft::WRL::ComPtr<LejisIncidentIndexCard> ShapedCopy(const LejisIncidentIndexCard& incident);
 };
 
 }  // namespace lejis

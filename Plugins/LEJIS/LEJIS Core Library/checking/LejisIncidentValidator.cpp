@@ -26,15 +26,24 @@ STDMETHODIMP LejisIncidentValidator::get_HasErrors(VARIANT_BOOL* result) {
 }
 
 STDMETHODIMP LejisIncidentValidator::Validate(ILejisIncidentIndexCard* incident, VARIANT_BOOL* result) {
-    return Guard(result, [&] { return Validate(*platform::Inside<LejisIncidentIndexCard>(incident).Get()); });
+    return Guard(result, [&] {
+        // Before the argument is looked at: one that is refused leaves no errors of an earlier call.
+        StartList();
+        return Check(*platform::Inside<LejisIncidentIndexCard>(incident).Get());
+    });
 }
 
 bool LejisIncidentValidator::Validate(const LejisIncidentIndexCard& incident) {
-    Errors = platform::Create<Collection>();
+    StartList();
+    return Check(incident);
+}
+
+bool LejisIncidentValidator::Check(const LejisIncidentIndexCard& incident) {
     CheckIdentifiers(incident);
     // Organization name, caveat, charge description and charge code are accepted as they are, here and for persons.
     CheckAddress(kMainRecordLabel, *incident.Location.Get());
-    for (const auto& person : incident.PersonIndexCards->ItemsAs<LejisPersonIndexCard>()) CheckPerson(*person.Get());
+    // In their order: what is found at the persons before an object of another class is listed when that is refused.
+    incident.PersonIndexCards->ForEach<LejisPersonIndexCard>([this](const auto& person) { CheckPerson(person); });
     // Every property and vehicle card is accepted; an object of another class is not.
     incident.PropertyIndexCards->ItemsAs<LejisPropertyIndexCard>();
     incident.VehicleIndexCards->ItemsAs<LejisVehicleIndexCard>();

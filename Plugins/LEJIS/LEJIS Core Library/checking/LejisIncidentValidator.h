@@ -24,6 +24,9 @@ public:
     bool Validate(const LejisIncidentIndexCard& incident);
 
 private:
+    void StartList() { Errors = platform::Create<Collection>(); }
+    bool Check(const LejisIncidentIndexCard& incident);
+
     void AddError(const std::wstring& message);
     void AddLabelledError(const std::wstring& label, const std::wstring& message);
 

@@ -21,9 +21,8 @@ void LejisSubmissionDocument::Add(const Microsoft::WRL::ComPtr<LejisIncidentInde
 msxml::Element LejisSubmissionDocument::ToXmlElement(const OutputDocument& document) const {
     ElementWriter submission(document, L"lejis:SubmitRmsIndex");
     msxml::AppendRoot(document, submission.Element());
-    for (const auto& incident : IncidentIndexCards->ItemsAs<LejisIncidentIndexCard>()) {
-        submission.Child(incident->ToXmlElement(document));
-    }
+    IncidentIndexCards->ForEach<LejisIncidentIndexCard>(
+        [&](const auto& incident) { submission.Child(incident.ToXmlElement(document)); });
     submission.Child(ContributingSystem->ToXmlElement(document));
     return submission.Element();
 }

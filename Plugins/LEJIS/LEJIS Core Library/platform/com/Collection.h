@@ -33,6 +33,13 @@ public:
         return Inside<Class>(ObjectIn(Item(index)));
     }
 
+    // Hands the items to `visit`, in the same way, each before the next one is asked for.
+    template <typename Class, typename Visit>
+    void ForEach(const Visit& visit) const {
+        // By number: what is visited may change the collection.
+        for (long index = 1; index <= static_cast<long>(Count()); ++index) visit(*ItemAs<Class>(index).Get());
+    }
+
     // All items at this moment, in the same way.
     template <typename Class>
     std::vector<Microsoft::WRL::ComPtr<Class>> ItemsAs() const {
