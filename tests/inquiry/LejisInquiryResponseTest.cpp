@@ -6,6 +6,7 @@
 #include "platform/msxml/Node.h"
 #include "support/ComCheck.h"
 #include "support/DeepXml.h"
+#include "support/Printing.h"
 #include "support/Xml.h"
 #include "unit_support/Answers.h"
 #include "unit_support/Raises.h"
@@ -52,12 +53,20 @@ TEST(LejisInquiryResponse, RoundsTheCountToEvenAndTakesItsLeadingNumber) {
     const struct {
         const wchar_t* text;
         long count;
-    } rows[] = {{L"2.5", 2},   {L"3.5", 4},   {L"12 found", 12}, {L"abc", 0}, {L"", 0},  {L"-3", -3},
-                {L"1e2", 100}, {L"1,234", 1}, {L"0.5", 0},       {L".6", 1},  {L"+7", 7}};
+    } rows[] = {{L"2.5", 2}, {L"3.5", 4},   {L"12 found", 12}, {L"abc", 0}, {L"", 0},  {L"-3", -3},
+                {L"1e2", 1}, {L"1,234", 1}, {L"0.5", 0},       {L".6", 1},  {L"+7", 7}};
     for (const auto& row : rows) EXPECT_EQ(row.count, Read(Counted(row.text))->IncidentCount) << row.text;
 }
 
+TEST(LejisInquiryResponse, TakesTheFirstNumberOfSeveral) {
+    for (const wchar_t* text : {L"12 34", L"12\n34", L"12\t34", L"12\r\n 34", L"12 . 34", L"\n\t 12 34"}) {
+        EXPECT_EQ(12, Read(Counted(text))->IncidentCount) << support::Utf8(text);
+    }
+    EXPECT_EQ(0, Read(Counted(L"- 12"))->IncidentCount);
+}
+
 TEST(LejisInquiryResponse, RaisesForACountOutOfRange) {
+    EXPECT_TRUE(support::Raises(DISP_E_OVERFLOW, L"Overflow", [] { Read(Counted(std::wstring(400, L'9'))); }));
     EXPECT_TRUE(support::Raises(DISP_E_OVERFLOW, L"Overflow", [] { Read(Counted(L"3000000000")); }));
 }
 

@@ -91,6 +91,49 @@ TEST(Conversions, ReadsDigitsAloneAsThePlatformDoes) {
     }
 }
 
+TEST(Conversions, ReadsTheNumberThatATextBeginsWith) {
+    constexpr struct {
+        const wchar_t* text;
+        double decimal;
+        double number;
+    } kTexts[] = {
+        {L"12", 12, 12},
+        {L"-5.5 x", -5.5, -5.5},
+        {L"+7", 7, 7},
+        {L".5", 0.5, 0.5},
+        {L"5.", 5, 5},
+        {L"1.2.3", 1.2, 1.2},
+        {L"1,234", 1, 1},
+        {L"100abc", 100, 100},
+        {L"1e2", 1, 100},
+        {L"1E-1x", 1, 0.1},
+        {L"1e", 1, 1},
+        {L"1e+", 1, 1},
+        {L"e2", 0, 0},
+        {L"", 0, 0},
+        {L" ", 0, 0},
+        {L"-", 0, 0},
+        {L"- 1", 0, 0},
+        {L"abc", 0, 0},
+        {L"1 2", 1, 1},
+        {L"0\n12 cards", 0, 0},
+        {L"0\t100", 0, 0},
+        {L"1 e2", 1, 1},
+        {L" \t\r\n 12 34", 12, 12},
+        {L"\x00A0"
+         L"12",
+         0, 0},
+    };
+    for (const auto& row : kTexts) {
+        EXPECT_EQ(row.decimal, LeadingDecimal(row.text)) << Utf8(row.text);
+        EXPECT_EQ(row.number, LeadingNumber(row.text)) << Utf8(row.text);
+    }
+}
+
+TEST(Conversions, RaisesForALeadingNumberBeyondEveryNumber) {
+    EXPECT_TRUE(Raises(DISP_E_OVERFLOW, L"Overflow", [] { LeadingNumber(L"1e400 x"); }));
+}
+
 TEST(Conversions, ReadsBooleansInAnyLetterCaseAndNumbers) {
     for (const wchar_t* text : {L"true", L"TRUE", L"True", L"1", L"-1", L" 2 "}) {
         EXPECT_EQ(true, ParseBoolean(text)) << Utf8(text);

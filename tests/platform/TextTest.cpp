@@ -84,6 +84,17 @@ TEST(Text, WritesWordsInProperCase) {
         {L"  two  blanks ", L"  Two  Blanks "},
         {L"A\tB\nC", L"A\tB\nC"},
         {L"x\ty\nz", L"X\tY\nZ"},
+        {L"A\r\nB", L"A\r\nB"},
+        {L"A\x00A0"
+         L"B C\x2003"
+         L"D",
+         L"A\x00A0"
+         L"b C\x2003"
+         L"d"},
+        {L"A\vB C\fD E\x0085"
+         L"F",
+         L"A\vb C\fd E\x0085"
+         L"f"},
         {L"CO-DEFENDANT O'BRIEN", L"Co-defendant O'brien"},
         {L"2ND SUSPECT", L"2nd Suspect"},
         {L"\x00C9LAN", L"\x00C9lan"},

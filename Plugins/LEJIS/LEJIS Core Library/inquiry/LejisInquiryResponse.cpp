@@ -10,7 +10,7 @@ namespace {
 
 // The number that the text begins with, halves to the even neighbour; 0 for a text that begins with none.
 long Count(std::wstring_view text) {
-    const auto count = platform::RoundTo<long>(_variant_t(platform::LeadingNumber(text)));
+    const auto count = platform::RoundTo<long>(_variant_t(platform::LeadingDecimal(text)));
     if (!count) throw platform::Overflow();
     return *count;
 }

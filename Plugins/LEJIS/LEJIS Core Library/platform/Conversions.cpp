@@ -8,6 +8,7 @@
 
 #include <oleauto.h>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -40,17 +41,32 @@ std::optional<long> InDigits(std::wstring_view text) {
     return number;
 }
 
-// What of the text is a number: a sign, digits with a point, and an exponent.
-std::wstring NumericPrefix(std::wstring text) {
-    std::erase_if(text, [](wchar_t one) { return one == L' ' || one == L'\t' || one == L'\r' || one == L'\n'; });
-    size_t end = SkipDigits(text, SkipSign(text, 0));
-    if (end < text.size() && text[end] == L'.') end = SkipDigits(text, end + 1);
-    if (end < text.size() && (text[end] == L'e' || text[end] == L'E')) {
-        const size_t exponent = SkipSign(text, end + 1);
-        if (const size_t last = SkipDigits(text, exponent); last > exponent) end = last;
-    }
-    text.resize(end);
+// Where the number that begins here ends: behind a sign, digits and a point with digits.
+size_t SkipDecimal(std::wstring_view text, size_t at) {
+    at = SkipDigits(text, SkipSign(text, at));
+    return at < text.size() && text[at] == L'.' ? SkipDigits(text, at + 1) : at;
+}
+
+size_t SkipExponent(std::wstring_view text, size_t at) {
+    if (at == text.size() || (text[at] != L'e' && text[at] != L'E')) return at;
+    const size_t digits = SkipSign(text, at + 1);
+    const size_t end = SkipDigits(text, digits);
+    return end > digits ? end : at;
+}
+
+std::wstring_view SkipWhiteSpace(std::wstring_view text) {
+    text.remove_prefix(static_cast<size_t>(std::ranges::find_if_not(text, IsWhiteSpace) - text.begin()));
     return text;
+}
+
+double NumberWithPoint(std::wstring_view text) {
+    // A fixed locale, so that the point is always the decimal point.
+    constexpr LCID kEnglish = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
+    double number = 0;
+    const HRESULT result = VarR8FromStr(InText(text), kEnglish, 0, &number);
+    // A number beyond every double is not the 0 that stands for no number at all.
+    if (result == DISP_E_OVERFLOW) throw Overflow();
+    return SUCCEEDED(result) ? number : 0;
 }
 
 bool Convert(const VARIANT& value, VARTYPE type, _variant_t& result) {
@@ -105,12 +121,14 @@ std::optional<bool> ParseBoolean(std::wstring_view text) {
     return flag != VARIANT_FALSE;
 }
 
+double LeadingDecimal(std::wstring_view text) {
+    const std::wstring_view begin = SkipWhiteSpace(text);
+    return NumberWithPoint(begin.substr(0, SkipDecimal(begin, 0)));
+}
+
 double LeadingNumber(std::wstring_view text) {
-    // A fixed locale, so that the point is always the decimal point.
-    constexpr LCID kEnglish = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
-    const std::wstring prefix = NumericPrefix(std::wstring(text));
-    double number = 0;
-    return SUCCEEDED(VarR8FromStr(InText(prefix), kEnglish, 0, &number)) ? number : 0;
+    const std::wstring_view begin = SkipWhiteSpace(text);
+    return NumberWithPoint(begin.substr(0, SkipExponent(begin, SkipDecimal(begin, 0))));
 }
 
 long ParseLong(std::wstring_view text) {

@@ -27,8 +27,11 @@ std::optional<DATE> ParseDate(std::wstring_view text);
 std::optional<double> ParseNumber(std::wstring_view text);
 std::optional<bool> ParseBoolean(std::wstring_view text);
 
-// The number that a text begins with, "." being the decimal point whatever the regional settings; 0 when it begins with
-// none. Blanks count nowhere.
+// The number that a text begins with behind white space, "." being the decimal point whatever the regional settings; 0
+// when it begins with none. Any other character ends it, white space included. Raises the platform's overflow error.
+double LeadingDecimal(std::wstring_view text);
+
+// The same with an exponent: "1e2" is 100 here and 1 there.
 double LeadingNumber(std::wstring_view text);
 
 // A numeric text as an integer, halves to the even neighbour. Raises the platform's overflow error out of range.

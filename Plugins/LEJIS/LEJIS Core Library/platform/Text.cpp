@@ -2,7 +2,6 @@
 
 #include <oleauto.h>
 
-#include <cwctype>
 #include <memory>
 #include <new>
 
@@ -44,6 +43,10 @@ std::wstring FromUtf8(std::string_view bytes) {
     return text;
 }
 
+bool IsWhiteSpace(wchar_t character) {
+    return character == L' ' || character == L'\t' || character == L'\r' || character == L'\n';
+}
+
 bool EqualIgnoringCase(std::wstring_view one, std::wstring_view other) {
     return CompareStringOrdinal(one.data(), static_cast<int>(one.size()), other.data(), static_cast<int>(other.size()),
                                 TRUE) == CSTR_EQUAL;
@@ -54,7 +57,7 @@ std::wstring ProperCase(std::wstring text) {
     bool wordBegins = true;
     for (wchar_t& character : text) {
         if (wordBegins) CharUpperBuffW(&character, 1);
-        wordBegins = std::iswspace(character) != 0;
+        wordBegins = IsWhiteSpace(character);
     }
     return text;
 }

@@ -28,9 +28,13 @@ std::wstring Join(std::initializer_list<std::wstring_view> parts);
 // Bytes that are no UTF-8 become U+FFFD.
 std::wstring FromUtf8(std::string_view bytes);
 
+// A blank, a tab or a character of a line end.
+bool IsWhiteSpace(wchar_t character);
+
 bool EqualIgnoringCase(std::wstring_view one, std::wstring_view other);
 
-// Each word with its first letter in upper case and the others in lower case; white space separates words.
+// Each word with its first letter in upper case and the others in lower case. Blanks, tabs and line ends separate
+// words, and no other white space does.
 std::wstring ProperCase(std::wstring text);
 
 }  // namespace platform

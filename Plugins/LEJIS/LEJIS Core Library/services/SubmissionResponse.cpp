@@ -30,12 +30,12 @@ bool IsSoapResponse(const msxml::Document& response) {
     }
 }
 
-// The number that the text's first word begins with; 0 when it begins with none, which makes a bare word of
-// acknowledgement a success on purpose. An empty text has no first word.
+// The number that the text begins with before its first blank; 0 when it begins with none, which makes a bare word of
+// acknowledgement a success on purpose. An empty text has no such piece.
 short ResponseCode(const std::wstring& text) {
     if (text.empty()) throw ComError(DISP_E_BADINDEX, L"Subscript out of range");
-    const std::wstring word = text.substr(0, text.find(L' '));
-    const auto code = platform::RoundTo<short>(_variant_t(platform::LeadingNumber(word)));
+    const std::wstring piece = text.substr(0, text.find(L' '));
+    const auto code = platform::RoundTo<short>(_variant_t(platform::LeadingDecimal(piece)));
     if (!code) throw platform::Overflow();
     return *code;
 }
