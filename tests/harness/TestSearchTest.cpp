@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 using Microsoft::WRL::ComPtr;
 using support::ScriptedHttp;
 
@@ -28,6 +30,23 @@ protected:
         };
         const auto request = platform::Create<LejisSearchRequest>();
         return platform::Create<TestSearch>()->Search(support::Bstr(user), request.Get(), found);
+    }
+
+    // The answer to one of the searches sent so far comes in and is told.
+    void Answer(size_t search) {
+        http.requests.at(search)->Advance();
+        host.timers.back()->Tick();
+    }
+
+    static std::wstring IdOfFirst(const ComPtr<ICollection>& cards) {
+        _variant_t first;
+        ComPtr<ILejisIncidentIndexCard> card;
+        BSTR id = nullptr;
+        if (!cards) return L"(nothing)";
+        EXPECT_OK(cards->get_Item(1, &first));
+        EXPECT_OK(V_DISPATCH(&first)->QueryInterface(IID_PPV_ARGS(card.GetAddressOf())));
+        EXPECT_OK(card->get_ActivityID(&id));
+        return support::Take(id);
     }
 
     support::TestHost host;
@@ -60,6 +79,58 @@ TEST_F(TestSearchTest, ShowsAFailureToStartTheSearchInsteadOfWaitingForEver) {
     EXPECT_EQ(L"Internal error -2146827864: Object required", box.Text());
 }
 
+TEST_F(TestSearchTest, ShowsItsBoxAboveAllWindowsOfTheTask) {
+    const HWND window =
+        CreateWindowExW(0, L"STATIC", L"client", WS_OVERLAPPEDWINDOW, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
+    ASSERT_NE(nullptr, window);
+    bool isEnabled = true;
+    support::MessageBoxCloser box(L"LEJIS Search Error", [&] { isEnabled = IsWindowEnabled(window); });
+    EXPECT_OK(Search(L"j&d", results.GetAddressOf()));
+    EXPECT_FALSE(isEnabled) << "the client could start another search behind the box";
+    EXPECT_TRUE(IsWindowEnabled(window)) << "after the box the client goes on";
+    DestroyWindow(window);
+}
+
+TEST_F(TestSearchTest, HearsItsOwnSearchWhenAnotherOneIsNestedInIt) {
+    const auto harness = platform::Create<TestSearch>();
+    const auto request = platform::Create<LejisSearchRequest>();
+    ComPtr<ICollection> nested;
+    size_t answered = 0;
+    host.onYield = [&] {
+        if (http.requests.size() == 1) {
+            http.script.responseText = support::InquiryResponse(support::AnsweredCard(L"2"));
+            EXPECT_OK(harness->Search(support::Bstr(L"jdoe"), request.Get(), nested.GetAddressOf()));
+        } else if (answered < http.requests.size()) {
+            // The answer to the first search comes while the nested one waits for its own.
+            Answer(answered++);
+        }
+    };
+    EXPECT_OK(harness->Search(support::Bstr(L"jdoe"), request.Get(), results.GetAddressOf()));
+    EXPECT_EQ(L"1", IdOfFirst(results));
+    EXPECT_EQ(L"2", IdOfFirst(nested));
+    for (const auto& sent : http.requests) sent->ClearHandler();
+}
+
+TEST_F(TestSearchTest, IsNotEndedByTheFailureOfANestedSearch) {
+    const auto harness = platform::Create<TestSearch>();
+    const auto request = platform::Create<LejisSearchRequest>();
+    ComPtr<ICollection> nested;
+    support::MessageBoxCloser box(L"LEJIS Search Error");
+    bool isNested = false;
+    host.onYield = [&] {
+        if (!std::exchange(isNested, true)) {
+            EXPECT_OK(harness->Search(support::Bstr(L"j&d"), request.Get(), nested.GetAddressOf()));
+            EXPECT_EQ(L"Internal error -2146827864: Object required", box.Text());
+        } else {
+            Answer(0);
+        }
+    };
+    EXPECT_OK(harness->Search(support::Bstr(L"jdoe"), request.Get(), results.GetAddressOf()));
+    EXPECT_EQ(L"1", IdOfFirst(results));
+    EXPECT_EQ(nullptr, nested);
+    for (const auto& sent : http.requests) sent->ClearHandler();
+}
+
 TEST_F(TestSearchTest, EndsWhenTheHostsYieldRaises) {
     host.onYield = [] { throw platform::ComError(static_cast<HRESULT>(0x80045555), L"enough"); };
     const auto request = platform::Create<LejisSearchRequest>();
@@ -79,16 +150,6 @@ TEST_F(TestSearchTest, HasNoTimeLimitOfItsOwn) {
         platform::Create<TestSearch>()->Search(support::Bstr(L"jdoe"), request.Get(), results.GetAddressOf()),
         static_cast<long>(0x80045555), L"enough"));
     EXPECT_EQ(kLong, host.yields);
-    http.Last().ClearHandler();
-}
-
-TEST_F(TestSearchTest, WordsAFailedSearchWithReasonAndStatus) {
-    const auto harness = platform::Create<TestSearch>();
-    support::MessageBoxCloser box(L"LEJIS Search Error");
-    host.onYield = [&] { harness->m_searchService_SearchFailed(L"closed", 503); };
-    const auto request = platform::Create<LejisSearchRequest>();
-    EXPECT_OK(harness->Search(support::Bstr(L"jdoe"), request.Get(), results.GetAddressOf()));
-    EXPECT_EQ(L"Search failed. Reason: closed / Status code: 503", box.Text());
     http.Last().ClearHandler();
 }
 

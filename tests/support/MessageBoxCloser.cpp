@@ -1,5 +1,7 @@
 #include "support/MessageBoxCloser.h"
 
+#include <utility>
+
 namespace support {
 namespace {
 
@@ -11,8 +13,8 @@ constexpr int kTextControl = 0xFFFF;
 
 MessageBoxCloser* MessageBoxCloser::active_ = nullptr;
 
-MessageBoxCloser::MessageBoxCloser(std::wstring title)
-    : title_(std::move(title)), timer_(SetTimer(nullptr, 0, kLookEvery, Look)) {
+MessageBoxCloser::MessageBoxCloser(std::wstring title, std::function<void()> whileShown)
+    : title_(std::move(title)), whileShown_(std::move(whileShown)), timer_(SetTimer(nullptr, 0, kLookEvery, Look)) {
     active_ = this;
 }
 
@@ -27,6 +29,7 @@ void CALLBACK MessageBoxCloser::Look(HWND, UINT, UINT_PTR, DWORD) {
     wchar_t text[1024] = L"";
     GetDlgItemTextW(box, kTextControl, text, ARRAYSIZE(text));
     active_->text_ = text;
+    active_->whileShown_();
     PostMessageW(box, WM_COMMAND, IDOK, 0);
 }
 

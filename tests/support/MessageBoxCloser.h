@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 
 namespace support {
@@ -10,7 +11,9 @@ namespace support {
 // Looks for a message box with this title from the thread's own messages, which go on while the box is shown.
 class MessageBoxCloser {
 public:
-    explicit MessageBoxCloser(std::wstring title);
+    // `whileShown` is called each time that the box is seen.
+    explicit MessageBoxCloser(
+        std::wstring title, std::function<void()> whileShown = [] {});
     ~MessageBoxCloser();
     MessageBoxCloser(const MessageBoxCloser&) = delete;
     MessageBoxCloser& operator=(const MessageBoxCloser&) = delete;
@@ -24,6 +27,7 @@ private:
     static MessageBoxCloser* active_;
 
     const std::wstring title_;
+    const std::function<void()> whileShown_;
     std::wstring text_;
     UINT_PTR timer_;
 };

@@ -7,8 +7,8 @@ using platform::Check;
 
 namespace lejis {
 
-SearchConnection::SearchConnection(TestSearch& harness)
-    : service_(platform::Create<LejisSearchWebService>()), sink_(platform::Create<SearchSink>(harness)) {
+SearchConnection::SearchConnection(SearchOutcome& outcome)
+    : service_(platform::Create<LejisSearchWebService>()), sink_(platform::Create<SearchSink>(outcome)) {
     Check(service_->FindConnectionPoint(__uuidof(_LejisSearchWebServiceEvents), events_.GetAddressOf()));
     Check(events_->Advise(sink_.Get(), &cookie_));
 }

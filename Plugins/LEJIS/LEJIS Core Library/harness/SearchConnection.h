@@ -8,13 +8,13 @@
 
 namespace lejis {
 
+class SearchOutcome;
 class SearchSink;
-class TestSearch;
 
-// A search service and a sink that hands its events to the harness, parted again at the end.
+// A search service and a sink that hands its events to the outcome of the search, parted again at the end.
 class SearchConnection {
 public:
-    explicit SearchConnection(TestSearch& harness);
+    explicit SearchConnection(SearchOutcome& outcome);
     ~SearchConnection();
     SearchConnection(const SearchConnection&) = delete;
     SearchConnection& operator=(const SearchConnection&) = delete;

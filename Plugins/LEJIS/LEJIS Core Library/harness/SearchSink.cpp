@@ -26,16 +26,16 @@ STDMETHODIMP SearchSink::Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS* pa
                 Microsoft::WRL::ComPtr<ICollection> results;
                 platform::Check(
                     V_DISPATCH(&parameters->rgvarg[0])->QueryInterface(IID_PPV_ARGS(results.GetAddressOf())));
-                return harness_.m_searchService_SearchCompleted(results.Get());
+                return outcome_.m_searchService_SearchCompleted(results.Get());
             }
             case 2:
-                return harness_.m_searchService_SearchFailed(TextAt(*parameters, 1), V_I4(&parameters->rgvarg[0]));
+                return outcome_.m_searchService_SearchFailed(TextAt(*parameters, 1), V_I4(&parameters->rgvarg[0]));
             case 3:
-                return harness_.m_searchService_ConfigurationError(TextAt(*parameters, 0));
+                return outcome_.m_searchService_ConfigurationError(TextAt(*parameters, 0));
             case 4:
-                return harness_.m_searchService_NetworkError(TextAt(*parameters, 0));
+                return outcome_.m_searchService_NetworkError(TextAt(*parameters, 0));
             case 5:
-                return harness_.m_searchService_ServiceError(TextAt(*parameters, 0));
+                return outcome_.m_searchService_ServiceError(TextAt(*parameters, 0));
         }
     });
 }

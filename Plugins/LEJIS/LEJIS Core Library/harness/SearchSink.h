@@ -1,16 +1,16 @@
 #pragma once
 
-#include "harness/TestSearch.h"
+#include "harness/SearchOutcome.h"
 #include "platform/com/UnknownObject.h"
 
 #include <TVLejisCore.h>
 
 namespace lejis {
 
-// Hears the search service's events for the harness, which outlives the connection.
+// Hears the search service's events for the outcome of one search, which outlives the connection.
 class SearchSink final : public platform::UnknownObject<_LejisSearchWebServiceEvents> {
 public:
-    explicit SearchSink(TestSearch& harness) : harness_(harness) {}
+    explicit SearchSink(SearchOutcome& outcome) : outcome_(outcome) {}
 
     STDMETHODIMP GetTypeInfoCount(UINT* count) override;
     STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
@@ -18,7 +18,7 @@ public:
     STDMETHODIMP Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*, UINT*) override;
 
 private:
-    TestSearch& harness_;
+    SearchOutcome& outcome_;
 };
 
 }  // namespace lejis
