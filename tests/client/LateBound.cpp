@@ -38,9 +38,13 @@ Outcome LateBound::InvokeNumber(DISPID member, WORD kind, std::vector<_variant_t
     std::reverse(arguments.begin(), arguments.end());
     DISPPARAMS parameters{arguments.data(), named.data(), static_cast<UINT>(arguments.size()),
                           static_cast<UINT>(named.size())};
+    return InvokeWith(member, kind, &parameters);
+}
+
+Outcome LateBound::InvokeWith(DISPID member, WORD kind, DISPPARAMS* parameters) const {
     Outcome outcome;
     EXCEPINFO exception{};
-    outcome.result = object_->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, &outcome.value,
+    outcome.result = object_->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, kind, parameters, &outcome.value,
                                      &exception, &outcome.badArgument);
     outcome.number = exception.scode;
     outcome.description = support::Take(exception.bstrDescription);

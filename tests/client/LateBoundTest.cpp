@@ -159,11 +159,9 @@ TEST(LateBoundMember, ThatIsReadOnlyCannotBeSet) {
     EXPECT_EQ(L"Talvex", system.Get(L"CompanyName").Text());
 }
 
-TEST(LateBoundMember, NeedsItsParametersAndToleratesNoPlaceForAResult) {
+TEST(LateBoundMember, ToleratesNoPlaceForAResult) {
     const LateBound card = CreateLateBound(L"LejisPersonIndexCard");
     DISPPARAMS none{};
-    EXPECT_EQ(E_INVALIDARG, card.Pointer()->Invoke(1, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, nullptr,
-                                                   nullptr, nullptr, nullptr));
     EXPECT_OK(card.Pointer()->Invoke(1, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none, nullptr, nullptr,
                                      nullptr));
     EXPECT_TRUE(FAILED(card.Pointer()->GetIDsOfNames(IID_NULL, nullptr, 0, LOCALE_USER_DEFAULT, nullptr)));

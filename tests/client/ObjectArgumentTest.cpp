@@ -132,6 +132,84 @@ TEST(ObjectArgument, IsRefusedByNameWhenItIsNoObjectOrTheWrongOne) {
     });
 }
 
+struct ObjectTaker {
+    const wchar_t* className;
+    const wchar_t* member;
+};
+
+constexpr ObjectTaker kObjectTakers[] = {{L"LejisIncidentValidator", L"Validate"},
+                                         {L"LejisIncidentFormatter", L"Format"},
+                                         {L"LejisSubmissionWebService", L"SubmitIncident"},
+                                         {L"LejisSubmissionWebService", L"DeleteIncident"},
+                                         {L"LejisSearchWebService", L"Search"},
+                                         {L"FutureManager", L"InvokeLater"},
+                                         {L"LejisStreetAddress", L"ToXmlElement"},
+                                         {L"LejisSubmissionDocument", L"ToXmlElement"},
+                                         {L"LejisInquiryResponse", L"FromXmlDocument"},
+                                         {L"SOAPEnvelope", L"FromXmlElement"}};
+
+// The call by name tells all that a failure has to tell: number, text and source.
+void ExpectMismatch(const ObjectTaker& taker, VARIANT argument) {
+    SCOPED_TRACE(support::Utf8(taker.className) + "." + support::Utf8(taker.member) + ", passed as " +
+                 std::to_string(V_VT(&argument)));
+    const LateBound object = CreateLateBound(taker.className);
+    DISPPARAMS parameters{&argument, nullptr, 1, 0};
+    const Outcome outcome = object.InvokeWith(object.NumberOf(taker.member), DISPATCH_METHOD, &parameters);
+    EXPECT_TRUE(RaisedBy(outcome, DISP_E_TYPEMISMATCH, L"Type mismatch"));
+    EXPECT_EQ(ProgIdOf(taker.className), outcome.source);
+}
+
+TEST(ObjectArgument, OfTheWrongKindRaisesTheTypeMismatchByName) {
+    const auto stranger = Make<Stranger>();
+    VARIANT missing{};
+    V_VT(&missing) = VT_ERROR;
+    V_ERROR(&missing) = DISP_E_PARAMNOTFOUND;
+    _variant_t wrong[] = {_variant_t(),
+                          support::Null(),
+                          L"text",
+                          5L,
+                          true,
+                          _variant_t(missing),
+                          _variant_t(static_cast<IDispatch*>(stranger.Get())),
+                          _variant_t(static_cast<IUnknown*>(stranger.Get()))};
+    for (const ObjectTaker& taker : kObjectTakers) {
+        for (_variant_t& argument : wrong) {
+            VARIANT variable{};
+            V_VT(&variable) = VT_BYREF | VT_VARIANT;
+            V_VARIANTREF(&variable) = &argument;
+            ExpectMismatch(taker, argument);
+            ExpectMismatch(taker, variable);
+        }
+    }
+}
+
+// By value alone: Wine's dispatcher never lets go of an object that it refuses behind a reference, and an object of the
+// library would stay for ever.
+TEST(ObjectArgument, OfAnotherClassRaisesTheTypeMismatchByName) {
+    const _variant_t other = CreateLateBound(L"NullableLong").AsArgument();
+    for (const ObjectTaker& taker : kObjectTakers) ExpectMismatch(taker, other);
+}
+
+TEST(ObjectArgument, OfTheWrongKindHasItsNumberAsResultWithoutAPlaceForTheException) {
+    const LateBound validator = CreateLateBound(L"LejisIncidentValidator");
+    _variant_t text(L"text");
+    DISPPARAMS parameters{&text, nullptr, 1, 0};
+    EXPECT_TRUE(
+        support::FailedWith(validator.Pointer()->Invoke(validator.NumberOf(L"Validate"), IID_NULL, LOCALE_USER_DEFAULT,
+                                                        DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr),
+                            DISP_E_TYPEMISMATCH, L"Type mismatch"));
+}
+
+// Some clients know an object by its identity alone.
+TEST(ObjectArgument, MayBeTheIdentityOfTheObject) {
+    const LateBound validator = CreateLateBound(L"LejisIncidentValidator");
+    ComPtr<IUnknown> identity;
+    ASSERT_OK(CreateByName(L"LejisIncidentIndexCard").As(&identity));
+    const Outcome outcome = validator.Call(L"Validate", {_variant_t(identity.Get())});
+    ASSERT_TRUE(Done(outcome));
+    EXPECT_EQ(_variant_t(true), outcome.value) << "errors were found";
+}
+
 TEST(ObjectArgument, LeavesTheObjectFitForWorkAfterARefusal) {
     for (const ClassRow& row : CreatableClasses()) {
         const LateBound object = CreateLateBound(row.name);

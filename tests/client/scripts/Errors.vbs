@@ -23,6 +23,18 @@ Sub CheckError(name, number, description)
     If description <> "" Then Check name & ", text", seenText, description
 End Sub
 
+' What the validator says to a wrong kind of object; the number is that of the script's own type mismatch or the platform's.
+Sub CheckRefusal(name)
+    Dim seenNumber, seenText, seenSource
+    seenNumber = Err.Number
+    seenText = Err.Description
+    seenSource = Err.Source
+    Err.Clear
+    Check name & " is refused", seenNumber = 13 Or seenNumber = -2147352571, True
+    Check name & ", text", seenText, "Type mismatch"
+    Check name & ", source", seenSource, "TVLejisCore.LejisIncidentValidator"
+End Sub
+
 Set card = WScript.CreateObject("TVLejisCore.LejisVehicleIndexCard")
 Set small = WScript.CreateObject("TVLejisCore.NullableInteger")
 Set longs = WScript.CreateObject("TVLejisCore.NullableLong")
@@ -42,8 +54,14 @@ CheckError "no document", ObjectRequired, "Object required"
 result = validator.Validate(Nothing)
 CheckError "no incident", ObjectRequired, "Object required"
 result = validator.Validate(card)
-Check "a card of another kind is refused", Err.Number <> 0, True
-Err.Clear
+CheckRefusal "a card of another kind"
+result = validator.Validate("text")
+CheckRefusal "a text for a card"
+result = validator.Validate(Null)
+CheckRefusal "Null for a card"
+result = Empty
+result = validator.Validate(result)
+CheckRefusal "an empty variable for a card"
 
 small.Value = "12"
 CheckError "a text for an integer", InvalidArgument, "Cannot assign 'String'  to NullableInteger"

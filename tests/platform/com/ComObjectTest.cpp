@@ -100,6 +100,10 @@ TEST(ComObject, NamesItsClassAndInterface) {
     EXPECT_EQ(L"ILejisVehicleIndexCard", support::Take(name));
 }
 
+TEST(ComObject, PaysNothingForItsAutomation) {
+    EXPECT_EQ(sizeof(ILejisVehicleIndexCard), sizeof(DispatchOf<::LejisVehicleIndexCard, ILejisVehicleIndexCard>));
+}
+
 TEST(ComObject, HasOneTypeInformation) {
     const auto card = Create<LejisVehicleIndexCard>();
     UINT count = 0;
@@ -144,8 +148,21 @@ TEST(ComObject, TellsAutomationWhatFailed) {
     EXPECT_EQ(support::kInvalidArgument, exception.scode);
     EXPECT_EQ(L"elem cannot be Nothing", TakeText(exception.bstrDescription));
     EXPECT_EQ(L"TVLejisCore.LejisVehicleIndexCard", TakeText(exception.bstrSource));
-    EXPECT_EQ(E_INVALIDARG,
+}
+
+TEST(ComObject, TakesNoParametersForNoArguments) {
+    const auto card = Create<LejisVehicleIndexCard>();
+    DISPID reader = 0;
+    DISPID make = 0;
+    ASSERT_OK(NumberOf(card->Dispatch(), L"FromXmlElement", &reader));
+    ASSERT_OK(NumberOf(card->Dispatch(), L"Make", &make));
+    _variant_t result;
+    card->SetMake(L"FORD");
+    EXPECT_EQ(DISP_E_BADPARAMCOUNT,
               card->Invoke(reader, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, nullptr, nullptr, nullptr, nullptr));
+    EXPECT_OK(
+        card->Invoke(make, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, nullptr, &result, nullptr, nullptr));
+    EXPECT_EQ(_variant_t(L"FORD"), result);
 }
 
 // The call of a member that takes one argument, with these parameters.

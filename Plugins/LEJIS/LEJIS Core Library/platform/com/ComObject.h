@@ -2,61 +2,40 @@
 // errors.
 #pragma once
 
-#include "platform/com/Arguments.h"
 #include "platform/com/ClassInformation.h"
+#include "platform/com/DispatchOf.h"
 #include "platform/com/Guard.h"
-#include "platform/com/TypeLibrary.h"
 #include "platform/com/UnknownObject.h"
 #include "platform/ComError.h"
 
+#include <oaidl.h>
+
+#include <type_traits>
+#include <utility>
+
 namespace platform {
+
+// The base by which a class implements an interface: a dual one with its automation half, another one as it is.
+template <typename Coclass, typename Interface>
+using Implementing =
+    std::conditional_t<std::is_base_of_v<IDispatch, Interface>, DispatchOf<Coclass, Interface>, Interface>;
 
 // `Coclass` is the class in the type library, `Interface` its default interface.
 template <typename Coclass, typename Interface, typename... MoreInterfaces>
-class ComObject : public UnknownObject<Interface, MoreInterfaces...> {
-    using Base = UnknownObject<Interface, MoreInterfaces...>;
+class ComObject : public UnknownObject<Implementing<Coclass, Interface>, Implementing<Coclass, MoreInterfaces>...> {
+    using Base = UnknownObject<Implementing<Coclass, Interface>, Implementing<Coclass, MoreInterfaces>...>;
 
 public:
     using DefaultInterface = Interface;
 
     static REFCLSID ClassId() { return __uuidof(Coclass); }
 
-    // Needed where this object has several interfaces that are automation's.
+    // The default interface's, where this object has several that are automation's.
     IDispatch* Dispatch() { return static_cast<Interface*>(this); }
 
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
         if (object && ClassInformation::Has(iid)) return ClassInformation::Get(this->First(), ClassId(), iid, object);
         return Base::QueryInterface(iid, object);
-    }
-
-    STDMETHODIMP GetTypeInfoCount(UINT* count) override {
-        if (!count) return E_POINTER;
-        *count = 1;
-        return S_OK;
-    }
-
-    STDMETHODIMP GetTypeInfo(UINT index, LCID, ITypeInfo** information) override {
-        if (!information) return E_POINTER;
-        *information = nullptr;
-        if (index != 0) return DISP_E_BADINDEX;
-        return Guard(information, [] { return Microsoft::WRL::ComPtr<ITypeInfo>(InterfaceInfo()); });
-    }
-
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* numbers) override {
-        if (!names || !numbers || count == 0) return E_INVALIDARG;
-        HRESULT found = S_OK;
-        const HRESULT result = Guard([&] { found = InterfaceInfo()->GetIDsOfNames(names, count, numbers); });
-        return FAILED(result) ? result : found;
-    }
-
-    STDMETHODIMP Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
-                        EXCEPINFO* exception, UINT* argument) override {
-        if (!parameters || !IsSound(*parameters)) return E_INVALIDARG;
-        HRESULT outcome = S_OK;
-        const HRESULT entered = Guard([&] {
-            outcome = InterfaceInfo()->Invoke(this->First(), member, flags, parameters, result, exception, argument);
-        });
-        return FAILED(entered) ? entered : outcome;
     }
 
 protected:
@@ -72,12 +51,6 @@ protected:
         // Asked for its own class identifier, an object hands out its inside: see Inside.h.
         if (iid == ClassId()) return this->First();
         return Base::Find(iid);
-    }
-
-private:
-    static ITypeInfo* InterfaceInfo() {
-        static const Microsoft::WRL::ComPtr<ITypeInfo> information = TypeInfoOf(__uuidof(Interface));
-        return information.Get();
     }
 };
 

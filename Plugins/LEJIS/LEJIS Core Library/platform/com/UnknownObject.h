@@ -15,6 +15,12 @@
 
 namespace platform {
 
+// The interface that a base of an object is known by: itself, unless a base says otherwise.
+template <typename Base>
+struct Implemented {
+    using Interface = Base;
+};
+
 template <typename... Interfaces>
 class UnknownObject : public Interfaces... {
 public:
@@ -59,7 +65,9 @@ protected:
     // The object as this interface, without a new reference; null when it has none such.
     virtual void* Find(REFIID iid) {
         void* found = nullptr;
-        ((iid == __uuidof(Interfaces) ? (found = static_cast<Interfaces*>(this), true) : false) || ...);
+        ((iid == __uuidof(typename Implemented<Interfaces>::Interface) ? (found = static_cast<Interfaces*>(this), true)
+                                                                       : false) ||
+         ...);
         if (!found && iid == __uuidof(IUnknown)) found = First();
         return found;
     }
