@@ -1,5 +1,6 @@
 #include "com/Classes.h"
 
+#include "platform/com/TypeInformation.h"
 #include "platform/com/TypeLibrary.h"
 #include "platform/ComError.h"
 #include "platform/Text.h"
@@ -12,6 +13,7 @@
 #include <deque>
 
 using Microsoft::WRL::ComPtr;
+using platform::AttributesOf;
 using platform::Check;
 
 namespace fuzzing {
@@ -21,14 +23,6 @@ std::wstring NameOf(ITypeInfo* information) {
     BSTR name = nullptr;
     Check(information->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr));
     return platform::TakeText(name);
-}
-
-TYPEATTR AttributesOf(ITypeInfo* information) {
-    TYPEATTR* attributes = nullptr;
-    Check(information->GetTypeAttr(&attributes));
-    const TYPEATTR copy = *attributes;
-    information->ReleaseTypeAttr(attributes);
-    return copy;
 }
 
 ComPtr<ITypeInfo> Referred(ITypeInfo* information, HREFTYPE reference) {

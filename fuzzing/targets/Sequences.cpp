@@ -7,6 +7,7 @@
 #include "platform/msxml/Document.h"
 #include "platform/Text.h"
 #include "services/LejisSubmissionWebService.h"
+#include "targets/Promises.h"
 #include "targets/Targets.h"
 #include "unit_support/Answers.h"
 #include "unit_support/EventLog.h"
@@ -92,6 +93,9 @@ private:
             {L"change services", &Client::ChangeServices},
             {L"call anything", &Client::CallAnything},
             {L"change request", &Client::ChangeRequest},
+            {L"fail to search", &Client::FailToSearch},
+            {L"change a document that was read", &Client::ChangeDocument},
+            {L"repeat work", &Client::RepeatWork},
         };
         if (++steps_ > kMostSteps) return;
         const Operation& operation = case_.Pick(kOperations);
@@ -328,6 +332,10 @@ private:
         BeforeCall();
         Check(request_->FromXmlElement(ComPtr<IDispatch>(AnyElement(case_).Get()).Get()), L"FromXmlElement");
     }
+
+    void FailToSearch() { FailedSearchLeavesTheOtherAlone(case_, world_); }
+    void ChangeDocument() { EnvelopeKeepsItsTexts(case_); }
+    void RepeatWork() { FutureRunsRepeatedWork(case_, world_); }
 
     void CallAnything() {
         const ComPtr<IUnknown> object = world_.AnyObject();
