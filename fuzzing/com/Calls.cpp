@@ -76,8 +76,10 @@ std::wstring CallText(const wchar_t* road, const std::wstring& name, const std::
 
 }  // namespace
 
-void PardonConversions(HRESULT outcome, std::span<const VARIANT> arguments, Case& one) {
-    if (SUCCEEDED(outcome) || outcome == DISP_E_EXCEPTION) return;
+void PardonConversions(HRESULT outcome, const EXCEPINFO& exception, std::span<const VARIANT> arguments, Case& one) {
+    // The library raises the type mismatch for an object that the dispatcher has refused.
+    const bool isRefused = outcome == DISP_E_EXCEPTION ? exception.scode == DISP_E_TYPEMISMATCH : FAILED(outcome);
+    if (!isRefused) return;
     const bool isReference =
         std::ranges::any_of(arguments, [](const VARIANT& value) { return (V_VT(&value) & VT_BYREF) != 0; });
     if (isReference || arguments.size() > 1) one.PardonLeaks();
@@ -142,8 +144,8 @@ ComPtr<IUnknown> CallByInvoke(IDispatch* object, const Member& member, Case& one
     BeforeCall();
     const HRESULT outcome = object->Invoke(member.id, IID_NULL, LOCALE_USER_DEFAULT, member.kind, &parameters,
                                            static_cast<VARIANT*>(result.Address()), &exception, &wrong);
+    PardonConversions(outcome, exception, {arguments.data(), count}, one);
     AfterCall(Road::kInvoke, outcome, call, &exception);
-    PardonConversions(outcome, {arguments.data(), count}, one);
     return result.Object();
 }
 

@@ -11,8 +11,9 @@
 
 namespace fuzzing {
 
-// Wine's dispatcher does not free what it has made of arguments when one of them does not convert.
-void PardonConversions(HRESULT outcome, std::span<const VARIANT> arguments, Case& one);
+// Wine's dispatcher does not free what it has made of arguments when one of them does not convert. A call that passed
+// no place for the exception passes an empty one here.
+void PardonConversions(HRESULT outcome, const EXCEPINFO& exception, std::span<const VARIANT> arguments, Case& one);
 
 // Calls the member with arguments of `values`, through its place in the interface's table or through Invoke, and checks
 // how a failure shows. The object that it returns, or null.

@@ -39,7 +39,6 @@ constexpr Excuse kExcuses[] = {
     {Road::kInvoke, DISP_E_BADVARTYPE, "an argument of no type: IDispatch's contract"},
     {Road::kInvoke, DISP_E_NOTACOLLECTION, "arguments for the value of a member that has none: the dispatcher's own"},
     {Road::kInvoke, E_INVALIDARG, "the call's description is none, or an argument breaks the rules for variants"},
-    {Road::kInvoke, E_NOINTERFACE, "an object of another class as argument: how the platform's dispatcher says it"},
 
     {Road::kPlumbing, E_POINTER, "no place for the result"},
     {Road::kPlumbing, E_NOINTERFACE, "QueryInterface's contract, and that of CreateInstance"},

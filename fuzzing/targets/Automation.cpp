@@ -189,7 +189,7 @@ private:
                                                one.OneIn(4) ? one.Bits() : LOCALE_USER_DEFAULT, kind,
                                                one.OneIn(60) ? nullptr : &parameters, one.OneIn(8) ? nullptr : &result,
                                                hasException ? &exception : nullptr, one.OneIn(8) ? nullptr : &wrong);
-        PardonConversions(outcome, {arguments.data(), count}, one);
+        PardonConversions(outcome, exception, {arguments.data(), count}, one);
         // Without a place for it, the description is on the thread alone, or lost.
         if (hasException) AfterCall(Road::kInvoke, outcome, L"Invoke", &exception);
         const bool isObject = V_VT(&result) == VT_DISPATCH || V_VT(&result) == VT_UNKNOWN;
