@@ -105,7 +105,8 @@ TEST_P(ScriptedFault, IsToldOnceToWhoeverSearches) {
     EXPECT_EQ(S_OK, search->Search(request.Get()));
     first->Advance();
     http.Last().Advance();
-    support::PumpFor(250);
+    EXPECT_TRUE(support::PumpUntil([&] { return !log->events.empty(); }));
+    support::PumpFor(120);
     platform::ReleaseCompleteRequests();
     EXPECT_EQ(std::vector<std::wstring>{L"SearchCompleted: 1 cards"}, log->events);
 }
