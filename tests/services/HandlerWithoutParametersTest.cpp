@@ -15,6 +15,7 @@ TEST(HandlerWithoutParameters, CompletesTheSearch) {
     const auto service = platform::Create<LejisSearchWebService>();
     const auto log = support::EventLog::ForSearches();
     log->ConnectTo(service->Dispatch());
+    service->URL = L"http://127.0.0.1/search";
     EXPECT_EQ(S_OK, service->Search(platform::Create<LejisSearchRequest>().Get()));
     EXPECT_EQ(S_OK, service->Dispatch()->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, nullptr,
                                                 nullptr, nullptr, nullptr));
