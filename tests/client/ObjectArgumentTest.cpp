@@ -183,11 +183,15 @@ TEST(ObjectArgument, OfTheWrongKindRaisesTheTypeMismatchByName) {
     }
 }
 
-// By value alone: Wine's dispatcher never lets go of an object that it refuses behind a reference, and an object of the
-// library would stay for ever.
 TEST(ObjectArgument, OfAnotherClassRaisesTheTypeMismatchByName) {
-    const _variant_t other = CreateLateBound(L"NullableLong").AsArgument();
-    for (const ObjectTaker& taker : kObjectTakers) ExpectMismatch(taker, other);
+    _variant_t other = CreateLateBound(L"NullableLong").AsArgument();
+    VARIANT variable{};
+    V_VT(&variable) = VT_BYREF | VT_VARIANT;
+    V_VARIANTREF(&variable) = &other;
+    for (const ObjectTaker& taker : kObjectTakers) {
+        ExpectMismatch(taker, other);
+        ExpectMismatch(taker, variable);
+    }
 }
 
 TEST(ObjectArgument, OfTheWrongKindHasItsNumberAsResultWithoutAPlaceForTheException) {

@@ -1,6 +1,7 @@
 #include "platform/com/MemberCall.h"
 
 #include "platform/com/Arguments.h"
+#include "platform/com/ArgumentsByValue.h"
 #include "platform/com/Guard.h"
 #include "platform/ComError.h"
 
@@ -65,7 +66,8 @@ HRESULT MemberCall::Invoke(DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* e
     DISPPARAMS& given = parameters ? *parameters : none;
     if (!IsSound(given)) return E_INVALIDARG;
     const WORD kinds = WithReading(flags);
-    const HRESULT outcome = information->Invoke(object, member, kinds, &given, result, exception, argument);
+    ArgumentsByValue arguments(given);
+    const HRESULT outcome = information->Invoke(object, member, kinds, arguments.All(), result, exception, argument);
     // The dispatcher tells a number alone; a value of the wrong type is named by the client's own language, but no
     // language knows which object was expected.
     if (IsMismatch(outcome) && TakesObjects(information, member, kinds)) return RaiseTypeMismatch(classId, exception);
