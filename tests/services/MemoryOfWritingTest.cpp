@@ -4,6 +4,7 @@
 #include "model/LejisSubmissionDocument.h"
 #include "platform/msxml/Document.h"
 #include "services/SubmissionEnvelope.h"
+#include "support/WineVersion.h"
 
 #include <gtest/gtest.h>
 
@@ -45,13 +46,14 @@ size_t BytesInUse() {
 }
 
 TEST(MemoryOfWriting, IsGivenBack) {
-    constexpr int kTimes = 100;
+    // Wine 10 lists small blocks by the group, so that one block more can count thousands of bytes.
+    const size_t times = support::WineVersion() >= 10 ? 16'000 : 100;
     const auto incident = IncidentWithMeasures();
-    for (int time = 0; time < kTimes; ++time) FormatAndWrite(*incident.Get());
+    for (size_t time = 0; time < times; ++time) FormatAndWrite(*incident.Get());
     const size_t before = BytesInUse();
-    for (int time = 0; time < kTimes; ++time) FormatAndWrite(*incident.Get());
+    for (size_t time = 0; time < times; ++time) FormatAndWrite(*incident.Get());
     // A little for what goes on beside; one namespace is eighty bytes.
-    EXPECT_LT(BytesInUse(), before + 20 * kTimes);
+    EXPECT_LT(BytesInUse(), before + 20 * times);
 }
 
 }  // namespace
