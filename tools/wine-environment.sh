@@ -73,8 +73,18 @@ make_prefix() {
   prefix_mark >"$WINEPREFIX/finished"
 }
 
+# What wine-program.sh starts. Programs of both bitnesses can be started by one of 64 bits.
+make_launcher() {
+  local source=$project/tools/wine/launch.cpp launcher=$project/build/launch.exe
+  [[ $launcher -nt $source ]] && return
+  run x86_64-w64-mingw32-g++-posix -std=c++20 -O1 -Wall -Wextra -Werror -DUNICODE -D_UNICODE -static -s \
+    -o "$launcher.new" "$source" || fail "$source cannot be built"
+  mv "$launcher.new" "$launcher"
+}
+
 # Needs the lock: a server that still runs here was left by a script that was killed.
 start_wine() {
+  make_launcher
   stop_wine
   [[ -f $WINEPREFIX/finished && $(<"$WINEPREFIX/finished") == "$(prefix_mark)" ]] || make_prefix
   # Without this the first program starts the server and its services, which keep that program's output open.
