@@ -75,7 +75,7 @@ make_prefix() {
 
 # What wine-program.sh starts. Programs of both bitnesses can be started by one of 64 bits.
 make_launcher() {
-  local source=$project/tools/wine/launch.cpp launcher=$project/build/launch.exe
+  local source=$project/tools/launch.cpp launcher=$project/build/launch.exe
   [[ $launcher -nt $source ]] && return
   run x86_64-w64-mingw32-g++-posix -std=c++20 -O1 -Wall -Wextra -Werror -DUNICODE -D_UNICODE -static -s \
     -o "$launcher.new" "$source" || fail "$source cannot be built"

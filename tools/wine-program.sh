@@ -1,7 +1,7 @@
 #!/bin/bash
 # wine-program.sh PROGRAM [ARGUMENT...]
 # Runs a Windows program, named by its Unix or Windows path, and ends with its exit code. Wine has been started
-# (start_wine). A program of this checkout stands in between, tools/wine/launch.cpp: about one in a thousand programs
+# (start_wine). A program of this checkout stands in between, tools/launch.cpp: about one in a thousand programs
 # that have used HTTP dies of SIGSEGV at its very end, when Wine stops a thread of its own that is just starting. Only
 # the Windows side then knows the code with which the program had ended before.
 set -uo pipefail
