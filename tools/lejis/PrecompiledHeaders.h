@@ -1,0 +1,17 @@
+// What most files need of others, read once for all of them. Each file includes what it uses all the same.
+#pragma once
+
+#include <comdef.h>
+#include <comutil.h>
+#include <nlohmann/json.hpp>
+#include <ole2.h>
+#include <windows.h>
+#include <wrl/client.h>
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>

@@ -1,0 +1,165 @@
+#include "commandline/CommandLine.h"
+
+#include "commandline/Command.h"
+#include "commandline/UsageError.h"
+#include "search/SearchSettings.h"
+#include "text/Day.h"
+
+#include <algorithm>
+
+namespace lejis_client {
+namespace {
+
+using Arguments = std::vector<std::wstring>;
+
+struct Switch {
+    const wchar_t* name;
+    bool CommandLine::*value;
+    bool Command::*allowed;
+};
+
+constexpr Switch kSwitches[] = {
+    {L"--validate-schema", &CommandLine::validateSchema, &Command::canValidateSchema},
+    {L"--xml", &CommandLine::xml, &Command::searches},
+};
+
+struct Option {
+    const wchar_t* name;
+    std::optional<std::wstring> CommandLine::*value;
+    bool Command::*allowed;
+};
+
+constexpr Option kOptions[] = {
+    {L"--url", &CommandLine::url, &Command::takesUrl},
+    {L"--search-url", &CommandLine::searchUrl, &Command::diagnoses},
+    {L"--ori", &CommandLine::ori, &Command::canNameIncident},
+    {L"--id", &CommandLine::id, &Command::canNameIncident},
+    {L"--submitted", &CommandLine::submitted, &Command::canNameIncident},
+    {L"--organization", &CommandLine::organization, &Command::canNameIncident},
+    {L"--user", &CommandLine::user, &Command::searches},
+    {L"--wait", &CommandLine::wait, &Command::searches},
+};
+
+template <typename Row, std::size_t count>
+const Row* Find(const Row (&table)[count], const std::wstring& name, const Command& command) {
+    for (const Row& row : table) {
+        if (row.name == name && command.*row.allowed) return &row;
+    }
+    return nullptr;
+}
+
+[[noreturn]] void Throw(const CommandLine& commandLine, const std::wstring& reason) {
+    throw UsageError{reason, commandLine.command ? commandLine.command->name : L""};
+}
+
+constexpr wchar_t kJson[] = L"--json";
+
+bool AsksForHelp(const std::wstring& argument) { return argument == L"--help" || argument == L"-h"; }
+
+// An option is one of this program's or one of those that go into a search.
+bool IsOption(const CommandLine& commandLine, const std::wstring& name) {
+    if (Find(kOptions, name, *commandLine.command)) return true;
+    return commandLine.command->searches && FindSearchOption(name);
+}
+
+void Set(CommandLine& commandLine, const std::wstring& name, const std::wstring& value) {
+    if (const Option* option = Find(kOptions, name, *commandLine.command)) {
+        commandLine.*option->value = value;
+    } else {
+        commandLine.search.push_back({FindSearchOption(name), value});
+    }
+}
+
+// Takes the option at this place, with its value behind an equals sign or in the next argument; returns the next place.
+std::size_t TakeOption(CommandLine& commandLine, const Arguments& arguments, std::size_t place) {
+    const std::wstring& argument = arguments[place];
+    if (const Switch* found = Find(kSwitches, argument, *commandLine.command)) {
+        commandLine.*found->value = true;
+        return place + 1;
+    }
+    const std::size_t equals = argument.find(L'=');
+    const std::wstring name = argument.substr(0, equals);
+    if (!IsOption(commandLine, name)) Throw(commandLine, L"unknown option " + name);
+    if (equals != std::wstring::npos) {
+        Set(commandLine, name, argument.substr(equals + 1));
+        return place + 1;
+    }
+    if (place + 1 == arguments.size() || arguments[place + 1].starts_with(L"--")) {
+        Throw(commandLine, name + L" needs a value");
+    }
+    Set(commandLine, name, arguments[place + 1]);
+    return place + 2;
+}
+
+void RequireIncident(const CommandLine& commandLine) {
+    if (!commandLine.NamesIncident()) {
+        if (commandLine.files.empty()) Throw(commandLine, L"no file given");
+        return;
+    }
+    if (!commandLine.files.empty()) Throw(commandLine, L"give either files or the identifiers of an incident");
+    if (!commandLine.ori) Throw(commandLine, L"--ori is missing");
+    if (!commandLine.id) Throw(commandLine, L"--id is missing");
+    if (!commandLine.submitted) Throw(commandLine, L"--submitted is missing");
+    if (!ParseDay(*commandLine.submitted)) {
+        Throw(commandLine, L"'" + *commandLine.submitted + L"' is no day; write it as in 2024-03-09");
+    }
+}
+
+void RefuseFiles(const CommandLine& commandLine) {
+    if (!commandLine.files.empty()) Throw(commandLine, L"unexpected argument " + commandLine.files.front());
+}
+
+void RequireSearch(const CommandLine& commandLine) {
+    RefuseFiles(commandLine);
+    if (commandLine.xml && commandLine.json) Throw(commandLine, L"give either --xml or --json");
+    const std::wstring complaint = SearchComplaint(commandLine);
+    if (!complaint.empty()) Throw(commandLine, complaint);
+}
+
+void RequireAll(const CommandLine& commandLine) {
+    if (commandLine.command->diagnoses) return RefuseFiles(commandLine);
+    commandLine.command->searches ? RequireSearch(commandLine) : RequireIncident(commandLine);
+    if (commandLine.command->needsUrl && !commandLine.url) Throw(commandLine, L"--url is missing");
+}
+
+CommandLine WithoutCommand(const std::wstring& argument) {
+    CommandLine commandLine;
+    commandLine.help = AsksForHelp(argument);
+    commandLine.version = argument == L"--version";
+    if (commandLine.help || commandLine.version) return commandLine;
+    Throw(commandLine, (argument.starts_with(L'-') ? L"unknown option " : L"unknown command ") + argument);
+}
+
+}  // namespace
+
+bool CommandLine::AsksForJson(const Arguments& arguments) {
+    return std::find(arguments.begin(), arguments.end(), kJson) != arguments.end();
+}
+
+CommandLine CommandLine::Parse(Arguments arguments) {
+    const bool json = std::erase(arguments, kJson) > 0;
+    if (arguments.empty()) throw UsageError{L"no command given", {}};
+    CommandLine commandLine;
+    commandLine.command = FindCommand(arguments.front());
+    if (!commandLine.command) commandLine = WithoutCommand(arguments.front());
+    commandLine.json = json;
+    if (commandLine.command) commandLine.TakeArguments(arguments);
+    return commandLine;
+}
+
+void CommandLine::TakeArguments(const Arguments& arguments) {
+    for (std::size_t place = 1; place < arguments.size();) {
+        if (AsksForHelp(arguments[place])) {
+            help = true;
+            return;
+        }
+        if (arguments[place].starts_with(L'-')) {
+            place = TakeOption(*this, arguments, place);
+        } else {
+            files.push_back(arguments[place++]);
+        }
+    }
+    RequireAll(*this);
+}
+
+}  // namespace lejis_client

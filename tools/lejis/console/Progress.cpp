@@ -1,0 +1,60 @@
+#include "console/Progress.h"
+
+#include "console/Console.h"
+#include "text/Layout.h"
+
+#include <algorithm>
+#include <cwchar>
+
+namespace lejis_client {
+namespace {
+
+// So many results can be counted by eye.
+constexpr std::size_t kFew = 3;
+constexpr std::size_t kConsoleWidth = 79;
+constexpr std::size_t kBarWidth = 20;
+constexpr double kSecond = 1000;
+
+std::wstring Bar(std::size_t done, std::size_t total) {
+    const std::size_t full = kBarWidth * done / total;
+    return L"[" + std::wstring(full, L'#') + std::wstring(kBarWidth - full, L'.') + L"]";
+}
+
+std::wstring Pace(std::size_t done, std::size_t total, ULONGLONG milliseconds) {
+    if (done == 0 || milliseconds == 0) return {};
+    const double rate = static_cast<double>(done) * kSecond / static_cast<double>(milliseconds);
+    const auto left = static_cast<unsigned>(static_cast<double>(total - done) / rate + 0.5);
+    wchar_t text[60];
+    std::swprintf(text, std::size(text), L"  %.1f/s, %u:%02u left", rate, left / 60, left % 60);
+    return text;
+}
+
+}  // namespace
+
+Progress::Progress(std::size_t total) : total_(total), start_(GetTickCount64()) {}
+
+bool Progress::HasBar() const { return total_ > kFew && Console::Errors().IsInteractive(); }
+
+void Progress::Begin(const std::wstring& name) {
+    ++current_;
+    if (!HasBar()) return;
+    Console::Errors().Write(L"\r" + ProgressLine(current_ - 1, total_, GetTickCount64() - start_, name));
+}
+
+void Progress::End() {
+    if (HasBar()) Console::Errors().Write(L"\r" + std::wstring(kConsoleWidth, L' ') + L"\r");
+}
+
+std::wstring Progress::Number() const {
+    if (total_ <= kFew || HasBar()) return {};
+    const std::wstring total = std::to_wstring(total_);
+    return L"[" + PaddedLeft(std::to_wstring(current_), total.size()) + L"/" + total + L"] ";
+}
+
+std::wstring ProgressLine(std::size_t done, std::size_t total, ULONGLONG milliseconds, const std::wstring& name) {
+    const std::wstring line = Bar(done, total) + L" " + std::to_wstring(done) + L"/" + std::to_wstring(total) +
+                              Pace(done, total, milliseconds) + L"  " + name;
+    return PaddedRight(line.substr(0, kConsoleWidth), kConsoleWidth);
+}
+
+}  // namespace lejis_client

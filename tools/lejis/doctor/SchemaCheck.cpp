@@ -1,0 +1,58 @@
+#include "doctor/SchemaCheck.h"
+
+#include "library/Members.h"
+#include "platform/ComError.h"
+#include "platform/msxml/Document.h"
+#include "services/SchemaUtils.h"
+#include "services/SearchEnvelope.h"
+#include "services/SubmissionEnvelope.h"
+#include "text/Day.h"
+
+namespace lejis_client {
+namespace {
+
+using Microsoft::WRL::ComPtr;
+
+ComPtr<ILejisIncidentIndexCard> SampleIncident() {
+    auto incident = Create<LejisIncidentIndexCard, ILejisIncidentIndexCard>();
+    Check(incident->put_OrganizationORI(_bstr_t(L"PA0000000")));
+    Check(incident->put_ActivityID(_bstr_t(L"0")));
+    const auto submitted = Part(incident.Get(), &ILejisIncidentIndexCard::get_SubmittedDate);
+    Check(submitted->put_Value(_variant_t(*ParseDay(L"2000-01-01"), VT_DATE)));
+    return incident;
+}
+
+// The root of the document that the library makes of an object.
+template <typename Interface>
+msxml::Element RootOf(Interface* object) {
+    ComPtr<IDispatch> document;
+    Check(object->ToXmlDocument(&document));
+    return msxml::Root(msxml::DocumentFrom(document.Get()));
+}
+
+}  // namespace
+
+msxml::Document SampleSubmission() {
+    const auto submission = Create<LejisSubmissionDocument, ILejisSubmissionDocument>();
+    const auto cards = Part(submission.Get(), &ILejisSubmissionDocument::get_IncidentIndexCards);
+    Check(cards->Add(_variant_t(static_cast<IDispatch*>(SampleIncident().Get()))));
+    return lejis::WrapInEnvelope(RootOf(submission.Get()));
+}
+
+msxml::Document SampleSearch() {
+    const auto request = Create<LejisSearchRequest, ILejisSearchRequest>();
+    const auto person = Part(request.Get(), &ILejisSearchRequest::get_personArguments);
+    Check(person->put_SurName(_bstr_t(L"DOE")));
+    return lejis::WrapInSearchEnvelope(RootOf(request.Get()), L"doctor");
+}
+
+std::wstring SchemaFault(const msxml::Document& request, const std::wstring& wsdlUrl) {
+    try {
+        lejis::SchemaUtils::ValidateSchemaFromWSDL(request, wsdlUrl);
+        return {};
+    } catch (const platform::ComError& error) {
+        return error.Description().empty() ? L"no reason was given" : error.Description();
+    }
+}
+
+}  // namespace lejis_client

@@ -1,0 +1,53 @@
+#include "library/InstalledLibrary.h"
+
+#include "library/Library.h"
+
+#include <winver.h>
+
+namespace lejis_client {
+namespace {
+
+constexpr DWORD kLongestPath = 32768;
+
+std::wstring ServerKey() {
+    wchar_t id[40];
+    StringFromGUID2(__uuidof(LejisSubmissionWebService), id, ARRAYSIZE(id));
+    return L"CLSID\\" + std::wstring(id) + L"\\InprocServer32";
+}
+
+}  // namespace
+
+bool SystemHas(Bitness bitness) {
+    if (bitness == kOwnBitness || kOwnBitness == Bitness::k64) return true;
+    BOOL underWow64 = FALSE;
+    IsWow64Process(GetCurrentProcess(), &underWow64);
+    return underWow64;
+}
+
+std::optional<std::wstring> RegisteredFile(Bitness bitness) {
+    const REGSAM view = bitness == Bitness::k64 ? KEY_WOW64_64KEY : KEY_WOW64_32KEY;
+    HKEY key = nullptr;
+    if (RegOpenKeyExW(HKEY_CLASSES_ROOT, ServerKey().c_str(), 0, KEY_READ | view, &key) != ERROR_SUCCESS) return {};
+    std::wstring path(kLongestPath, L'\0');
+    DWORD size = kLongestPath * sizeof(wchar_t);
+    const LSTATUS result = RegGetValueW(key, nullptr, nullptr, RRF_RT_REG_SZ, nullptr, path.data(), &size);
+    RegCloseKey(key);
+    if (result != ERROR_SUCCESS) return {};
+    return std::wstring(path.c_str());
+}
+
+std::optional<std::wstring> VersionOf(const std::wstring& file) {
+    DWORD ignored = 0;
+    std::vector<char> block(GetFileVersionInfoSizeW(file.c_str(), &ignored));
+    const auto size = static_cast<DWORD>(block.size());
+    void* found = nullptr;
+    UINT length = 0;
+    if (block.empty() || !GetFileVersionInfoW(file.c_str(), 0, size, block.data())) return {};
+    if (!VerQueryValueW(block.data(), L"\\", &found, &length)) return {};
+    const auto& fixed = *static_cast<const VS_FIXEDFILEINFO*>(found);
+    // Major, minor and revision; the build number is not used.
+    return std::to_wstring(HIWORD(fixed.dwFileVersionMS)) + L"." + std::to_wstring(LOWORD(fixed.dwFileVersionMS)) +
+           L"." + std::to_wstring(LOWORD(fixed.dwFileVersionLS));
+}
+
+}  // namespace lejis_client

@@ -1,0 +1,22 @@
+// Counts what became of the incidents.
+#pragma once
+
+#include "submission/Outcome.h"
+
+#include <map>
+
+namespace lejis_client {
+
+class Tally {
+public:
+    void Add(const Outcome& outcome);
+    std::size_t Count(Result result) const;
+    std::size_t WithWarnings() const { return withWarnings_; }
+    int ExitCode() const;
+
+private:
+    std::map<Result, std::size_t> counts_;
+    std::size_t withWarnings_ = 0;
+};
+
+}  // namespace lejis_client

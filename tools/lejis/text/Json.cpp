@@ -1,0 +1,29 @@
+#include "text/Json.h"
+
+#include "console/Console.h"
+#include "text/Utf8.h"
+
+namespace lejis_client {
+
+Json JsonText(std::wstring_view text) { return Utf8(text); }
+
+Json JsonTexts(const std::vector<std::wstring>& texts) {
+    Json list = Json::array();
+    for (const std::wstring& text : texts) list.push_back(JsonText(text));
+    return list;
+}
+
+Json JsonDocument(const std::optional<std::wstring>& command, int exitCode) {
+    return {{"command", command ? JsonText(*command) : Json()}, {"exitCode", exitCode}, {"error", nullptr}};
+}
+
+void SetError(Json& document, std::wstring_view kind, std::wstring_view message) {
+    document["error"] = {{"kind", JsonText(kind)}, {"message", JsonText(message)}};
+}
+
+void Print(const Json& document) {
+    const std::string text = document.dump(2, ' ', true);
+    Console::Output().Write(std::wstring(text.begin(), text.end()) + L'\n');
+}
+
+}  // namespace lejis_client

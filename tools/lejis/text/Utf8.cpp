@@ -1,0 +1,15 @@
+#include "text/Utf8.h"
+
+#include <windows.h>
+
+namespace lejis_client {
+
+std::string Utf8(std::wstring_view text) {
+    const int length = static_cast<int>(text.size());
+    const int size = WideCharToMultiByte(CP_UTF8, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
+    std::string result(static_cast<std::size_t>(size), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text.data(), length, result.data(), size, nullptr, nullptr);
+    return result;
+}
+
+}  // namespace lejis_client
