@@ -8,6 +8,7 @@ and a Wine prefix in which the library of the program's bitness is registered.
 """
 import json
 import os
+import re
 import subprocess
 import tempfile
 import unittest
@@ -20,7 +21,18 @@ SAMPLES = PROJECT / "samples" / "incidents"
 RUNNER = str(PROJECT / "tools" / "wine-program.sh")
 TIME_LIMIT = 60
 
-DONE, REFUSED, TRY_AGAIN, WRONG_USAGE = 0, 1, 2, 64
+DONE, REFUSED, TRY_AGAIN, BOTH, WRONG_USAGE, INTERRUPTED = 0, 1, 2, 3, 64, 130
+
+IN_VAIN = "    Trying again does not help until this is put right.\n"
+NOTHING_SENT = "    Nothing reached LEJIS. Trying again later can help; the incident is not at fault.\n"
+NOTHING_SENT_IN_VAIN = "    Nothing reached LEJIS. Trying again does not help until this is put right.\n"
+SEND_AGAIN = ("    LEJIS may have it or not: send it again, LEJIS knows an incident by agency and number, or look it "
+              "up.\n")
+WITHDRAW_AGAIN = ("    LEJIS may have it still or not: withdraw it again, LEJIS knows an incident by agency and number, "
+                  "or look it up.\n")
+
+# Ends a summary, never twice the same.
+PACE = re.compile(r" \d+\.\d s, \d+\.\d a second\.$", re.MULTILINE)
 
 NAMESPACES = """
     xmlns:lejis="http://lejis.example/lejis/jxdm/1.0/service"
@@ -73,11 +85,11 @@ class LejisCase(unittest.TestCase):
         return Run(process.returncode, output, complaint)
 
     def expect(self, code, *arguments, **options):
-        """Runs lejis, which must end with this code; returns what it printed."""
+        """Runs lejis, which must end with this code; returns what it printed, without how fast it was."""
         run = self.lejis(*arguments, **options)
         self.assertEqual(run.code, code, run)
         self.assertEqual(run.complaint, "")
-        return run.output
+        return PACE.sub("", run.output)
 
     def write(self, name, content):
         path = self.folder / name

@@ -1,7 +1,7 @@
 """lejis delete against the simulator."""
 import unittest
 
-from lejis_case import DONE, REFUSED, SAMPLES, TRY_AGAIN, SimulatorCase, card
+from lejis_case import DONE, IN_VAIN, REFUSED, SAMPLES, TRY_AGAIN, WITHDRAW_AGAIN, SimulatorCase, card
 
 
 class DeleteTest(SimulatorCase):
@@ -45,17 +45,16 @@ class DeleteTest(SimulatorCase):
     def test_failures(self):
         self.play(kind="response-code", text="100 core offline")
         self.assertEqual(self.delete(TRY_AGAIN, "1.xml"),
-                         "1.xml  not withdrawn\n  ! LEJIS server is up, but LEJIS core system is offline.\n"
-                         "    Trying again later can help; the incident is not at fault.\n")
+                         "1.xml  unknown\n  ! LEJIS server is up, but LEJIS core system is offline.\n"
+                         f"{WITHDRAW_AGAIN}")
         self.play(kind="soap-fault", message="Not yours.")
         self.assertEqual(self.delete_named(REFUSED, "2024-1"),
-                         "PA0990100 2024-1  refused\n  ! Not yours.\n"
-                         "    Trying again does not help until this is put right.\n")
+                         f"PA0990100 2024-1  refused\n  ! Not yours.\n{IN_VAIN}")
         self.assertEqual(self.indexed(), ["2024-1", "2024-2", "2024-3"])
 
     def test_a_file_that_is_no_incident(self):
         self.write("a.xml", "<a>")
-        self.assertIn("a.xml  unreadable\n", self.delete(REFUSED, "a.xml", "2.xml"))
+        self.assertIn("a.xml  not sent\n", self.delete(REFUSED, "a.xml", "2.xml"))
         self.assertEqual(self.indexed(), ["2024-1", "2024-3"])
 
 

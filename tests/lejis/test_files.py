@@ -71,7 +71,7 @@ class BadFileTest(LejisCase):
     def test_what_is_no_file(self):
         (self.folder / "folder.xml").mkdir()
         for name, reason in {"missing.xml": "There is no such file.",
-                             "folder.xml": "This is a folder, not a file.",
+                             "folder.xml": "This is a folder, not a file; --recurse takes the files in it.",
                              "nowhere/x.xml": "There is no such folder.",
                              "nothing*.xml": "No file matches this pattern."}.items():
             self.assertEqual(self.expect(REFUSED, "check", name), f"{name}  unreadable\n  ! {reason}\n")

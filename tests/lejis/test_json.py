@@ -1,9 +1,9 @@
-"""--json: one document on the output and nothing beside it, whatever happens."""
+"""--json: one document on the output, or an object a line, and nothing beside it, whatever happens."""
 import json
 import os
 import unittest
 
-from lejis_case import DONE, REFUSED, SAMPLES, TRY_AGAIN, WRONG_USAGE, SimulatorCase, card
+from lejis_case import BOTH, DONE, REFUSED, SAMPLES, TRY_AGAIN, WRONG_USAGE, SimulatorCase, card
 
 STRANGE = "M\u00fcller \u4e2d \U0001d11e \"\\ \u007f"
 
@@ -19,41 +19,57 @@ class JsonCase(SimulatorCase):
 
 
 class IncidentsTest(JsonCase):
-    def test_every_result_has_its_name_and_is_counted(self):
+    def lines(self, code, *arguments):
+        """The line of each incident, and the last one."""
+        output = self.expect(code, *arguments, "--json")
+        self.assertTrue(output.isascii(), output)
+        *incidents, last = map(json.loads, output.splitlines())
+        self.assertEqual(list(last), ["command", "exitCode", "error", "counts", "seconds"])
+        self.assertEqual((last["command"], last["exitCode"], last["error"]), (arguments[0], code, None))
+        return incidents, last
+
+    def test_every_outcome_has_its_word_and_is_counted(self):
         self.write("good.xml", card("2024-1"))
         self.write("warned.xml", card("2024-2", charge="9999"))
         self.write("bad.xml", card("2024-3", zip_code="1709"))
         self.write("none.xml", "<a>")
-        document = self.document(REFUSED, "submit", "good.xml", "warned.xml", "bad.xml", "none.xml", "--url", self.url)
-        self.assertEqual((document["command"], document["error"]), ("submit", None))
-        self.assertEqual([(one["name"], one["result"], len(one["errors"]), len(one["warnings"]))
-                          for one in document["incidents"]],
-                         [("good.xml", "done", 0, 0), ("warned.xml", "done", 0, 1), ("bad.xml", "refused", 1, 0),
-                          ("none.xml", "unreadable", 1, 0)])
-        self.assertEqual(document["counts"],
-                         {"done": 2, "refused": 1, "unreadable": 1, "tryAgain": 0, "withWarnings": 1})
-        self.assertIn("Charge NCIC code '9999'", document["incidents"][1]["warnings"][0])
+        incidents, last = self.lines(REFUSED, "submit", "good.xml", "warned.xml", "bad.xml", "none.xml", "--url", self.url)
+        self.assertEqual([(one["name"], one["number"], one["outcome"], len(one["errors"]), len(one["warnings"]))
+                          for one in incidents],
+                         [("good.xml", "2024-1", "submitted", 0, 0), ("warned.xml", "2024-2", "submitted", 0, 1),
+                          ("bad.xml", "2024-3", "refused", 1, 0), ("none.xml", None, "not sent", 1, 0)])
+        self.assertEqual(last["counts"], {"done": 2, "refused": 1, "notSent": 1, "unknown": 0, "leftOut": 0,
+                                          "notBegun": 0, "withWarnings": 1})
+        self.assertIn("Charge NCIC code '9999'", incidents[1]["warnings"][0])
 
     def test_what_can_be_tried_again(self):
         self.write("a.xml", card())
         self.play(kind="http-status", status=502)
-        document = self.document(TRY_AGAIN, "submit", "a.xml", "--url", self.url)
-        self.assertEqual(document["incidents"][0]["result"], "tryAgain")
-        # Lines stay lines.
-        self.assertIn("\n", document["incidents"][0]["errors"][0].replace("\r\n", "\n"))
+        (incident,), _ = self.lines(TRY_AGAIN, "submit", "a.xml", "--url", self.url)
+        self.assertEqual((incident["outcome"], incident["tryAgain"]), ("unknown", True))
+        self.assertIn("send it again", incident["advice"])
+        # Lines of a text stay lines of it.
+        self.assertIn("\n", incident["errors"][0].replace("\r\n", "\n"))
+
+    def test_both_kinds_of_failures(self):
+        self.write("a.xml", card("2024-1"))
+        self.write("b.xml", card("2024-2", zip_code="1709"))
+        self.play(kind="http-status", status=502)
+        incidents, _ = self.lines(BOTH, "submit", "a.xml", "b.xml", "--url", self.url)
+        self.assertEqual([(one["outcome"], one["tryAgain"]) for one in incidents],
+                         [("unknown", True), ("refused", False)])
 
     def test_check_and_delete(self):
-        self.assertEqual(self.document(DONE, "check", SAMPLES / "burglary.xml")["counts"]["done"], 1)
-        named = self.document(DONE, "delete", "--ori", "PA0990100", "--id", "2024-1", "--submitted", "2024-03-09",
-                              "--url", self.url)
-        self.assertEqual((named["command"], [one["name"] for one in named["incidents"]]),
-                         ("delete", ["PA0990100 2024-1"]))
+        self.assertEqual(self.lines(DONE, "check", SAMPLES / "burglary.xml")[1]["counts"]["done"], 1)
+        (named,), _ = self.lines(DONE, "delete", "--ori", "PA0990100", "--id", "2024-1", "--submitted", "2024-03-09",
+                                 "--url", self.url)
+        self.assertEqual((named["name"], named["outcome"]), ("PA0990100 2024-1", "withdrawn"))
 
     def test_any_text_arrives_as_it_is(self):
         self.write("a.xml", card())
         self.play(kind="soap-fault", message=STRANGE)
-        document = self.document(REFUSED, "submit", "a.xml", "--url", self.url)
-        self.assertEqual(document["incidents"][0]["errors"], [STRANGE])
+        (incident,), _ = self.lines(REFUSED, "submit", "a.xml", "--url", self.url)
+        self.assertEqual(incident["errors"], [STRANGE])
 
 
 class SearchTest(JsonCase):

@@ -2,10 +2,8 @@
 import os
 import unittest
 
-from lejis_case import DONE, REFUSED, TRY_AGAIN, SimulatorCase, card
-
-AGAIN = "    Trying again later can help; the incident is not at fault.\n"
-IN_VAIN = "    Trying again does not help until this is put right.\n"
+from lejis_case import (BOTH, DONE, IN_VAIN, NOTHING_SENT, NOTHING_SENT_IN_VAIN, REFUSED, SEND_AGAIN, TRY_AGAIN,
+                        SimulatorCase, card)
 
 UNEXPECTED = """  ! The LEJIS server returned an unexpected error.\u0020
 
@@ -66,7 +64,7 @@ class SubmitTest(SimulatorCase):
 
     def test_unreadable_files_are_not_sent(self):
         self.write("a.xml", "<a>")
-        self.assertIn("a.xml  unreadable\n  ! Line 1: ", self.submit(REFUSED, "a.xml"))
+        self.assertIn("a.xml  not sent\n  ! Line 1: ", self.submit(REFUSED, "a.xml"))
         self.assertEqual(self.exchanges(), [])
 
     def test_transient_failures(self):
@@ -74,7 +72,7 @@ class SubmitTest(SimulatorCase):
         for fault, text in TRANSIENT:
             with self.subTest(fault):
                 self.play(**fault)
-                self.assertEqual(self.submit(TRY_AGAIN, "a.xml"), f"a.xml  not submitted\n{text}{AGAIN}")
+                self.assertEqual(self.submit(TRY_AGAIN, "a.xml"), f"a.xml  unknown\n{text}{SEND_AGAIN}")
         self.assertEqual(self.index(), [])
 
     def test_fatal_failures(self):
@@ -88,11 +86,11 @@ class SubmitTest(SimulatorCase):
     def test_addresses_that_lead_nowhere(self):
         self.write("a.xml", card())
         self.assertEqual(self.submit(TRY_AGAIN, "a.xml", url="http://127.0.0.1:1/submission"),
-                         "a.xml  not submitted\n  ! The LEJIS Interface service is down. It may need to be restarted."
-                         f"\n{AGAIN}")
+                         "a.xml  not sent\n  ! The LEJIS Interface service is down. It may need to be restarted."
+                         f"\n{NOTHING_SENT}")
         for url in ("no address", ""):
-            self.assertEqual(self.submit(TRY_AGAIN, "a.xml", url=url),
-                             f"a.xml  not submitted\n  ! Invalid URL '{url}'\n{AGAIN}")
+            self.assertEqual(self.submit(REFUSED, "a.xml", url=url),
+                             f"a.xml  not sent\n  ! Invalid URL '{url}'\n{NOTHING_SENT_IN_VAIN}")
 
     def test_mixed_outcomes(self):
         self.write("a.xml", card("2024-1"))
@@ -101,12 +99,12 @@ class SubmitTest(SimulatorCase):
         self.write("d.xml", "<a>")
         self.write("e.xml", card("2024-5"))
         self.play(kind="http-status", status=502)
-        output = self.submit(REFUSED, "*.xml")
+        output = self.submit(BOTH, "*.xml")
         results = [line for line in output.splitlines() if line.startswith("[")]
-        self.assertEqual(results, ["[1/5] a.xml  not submitted", "[2/5] b.xml  submitted with 1 warning",
-                                   "[3/5] c.xml  refused", "[4/5] d.xml  unreadable", "[5/5] e.xml  submitted"])
+        self.assertEqual(results, ["[1/5] a.xml  unknown", "[2/5] b.xml  submitted with 1 warning",
+                                   "[3/5] c.xml  refused", "[4/5] d.xml  not sent", "[5/5] e.xml  submitted"])
         self.assertTrue(output.endswith(
-            "\n\n5 files: 2 submitted (1 with warnings), 1 refused, 1 unreadable, 1 to try again.\n"), output)
+            "\n\n5 files: 2 submitted (1 with warnings), 1 refused, 1 not sent, 1 unknown.\n"), output)
         self.assertEqual(self.indexed(), ["2024-2", "2024-5"])
 
     def test_only_transient_failures_among_successes(self):
@@ -114,7 +112,7 @@ class SubmitTest(SimulatorCase):
         self.write("b.xml", card("2024-2"))
         self.play(kind="http-status", status=502)
         output = self.submit(TRY_AGAIN, "a.xml", "b.xml")
-        self.assertTrue(output.endswith("\n\n2 files: 1 submitted, 1 to try again.\n"), output)
+        self.assertTrue(output.endswith("\n\n2 files: 1 submitted, 1 unknown.\n"), output)
         self.assertEqual(self.indexed(), ["2024-2"])
 
 

@@ -1,21 +1,19 @@
 // lejis: checks incidents, submits them to LEJIS, withdraws them and searches for them, through the registered library.
-#include "commandline/Command.h"
 #include "commandline/CommandLine.h"
-#include "commandline/ExitCode.h"
 #include "commandline/Help.h"
 #include "commandline/UsageError.h"
 #include "console/Console.h"
+#include "console/ExitCode.h"
+#include "console/PrintJson.h"
 #include "doctor/Doctor.h"
 #include "files/FileError.h"
-#include "files/FilePattern.h"
-#include "files/IncidentFile.h"
+#include "incidents/IncidentRun.h"
+#include "incidents/LedgerSummary.h"
+#include "library/Library.h"
 #include "library/LibraryError.h"
 #include "library/NotRegistered.h"
 #include "platform/ComError.h"
-#include "report/Report.h"
 #include "search/Search.h"
-#include "submission/NamedIncident.h"
-#include "text/Json.h"
 #include "text/WindowsText.h"
 #include "Version.h"
 
@@ -24,41 +22,6 @@
 
 namespace lejis_client {
 namespace {
-
-using Microsoft::WRL::ComPtr;
-using Incident = ComPtr<ILejisIncidentIndexCard>;
-
-template <typename Reader>
-Outcome RunOn(const CommandLine& commandLine, Reader read) {
-    try {
-        const Incident incident = read();
-        return commandLine.command->run(commandLine, incident.Get());
-    } catch (const FileError& error) {
-        return {Result::Unreadable, {error.reason}, {}, {}};
-    } catch (const LibraryError& error) {
-        return {Result::Refused, {error.description}, {}, {}};
-    }
-}
-
-int RunOnFiles(const CommandLine& commandLine) {
-    const std::vector<std::wstring> files = ExpandPatterns(commandLine.files);
-    const auto report = Report::Create(commandLine, files);
-    for (const std::wstring& file : files) {
-        report->Begin(file);
-        report->End(file, RunOn(commandLine, [&] { return ReadIncidentFile(file); }));
-    }
-    report->Finish();
-    return report->ExitCode();
-}
-
-int RunOnNamedIncident(const CommandLine& commandLine) {
-    const std::wstring name = *commandLine.ori + L" " + *commandLine.id;
-    const auto report = Report::Create(commandLine, {name});
-    report->Begin(name);
-    report->End(name, RunOn(commandLine, [&] { return NamedIncident(commandLine); }));
-    report->Finish();
-    return report->ExitCode();
-}
 
 int PrintHelp(const CommandLine& commandLine) {
     const std::wstring text = commandLine.command ? commandLine.command->help : kGeneralHelp;
@@ -90,10 +53,9 @@ int Run(const CommandLine& commandLine) {
     if (commandLine.help) return PrintHelp(commandLine);
     if (commandLine.version) return PrintVersion(commandLine);
     if (commandLine.command->diagnoses) return Diagnose(commandLine);
-    // Asked for first, so that a missing library is one sentence and not one for each file.
-    LibraryVersion();
+    if (commandLine.command->action == Action::Ledger) return SumUpLedger(commandLine);
     if (commandLine.command->searches) return Search(commandLine);
-    return commandLine.NamesIncident() ? RunOnNamedIncident(commandLine) : RunOnFiles(commandLine);
+    return RunOnIncidents(commandLine);
 }
 
 std::vector<std::wstring> Arguments() {
@@ -118,7 +80,7 @@ int Complain(const std::vector<std::wstring>& arguments, const Refusal& refusal)
         const auto name = command ? std::optional<std::wstring>(command->name) : std::nullopt;
         Json document = JsonDocument(name, refusal.exitCode);
         SetError(document, refusal.kind, refusal.message);
-        Print(document);
+        PrintLine(document);
     } else {
         Console::Errors().Write(L"lejis: " + refusal.message + L"\n" + refusal.hint);
     }
@@ -140,6 +102,8 @@ int RunSafely() {
         return Complain(arguments, RefusalOf(error));
     } catch (const NotRegistered&) {
         return Complain(arguments, {L"notRegistered", kExitRefused, HowToRegister(), {}});
+    } catch (const FileError& error) {
+        return Complain(arguments, {L"unreadable", kExitRefused, error.reason, {}});
     } catch (const LibraryError& error) {
         return Complain(arguments, Unexpected(error.description));
     } catch (const platform::ComError& error) {

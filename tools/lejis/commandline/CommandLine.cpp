@@ -1,7 +1,7 @@
 #include "commandline/CommandLine.h"
 
-#include "commandline/Command.h"
 #include "commandline/UsageError.h"
+#include "files/FileList.h"
 #include "search/SearchSettings.h"
 #include "text/Day.h"
 
@@ -21,6 +21,7 @@ struct Switch {
 constexpr Switch kSwitches[] = {
     {L"--validate-schema", &CommandLine::validateSchema, &Command::canValidateSchema},
     {L"--xml", &CommandLine::xml, &Command::searches},
+    {L"--recurse", &CommandLine::recurse, &Command::takesIncidents},
 };
 
 struct Option {
@@ -38,6 +39,12 @@ constexpr Option kOptions[] = {
     {L"--organization", &CommandLine::organization, &Command::canNameIncident},
     {L"--user", &CommandLine::user, &Command::searches},
     {L"--wait", &CommandLine::wait, &Command::searches},
+    {L"--jobs", &CommandLine::jobs, &Command::takesIncidents},
+    {L"--ledger", &CommandLine::ledger, &Command::submits},
+    {L"--retry", &CommandLine::retry, &Command::submits},
+    {L"--stop-after", &CommandLine::stopAfter, &Command::submits},
+    {L"--rate", &CommandLine::rate, &Command::submits},
+    {L"--timeout", &CommandLine::timeout, &Command::submits},
 };
 
 template <typename Row, std::size_t count>
@@ -116,8 +123,13 @@ void RequireSearch(const CommandLine& commandLine) {
     if (!complaint.empty()) Throw(commandLine, complaint);
 }
 
+void RequireLedger(const CommandLine& commandLine) {
+    if (commandLine.files.size() != 1) Throw(commandLine, L"give one ledger");
+}
+
 void RequireAll(const CommandLine& commandLine) {
     if (commandLine.command->diagnoses) return RefuseFiles(commandLine);
+    if (commandLine.command->action == Action::Ledger) return RequireLedger(commandLine);
     commandLine.command->searches ? RequireSearch(commandLine) : RequireIncident(commandLine);
     if (commandLine.command->needsUrl && !commandLine.url) Throw(commandLine, L"--url is missing");
 }
@@ -153,7 +165,7 @@ void CommandLine::TakeArguments(const Arguments& arguments) {
             help = true;
             return;
         }
-        if (arguments[place].starts_with(L'-')) {
+        if (arguments[place].starts_with(L'-') && arguments[place] != kStandardInput) {
             place = TakeOption(*this, arguments, place);
         } else {
             files.push_back(arguments[place++]);

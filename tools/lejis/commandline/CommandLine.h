@@ -1,6 +1,7 @@
 // What the user asks for.
 #pragma once
 
+#include "commandline/Command.h"
 #include "search/SearchOption.h"
 
 #include <optional>
@@ -8,8 +9,6 @@
 #include <vector>
 
 namespace lejis_client {
-
-struct Command;
 
 struct CommandLine {
     // Raises a UsageError.
@@ -26,6 +25,7 @@ struct CommandLine {
     bool version = false;
     bool validateSchema = false;
     bool xml = false;
+    bool recurse = false;
     // Whether the answer is for a program.
     bool json = false;
     std::optional<std::wstring> url;
@@ -36,6 +36,12 @@ struct CommandLine {
     std::optional<std::wstring> organization;
     std::optional<std::wstring> user;
     std::optional<std::wstring> wait;
+    std::optional<std::wstring> ledger;
+    std::optional<std::wstring> jobs;
+    std::optional<std::wstring> retry;
+    std::optional<std::wstring> stopAfter;
+    std::optional<std::wstring> rate;
+    std::optional<std::wstring> timeout;
     SearchValues search;
     std::vector<std::wstring> files;
 

@@ -12,6 +12,7 @@ them, through the registered TVLejisCore.
   lejis delete FILE... --url URL    withdraws incidents
   lejis search CRITERION... --user JNETID --url URL
                                     searches for incidents
+  lejis ledger FILE                 sums up what became of submitted incidents
   lejis doctor [--url URL]          looks for what stands in the way of all this
   lejis COMMAND --help              tells more, with examples
   lejis --version                   names this program and the library that it uses
@@ -20,9 +21,10 @@ With every command:
 
   --json                            print one JSON document, for programs
 
-A FILE is one incident card in XML, or a pattern such as incidents\*.xml. A URL is
-the address of a service of the LEJIS Interface; ask who looks after it. A value may
-follow its option after a blank or an equals sign.
+A FILE is one incident card in XML, a pattern such as incidents\*.xml, @LIST for the
+names in a text file, or - for standard input; with --recurse it may be a folder. A
+URL is the address of a service of the LEJIS Interface; ask who looks after it. A
+value may follow its option after a blank or an equals sign.
 
 The first steps, from an incident in a file to the index:
 
@@ -36,13 +38,14 @@ Exit codes:
     0   all done
     1   something was refused, could not be read, or the library is not there:
         the same again would end the same
-    2   the network or the server failed: trying again later can help
+    2   something is to be tried again, or nobody knows what LEJIS made of it
+    3   both of these in one run
    64   the command line makes no sense
-  130   Ctrl-C ended a search
+  130   Ctrl-C ended it
 )";
 
 inline constexpr wchar_t kCheckHelp[] =
-    LR"(lejis check FILE... [--json]
+    LR"(lejis check FILE... [--recurse] [--jobs N] [--json]
 
 Shapes each incident to the limits of LEJIS and checks the result. Nothing is sent.
 
@@ -59,30 +62,47 @@ Exit codes: 0 all are fit for submission; 1 at least one is not, or is no incide
 )";
 
 inline constexpr wchar_t kSubmitHelp[] =
-    LR"(lejis submit FILE... --url URL [--validate-schema] [--json]
+    LR"(lejis submit FILE... --url URL [OPTION...]
 
 Submits each incident to LEJIS. An incident that LEJIS has already is replaced.
 
   --url URL           address of the submission service of the LEJIS Interface
   --validate-schema   check each request against the service's own schema first
-  --json              print one JSON document, for programs
+  --ledger FILE       write down what became of each incident, and leave out what
+                      an earlier run with this ledger has submitted
+  --recurse           take the files in the folders below too
+  --jobs N            submit N incidents at a time, up to 32; 1 if left out
+  --retry N           try up to N times again what may pass, with growing pauses
+  --stop-after N      stop when the network or the server has failed N times in a
+                      row; 10 if left out
+  --rate N            begin no more than N a second
+  --timeout SECONDS   how long to wait for LEJIS with one incident; 300 if left out
+  --json              print one JSON object a line, for programs
 
-  ! marks why an incident was not submitted; lejis check tells all its errors.
-  • marks a warning: what was shortened, replaced or left out.
+Each incident ends as
+
+  submitted   LEJIS has it. • marks what was shortened, replaced or left out.
+  refused     LEJIS or the checks said no; lejis check tells all errors.
+  not sent    Nothing reached LEJIS.
+  unknown     It was sent, and nobody knows what LEJIS made of it. Send it again:
+              LEJIS knows an incident by agency and number. Or look it up.
+
+Ctrl-C ends the run when the incidents under way are done; a second one, at once.
 
 Examples:
 
   lejis submit incident.xml \
       --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
-  lejis submit incidents\*.xml --validate-schema \
+  lejis submit incidents --recurse --jobs 4 --retry 5 --ledger night.ledger \
       --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
+  lejis ledger night.ledger
 
-Exit codes: 0 all submitted; 1 something was refused; 2 something has to be tried
-again later.
+Exit codes: 0 all submitted; 1 something was refused or could not be read; 2 something
+is to be tried again, or is unknown; 3 both; 130 Ctrl-C ended it.
 )";
 
 inline constexpr wchar_t kDeleteHelp[] =
-    LR"(lejis delete FILE... --url URL [--json]
+    LR"(lejis delete FILE... --url URL [OPTION...]
 lejis delete --ori ORI --id ID --submitted YYYY-MM-DD [--organization NAME]
              --url URL [--json]
 
@@ -93,7 +113,10 @@ Withdraws incidents from LEJIS. Of a file only the identifiers are used.
   --submitted YYYY-MM-DD  the day on which the incident was submitted
   --organization NAME     the agency's name
   --url URL               address of the submission service of the LEJIS Interface
-  --json                  print one JSON document, for programs
+  --json                  print one JSON object a line, for programs
+
+  --ledger, --recurse, --jobs, --retry, --stop-after, --rate and --timeout are those of
+  lejis submit.
 
 Examples:
 
@@ -102,8 +125,23 @@ Examples:
   lejis delete --ori PA0990100 --id 2024-000123 --submitted 2024-03-09 \
       --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
 
-Exit codes: 0 all withdrawn; 1 something was refused; 2 something has to be tried
-again later.
+Exit codes: 0 all withdrawn; 1 something was refused or could not be read; 2 something
+is to be tried again, or is unknown; 3 both; 130 Ctrl-C ended it.
+)";
+
+inline constexpr wchar_t kLedgerHelp[] =
+    LR"(lejis ledger FILE [--json]
+
+Sums up the ledger of lejis submit --ledger or lejis delete --ledger: how many tries
+there were, what became of each incident in the end, and what did not go through,
+grouped by message.
+
+Example:
+
+  lejis ledger night.ledger
+
+Exit codes: as of the runs together. 0 all went through; 1 something was refused; 2
+something is to be tried again, or is unknown; 3 both.
 )";
 
 inline constexpr wchar_t kSearchHelp[] =

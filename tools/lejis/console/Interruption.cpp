@@ -1,14 +1,12 @@
 #include "console/Interruption.h"
 
-#include "commandline/ExitCode.h"
+#include "console/ExitCode.h"
 
 namespace lejis_client {
 namespace {
 
-// Long enough for the program to end by itself, short enough to be no wait for the user.
-constexpr DWORD kPatience = 1000;
-
 void (*tellOfEnd)() = nullptr;
+DWORD patienceInMilliseconds = 0;
 
 // The handler runs in a thread of its own and may still do so when the object has gone; the system closes the events.
 HANDLE InterruptionEvent() {
@@ -21,11 +19,16 @@ HANDLE HeededEvent() {
     return event;
 }
 
+bool IsSet(HANDLE event) { return WaitForSingleObject(event, 0) == WAIT_OBJECT_0; }
+
+// The thread that works may be in the midst of a call that takes its time, as the one for a schema does.
+bool EndsByItself() { return WaitForSingleObject(HeededEvent(), patienceInMilliseconds) == WAIT_OBJECT_0; }
+
 BOOL WINAPI Interrupt(DWORD kind) {
     if (kind != CTRL_C_EVENT && kind != CTRL_BREAK_EVENT) return FALSE;
+    const bool isSecond = IsSet(InterruptionEvent());
     SetEvent(InterruptionEvent());
-    // The thread of the search may be in the midst of a call that takes its time, as the one for a schema does.
-    if (WaitForSingleObject(HeededEvent(), kPatience) == WAIT_OBJECT_0) return TRUE;
+    if (!isSecond && (patienceInMilliseconds == INFINITE || EndsByItself())) return TRUE;
     tellOfEnd();
     TerminateProcess(GetCurrentProcess(), kExitInterrupted);
     return TRUE;
@@ -33,8 +36,9 @@ BOOL WINAPI Interrupt(DWORD kind) {
 
 }  // namespace
 
-Interruption::Interruption(void (*tell)()) {
+Interruption::Interruption(void (*tell)(), DWORD patience) {
     tellOfEnd = tell;
+    patienceInMilliseconds = patience;
     InterruptionEvent();
     ResetEvent(HeededEvent());
     SetConsoleCtrlHandler(Interrupt, TRUE);
@@ -48,6 +52,6 @@ Interruption::~Interruption() {
 
 HANDLE Interruption::Event() const { return InterruptionEvent(); }
 
-bool Interruption::HasHappened() const { return WaitForSingleObject(InterruptionEvent(), 0) == WAIT_OBJECT_0; }
+bool Interruption::HasHappened() const { return IsSet(InterruptionEvent()); }
 
 }  // namespace lejis_client

@@ -7,8 +7,9 @@ namespace lejis_client {
 
 class Interruption {
 public:
-    // What is said when the program has to be ended in the midst of something.
-    explicit Interruption(void (*tell)());
+    // `tell` says so when the program has to be ended in the midst of something: the user presses Ctrl-C once more, or
+    // the program has not ended by itself within so many milliseconds.
+    Interruption(void (*tell)(), DWORD patience);
     ~Interruption();
     Interruption(const Interruption&) = delete;
     Interruption& operator=(const Interruption&) = delete;

@@ -36,19 +36,24 @@ Progress::Progress(std::size_t total) : total_(total), start_(GetTickCount64()) 
 bool Progress::HasBar() const { return total_ > kFew && Console::Errors().IsInteractive(); }
 
 void Progress::Begin(const std::wstring& name) {
-    ++current_;
+    name_ = name;
+    Show();
+}
+
+void Progress::Show() const {
     if (!HasBar()) return;
-    Console::Errors().Write(L"\r" + ProgressLine(current_ - 1, total_, GetTickCount64() - start_, name));
+    Console::Errors().Write(L"\r" + ProgressLine(done_, total_, GetTickCount64() - start_, name_));
 }
 
 void Progress::End() {
+    ++done_;
     if (HasBar()) Console::Errors().Write(L"\r" + std::wstring(kConsoleWidth, L' ') + L"\r");
 }
 
 std::wstring Progress::Number() const {
     if (total_ <= kFew || HasBar()) return {};
     const std::wstring total = std::to_wstring(total_);
-    return L"[" + PaddedLeft(std::to_wstring(current_), total.size()) + L"/" + total + L"] ";
+    return L"[" + PaddedLeft(std::to_wstring(done_), total.size()) + L"/" + total + L"] ";
 }
 
 std::wstring ProgressLine(std::size_t done, std::size_t total, ULONGLONG milliseconds, const std::wstring& name) {

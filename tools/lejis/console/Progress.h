@@ -13,16 +13,19 @@ public:
 
     // Shows which incident is worked on.
     void Begin(const std::wstring& name);
-    // Takes the bar away, so that a result can be told in its place.
+    // One has come to its end. Takes the bar away, so that a result can be told in its place.
     void End();
-    // "[ 3/12] ", or an empty text where a bar or the eye counts.
+    // Shows the bar again below what has been told.
+    void Show() const;
+    // The number of the result: "[ 3/12] ", or an empty text where a bar or the eye counts.
     std::wstring Number() const;
 
 private:
     bool HasBar() const;
 
     std::size_t total_;
-    std::size_t current_ = 0;
+    std::size_t done_ = 0;
+    std::wstring name_;
     ULONGLONG start_;
 };
 

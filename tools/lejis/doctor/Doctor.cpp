@@ -1,11 +1,11 @@
 #include "doctor/Doctor.h"
 
-#include "commandline/ExitCode.h"
 #include "console/Console.h"
+#include "console/ExitCode.h"
+#include "console/PrintJson.h"
 #include "doctor/DumpCheck.h"
 #include "doctor/LibraryCheck.h"
 #include "doctor/ServiceCheck.h"
-#include "text/Json.h"
 #include "text/Layout.h"
 
 #include <algorithm>

@@ -17,9 +17,6 @@ struct HandleCloser {
 };
 using FileHandle = std::unique_ptr<HANDLE, HandleCloser>;
 
-// Far above any incident, far below what would exhaust a 32-bit program.
-constexpr LONGLONG kLargestFile = 64 * 1024 * 1024;
-
 struct Reason {
     DWORD error;
     const wchar_t* words;
@@ -44,7 +41,8 @@ FileHandle Open(const std::wstring& path) {
     if (HasWildcard(path)) throw FileError{L"No file matches this pattern."};
     const DWORD attributes = GetFileAttributesW(path.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) ThrowReason(GetLastError());
-    if (attributes & FILE_ATTRIBUTE_DIRECTORY) throw FileError{L"This is a folder, not a file."};
+    if (attributes & FILE_ATTRIBUTE_DIRECTORY)
+        throw FileError{L"This is a folder, not a file; --recurse takes the files in it."};
     constexpr DWORD kSharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const HANDLE file =
         CreateFileW(path.c_str(), GENERIC_READ, kSharing, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -56,7 +54,7 @@ ULONG SizeOf(HANDLE file) {
     LARGE_INTEGER size;
     if (!GetFileSizeEx(file, &size)) ThrowReason(GetLastError());
     if (size.QuadPart == 0) throw FileError{L"The file is empty."};
-    if (size.QuadPart > kLargestFile) throw FileError{L"The file is too large for an incident."};
+    if (size.QuadPart > static_cast<LONGLONG>(kLargestFile)) throw FileError{L"The file is too large for an incident."};
     return static_cast<ULONG>(size.QuadPart);
 }
 

@@ -9,18 +9,45 @@
 namespace lejis_client {
 namespace {
 
-std::vector<std::wstring> Matches(const std::wstring& pattern) {
-    const std::wstring folder = pattern.substr(0, pattern.find_last_of(L"\\/:") + 1);
-    std::vector<std::wstring> files;
+constexpr wchar_t kIncidentFiles[] = L"*.xml";
+
+std::size_t LengthOfFolder(const std::wstring& pattern) { return pattern.find_last_of(L"\\/:") + 1; }
+
+// The names in a folder, with it before them; those of folders or those of files.
+std::vector<std::wstring> Entries(const std::wstring& pattern, bool folders) {
+    const std::wstring folder = pattern.substr(0, LengthOfFolder(pattern));
+    std::vector<std::wstring> names;
     WIN32_FIND_DATAW found;
     const HANDLE search = FindFirstFileW(WindowsPattern(pattern).c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return files;
+    if (search == INVALID_HANDLE_VALUE) return names;
     do {
-        if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)) files.push_back(folder + found.cFileName);
+        const std::wstring name = found.cFileName;
+        // A link to a folder may lead back to one above it.
+        const bool isLink = found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT;
+        const bool isFolder = found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
+        if (isFolder != folders || (isFolder && (isLink || name == L"." || name == L".."))) continue;
+        names.push_back(folder + name);
     } while (FindNextFileW(search, &found));
     FindClose(search);
-    std::sort(files.begin(), files.end());
-    return files;
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+void AddMatches(const std::wstring& folder, const std::wstring& pattern, bool recurse,
+                std::vector<std::wstring>& files) {
+    const auto own = Entries(folder + pattern, false);
+    files.insert(files.end(), own.begin(), own.end());
+    if (!recurse) return;
+    for (const std::wstring& below : Entries(folder + L"*", true)) AddMatches(below + L'\\', pattern, recurse, files);
+}
+
+bool IsFolder(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+std::wstring AsFolder(const std::wstring& path) {
+    return path.ends_with(L'\\') || path.ends_with(L'/') ? path : path + L'\\';
 }
 
 }  // namespace
@@ -31,13 +58,15 @@ bool HasWildcard(const std::wstring& path) {
     return path.find_first_of(L"*?", start) != std::wstring::npos;
 }
 
-std::vector<std::wstring> ExpandPatterns(const std::vector<std::wstring>& patterns) {
+std::vector<std::wstring> ExpandPattern(const std::wstring& pattern, bool recurse) {
     std::vector<std::wstring> files;
-    for (const std::wstring& pattern : patterns) {
-        auto matches = HasWildcard(pattern) ? Matches(pattern) : std::vector<std::wstring>();
-        if (matches.empty()) matches.push_back(pattern);
-        files.insert(files.end(), matches.begin(), matches.end());
+    if (HasWildcard(pattern)) {
+        const std::size_t length = LengthOfFolder(pattern);
+        AddMatches(pattern.substr(0, length), pattern.substr(length), recurse, files);
+    } else if (recurse && IsFolder(pattern)) {
+        AddMatches(AsFolder(pattern), kIncidentFiles, recurse, files);
     }
+    if (files.empty()) files.push_back(pattern);
     return files;
 }
 

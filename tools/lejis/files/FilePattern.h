@@ -8,8 +8,8 @@ namespace lejis_client {
 
 bool HasWildcard(const std::wstring& path);
 
-// The files that the names and patterns stand for, those of a pattern in alphabetical order. A pattern without a match
-// stays as it is, so that it is reported in its place.
-std::vector<std::wstring> ExpandPatterns(const std::vector<std::wstring>& patterns);
+// The files that a name or a pattern stands for, in alphabetical order. A pattern without a match stands for itself.
+// With `recurse` a pattern is looked for in the folders below too, and a folder stands for its files *.xml.
+std::vector<std::wstring> ExpandPattern(const std::wstring& pattern, bool recurse);
 
 }  // namespace lejis_client

@@ -1,7 +1,6 @@
 #include "files/IncidentFile.h"
 
 #include "files/Doctype.h"
-#include "files/FileContent.h"
 #include "files/FileError.h"
 #include "files/XmlFault.h"
 #include "files/XmlSource.h"
@@ -102,8 +101,7 @@ void RequireReadablePersons(IXMLDOMElement* root) {
 
 }  // namespace
 
-ComPtr<ILejisIncidentIndexCard> ReadIncidentFile(const std::wstring& path) {
-    const std::string content = ReadFileContent(path);
+ComPtr<ILejisIncidentIndexCard> ReadIncident(const std::string& content) {
     RefuseDoctype(content);
     const ComPtr<IXMLDOMDocument2> document = NewDocument();
     const ComPtr<IXMLDOMElement> root = RootOf(document.Get(), content);

@@ -7,7 +7,7 @@
 
 namespace lejis_client {
 
-// Raises a FileError with the reason when the file is no incident card.
-Microsoft::WRL::ComPtr<ILejisIncidentIndexCard> ReadIncidentFile(const std::wstring& path);
+// The card in the bytes of a file. Raises a FileError with the reason when there is none.
+Microsoft::WRL::ComPtr<ILejisIncidentIndexCard> ReadIncident(const std::string& content);
 
 }  // namespace lejis_client

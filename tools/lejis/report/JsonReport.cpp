@@ -1,41 +1,49 @@
 #include "report/JsonReport.h"
 
+#include "console/PrintJson.h"
+#include "submission/ResultWords.h"
+
 namespace lejis_client {
 namespace {
+
+constexpr double kSecond = 1000;
 
 constexpr struct {
     Result result;
     const char* name;
-} kResults[] = {
-    {Result::Done, "done"},
-    {Result::Refused, "refused"},
-    {Result::Unreadable, "unreadable"},
-    {Result::TryAgain, "tryAgain"},
+} kCounts[] = {
+    {Result::Done, "done"},       {Result::Refused, "refused"}, {Result::NotSent, "notSent"},
+    {Result::Unknown, "unknown"}, {Result::LeftOut, "leftOut"},
 };
 
-const char* NameOf(Result result) {
-    for (const auto& row : kResults) {
-        if (row.result == result) return row.name;
-    }
-    return "";
+Json TextOrNull(const Attempt& attempt, std::wstring Identity::*part) {
+    return attempt.identity ? JsonText(*attempt.identity.*part) : Json();
 }
 
 }  // namespace
 
-void JsonReport::Tell(const std::wstring& name, const Outcome& outcome) {
-    incidents_.push_back({{"name", JsonText(name)},
-                          {"result", NameOf(outcome.result)},
-                          {"errors", JsonTexts(outcome.errors)},
-                          {"warnings", JsonTexts(outcome.warnings)}});
+void JsonReport::Tell(const std::wstring& name, const Attempt& attempt) {
+    const Outcome& outcome = attempt.outcome;
+    PrintLine({{"name", JsonText(name)},
+               {"ori", TextOrNull(attempt, &Identity::ori)},
+               {"number", TextOrNull(attempt, &Identity::number)},
+               {"outcome", JsonText(WordOf(command_, outcome.result))},
+               {"tryAgain", outcome.canTryAgain},
+               {"error", outcome.number ? Json(outcome.number) : Json()},
+               {"errors", JsonTexts(outcome.errors)},
+               {"warnings", JsonTexts(outcome.warnings)},
+               {"advice", JsonText(outcome.advice)},
+               {"seconds", static_cast<double>(attempt.milliseconds) / kSecond}});
 }
 
-void JsonReport::Finish() {
-    Json document = JsonDocument(command_.name, ExitCode());
-    document["incidents"] = incidents_;
-    Json& counts = document["counts"];
-    for (const auto& row : kResults) counts[row.name] = tally_.Count(row.result);
+void JsonReport::SumUp(const Ending& ending, int exitCode) {
+    Json line = JsonDocument(command_.name, exitCode);
+    Json& counts = line["counts"];
+    for (const auto& row : kCounts) counts[row.name] = tally_.Count(row.result);
+    counts["notBegun"] = ending.left;
     counts["withWarnings"] = tally_.WithWarnings();
-    Print(document);
+    line["seconds"] = static_cast<double>(ending.milliseconds) / kSecond;
+    PrintLine(line);
 }
 
 }  // namespace lejis_client

@@ -1,21 +1,17 @@
-// The report for programs: one JSON document at the end.
+// One JSON object a line: for each incident as it becomes known, and a last one that sums up.
 #pragma once
 
 #include "report/Report.h"
-#include "text/Json.h"
 
 namespace lejis_client {
 
-class JsonReport final : public Report {
+class JsonReport : public Report {
 public:
     JsonReport(const Command& command, std::size_t total) : Report(command, total) {}
 
-    void Finish() override;
-
 private:
-    void Tell(const std::wstring& name, const Outcome& outcome) override;
-
-    Json incidents_ = Json::array();
+    void Tell(const std::wstring& name, const Attempt& attempt) override;
+    void SumUp(const Ending& ending, int exitCode) override;
 };
 
 }  // namespace lejis_client

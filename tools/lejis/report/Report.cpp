@@ -1,5 +1,6 @@
 #include "report/Report.h"
 
+#include "console/ExitCode.h"
 #include "report/JsonReport.h"
 #include "report/TextReport.h"
 
@@ -12,10 +13,18 @@ std::unique_ptr<Report> Report::Create(const CommandLine& commandLine, const std
 
 void Report::Begin(const std::wstring& name) { progress_.Begin(name); }
 
-void Report::End(const std::wstring& name, const Outcome& outcome) {
+void Report::End(const std::wstring& name, const Attempt& attempt) {
     progress_.End();
-    tally_.Add(outcome);
-    Tell(name, outcome);
+    tally_.Add(attempt.outcome);
+    Tell(name, attempt);
+    if (tally_.Total() < total_) progress_.Show();
+}
+
+int Report::Finish(const Ending& ending) {
+    const int failures = tally_.ExitCode() | (ending.left > 0 ? kExitTryAgain : kExitDone);
+    const int exitCode = ending.isInterrupted ? kExitInterrupted : failures;
+    SumUp(ending, exitCode);
+    return exitCode;
 }
 
 }  // namespace lejis_client

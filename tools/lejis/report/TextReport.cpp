@@ -1,9 +1,11 @@
 #include "report/TextReport.h"
 
 #include "console/Console.h"
+#include "submission/ResultWords.h"
 #include "text/Layout.h"
 
 #include <algorithm>
+#include <cwchar>
 
 namespace lejis_client {
 namespace {
@@ -14,37 +16,50 @@ constexpr wchar_t kWarningBullet = L'\u2022';
 // A longer name does not push the others' results out of sight.
 constexpr std::size_t kWidestName = 60;
 
-struct ResultWords {
-    Result result;
-    const wchar_t* inSummary;
-};
+// So many results are seen at a glance, and are not listed once more.
+constexpr std::size_t kFew = 3;
 
-constexpr ResultWords kFailures[] = {
-    {Result::Refused, L"refused"},
-    {Result::Unreadable, L"unreadable"},
-    {Result::TryAgain, L"to try again"},
-};
+constexpr double kSecond = 1000;
+
+constexpr Result kOthers[] = {Result::LeftOut, Result::Refused, Result::NotSent, Result::Unknown};
 
 Tone ToneOf(const Outcome& outcome) {
     if (outcome.result == Result::Done) return outcome.warnings.empty() ? Tone::kGood : Tone::kDoubtful;
-    return outcome.result == Result::TryAgain ? Tone::kDoubtful : Tone::kBad;
+    if (outcome.result == Result::LeftOut) return Tone::kPlain;
+    return outcome.canTryAgain ? Tone::kDoubtful : Tone::kBad;
 }
 
 // A single error is seen without being counted.
-std::wstring Counts(const Outcome& outcome) {
+std::wstring CountsOf(const Outcome& outcome) {
     if (outcome.errors.size() == 1 && outcome.warnings.empty()) return {};
     const std::wstring errors = L": " + Counted(outcome.errors.size(), L"error");
     return outcome.warnings.empty() ? errors : errors + L", " + Counted(outcome.warnings.size(), L"warning");
 }
 
+std::wstring Pace(std::size_t count, ULONGLONG milliseconds) {
+    const double seconds = static_cast<double>(std::max<ULONGLONG>(milliseconds, 1)) / kSecond;
+    wchar_t text[80];
+    std::swprintf(text, std::size(text), L" %.1f s, %.1f a second.", seconds, static_cast<double>(count) / seconds);
+    return text;
+}
+
+// Why not all were begun; empty where they were.
+std::wstring ReasonToStop(const Ending& ending) {
+    if (ending.left == 0 && !ending.isInterrupted) return {};
+    const std::wstring left = std::to_wstring(ending.left) + L" not begun";
+    if (ending.isInterrupted) return L"Interrupted: " + left + L".\n";
+    return L"The network or the server failed " + std::to_wstring(ending.failuresInARow) + L" times in a row: " + left +
+           L".\n";
+}
+
 }  // namespace
 
-TextReport::TextReport(const Command& command, const std::vector<std::wstring>& names)
-    : Report(command, names.size()), total_(names.size()) {
+TextReport::TextReport(const Command& command, const std::vector<std::wstring>& names) : Report(command, names.size()) {
     for (const std::wstring& name : names) nameWidth_ = std::max(nameWidth_, std::min(name.size(), kWidestName));
 }
 
-void TextReport::Tell(const std::wstring& name, const Outcome& outcome) {
+void TextReport::Tell(const std::wstring& name, const Attempt& attempt) {
+    const Outcome& outcome = attempt.outcome;
     const Console& output = Console::Output();
     output.Write(progress_.Number() + PaddedRight(name, nameWidth_) + L"  ");
     output.Write(Status(outcome), ToneOf(outcome));
@@ -53,33 +68,36 @@ void TextReport::Tell(const std::wstring& name, const Outcome& outcome) {
     for (const std::wstring& warning : outcome.warnings) text += ListItem(kWarningBullet, warning);
     if (!outcome.advice.empty()) text += L"    " + outcome.advice + L'\n';
     output.Write(text);
+    if (!outcome.errors.empty()) failures_.Add(WordOf(command_, outcome.result), outcome.errors.front(), name);
 }
 
-void TextReport::Finish() {
+void TextReport::SumUp(const Ending& ending, int) {
     if (total_ < 2) return;
-    std::wstring text = L"\n" + Counted(total_, L"file") + L": " + std::to_wstring(tally_.Count(Result::Done)) + L' ' +
-                        command_.success;
-    if (tally_.WithWarnings()) text += L" (" + std::to_wstring(tally_.WithWarnings()) + L" with warnings)";
-    for (const ResultWords& failure : kFailures) {
-        const std::size_t count = tally_.Count(failure.result);
-        if (count) text += L", " + std::to_wstring(count) + L' ' + failure.inSummary;
+    std::wstring text = L"\n";
+    if (total_ > kFew && !failures_.IsEmpty()) {
+        text += std::wstring(L"Not ") + command_.success + L":\n" + failures_.Text() + L'\n';
     }
-    Console::Output().Write(text + L".\n");
+    const std::size_t begun = total_ - ending.left;
+    Console::Output().Write(text + ReasonToStop(ending) + Counts(ending) + Pace(begun, ending.milliseconds) + L'\n');
+}
+
+std::wstring TextReport::Counts(const Ending& ending) const {
+    std::wstring text =
+        Counted(total_, L"file") + L": " + std::to_wstring(tally_.Count(Result::Done)) + L' ' + command_.success;
+    if (tally_.WithWarnings()) text += L" (" + std::to_wstring(tally_.WithWarnings()) + L" with warnings)";
+    for (const Result result : kOthers) {
+        const std::size_t count = tally_.Count(result);
+        if (count) text += L", " + std::to_wstring(count) + L' ' + WordOf(command_, result);
+    }
+    if (ending.left) text += L", " + std::to_wstring(ending.left) + L" not begun";
+    return text + L'.';
 }
 
 std::wstring TextReport::Status(const Outcome& outcome) const {
-    switch (outcome.result) {
-        case Result::Unreadable:
-            return L"unreadable";
-        case Result::TryAgain:
-            return std::wstring(L"not ") + command_.success;
-        case Result::Refused:
-            return L"refused" + Counts(outcome);
-        case Result::Done:
-            break;
-    }
-    return command_.success +
-           (outcome.warnings.empty() ? L"" : L" with " + Counted(outcome.warnings.size(), L"warning"));
+    const std::wstring word = WordOf(command_, outcome.result);
+    if (outcome.result == Result::Refused) return word + CountsOf(outcome);
+    if (outcome.result != Result::Done || outcome.warnings.empty()) return word;
+    return word + L" with " + Counted(outcome.warnings.size(), L"warning");
 }
 
 }  // namespace lejis_client

@@ -1,7 +1,8 @@
 #include "search/Search.h"
 
-#include "commandline/ExitCode.h"
 #include "console/Console.h"
+#include "console/ExitCode.h"
+#include "console/PrintJson.h"
 #include "library/Members.h"
 #include "search/FoundJson.h"
 #include "search/FoundTable.h"
@@ -14,6 +15,9 @@ namespace lejis_client {
 namespace {
 
 using Cards = std::vector<Microsoft::WRL::ComPtr<ILejisIncidentIndexCard>>;
+
+// How long the user waits for the end, in milliseconds: long enough for the program to end by itself.
+constexpr DWORD kPatience = 1000;
 
 // A search without an answer.
 struct Failure {
@@ -79,7 +83,9 @@ Failure NoAnswer(long seconds) {
 }  // namespace
 
 int Search(const CommandLine& commandLine) {
-    const Interruption interruption(commandLine.json ? TellInterruptionInJson : TellInterruption);
+    // Asked for first: it raises where there is no library.
+    LibraryVersion();
+    const Interruption interruption(commandLine.json ? TellInterruptionInJson : TellInterruption, kPatience);
     SearchConnection connection(commandLine);
     ShowSearching(0);
     connection.Send(commandLine.search);

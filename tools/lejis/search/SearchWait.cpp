@@ -1,6 +1,7 @@
 #include "search/SearchWait.h"
 
 #include "console/Console.h"
+#include "console/MessageLoop.h"
 
 #include <algorithm>
 
@@ -11,14 +12,6 @@ constexpr ULONGLONG kSecond = 1000;
 
 void ClearProgress() {
     if (Console::Errors().IsInteractive()) Console::Errors().Write(L"\r" + std::wstring(40, L' ') + L"\r");
-}
-
-void DispatchMessages() {
-    MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
-    }
 }
 
 }  // namespace

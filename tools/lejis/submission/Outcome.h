@@ -1,24 +1,39 @@
 // What became of one incident.
 #pragma once
 
-#include "library/LibraryError.h"
+#include <windows.h>
 
 #include <string>
 #include <vector>
 
 namespace lejis_client {
 
-enum class Result { Done, Refused, Unreadable, TryAgain };
+enum class Result {
+    // The command has done what it is for.
+    Done,
+    // LEJIS or the checks said no: nothing has changed in LEJIS because of this run.
+    Refused,
+    // Nothing reached LEJIS.
+    NotSent,
+    // It was sent, and nobody knows what LEJIS made of it.
+    Unknown,
+    // An earlier run has done it; see Ledger.
+    LeftOut,
+};
 
 struct Outcome {
     Result result = Result::Done;
     std::vector<std::wstring> errors;
     std::vector<std::wstring> warnings;
-    // Whether trying again can help; empty where that is no question.
+    // What to do about it; empty where that goes without saying.
     std::wstring advice;
+    // Whether the same again can end otherwise.
+    bool canTryAgain = false;
+    // The library's error number; 0 where the failure is none of the library's.
+    HRESULT number = S_OK;
 };
 
-// A service call that failed, in the words of the library.
-Outcome FailedCall(const LibraryError& error);
+// A file of which there is no incident to be had; the reason is a sentence.
+Outcome Unreadable(const std::wstring& reason);
 
 }  // namespace lejis_client

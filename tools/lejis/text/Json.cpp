@@ -1,6 +1,5 @@
 #include "text/Json.h"
 
-#include "console/Console.h"
 #include "text/Utf8.h"
 
 namespace lejis_client {
@@ -21,9 +20,6 @@ void SetError(Json& document, std::wstring_view kind, std::wstring_view message)
     document["error"] = {{"kind", JsonText(kind)}, {"message", JsonText(message)}};
 }
 
-void Print(const Json& document) {
-    const std::string text = document.dump(2, ' ', true);
-    Console::Output().Write(std::wstring(text.begin(), text.end()) + L'\n');
-}
+std::string OneLine(const Json& object) { return object.dump(-1, ' ', true) + '\n'; }
 
 }  // namespace lejis_client

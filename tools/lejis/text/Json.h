@@ -1,4 +1,4 @@
-// The one JSON document that --json prints: for the programs that use this one.
+// What --json prints, and what ledgers hold: for programs.
 #pragma once
 
 #include <nlohmann/json.hpp>
@@ -20,7 +20,7 @@ Json JsonTexts(const std::vector<std::wstring>& texts);
 Json JsonDocument(const std::optional<std::wstring>& command, int exitCode);
 void SetError(Json& document, std::wstring_view kind, std::wstring_view message);
 
-// Prints a document as plain ASCII, whatever is in it, so that no code page can spoil it.
-void Print(const Json& document);
+// Plain ASCII in one line, with its line feed.
+std::string OneLine(const Json& object);
 
 }  // namespace lejis_client

@@ -12,4 +12,12 @@ std::string Utf8(std::wstring_view text) {
     return result;
 }
 
+std::wstring Utf16(std::string_view text) {
+    const int length = static_cast<int>(text.size());
+    const int size = MultiByteToWideChar(CP_UTF8, 0, text.data(), length, nullptr, 0);
+    std::wstring result(static_cast<std::size_t>(size), L'\0');
+    MultiByteToWideChar(CP_UTF8, 0, text.data(), length, result.data(), size);
+    return result;
+}
+
 }  // namespace lejis_client

@@ -1,0 +1,143 @@
+#include "submission/Backlog.h"
+
+#include "submission/RetryPause.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace lejis_client {
+namespace {
+
+constexpr ULONGLONG kSecond = 1000;
+
+// The tick is a coarse one: what a late look at it has missed is made up for.
+constexpr ULONGLONG kCatchUp = 100;
+
+// Often enough to see that the user has had enough, or that a worker takes too long.
+constexpr ULONGLONG kLongestPause = 250;
+
+Attempt Overdue(const Worker& worker, long seconds) {
+    Attempt attempt;
+    attempt.outcome.result = Result::Unknown;
+    attempt.outcome.errors = {L"There was no answer within " + std::to_wstring(seconds) + L" seconds."};
+    attempt.outcome.canTryAgain = true;
+    attempt.milliseconds = worker.Milliseconds();
+    return attempt;
+}
+
+}  // namespace
+
+Backlog::Backlog(const BacklogSettings& settings, JobMaker makeJob, std::deque<Task> tasks, BacklogListener& listener)
+    : settings_(settings),
+      makeJob_(std::move(makeJob)),
+      fresh_(std::move(tasks)),
+      listener_(listener),
+      done_(CreateEventW(nullptr, FALSE, FALSE, nullptr)) {}
+
+// An abandoned worker may set the event at any time, so it stays open then.
+Backlog::~Backlog() {
+    workers_.clear();
+    if (!hasAbandoned_) CloseHandle(done_);
+}
+
+void Backlog::Run(const Interruption& interruption) {
+    for (;;) {
+        if (!IsStopping(interruption)) BeginWhatIsDue();
+        const bool isAnyLeft = !IsStopping(interruption) && (!fresh_.empty() || !retries_.empty());
+        if (!isAnyLeft && !IsAnyAtWork()) break;
+        WaitForSingleObject(done_, Pause());
+        TakeResults();
+        AbandonOverdue();
+    }
+    EndRetries();
+}
+
+bool Backlog::IsAnyAtWork() const {
+    return std::any_of(workers_.begin(), workers_.end(), [](const auto& worker) { return !worker->IsIdle(); });
+}
+
+void Backlog::BeginWhatIsDue() {
+    for (ULONGLONG now = GetTickCount64(); now >= nextStart_ && IsAnyDue(now); now = GetTickCount64()) {
+        Worker* const worker = IdleWorker();
+        if (!worker) return;
+        Task task = TakeDue(now);
+        ++task.attempts;
+        listener_.Begun(task);
+        worker->Begin(task);
+        if (settings_.rate > 0)
+            nextStart_ = std::max(nextStart_, now - kCatchUp) + kSecond / static_cast<ULONGLONG>(settings_.rate);
+    }
+}
+
+bool Backlog::IsAnyDue(ULONGLONG now) const {
+    return !fresh_.empty() || (!retries_.empty() && retries_.begin()->first <= now);
+}
+
+Task Backlog::TakeDue(ULONGLONG now) {
+    const auto retry = retries_.begin();
+    if (retry != retries_.end() && retry->first <= now) {
+        Task task = std::move(retry->second.task);
+        retries_.erase(retry);
+        return task;
+    }
+    Task task = std::move(fresh_.front());
+    fresh_.pop_front();
+    return task;
+}
+
+Worker* Backlog::IdleWorker() {
+    for (const auto& worker : workers_) {
+        if (worker->IsIdle()) return worker.get();
+    }
+    if (workers_.size() == static_cast<std::size_t>(settings_.jobs)) return nullptr;
+    workers_.push_back(std::make_unique<Worker>(makeJob_, done_));
+    return workers_.back().get();
+}
+
+void Backlog::TakeResults() {
+    for (const auto& worker : workers_) {
+        const Task task = worker->CurrentTask();
+        if (const auto attempt = worker->Take()) Settle(task, *attempt);
+    }
+}
+
+void Backlog::AbandonOverdue() {
+    const ULONGLONG limit = static_cast<ULONGLONG>(settings_.seconds) * kSecond;
+    for (auto& worker : workers_) {
+        if (worker->IsIdle() || worker->Milliseconds() < limit) continue;
+        const Task task = worker->CurrentTask();
+        const Attempt attempt = Overdue(*worker, settings_.seconds);
+        worker = std::make_unique<Worker>(makeJob_, done_);
+        hasAbandoned_ = true;
+        Settle(task, attempt);
+    }
+}
+
+void Backlog::Settle(Task task, const Attempt& attempt) {
+    listener_.Tried(task, attempt);
+    const Outcome& outcome = attempt.outcome;
+    if (outcome.canTryAgain) {
+        ++failuresInARow_;
+    } else if (outcome.result == Result::Done || outcome.result == Result::Refused) {
+        failuresInARow_ = 0;
+    }
+    if (!outcome.canTryAgain || task.attempts > settings_.retries) return listener_.Ended(task, attempt);
+    const ULONGLONG due = GetTickCount64() + RetryPause(task.attempts);
+    retries_.emplace(due, Retry{std::move(task), attempt});
+}
+
+void Backlog::EndRetries() {
+    for (const auto& [due, retry] : std::exchange(retries_, {})) listener_.Ended(retry.task, retry.failed);
+}
+
+DWORD Backlog::Pause() const {
+    const ULONGLONG now = GetTickCount64();
+    ULONGLONG pause = kLongestPause;
+    const auto until = [&](ULONGLONG tick) { pause = std::min(pause, tick > now ? tick - now : 0); };
+    const bool canBegin = !fresh_.empty() || !retries_.empty();
+    if (canBegin && nextStart_ > now) until(nextStart_);
+    if (!retries_.empty() && retries_.begin()->first > now) until(retries_.begin()->first);
+    return static_cast<DWORD>(pause);
+}
+
+}  // namespace lejis_client

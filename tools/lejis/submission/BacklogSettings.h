@@ -1,0 +1,23 @@
+// How a long list of incidents is worked on.
+#pragma once
+
+#include "commandline/CommandLine.h"
+
+namespace lejis_client {
+
+struct BacklogSettings {
+    // Raises a UsageError.
+    static BacklogSettings Of(const CommandLine& commandLine);
+
+    long jobs = 1;
+    // How often a failure that may pass is tried again.
+    long retries = 0;
+    // How many such failures in a row end the run.
+    long stopAfter = 10;
+    // At most so many are begun in a second; 0 is no limit.
+    long rate = 0;
+    // How long one incident is waited for.
+    long seconds = 300;
+};
+
+}  // namespace lejis_client

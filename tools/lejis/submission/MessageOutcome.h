@@ -1,0 +1,12 @@
+// What the library's message of a failed submission or withdrawal tells about the incident.
+#pragma once
+
+#include "library/LibraryError.h"
+#include "submission/Outcome.h"
+
+namespace lejis_client {
+
+// Whether a server took connections before the library was asked decides what "service is down" means.
+Outcome OutcomeOf(const LibraryError& error, bool serverWasThere);
+
+}  // namespace lejis_client

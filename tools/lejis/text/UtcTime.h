@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string>
+
+namespace lejis_client {
+
+// As ISO 8601 has it, with milliseconds: 2026-11-22T06:43:12.345Z.
+std::string UtcNow();
+
+}  // namespace lejis_client
