@@ -52,10 +52,13 @@ bool Start(const std::wstring& commandLine, PROCESS_INFORMATION& started) {
         Sleep(kPauseInMilliseconds);
     }
 }
+// Ctrl-C is for the program alone: this one still has to tell its exit code.
+BOOL WINAPI Survive(DWORD) { return TRUE; }
 }  // namespace
 
 int main() {
     RemoveMark();
+    SetConsoleCtrlHandler(Survive, TRUE);
     const std::wstring commandLine = CommandLineAfterOwnName();
     PROCESS_INFORMATION started = {};
     if (!Start(commandLine, started)) {

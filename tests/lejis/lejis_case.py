@@ -11,6 +11,7 @@ import os
 import re
 import subprocess
 import tempfile
+import time
 import unittest
 import urllib.request
 from pathlib import Path
@@ -91,6 +92,10 @@ class LejisCase(unittest.TestCase):
         self.assertEqual(run.complaint, "")
         return PACE.sub("", run.output)
 
+    @staticmethod
+    def lejis_program():
+        return os.environ["LEJIS_EXE"]
+
     def write(self, name, content):
         path = self.folder / name
         path.write_bytes(content if isinstance(content, bytes) else content.encode())
@@ -122,3 +127,11 @@ class SimulatorCase(LejisCase):
 
     def exchanges(self):
         return json.loads(self.control("GET", "exchanges"))
+
+    def await_fault(self):
+        """Until the last of the faults that were ordered is being played."""
+        for _ in range(TIME_LIMIT * 10):
+            if not json.loads(self.control("GET", "faults")):
+                return
+            time.sleep(0.1)
+        self.fail("nobody asks for the fault")
