@@ -2,9 +2,10 @@
 import os
 import pty
 import re
+import time
 import unittest
 
-from lejis_case import DONE, RUNNER, SAMPLES, LejisCase
+from lejis_case import DONE, INTERRUPTED, RUNNER, SAMPLES, SimulatorCase, LejisCase, card
 
 COLOUR = re.compile("\x1b\\[[0-9;]*[1-9][0-9;]*m")
 GREEN_SUCCESS = re.compile("\x1b\\[(?:1;32|92)mfit for submission")
@@ -12,27 +13,42 @@ MANY = ("burglary.xml", "domestic-dispute.xml", "international.xml", "large.xml"
 PROGRESS = re.compile(r"\[#{8}\.{12}\] 2/5  \d+\.\d/s, \d+:\d\d left  international\.xml")
 
 
-class TerminalTest(LejisCase):
-    def on_terminal(self, *arguments, **environment):
-        """What the program shows on a terminal of its own."""
-        child, terminal = pty.fork()
-        if child == 0:
-            os.chdir(SAMPLES)
+CTRL_C = b"\x03"
+
+
+class Terminal:
+    """A terminal with the program on it."""
+
+    def __init__(self, folder, *arguments, **environment):
+        self.child, self.terminal = pty.fork()
+        if self.child == 0:
+            os.chdir(folder)
             os.environ.update(environment, TERM="xterm")
             os.execv(RUNNER, [RUNNER, os.environ["LEJIS_EXE"], *arguments])
-        shown = b""
-        while piece := self.read(terminal):
-            shown += piece
-        os.close(terminal)
-        self.assertEqual(os.waitstatus_to_exitcode(os.waitpid(child, 0)[1]), DONE)
-        return shown.decode("utf-8")
 
-    @staticmethod
-    def read(terminal):
+    def type(self, keys):
+        os.write(self.terminal, keys)
+
+    def end(self):
+        """What the program has shown until its end, and its exit code."""
+        shown = b""
+        while piece := self._read():
+            shown += piece
+        os.close(self.terminal)
+        return shown.decode("utf-8"), os.waitstatus_to_exitcode(os.waitpid(self.child, 0)[1])
+
+    def _read(self):
         try:
-            return os.read(terminal, 4096)
+            return os.read(self.terminal, 4096)
         except OSError:  # How a terminal says that the program has gone.
             return b""
+
+
+class TerminalTest(LejisCase):
+    def on_terminal(self, *arguments, **environment):
+        shown, code = Terminal(SAMPLES, *arguments, **environment).end()
+        self.assertEqual(code, DONE, shown)
+        return shown
 
     def test_results_are_coloured_there_and_only_there(self):
         self.assertRegex(self.on_terminal("check", "burglary.xml"), GREEN_SUCCESS)
@@ -52,6 +68,40 @@ class TerminalTest(LejisCase):
 
     def test_few_files_have_neither(self):
         self.assertNotIn("[#", self.on_terminal("check", "large.xml", "burglary.xml"))
+
+
+class InterruptionTest(SimulatorCase):
+    """Four incidents, the first of which takes its time."""
+
+    def begin(self, seconds):
+        for name in "abcd":
+            self.write(f"{name}.xml", card(f"2024-{name}"))
+        self.play(kind="slow", seconds=seconds)
+        terminal = Terminal(self.folder, "submit", "*.xml", "--url", self.url, "--ledger", "x.ledger")
+        self.await_fault()
+        return terminal
+
+    def test_ctrl_c_finishes_what_is_under_way_and_sums_up(self):
+        terminal = self.begin(6)
+        terminal.type(CTRL_C)
+        shown, code = terminal.end()
+        self.assertEqual(code, INTERRUPTED, shown)
+        self.assertIn("Interrupted: 3 not begun.", shown)
+        self.assertIn("4 files: 1 submitted, 3 not begun.", shown)
+        self.assertEqual(self.indexed(), ["2024-a"])
+        self.assertEqual(len((self.folder / "x.ledger").read_text().splitlines()), 1)
+
+    def test_a_second_ctrl_c_ends_it_at_once(self):
+        terminal = self.begin(50)
+        terminal.type(CTRL_C)
+        time.sleep(1)
+        terminal.type(CTRL_C)
+        start = time.monotonic()
+        shown, code = terminal.end()
+        self.assertLess(time.monotonic() - start, 30)
+        self.assertEqual(code, INTERRUPTED, shown)
+        self.assertIn("Interrupted. What was under way may have reached LEJIS.", shown)
+        self.assertNotIn("files:", shown)
 
 
 if __name__ == "__main__":
