@@ -106,6 +106,7 @@ run_failing_servers() {
   [[ -z $filter ]] || return 0
   run_tests "$1" end-to-end unittest fault-matrix "$project/tests/fault_matrix/run.sh" "$1"
   run_tests "$1" end-to-end unittest endurance "$project/tests/endurance/run.sh" "$1"
+  run_tests "$1" end-to-end unittest backlog "$project/tests/backlog/run.sh" "$1"
 }
 
 # run_apartments_of ARCH RING DLL ROUNDS

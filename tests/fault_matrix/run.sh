@@ -9,5 +9,6 @@ source "$project/tools/wine-environment.sh"
 tests=$project/build/$1/tests
 FAULT_CLIENT=$(windows_path "$tests/fault_client.exe")
 UNIT_TESTS=$(windows_path "$tests/unit_tests.exe")
-export FAULT_CLIENT UNIT_TESTS
+LEJIS_EXE=$(windows_path "$project/build/$1/bin/lejis.exe")
+export FAULT_CLIENT UNIT_TESTS LEJIS_EXE
 exec /usr/bin/python3 -m unittest discover -s "$project/tests/fault_matrix"

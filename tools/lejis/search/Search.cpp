@@ -7,6 +7,7 @@
 #include "search/FoundJson.h"
 #include "search/FoundTable.h"
 #include "search/FoundXml.h"
+#include "search/SearchFailure.h"
 #include "search/SearchSettings.h"
 #include "search/SearchWait.h"
 #include "text/Layout.h"
@@ -67,7 +68,7 @@ void TellInterruption() { Console::Errors().Write(L'\n' + kInterrupted.text); }
 void TellInterruptionInJson() { Print(JsonOf(kInterrupted)); }
 
 Failure FailureOf(const SearchOutcome& outcome) {
-    const bool canTryAgain = outcome.end == SearchEnd::NetworkError;
+    const bool canTryAgain = CanTryAgain(outcome);
     const std::wstring reason = outcome.message.empty() ? L"No reason was given." : outcome.message;
     const std::wstring advice = canTryAgain ? L"Trying again later can help; the search is not at fault."
                                             : L"Trying again does not help until this is put right.";
