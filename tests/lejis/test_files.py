@@ -46,9 +46,9 @@ BAD_FILES = {
     "no number": (card().replace("j:ActivityID", "j:Other"),
                   "The incident card lacks the incident number (card:LejisIndexUid/j:ActivityID/j:ID)."),
     "bad birth date": (card().replace("</lejis:", PERSON.format("1990-02-30") + "</lejis:"),
-                       "Person 2 cannot be read: Not a valid date."),
+                       "Line 19: j:PersonBirthDate '1990-02-30' cannot be read: it is no date."),
     "huge street number": (card().replace("<j:LocationPostal", STREET + "<j:LocationPostal"),
-                           "The incident cannot be read: "),
+                           "Line 14: j:StreetNumberText '99999999999' cannot be read: it is too large a number."),
     "no agency": (card().replace("Submitter.Org", "Org"),
                   "The incident card lacks the agency's name (j:SubmissionSubmitter.Organization/j:OrganizationName)."),
 }

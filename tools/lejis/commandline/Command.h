@@ -23,6 +23,8 @@ struct Command {
     bool canNameIncident = false;
     bool searches = false;
     bool diagnoses = false;
+    // Whether it uses all of a file, so that it warns of what is not read.
+    bool tellsLosses = false;
     // How a success is called in a result line and in the summary.
     const wchar_t* success = L"";
 };

@@ -50,7 +50,11 @@ inline constexpr wchar_t kCheckHelp[] =
 Shapes each incident to the limits of LEJIS and checks the result. Nothing is sent.
 
   ! marks an error: LEJIS would not get the incident until it is corrected.
-  • marks a warning: what would be shortened, replaced or left out.
+  • marks a warning: what would be shortened, replaced or left out. One that begins
+    with a line number names what is not read of the file: an element or attribute
+    that the library does not know there, often a misspelt one, or a value that is no
+    date, number or flag. It does not make an incident unfit; correct it all the
+    same, or LEJIS will not get it.
 
 Examples:
 
@@ -81,7 +85,8 @@ Submits each incident to LEJIS. An incident that LEJIS has already is replaced.
 
 Each incident ends as
 
-  submitted   LEJIS has it. • marks what was shortened, replaced or left out.
+  submitted   LEJIS has it. • marks what was shortened, replaced or left out; with a
+              line number, what was not read of the file.
   refused     LEJIS or the checks said no; lejis check tells all errors.
   not sent    Nothing reached LEJIS.
   unknown     It was sent, and nobody knows what LEJIS made of it. Send it again:

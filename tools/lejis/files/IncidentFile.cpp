@@ -2,8 +2,12 @@
 
 #include "files/Doctype.h"
 #include "files/FileError.h"
+#include "files/FormatName.h"
+#include "files/IncidentFormat.h"
+#include "files/LossHandler.h"
 #include "files/XmlFault.h"
 #include "files/XmlSource.h"
+#include "foundation/LejisUtils.h"
 #include "library/LibraryError.h"
 
 #include <msxml6.h>
@@ -13,24 +17,7 @@ namespace {
 
 using Microsoft::WRL::ComPtr;
 
-constexpr wchar_t kRootName[] = L"RMSIncidentIndexCard";
-constexpr wchar_t kServiceNamespace[] = L"http://" LEJIS_HOST L"/lejis/jxdm/1.0/service";
-constexpr wchar_t kNamespaces[] =
-    L"xmlns:lejis='http://" LEJIS_HOST L"/lejis/jxdm/1.0/service' "
-    L"xmlns:card='http://" LEJIS_HOST L"/lejis/jxdm/1.0/card' "
-    L"xmlns:j='http://www.it.ojp.gov/jxdm/3.0.3'";
-
-// Without these there is no telling which incident it is.
-struct Identifier {
-    const wchar_t* path;
-    const wchar_t* meaning;
-};
-
-constexpr Identifier kIdentifiers[] = {
-    {L"card:LejisIndexUid/j:OrganizationORIID/j:ID", L"the agency's ORI"},
-    {L"card:LejisIndexUid/j:ActivityID/j:ID", L"the incident number"},
-    {L"j:SubmissionSubmitter.Organization/j:OrganizationName", L"the agency's name"},
-};
+constexpr FormatName kRoot(kIncidentElement);
 
 ComPtr<IXMLDOMDocument2> NewDocument() {
     ComPtr<IXMLDOMDocument2> document;
@@ -38,7 +25,7 @@ ComPtr<IXMLDOMDocument2> NewDocument() {
     Check(document->put_async(VARIANT_FALSE));
     Check(document->put_validateOnParse(VARIANT_FALSE));
     Check(document->put_resolveExternals(VARIANT_FALSE));
-    Check(document->setProperty(_bstr_t(L"SelectionNamespaces"), _variant_t(kNamespaces)));
+    lejis::LejisUtils::SetSelectionNamespaces(document);
     return document;
 }
 
@@ -57,58 +44,62 @@ void RequireIncidentCard(IXMLDOMElement* root) {
     _bstr_t name, space;
     Check(root->get_baseName(name.GetAddress()));
     Check(root->get_namespaceURI(space.GetAddress()));
-    if (Text(name) == kRootName && Text(space) == kServiceNamespace) return;
+    if (kRoot.Is(Text(space), Text(name))) return;
     const std::wstring found =
         L"'" + Text(name) + L"' of " + (space.length() ? L"'" + Text(space) + L"'" : L"no namespace");
-    const std::wstring wanted = std::wstring(L"'") + kRootName + L"' of '" + kServiceNamespace + L"'";
+    const std::wstring wanted = L"'" + std::wstring(kRoot.local) + L"' of '" + std::wstring(kRoot.space) + L"'";
     throw FileError{L"This is no incident card: its root element is " + found + L", not " + wanted + L"."};
 }
 
 void RequireIdentifiers(IXMLDOMElement* root) {
     std::wstring missing;
-    for (const Identifier& identifier : kIdentifiers) {
+    for (const FormatRow& row : IncidentSection().rows) {
+        if (!row.isRequired) continue;
         ComPtr<IXMLDOMNode> node;
-        Check(root->selectSingleNode(_bstr_t(identifier.path), &node));
+        Check(root->selectSingleNode(_bstr_t(std::wstring(row.path).c_str()), &node));
         if (node) continue;
         if (!missing.empty()) missing += L"; ";
-        missing += std::wstring(identifier.meaning) + L" (" + identifier.path + L")";
+        missing += std::wstring(row.meaning) + L" (" + std::wstring(row.path) + L")";
     }
     if (!missing.empty()) throw FileError{L"The incident card lacks " + missing + L"."};
 }
 
-template <typename Class, typename Interface>
-ComPtr<Interface> ReadCard(IXMLDOMNode* element, const std::wstring& name) {
-    const auto card = Create<Class, Interface>();
+std::wstring TextOf(const Loss& loss) { return L"Line " + std::to_wstring(loss.line) + L": " + loss.text; }
+
+// The incident keeps a person that cannot be read to the end as far as it came. In a file that is a mistake to be told,
+// not to be submitted.
+void RequireReadableCards(const std::vector<Loss>& losses) {
+    std::wstring reason;
+    for (const Loss& loss : losses) {
+        if (loss.isFatal) reason += (reason.empty() ? L"" : L"\r\n") + TextOf(loss);
+    }
+    if (!reason.empty()) throw FileError{reason};
+}
+
+ComPtr<ILejisIncidentIndexCard> CardOf(IXMLDOMElement* root) {
+    const auto card = Create<LejisIncidentIndexCard, ILejisIncidentIndexCard>();
     try {
-        Check(card->FromXmlElement(element));
+        Check(card->FromXmlElement(root));
     } catch (const LibraryError& error) {
         const std::wstring end = error.description.ends_with(L'.') ? L"" : L".";
-        throw FileError{name + L" cannot be read: " + error.description + end};
+        throw FileError{L"The incident cannot be read: " + error.description + end};
     }
     return card;
 }
 
-// The incident keeps a person that cannot be read to the end as far as it came. In a file that is a mistake to be told,
-// not to be submitted.
-void RequireReadablePersons(IXMLDOMElement* root) {
-    ComPtr<IXMLDOMNodeList> persons;
-    Check(root->selectNodes(_bstr_t(L"card:RMSPersonIndexCards"), &persons));
-    ComPtr<IXMLDOMNode> person;
-    for (int number = 1; persons->nextNode(&person) == S_OK; ++number) {
-        ReadCard<LejisPersonIndexCard, ILejisPersonIndexCard>(person.Get(), L"Person " + std::to_wstring(number));
-    }
-}
-
 }  // namespace
 
-ComPtr<ILejisIncidentIndexCard> ReadIncident(const std::string& content) {
+IncidentFile ReadIncident(const std::string& content) {
     RefuseDoctype(content);
     const ComPtr<IXMLDOMDocument2> document = NewDocument();
     const ComPtr<IXMLDOMElement> root = RootOf(document.Get(), content);
     RequireIncidentCard(root.Get());
     RequireIdentifiers(root.Get());
-    RequireReadablePersons(root.Get());
-    return ReadCard<LejisIncidentIndexCard, ILejisIncidentIndexCard>(root.Get(), L"The incident");
+    const std::vector<Loss> losses = LossHandler().LossesOf(content);
+    RequireReadableCards(losses);
+    IncidentFile file{CardOf(root.Get()), {}};
+    for (const Loss& loss : losses) file.losses.push_back(TextOf(loss));
+    return file;
 }
 
 }  // namespace lejis_client

@@ -4,10 +4,17 @@
 #include "library/Library.h"
 
 #include <string>
+#include <vector>
 
 namespace lejis_client {
 
-// The card in the bytes of a file. Raises a FileError with the reason when there is none.
-Microsoft::WRL::ComPtr<ILejisIncidentIndexCard> ReadIncident(const std::string& content);
+struct IncidentFile {
+    Microsoft::WRL::ComPtr<ILejisIncidentIndexCard> card;
+    // What stands in the file and does not get into the card: sentences, in the order of the file.
+    std::vector<std::wstring> losses;
+};
+
+// The incident in the bytes of a file. Raises a FileError with the reason when there is none.
+IncidentFile ReadIncident(const std::string& content);
 
 }  // namespace lejis_client

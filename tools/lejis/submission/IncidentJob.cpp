@@ -70,7 +70,11 @@ void IncidentJob::Read(const Task& task, Attempt& attempt) {
         attempt.outcome.result = Result::LeftOut;
         return;
     }
-    Run(ReadIncident(content).Get(), attempt);
+    const IncidentFile file = ReadIncident(content);
+    Run(file.card.Get(), attempt);
+    if (!commandLine_.command->tellsLosses) return;
+    std::vector<std::wstring>& warnings = attempt.outcome.warnings;
+    warnings.insert(warnings.begin(), file.losses.begin(), file.losses.end());
 }
 
 void IncidentJob::Run(ILejisIncidentIndexCard* incident, Attempt& attempt) {

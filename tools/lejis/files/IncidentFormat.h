@@ -1,0 +1,64 @@
+// The format of incident files: which elements the library reads, where they stand and what they hold. Files are held
+// against this table, and docs/incident-format.md and its schemas are made from it.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace lejis_client {
+
+enum class Content {
+    kText,
+    kDate,
+    // Read as one value, the date, a blank and the time.
+    kActivityDate,
+    kActivityTime,
+    // The one date that keeps its card from being read when it is none.
+    kBirthDate,
+    kFlag,
+    kMeasure,
+    kYear,
+    kStreetNumber,
+    // The library writes it, always empty, and does not read it.
+    kNothing,
+    // The library goes into the first of these alone. Into elements that have no row, which stand in paths only, it
+    // goes until it has found what it looks for.
+    kFirst,
+    // The same, and what stands in it has a section of its own.
+    kFirstOfSection,
+    // Any number of them, each of a section of its own.
+    kEachOfSection,
+};
+
+struct FormatSection;
+
+struct FormatRow {
+    std::wstring_view path;
+    Content content = Content::kText;
+    // What it says, as it stands in sentences.
+    std::wstring_view meaning = {};
+    // The member of the section's class that it fills.
+    std::wstring_view member = {};
+    // Where the content is one of a section.
+    const FormatSection* section = nullptr;
+    // An attribute, which the library writes and does not read: it has this one value.
+    std::wstring_view attribute = {};
+    std::wstring_view attributeValue = {};
+    // Without it there is no telling which incident it is.
+    bool isRequired = false;
+};
+
+// What stands in an element of its own kind.
+struct FormatSection {
+    std::wstring_view title;
+    // The library's class that reads it.
+    std::wstring_view reader;
+    std::span<const FormatRow> rows;
+};
+
+inline constexpr std::wstring_view kIncidentElement = L"lejis:RMSIncidentIndexCard";
+
+// That of the root; the others are reached from it.
+const FormatSection& IncidentSection();
+
+}  // namespace lejis_client
