@@ -14,6 +14,9 @@
 #include "library/NotRegistered.h"
 #include "platform/ComError.h"
 #include "search/Search.h"
+#include "show/Show.h"
+#include "submission/NamedIncident.h"
+#include "text/Json.h"
 #include "text/WindowsText.h"
 #include "Version.h"
 
@@ -52,10 +55,18 @@ int PrintVersion(const CommandLine& commandLine) {
 int Run(const CommandLine& commandLine) {
     if (commandLine.help) return PrintHelp(commandLine);
     if (commandLine.version) return PrintVersion(commandLine);
-    if (commandLine.command->diagnoses) return Diagnose(commandLine);
-    if (commandLine.command->action == Action::Ledger) return SumUpLedger(commandLine);
-    if (commandLine.command->searches) return Search(commandLine);
-    return RunOnIncidents(commandLine);
+    switch (commandLine.command->action) {
+        case Action::Show:
+            return Show(commandLine);
+        case Action::Ledger:
+            return SumUpLedger(commandLine);
+        case Action::Search:
+            return Search(commandLine);
+        case Action::Doctor:
+            return Diagnose(commandLine);
+        default:
+            return RunOnIncidents(commandLine);
+    }
 }
 
 std::vector<std::wstring> Arguments() {

@@ -12,6 +12,7 @@ constexpr Command kCommands[] = {
      .takesIncidents = true,
      .tellsLosses = true,
      .success = L"fit for submission"},
+    {.name = L"show", .action = Action::Show, .help = kShowHelp},
     {.name = L"submit",
      .action = Action::Submit,
      .help = kSubmitHelp,

@@ -5,7 +5,7 @@
 
 namespace lejis_client {
 
-enum class Action { Check, Submit, Delete, Search, Doctor, Ledger };
+enum class Action { Check, Show, Submit, Delete, Search, Doctor, Ledger };
 
 struct Command {
     const wchar_t* name;

@@ -116,6 +116,11 @@ void RefuseFiles(const CommandLine& commandLine) {
     if (!commandLine.files.empty()) Throw(commandLine, L"unexpected argument " + commandLine.files.front());
 }
 
+void RequireFile(const CommandLine& commandLine) {
+    if (commandLine.files.empty()) Throw(commandLine, L"no file given");
+    if (commandLine.files.size() > 1) Throw(commandLine, L"unexpected argument " + commandLine.files[1]);
+}
+
 void RequireSearch(const CommandLine& commandLine) {
     RefuseFiles(commandLine);
     if (commandLine.xml && commandLine.json) Throw(commandLine, L"give either --xml or --json");
@@ -130,6 +135,7 @@ void RequireLedger(const CommandLine& commandLine) {
 void RequireAll(const CommandLine& commandLine) {
     if (commandLine.command->diagnoses) return RefuseFiles(commandLine);
     if (commandLine.command->action == Action::Ledger) return RequireLedger(commandLine);
+    if (commandLine.command->action == Action::Show) return RequireFile(commandLine);
     commandLine.command->searches ? RequireSearch(commandLine) : RequireIncident(commandLine);
     if (commandLine.command->needsUrl && !commandLine.url) Throw(commandLine, L"--url is missing");
 }

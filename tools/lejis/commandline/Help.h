@@ -7,7 +7,8 @@ inline constexpr wchar_t kGeneralHelp[] =
     LR"(lejis checks incidents, submits them to LEJIS, withdraws them and searches for
 them, through the registered TVLejisCore.
 
-  lejis check FILE...               says what LEJIS would be sent; sends nothing
+  lejis check FILE...               says what LEJIS would not take; sends nothing
+  lejis show FILE                   prints the request that would be sent
   lejis submit FILE... --url URL    submits incidents
   lejis delete FILE... --url URL    withdraws incidents
   lejis search CRITERION... --user JNETID --url URL
@@ -21,10 +22,11 @@ With every command:
 
   --json                            print one JSON document, for programs
 
-A FILE is one incident card in XML, a pattern such as incidents\*.xml, @LIST for the
-names in a text file, or - for standard input; with --recurse it may be a folder. A
-URL is the address of a service of the LEJIS Interface; ask who looks after it. A
-value may follow its option after a blank or an equals sign.
+A FILE is one incident card in XML (docs/incident-format.md tells its elements), a
+pattern such as incidents\*.xml, @LIST for the names in a text file, or - for standard
+input; with --recurse it may be a folder. A URL is the address of a service of the
+LEJIS Interface; ask who looks after it. A value may follow its option after a blank or
+an equals sign.
 
 The first steps, from an incident in a file to the index:
 
@@ -63,6 +65,25 @@ Examples:
   lejis check incidents\*.xml --json > checked.json
 
 Exit codes: 0 all are fit for submission; 1 at least one is not, or is no incident.
+)";
+
+inline constexpr wchar_t kShowHelp[] =
+    LR"(lejis show FILE [--json]
+
+Prints the request that lejis submit would send for an incident: the SOAP envelope
+with the incident within the limits of LEJIS. Nothing is sent. The line breaks between
+the elements are for reading; the request itself has none. Its encoding is UTF-8.
+
+Errors and warnings, as lejis check tells them, go to the standard error.
+
+  --json              print one JSON document, for programs
+
+Examples:
+
+  lejis show incident.xml
+  lejis show incident.xml > request.xml
+
+Exit codes: 0 this would be sent; 1 it would be refused first, or is no incident.
 )";
 
 inline constexpr wchar_t kSubmitHelp[] =

@@ -1,11 +1,11 @@
 #include "doctor/SchemaCheck.h"
 
 #include "library/Members.h"
+#include "library/SubmissionRequest.h"
 #include "platform/ComError.h"
 #include "platform/msxml/Document.h"
 #include "services/SchemaUtils.h"
 #include "services/SearchEnvelope.h"
-#include "services/SubmissionEnvelope.h"
 #include "text/Day.h"
 
 namespace lejis_client {
@@ -22,28 +22,17 @@ ComPtr<ILejisIncidentIndexCard> SampleIncident() {
     return incident;
 }
 
-// The root of the document that the library makes of an object.
-template <typename Interface>
-msxml::Element RootOf(Interface* object) {
-    ComPtr<IDispatch> document;
-    Check(object->ToXmlDocument(&document));
-    return msxml::Root(msxml::DocumentFrom(document.Get()));
-}
-
 }  // namespace
 
-msxml::Document SampleSubmission() {
-    const auto submission = Create<LejisSubmissionDocument, ILejisSubmissionDocument>();
-    const auto cards = Part(submission.Get(), &ILejisSubmissionDocument::get_IncidentIndexCards);
-    Check(cards->Add(_variant_t(static_cast<IDispatch*>(SampleIncident().Get()))));
-    return lejis::WrapInEnvelope(RootOf(submission.Get()));
-}
+msxml::Document SampleSubmission() { return SubmissionRequest(SampleIncident().Get()); }
 
 msxml::Document SampleSearch() {
     const auto request = Create<LejisSearchRequest, ILejisSearchRequest>();
     const auto person = Part(request.Get(), &ILejisSearchRequest::get_personArguments);
     Check(person->put_SurName(_bstr_t(L"DOE")));
-    return lejis::WrapInSearchEnvelope(RootOf(request.Get()), L"doctor");
+    ComPtr<IDispatch> document;
+    Check(request->ToXmlDocument(&document));
+    return lejis::WrapInSearchEnvelope(msxml::Root(msxml::DocumentFrom(document.Get())), L"doctor");
 }
 
 std::wstring SchemaFault(const msxml::Document& request, const std::wstring& wsdlUrl) {
