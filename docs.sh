@@ -1,7 +1,8 @@
 #!/bin/bash
 # docs.sh
-# Makes the generated pages of docs/ anew: docs/reference/ from the type library, and the exchanges in docs/roads.md from
-# the library's real traffic with the simulator. test.sh tells when that is needed.
+# Makes the generated pages of docs/ anew: docs/reference/ from the type library, the page and schemas of the incident
+# format from the table of lejis.exe, and the exchanges in docs/roads.md from the library's real traffic with the
+# simulator. test.sh tells when that is needed.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
@@ -16,12 +17,12 @@ run "$project/tools/setup.sh"
 # Both bitnesses have the same type library but for its target, and send the same.
 architecture=x86
 wine_runs x86 || architecture=x64
-run "$project/build.sh" "$architecture" TVLejisCore lejis reference
+run "$project/build.sh" "$architecture" TVLejisCore lejis reference incident_format
 start_wine
 register_dll "$architecture"
 pages=$project/build/docs
 rm -rf "$pages"
 run "$project/tests/support/with_simulator.sh" "$project/tools/docs/generate.sh" "$architecture" "$pages"
-rm -rf "$project/docs/reference"
+rm -rf "$project/docs/reference" "$project/docs/incident-format"
 cp -R "$pages/." "$project/docs/"
-say "docs/reference and docs/roads.md are up to date."
+say "docs/reference, docs/incident-format and docs/roads.md are up to date."

@@ -6,6 +6,8 @@ import unittest
 from sample_case import PROJECT, SampleCase
 
 TIME_LIMIT = 120
+FOLDERS = ("reference", "incident-format")
+PAGES = ("incident-format.md", "roads.md")
 
 
 class GeneratedPagesTest(SampleCase):
@@ -16,10 +18,10 @@ class GeneratedPagesTest(SampleCase):
                         os.environ["LEJIS_ARCHITECTURE"], self.folder], check=True, timeout=TIME_LIMIT)
 
     def test_they_are_up_to_date(self):
-        kept = {path.relative_to(PROJECT / "docs") for path in (PROJECT / "docs" / "reference").iterdir()}
-        made = {path.relative_to(self.folder) for path in (self.folder / "reference").iterdir()}
-        self.assertEqual(sorted(kept), sorted(made), "./docs.sh makes them anew")
-        for page in sorted(made) + ["roads.md"]:
+        kept, made = (sorted(path.relative_to(folder) for name in FOLDERS for path in (folder / name).iterdir())
+                      for folder in (PROJECT / "docs", self.folder))
+        self.assertEqual(kept, made, "./docs.sh makes them anew")
+        for page in [*made, *PAGES]:
             with self.subTest(page):
                 self.assertEqual((PROJECT / "docs" / page).read_text(encoding="utf-8"),
                                  (self.folder / page).read_text(encoding="utf-8"), "./docs.sh makes them anew")
