@@ -9,6 +9,8 @@ import zipfile
 from pathlib import Path
 from xml.etree import ElementTree
 
+from lxml import etree
+
 from package_case import PACKAGES, PROJECT, PackageCase, for_each_architecture, installed_folder, package
 
 import archive
@@ -16,9 +18,11 @@ import manifests
 import package as packaging
 
 OBJDUMP = {"x86": "i686-w64-mingw32-objdump", "x64": "x86_64-w64-mingw32-objdump"}
+INCIDENT_FORMAT = {"docs/incident-format.md", *(f"docs/incident-format/{name}.xsd"
+                                                for name in ("incident", "card", "extra", "jxdm"))}
 IN_EVERY_ZIP = {"TVLejisCore.dll", "lejis.exe", "register.cmd", "unregister.cmd", "README.md", "docs/installing.md",
                 "registration-free/Talvex.TVLejisCore.manifest", "registration-free/lejis.exe.manifest",
-                "samples/incidents/burglary.xml"}
+                "samples/incidents/burglary.xml", *INCIDENT_FORMAT}
 
 
 def project_version():
@@ -52,6 +56,27 @@ class ContentTest(PackageCase):
     @for_each_architecture
     def test_the_zip_holds_what_people_need(self, architecture):
         self.assertLessEqual(IN_EVERY_ZIP, set(content(package(architecture, ".zip"))))
+
+    @for_each_architecture
+    def test_the_schemas_describe_the_samples(self, architecture):
+        folder = self.unpack(architecture)
+        schema = etree.XMLSchema(etree.parse(folder / "docs" / "incident-format" / "incident.xsd"))
+        samples = list((folder / "samples" / "incidents").glob("*.xml"))
+        self.assertGreater(len(samples), 5)
+        for path in samples:
+            self.assertTrue(schema.validate(etree.parse(path)), (path.name, schema.error_log))
+
+    @for_each_architecture
+    def test_the_installer_brings_the_incident_format(self, architecture):
+        table = subprocess.run(["msiinfo", "export", str(package(architecture, ".msi")), "File"], capture_output=True,
+                               text=True, check=True).stdout
+        files = {line.split("\t")[0] for line in table.splitlines()}
+        self.assertLessEqual({Path(name).name for name in INCIDENT_FORMAT}, files)
+
+    def test_the_incident_format_has_the_host_of_the_library(self):
+        for name, text in packaging.incident_format("lejis.state.example").items():
+            self.assertIn(b"http://lejis.state.example/lejis/jxdm/1.0/" if "jxdm" not in name else b"jxdm/3.0.3", text)
+            self.assertNotIn(b"//lejis.example", text)
 
     @for_each_architecture
     def test_scripts_have_the_lines_of_windows_and_no_placeholder(self, architecture):

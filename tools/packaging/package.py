@@ -22,14 +22,22 @@ PROJECT = Path(__file__).resolve().parents[2]
 SCRIPTS = Path(__file__).resolve().parent / "scripts"
 PROGRAMS = ("TVLejisCore.dll", "lejis.exe")
 INSTALLED_GUIDE = "docs/installing.md"
+SCHEMAS = "docs/incident-format/*.xsd"
+# The LEJIS host of the pages and schemas that are kept here.
+KEPT_HOST = "lejis.example"
 # Where Windows keeps its own programs of the library's bitness, as programs of the other one see it.
 SYSTEM_FOLDERS = {"x86": "SysWOW64", "x64": "Sysnative"}
 
 
+def cached(architecture, name):
+    """What CMake has been told, or has found out."""
+    cache = (PROJECT / "build" / architecture / "CMakeCache.txt").read_text(encoding="utf-8")
+    return re.search(rf"^{name}:\w+=(.*)$", cache, re.MULTILINE)[1]
+
+
 def full_version(architecture):
     """The version of the CMake project: major, minor, build and revision."""
-    cache = (PROJECT / "build" / architecture / "CMakeCache.txt").read_text(encoding="utf-8")
-    return re.search(r"^CMAKE_PROJECT_VERSION:STATIC=(.*)$", cache, re.MULTILINE)[1]
+    return cached(architecture, "CMAKE_PROJECT_VERSION")
 
 
 def timestamp():
@@ -50,13 +58,20 @@ def documents():
             and "__pycache__" not in path.parts}
 
 
+def incident_format(host):
+    """The page and the schemas of the incident files that the library reads, which has this LEJIS host."""
+    files = [PROJECT / "docs" / "incident-format.md", *sorted(PROJECT.glob(SCHEMAS))]
+    return {str(path.relative_to(PROJECT)): path.read_bytes().replace(KEPT_HOST.encode(), host.encode())
+            for path in files}
+
+
 def with_windows_lines(text):
     return text.replace("\n", "\r\n").encode()
 
 
 def archive_members(library, architecture, version):
     bin_folder = PROJECT / "build" / architecture / "bin"
-    members = documents()
+    members = documents() | incident_format(cached(architecture, "LEJIS_HOST"))
     members.update({name: (bin_folder / name).read_bytes() for name in PROGRAMS})
     for script in SCRIPTS.glob("*.cmd"):
         text = script.read_text(encoding="utf-8").replace("@FOLDER@", SYSTEM_FOLDERS[architecture])
@@ -76,11 +91,19 @@ def symbol_members(architecture):
     return {f"{name}.debug": (folder / f"{name}.debug").read_bytes() for name in PROGRAMS}
 
 
+def written(folder, name, content):
+    path = folder / Path(name).name
+    path.write_bytes(content)
+    return path
+
+
 def build_installer(library, architecture, version, moment, output):
     with tempfile.TemporaryDirectory(prefix="package-") as folder:
         work = Path(folder)
         sources = [*(PROJECT / "build" / architecture / "bin" / name for name in PROGRAMS), PROJECT / INSTALLED_GUIDE]
         files = [Path(shutil.copyfile(source, work / source.name)) for source in sources]
+        files += [written(work, name, content) for name, content in
+                  incident_format(cached(architecture, "LEJIS_HOST")).items()]
         for file in files:
             os.utime(file, (moment, moment))
         installer.build(installer.Source(library, architecture, version, files), work, output, moment)
