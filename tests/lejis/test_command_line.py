@@ -83,10 +83,11 @@ class CommandLineTest(LejisCase):
         self.assertEqual(re.findall(r"^\| (\d+) \|", readme, re.MULTILINE), codes)
 
     def test_version_is_that_of_the_program_and_of_the_library_and_says_where_it_is(self):
-        program, version, file = self.expect(DONE, "--version").splitlines()
+        program, version, file, host = self.expect(DONE, "--version").splitlines()
         self.assertRegex(program, r"^lejis \d+\.\d+\.\d+$")
         self.assertRegex(version, r"^TVLejisCore \d+\.\d+\.\d+$")
         self.assertTrue(file.endswith("\\TVLejisCore.dll"), file)
+        self.assertEqual(host, "LEJIS host: lejis.example")
 
 
 class RegistrationTest(LejisCase):
@@ -101,14 +102,22 @@ class RegistrationTest(LejisCase):
     def test_a_library_that_is_not_registered_is_one_sentence_for_all_files(self):
         self.addCleanup(self.regsvr32)
         self.regsvr32("/u")
-        for arguments in (("check", "a.xml", "b.xml"), ("--version",)):
-            run = self.lejis(*arguments)
-            self.assertEqual((run.code, run.output), (REFUSED, ""))
-            self.assertRegex(run.complaint, NOT_REGISTERED)
+        run = self.lejis("check", "a.xml", "b.xml")
+        self.assertEqual((run.code, run.output), (REFUSED, ""))
+        self.assertRegex(run.complaint, NOT_REGISTERED)
         self.assertEqual(self.lejis("--help").code, DONE)
         document = json.loads(self.expect(REFUSED, "check", "a.xml", "--json"))
         self.assertEqual((document["command"], document["exitCode"], document["error"]["kind"]),
                          ("check", REFUSED, "notRegistered"))
+
+    def test_version_is_told_without_a_library(self):
+        version = self.expect(DONE, "--version").splitlines()[0]
+        self.addCleanup(self.regsvr32)
+        self.regsvr32("/u")
+        program, reason = self.expect(DONE, "--version").splitlines()
+        self.assertEqual(program, version)
+        self.assertRegex(f"lejis: {reason}\n", NOT_REGISTERED)
+        self.assertIsNone(json.loads(self.expect(DONE, "--version", "--json"))["library"])
 
     def test_the_doctor_says_how_to_register_it(self):
         self.addCleanup(self.regsvr32)

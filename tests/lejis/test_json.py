@@ -110,7 +110,7 @@ class OthersTest(JsonCase):
         version = self.document(DONE, "--version")
         lines = self.expect(DONE, "--version").splitlines()
         self.assertEqual([f"lejis {version['lejis']}", f"TVLejisCore {version['library']['version']}",
-                          version["library"]["file"]], lines)
+                          version["library"]["file"], f"LEJIS host: {version['library']['lejisHost']}"], lines)
         self.assertEqual(self.document(DONE, "submit", "--help")["text"], self.expect(DONE, "submit", "--help"))
 
     def test_the_doctor(self):

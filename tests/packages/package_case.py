@@ -95,4 +95,4 @@ class PackageCase(unittest.TestCase):
 
     def check_absence(self, folder):
         """The program beside the library finds no library."""
-        self.assertEqual(self.lejis(folder, "--version", code=1)["error"]["kind"], "notRegistered")
+        self.assertIsNone(self.lejis(folder, "--version")["library"])

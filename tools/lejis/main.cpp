@@ -38,16 +38,46 @@ int PrintHelp(const CommandLine& commandLine) {
     return kExitDone;
 }
 
+struct LibraryNames {
+    std::wstring version;
+    std::wstring file;
+    std::optional<std::wstring> host;
+};
+
+// Nothing, and the reason, where there is no library that can be used.
+std::optional<LibraryNames> NamesOfLibrary(std::wstring& reason) {
+    try {
+        const std::wstring version = LibraryVersion();
+        return LibraryNames{version, LibraryFile(), LejisHost()};
+    } catch (const NotRegistered&) {
+        reason = HowToRegister();
+    } catch (const LibraryError& error) {
+        reason = L"TVLejisCore cannot be used: " + error.description;
+    }
+    return {};
+}
+
+Json JsonOf(const LibraryNames& library) {
+    return {{"version", JsonText(library.version)},
+            {"file", JsonText(library.file)},
+            {"lejisHost", library.host ? JsonText(*library.host) : Json()}};
+}
+
+std::wstring TextOf(const LibraryNames& library) {
+    return L"TVLejisCore " + library.version + L"\n" + library.file + L"\nLEJIS host: " +
+           library.host.value_or(L"not named by this library");
+}
+
 int PrintVersion(const CommandLine& commandLine) {
-    // Asked for first: it raises where there is no library.
-    const std::wstring library = LibraryVersion();
+    std::wstring reason;
+    const auto library = NamesOfLibrary(reason);
     if (commandLine.json) {
         Json document = JsonDocument(L"version", kExitDone);
         document["lejis"] = PUBLIC_VERSION;
-        document["library"] = {{"version", JsonText(library)}, {"file", JsonText(LibraryFile())}};
+        document["library"] = library ? JsonOf(*library) : Json();
         Print(document);
     } else {
-        Console::Output().Write(L"lejis " PUBLIC_VERSION L"\nTVLejisCore " + library + L"\n" + LibraryFile() + L"\n");
+        Console::Output().Write(L"lejis " PUBLIC_VERSION L"\n" + (library ? TextOf(*library) : reason) + L"\n");
     }
     return kExitDone;
 }

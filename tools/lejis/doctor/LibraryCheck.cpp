@@ -1,6 +1,6 @@
 #include "doctor/LibraryCheck.h"
 
-#include "library/InstalledLibrary.h"
+#include "library/DllFile.h"
 #include "library/Library.h"
 #include "library/LibraryError.h"
 #include "library/NotRegistered.h"

@@ -2,8 +2,6 @@
 
 #include "library/Library.h"
 
-#include <winver.h>
-
 namespace lejis_client {
 namespace {
 
@@ -34,20 +32,6 @@ std::optional<std::wstring> RegisteredFile(Bitness bitness) {
     RegCloseKey(key);
     if (result != ERROR_SUCCESS) return {};
     return std::wstring(path.c_str());
-}
-
-std::optional<std::wstring> VersionOf(const std::wstring& file) {
-    DWORD ignored = 0;
-    std::vector<char> block(GetFileVersionInfoSizeW(file.c_str(), &ignored));
-    const auto size = static_cast<DWORD>(block.size());
-    void* found = nullptr;
-    UINT length = 0;
-    if (block.empty() || !GetFileVersionInfoW(file.c_str(), 0, size, block.data())) return {};
-    if (!VerQueryValueW(block.data(), L"\\", &found, &length)) return {};
-    const auto& fixed = *static_cast<const VS_FIXEDFILEINFO*>(found);
-    // Major, minor and revision; the build number is not used.
-    return std::to_wstring(HIWORD(fixed.dwFileVersionMS)) + L"." + std::to_wstring(LOWORD(fixed.dwFileVersionMS)) +
-           L"." + std::to_wstring(LOWORD(fixed.dwFileVersionLS));
 }
 
 }  // namespace lejis_client

@@ -16,7 +16,4 @@ bool SystemHas(Bitness bitness);
 // Where the library is registered; nothing when it is not.
 std::optional<std::wstring> RegisteredFile(Bitness bitness);
 
-// The public version of a library's file; nothing when there is no such file, or none with a version.
-std::optional<std::wstring> VersionOf(const std::wstring& file);
-
 }  // namespace lejis_client

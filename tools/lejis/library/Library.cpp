@@ -1,5 +1,6 @@
 #include "library/Library.h"
 
+#include "library/DllFile.h"
 #include "library/LibraryError.h"
 #include "library/NotRegistered.h"
 #include "text/WindowsText.h"
@@ -24,8 +25,6 @@ std::wstring FileOfModule(HMODULE module) {
     name.resize(GetModuleFileNameW(module, name.data(), static_cast<DWORD>(name.size())));
     return name;
 }
-
-bool FileExists(const std::wstring& name) { return GetFileAttributesW(name.c_str()) != INVALID_FILE_ATTRIBUTES; }
 
 }  // namespace
 
@@ -64,6 +63,8 @@ std::wstring LibraryVersion() {
 }
 
 std::wstring LibraryFile() { return FileOfModule(GetModuleHandleW(kLibraryName)); }
+
+std::optional<std::wstring> LejisHost() { return LejisHostOf(LibraryFile()); }
 
 std::wstring HowToRegister() {
     const std::wstring program = FileOfModule(nullptr);

@@ -6,6 +6,7 @@
 #include <windows.h>
 #include <wrl/client.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,6 +33,8 @@ std::vector<std::wstring> Texts(ICollection* collection);
 std::wstring LibraryVersion();
 // Where the library was found; it must have been used before.
 std::wstring LibraryFile();
+// The LEJIS host that it was made for; nothing when it does not name one. It must have been used before.
+std::optional<std::wstring> LejisHost();
 // How to register it, in one sentence.
 std::wstring HowToRegister();
 
