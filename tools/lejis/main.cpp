@@ -15,8 +15,6 @@
 #include "platform/ComError.h"
 #include "search/Search.h"
 #include "show/Show.h"
-#include "submission/NamedIncident.h"
-#include "text/Json.h"
 #include "text/WindowsText.h"
 #include "Version.h"
 

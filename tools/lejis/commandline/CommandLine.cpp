@@ -22,6 +22,7 @@ constexpr Switch kSwitches[] = {
     {L"--validate-schema", &CommandLine::validateSchema, &Command::canValidateSchema},
     {L"--xml", &CommandLine::xml, &Command::searches},
     {L"--recurse", &CommandLine::recurse, &Command::takesIncidents},
+    {L"--force", &CommandLine::force, &Command::needsUrl},
 };
 
 struct Option {

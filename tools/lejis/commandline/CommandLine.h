@@ -26,6 +26,8 @@ struct CommandLine {
     bool validateSchema = false;
     bool xml = false;
     bool recurse = false;
+    // Whether to send by a library that is made for no true LEJIS.
+    bool force = false;
     // Whether the answer is for a program.
     bool json = false;
     std::optional<std::wstring> url;

@@ -102,6 +102,8 @@ Submits each incident to LEJIS. An incident that LEJIS has already is replaced.
                       row; 10 if left out
   --rate N            begin no more than N a second
   --timeout SECONDS   how long to wait for LEJIS with one incident; 300 if left out
+  --force             send also by a library that is made for lejis.example, which
+                      otherwise talks to this machine alone
   --json              print one JSON object a line, for programs
 
 Each incident ends as
@@ -130,7 +132,7 @@ is to be tried again, or is unknown; 3 both; 130 Ctrl-C ended it.
 inline constexpr wchar_t kDeleteHelp[] =
     LR"(lejis delete FILE... --url URL [OPTION...]
 lejis delete --ori ORI --id ID --submitted YYYY-MM-DD [--organization NAME]
-             --url URL [--json]
+             --url URL [--force] [--json]
 
 Withdraws incidents from LEJIS. Of a file only the identifiers are used.
 
@@ -139,6 +141,8 @@ Withdraws incidents from LEJIS. Of a file only the identifiers are used.
   --submitted YYYY-MM-DD  the day on which the incident was submitted
   --organization NAME     the agency's name
   --url URL               address of the submission service of the LEJIS Interface
+  --force                 send also by a library that is made for lejis.example,
+                          which otherwise talks to this machine alone
   --json                  print one JSON object a line, for programs
 
   --ledger, --recurse, --jobs, --retry, --stop-after, --rate and --timeout are those of
@@ -191,6 +195,8 @@ and inches, as 510, a weight in pounds. LEJIS wants a serial number for property
   --max N             get no more than N incidents
   --exclude-ori ORI   leave an agency out; may be given more than once
   --validate-schema   check the request against the service's own schema first
+  --force             send also by a library that is made for lejis.example, which
+                      otherwise talks to this machine alone
   --xml               print the incident cards as one XML document
   --json              print what was found as one JSON document
   --wait SECONDS      how long to wait for the answer, once the search is sent;

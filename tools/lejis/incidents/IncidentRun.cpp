@@ -1,10 +1,10 @@
 #include "incidents/IncidentRun.h"
 
+#include "commandline/LibraryForUrl.h"
 #include "console/Console.h"
 #include "console/ExitCode.h"
 #include "files/FileError.h"
 #include "files/FileList.h"
-#include "library/Library.h"
 #include "report/Report.h"
 #include "submission/Backlog.h"
 #include "submission/IncidentJob.h"
@@ -111,7 +111,7 @@ private:
 int RunOnIncidents(const CommandLine& commandLine) {
     const BacklogSettings settings = BacklogSettings::Of(commandLine);
     // Asked for first, so that a missing library is one sentence and not one for each file.
-    LibraryVersion();
+    RequireLibraryForUrl(commandLine);
     return IncidentRun(commandLine, settings).Run();
 }
 

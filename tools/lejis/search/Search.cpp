@@ -1,5 +1,6 @@
 #include "search/Search.h"
 
+#include "commandline/LibraryForUrl.h"
 #include "console/Console.h"
 #include "console/ExitCode.h"
 #include "console/PrintJson.h"
@@ -84,8 +85,7 @@ Failure NoAnswer(long seconds) {
 }  // namespace
 
 int Search(const CommandLine& commandLine) {
-    // Asked for first: it raises where there is no library.
-    LibraryVersion();
+    RequireLibraryForUrl(commandLine);
     const Interruption interruption(commandLine.json ? TellInterruptionInJson : TellInterruption, kPatience);
     SearchConnection connection(commandLine);
     ShowSearching(0);

@@ -1,0 +1,24 @@
+// Addresses of services in the web.
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace lejis_client {
+
+struct WebAddress {
+    // Lower case, as in "http".
+    std::wstring scheme;
+    // Without the port; numbers of IPv6 without their brackets.
+    std::wstring host;
+    // From the question mark on; may be empty.
+    std::wstring query;
+};
+
+// Nothing when this is no address of HTTP or HTTPS with a host.
+std::optional<WebAddress> ParseWebAddress(const std::wstring& address);
+
+// Whether a host is this machine, by its name alone: nothing is looked up.
+bool IsThisMachine(const std::wstring& host);
+
+}  // namespace lejis_client
