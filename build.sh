@@ -1,19 +1,22 @@
 #!/bin/bash
-# build.sh [x86|x64|all] [TARGET...]
+# build.sh [--lejis-host HOST] [x86|x64|all] [TARGET...]
 # Builds the library, its command-line client, the tests and the benchmarks into build/x86 and build/x64, or only the
-# targets that are named.
+# targets that are named. HOST is the host in the namespaces of the LEJIS that they are made for; without it they are
+# made for lejis.example, which stands for none.
 # Environment: BUILD_TYPE (a CMake build type), CMAKE_OPTIONS (more options, separated by blanks).
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
 
-architectures=$(architectures_of "${1:-all}")
-targets=("${@:2}")
+take_lejis_host "$@"
+architectures=$(architectures_of "${arguments[0]:-all}")
+targets=("${arguments[@]:1}")
 
 # The options that a build folder was configured with are kept in it; other options configure it again.
 options_of() {
   local options=()
   [[ -z ${BUILD_TYPE:-} ]] || options+=("-DCMAKE_BUILD_TYPE=$BUILD_TYPE")
+  [[ -z $lejis_host ]] || options+=("-DLEJIS_HOST=$lejis_host")
   # shellcheck disable=SC2206  # several options are wanted from one variable
   options+=(${CMAKE_OPTIONS:-})
   ((${#options[@]} == 0)) || printf '%s\n' "${options[@]}"
@@ -49,7 +52,7 @@ build() {
   local log=$project/build/$1-build.log started=$SECONDS
   is_configured "$1" || configure "$1"
   quietly "$log" cmake --build "$project/build/$1" ${targets[0]:+--target "${targets[@]}"} || fail "building $1 failed (full log: $log)"
-  say "$1 built in $((SECONDS - started)) s:"
+  say "$1 built${lejis_host:+ for $lejis_host} in $((SECONDS - started)) s:"
   find "build/$1/bin" -maxdepth 1 -type f \( -name '*.dll' -o -name '*.exe' \) -printf '  %-36p %8k KB\n'
 }
 

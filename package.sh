@@ -1,15 +1,18 @@
 #!/bin/bash
-# package.sh [x86|x64|all]
+# package.sh [--lejis-host HOST] [x86|x64|all]
 # Builds the library and makes its packages in build/packages: for each bitness a zip, a zip of the debug symbols and an
-# installer (MSI), and SHA256SUMS.
+# installer (MSI), and SHA256SUMS. HOST is the host in the namespaces of the LEJIS that they are made for, and stands in
+# the packages' names; without it they are made for lejis.example, which stands for none.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
 # shellcheck source=tools/wine-environment.sh
 source "$project/tools/wine-environment.sh"
 
-(($# <= 1)) || wrong_usage "usage: package.sh [x86|x64|all]"
-architectures=$(architectures_of "${1:-all}")
+take_lejis_host "$@"
+((${#arguments[@]} <= 1)) || wrong_usage "usage: package.sh [--lejis-host HOST] [x86|x64|all]"
+architectures=$(architectures_of "${arguments[0]:-all}")
+build=("$project/build.sh" ${lejis_host:+--lejis-host "$lejis_host"})
 packages=$project/build/packages
 
 # The type library is read by a Windows program, of a bitness that runs here; either reads both.
@@ -35,9 +38,9 @@ describe() {
 clean_up_with stop_wine
 lock_checkout
 run "$project/tools/setup.sh"
-run "$project/build.sh" "$reader" describe_type_library
+run "${build[@]}" "$reader" describe_type_library
 for architecture in $architectures; do
-  run "$project/build.sh" "$architecture" TVLejisCore lejis
+  run "${build[@]}" "$architecture" TVLejisCore lejis
 done
 start_wine
 for architecture in $architectures; do

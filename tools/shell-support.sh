@@ -77,6 +77,31 @@ clean_up_with() {
   trap 'exit 143' TERM
 }
 
+# take_lejis_host [ARGUMENT...]: sets `lejis_host` to the value of the option --lejis-host, or to nothing without one, and
+# `arguments` to the others.
+# shellcheck disable=SC2034  # the script that called uses both
+take_lejis_host() {
+  lejis_host=
+  arguments=()
+  while (($#)); do
+    case $1 in
+      --lejis-host)
+        (($# > 1)) || wrong_usage "--lejis-host needs a host name"
+        lejis_host=$(checked_host "$2")
+        shift
+        ;;
+      --lejis-host=*) lejis_host=$(checked_host "${1#*=}") ;;
+      *) arguments+=("$1") ;;
+    esac
+    shift
+  done
+}
+
+checked_host() {
+  [[ $1 =~ ^[A-Za-z0-9]([A-Za-z0-9.-]*[A-Za-z0-9])?$ ]] || wrong_usage "'$1' is no host name"
+  say "$1"
+}
+
 # take_architecture DEFAULT [ARGUMENT...]: sets `architecture` to the first argument, where that is one, and `arguments`
 # to the others.
 # shellcheck disable=SC2034  # the script that called uses both

@@ -7,11 +7,12 @@ import tempfile
 import unittest
 import zipfile
 from pathlib import Path
+from unittest import mock
 from xml.etree import ElementTree
 
 from lxml import etree
 
-from package_case import PACKAGES, PROJECT, PackageCase, for_each_architecture, installed_folder, package
+from package_case import BITS, PACKAGES, PROJECT, PackageCase, for_each_architecture, installed_folder, package
 
 import archive
 import manifests
@@ -121,6 +122,37 @@ class ContentTest(PackageCase):
             archive.write(one, {"a": b"1", "b": b"2"}, 1700000000)
             archive.write(two, {"b": b"2", "a": b"1"}, 1700000000)
             self.assertEqual(one.read_bytes(), two.read_bytes())
+
+
+class LejisHostTest(PackageCase):
+    @for_each_architecture
+    def test_usual_packages_name_the_host_inside(self, architecture):
+        guide = content(package(architecture, ".zip"))["docs/installing.md"].decode()
+        self.assertIn("made for the LEJIS host `lejis.example`", guide)
+        self.assertEqual(msi_property(package(architecture, ".msi"), "LEJISHOST"), "lejis.example")
+        self.assertEqual(msi_property(package(architecture, ".msi"), "ProductName"),
+                         f"TVLejisCore ({BITS[architecture]}-bit)")
+
+    @for_each_architecture
+    def test_packages_for_another_host_name_it_outside_too(self, architecture):
+        host = "core.lejis.test"
+        description = PROJECT / "build" / architecture / "packaging" / "type_library.tsv"
+        with tempfile.TemporaryDirectory() as folder, mock.patch.object(packaging, "lejis_host", lambda _: host):
+            packaging.main(architecture, description, folder)
+            name = f"TVLejisCore-{public_version()}-{host}-{architecture}"
+            self.assertEqual({path.name for path in Path(folder).iterdir()},
+                             {f"{name}.zip", f"{name}-symbols.zip", f"{name}.msi"})
+            installer = Path(folder, f"{name}.msi")
+            self.assertEqual(msi_property(installer, "LEJISHOST"), host)
+            self.assertEqual(msi_property(installer, "ProductName"), f"TVLejisCore for {host} ({BITS[architecture]}-bit)")
+            guide = content(Path(folder, f"{name}.zip"))["docs/installing.md"].decode()
+            self.assertIn(f"made for the LEJIS host `{host}`", guide)
+
+    @for_each_architecture
+    def test_the_programs_say_it_too(self, architecture):
+        self.install(architecture)
+        document = self.lejis(installed_folder(architecture), "--version")
+        self.assertEqual(document["library"]["lejisHost"], packaging.lejis_host(architecture))
 
 
 class VersionTest(PackageCase):

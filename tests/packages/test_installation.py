@@ -106,7 +106,8 @@ class InstallationTest(PackageCase):
         self.addCleanup(shutil.rmtree, folder)
         description = PROJECT / "build" / architecture / "packaging" / "type_library.tsv"
         output = Path(folder) / "newer.msi"
-        packaging.build_installer(type_library.read(description), architecture, "99.0.0.1", 1700000000, output)
+        packaging.build_installer(type_library.read(description), architecture, "99.0.0.1",
+                                  packaging.DEFAULT_LEJIS_HOST, 1700000000, output)
         return machine.windows_path(output)
 
     def test_the_versions_have_products_of_their_own_and_one_family(self):

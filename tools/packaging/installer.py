@@ -51,24 +51,27 @@ def _add_rows(component, rows, key_path=False):
 
 
 class Source:
-    """The installer's source for one bitness; `files` are what goes into its folder, the DLL first."""
+    """The installer's source for one bitness; `files` are what goes into its folder, the DLL first. `title` is what
+    people see of it, `host` the LEJIS host that the library is made for."""
 
-    def __init__(self, library, architecture, file_version, files):
+    def __init__(self, library, architecture, file_version, files, title, host):
         self.type_library, self.architecture, self.files = library, architecture, files
+        self.title, self.host = title, host
         self.file_version, self.version = file_version, public_version(file_version)
         self.components = []
 
     def document(self):
         root = ElementTree.Element("Wix", xmlns="http://schemas.microsoft.com/wix/2006/wi")
         product = _add(root, "Product", Id=product_code(self.architecture, self.version), Version=self.version,
-                       Name=f"TVLejisCore ({BITS[self.architecture]})", Manufacturer="Talvex", Language="1033",
+                       Name=f"{self.title} ({BITS[self.architecture]})", Manufacturer="Talvex", Language="1033",
                        UpgradeCode=UPGRADE_CODES[self.architecture])
         _add(product, "Package", InstallerVersion="200", InstallScope="perMachine", Compressed="yes",
              Manufacturer="Talvex", Description="Talvex Core LEJIS Support",
-             Comments="Registers the LEJIS classes for all users")
+             Comments=f"Registers the LEJIS classes for all users; made for the LEJIS host {self.host}")
         _add(product, "MajorUpgrade", DowngradeErrorMessage=DOWNGRADE)
         _add(product, "Media", Id="1", Cabinet="files.cab", EmbedCab="yes")
         _add(product, "Property", Id="ARPNOMODIFY", Value="1")
+        _add(product, "Property", Id="LEJISHOST", Value=self.host)
         self._add_folders(product)
         feature = _add(product, "Feature", Id="Library", Level="1", Title="TVLejisCore")
         for component in self.components:
@@ -158,7 +161,7 @@ def build(source, work_folder, output, moment):
         digest.update(file.read_bytes())
     # Two packages of different content must differ in this code, equal ones need not.
     code = "{" + _identifier("package", digest.hexdigest()) + "}"
-    name = f"TVLejisCore {source.version} ({BITS[source.architecture]})"
+    name = f"{source.title} {source.version} ({BITS[source.architecture]})"
     template = {"x86": "Intel;1033", "x64": "x64;1033"}[source.architecture]
     _state_file_versions(source, output)
     _run_msibuild(output, "-s", name, "Talvex", template, code)
