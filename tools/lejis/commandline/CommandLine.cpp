@@ -46,6 +46,7 @@ constexpr Option kOptions[] = {
     {L"--stop-after", &CommandLine::stopAfter, &Command::submits},
     {L"--rate", &CommandLine::rate, &Command::submits},
     {L"--timeout", &CommandLine::timeout, &Command::submits},
+    {L"--timeout", &CommandLine::timeout, &Command::diagnoses},
 };
 
 template <typename Row, std::size_t count>

@@ -214,19 +214,22 @@ network or the server failed, or no answer came in time; 130 Ctrl-C ended it.
 )";
 
 inline constexpr wchar_t kDoctorHelp[] =
-    LR"(lejis doctor [--url URL] [--search-url URL] [--json]
+    LR"(lejis doctor [--url URL] [--search-url URL] [--timeout SECONDS] [--json]
 
 Looks at everything on the road to LEJIS and says what to do about what is wrong. It
 sends no incident and changes nothing. Looked at are
 
-  - the library: is it registered, for which programs, in which version
-  - with --url: the submission service. Can its server be reached, does its WSDL
-    load, does a sample request pass its schemas
+  - the library: is it registered, for which programs, in which version; for which
+    LEJIS host is it made
+  - with --url: the submission service. Can its server be reached, is its WSDL that of
+    a submission service and of the library's LEJIS host, does a sample request pass
+    its schemas, and does a spoilt one fail them
   - with --search-url: the search service likewise
   - the debug dumps: are they on for this user, and where do they go
 
   --url URL           address of the submission service of the LEJIS Interface
   --search-url URL    address of the search service of the LEJIS Interface
+  --timeout SECONDS   how long to wait for what each line tells; 10 if left out
   --json              print one JSON document, for programs
 
 Each line begins with ok, warning, failed or skipped; the line below says what to do.

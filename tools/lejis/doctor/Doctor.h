@@ -5,6 +5,7 @@
 
 namespace lejis_client {
 
+// Returns the exit code. Raises a UsageError.
 int Diagnose(const CommandLine& commandLine);
 
 }  // namespace lejis_client

@@ -9,9 +9,7 @@ namespace {
 
 constexpr wchar_t kSubject[] = L"Debug dumps";
 
-}  // namespace
-
-Finding CheckDumps() {
+Finding CheckFlag() {
     if (!lejis::LejisUtils::DebugFlagIsOn()) return {kSubject, Health::kOk, L"off for this user", {}};
     try {
         return {kSubject, Health::kWarning,
@@ -23,5 +21,9 @@ Finding CheckDumps() {
                 L"Set DebugLejis to \"N\", or repair the suite's diagnostics folder: submissions fail until then."};
     }
 }
+
+}  // namespace
+
+void CheckDumps(Diagnosis& diagnosis) { diagnosis.Examine(Late(kSubject), CheckFlag); }
 
 }  // namespace lejis_client

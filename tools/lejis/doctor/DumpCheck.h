@@ -1,10 +1,10 @@
 // Does the library write requests and answers to files, and where?
 #pragma once
 
-#include "doctor/Finding.h"
+#include "doctor/Diagnosis.h"
 
 namespace lejis_client {
 
-Finding CheckDumps();
+void CheckDumps(Diagnosis& diagnosis);
 
 }  // namespace lejis_client

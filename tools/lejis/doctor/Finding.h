@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 namespace lejis_client {
 
@@ -19,6 +18,13 @@ struct Finding {
     bool mayPass = false;
 };
 
-using Findings = std::vector<Finding>;
+inline Finding Unseen(const wchar_t* subject) {
+    return {subject, Health::kSkipped, L"not looked at, because of what is said above", {}};
+}
+
+// What has not been found out in time; the text is written where the time is known.
+inline Finding Late(const wchar_t* subject) {
+    return {subject, Health::kFailed, {}, L"Look again with a longer --timeout.", true};
+}
 
 }  // namespace lejis_client

@@ -1,51 +1,31 @@
 #include "doctor/LibraryCheck.h"
 
-#include "library/DllFile.h"
+#include "doctor/RegistrationCheck.h"
 #include "library/Library.h"
 #include "library/LibraryError.h"
 #include "library/NotRegistered.h"
-#include "Version.h"
+#include "library/PlaceholderHost.h"
+
+#include <map>
+#include <memory>
 
 namespace lejis_client {
 namespace {
 
-constexpr const wchar_t* kNames[] = {L"32-bit library", L"64-bit library"};
 constexpr wchar_t kUse[] = L"Library in use";
+constexpr wchar_t kHost[] = L"LEJIS host";
 
-const wchar_t* NameOf(Bitness bitness) { return kNames[bitness == Bitness::k64]; }
+struct LibraryInUse {
+    std::wstring file;
+    std::optional<std::wstring> lejisHost;
+};
 
-std::wstring Bits(Bitness bitness) { return std::to_wstring(static_cast<int>(bitness)) + L"-bit"; }
-
-const std::wstring& ProgramVersion() {
-    static const std::string narrow = PUBLIC_VERSION;
-    static const std::wstring version(narrow.begin(), narrow.end());
-    return version;
-}
-
-// Many places have programs of one bitness alone.
-Finding NotThere(Bitness bitness) {
-    return {NameOf(bitness), Health::kOk, L"not registered; only " + Bits(bitness) + L" programs would need it", {}};
-}
-
-Finding CheckRegistration(Bitness bitness) {
-    const auto file = RegisteredFile(bitness);
-    if (!file) return NotThere(bitness);
-    const auto version = VersionOf(*file);
-    if (!version) {
-        return {NameOf(bitness), Health::kFailed, L"registered, but there is no library at " + *file,
-                L"Install or register the " + Bits(bitness) + L" library again."};
-    }
-    const std::wstring text = *version + L", " + *file;
-    if (*version == ProgramVersion()) return {NameOf(bitness), Health::kOk, text, {}};
-    return {NameOf(bitness), Health::kWarning, text,
-            L"This lejis is of version " + ProgramVersion() + L"; install the library and lejis of one version."};
-}
-
-Finding CheckUse() {
+Finding CheckUse(LibraryInUse& library) {
     try {
         const std::wstring version = LibraryVersion();
+        library = {LibraryFile(), LejisHost()};
         const std::wstring how = RegisteredFile(kOwnBitness) ? L"" : L", without registration, by a manifest";
-        return {kUse, Health::kOk, version + L", " + LibraryFile() + how, {}};
+        return {kUse, Health::kOk, version + L", " + library.file + how, {}};
     } catch (const NotRegistered&) {
         return {kUse, Health::kFailed, L"this lejis is a " + Bits(kOwnBitness) + L" program and finds no library",
                 HowToRegister() + L"."};
@@ -54,15 +34,43 @@ Finding CheckUse() {
     }
 }
 
+Finding HostOf(const LibraryInUse& library) {
+    if (!library.lejisHost) {
+        return {kHost, Health::kWarning, L"this library does not name the host that it is made for",
+                L"Install the library and lejis of one version."};
+    }
+    const std::wstring& host = *library.lejisHost;
+    if (host != LEJIS_HOST) {
+        return {kHost, Health::kWarning,
+                host + L", but this lejis is made for " LEJIS_HOST L" and reads its files alone",
+                L"Install the library and lejis of one package."};
+    }
+    if (!IsPlaceholderHost(host)) return {kHost, Health::kOk, host, {}};
+    return {kHost, Health::kWarning, host + L", which stands for no LEJIS: only a simulator takes its requests",
+            L"Install the library that is made for your LEJIS."};
+}
+
+// Another finding has told why the library cannot be used.
+Finding WithoutReason(const Finding& finding, bool isTold) {
+    return finding.health == Health::kFailed && isTold ? Unseen(finding.subject) : finding;
+}
+
 }  // namespace
 
-Findings CheckLibrary() {
-    Findings findings;
+std::optional<std::wstring> CheckLibrary(Diagnosis& diagnosis) {
+    std::map<Bitness, Health> registrations;
     for (const Bitness bitness : {Bitness::k32, Bitness::k64}) {
-        if (SystemHas(bitness)) findings.push_back(CheckRegistration(bitness));
+        if (!SystemHas(bitness)) continue;
+        const auto check = [=] { return CheckRegistration(bitness); };
+        registrations[bitness] = diagnosis.Examine(Late(LibraryNameOf(bitness)), check);
     }
-    findings.push_back(CheckUse());
-    return findings;
+    const bool isTold = registrations[kOwnBitness] == Health::kFailed;
+    const auto library = std::make_shared<LibraryInUse>();
+    const auto checkUse = [=] { return WithoutReason(CheckUse(*library), isTold); };
+    const bool isUsed = diagnosis.Examine(Late(kUse), checkUse) == Health::kOk;
+
+    diagnosis.Add(isUsed ? HostOf(*library) : Unseen(kHost));
+    return isUsed ? library->lejisHost : std::nullopt;
 }
 
 }  // namespace lejis_client

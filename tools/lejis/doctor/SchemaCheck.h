@@ -1,9 +1,8 @@
-// Do requests of the library pass the schemas that a service publishes?
+// Do requests of the library pass the schemas that a service publishes, and would they fail if they were wrong?
 #pragma once
 
-#include "platform/msxml/MsXml.h"
-
-#include <string>
+#include "doctor/Finding.h"
+#include "doctor/Service.h"
 
 namespace lejis_client {
 
@@ -11,7 +10,9 @@ namespace lejis_client {
 msxml::Document SampleSubmission();
 msxml::Document SampleSearch();
 
-// What is wrong; empty when nothing is.
-std::wstring SchemaFault(const msxml::Document& request, const std::wstring& wsdlUrl);
+Finding CheckSchemas(const Service& service, const std::wstring& wsdlUrl);
+
+// When the schemas have not come in time.
+Finding LateSchemas(const Service& service);
 
 }  // namespace lejis_client

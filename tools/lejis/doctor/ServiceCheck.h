@@ -1,12 +1,14 @@
-// Is there a service at an address, does it describe itself, and do requests fit its description?
+// Is there a service at an address, is it the one that belongs there, for the library's LEJIS host, and do requests fit
+// its description?
 #pragma once
 
-#include "doctor/Finding.h"
+#include "doctor/Diagnosis.h"
+#include "doctor/Service.h"
 
 namespace lejis_client {
 
-enum class ServiceKind { kSubmission, kSearch };
-
-Findings CheckService(ServiceKind kind, const std::wstring& url);
+// `lejisHost` is that of the library in use, where it is known.
+void CheckService(ServiceKind kind, const std::wstring& url, const std::optional<std::wstring>& lejisHost,
+                  Diagnosis& diagnosis);
 
 }  // namespace lejis_client

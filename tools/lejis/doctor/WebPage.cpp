@@ -7,7 +7,6 @@
 namespace lejis_client {
 namespace {
 
-constexpr DWORD kMilliseconds = 15000;
 // Far above any description of a service.
 constexpr std::size_t kLargestPage = 16 * 1024 * 1024;
 
@@ -24,7 +23,7 @@ Internet Owned(HINTERNET handle) {
 
 Internet OpenInternet() {
     Internet internet = Owned(InternetOpenW(L"lejis", INTERNET_OPEN_TYPE_PRECONFIG, nullptr, nullptr, 0));
-    DWORD limit = kMilliseconds;
+    DWORD limit = INFINITE;
     for (const DWORD option : {INTERNET_OPTION_CONNECT_TIMEOUT, INTERNET_OPTION_RECEIVE_TIMEOUT}) {
         InternetSetOptionW(internet.get(), option, &limit, sizeof limit);
     }
@@ -50,14 +49,6 @@ std::string ContentOf(HINTERNET request) {
 }
 
 }  // namespace
-
-bool IsWebAddress(const std::wstring& address) {
-    URL_COMPONENTSW parts = {};
-    parts.dwStructSize = sizeof parts;
-    parts.dwHostNameLength = 1;
-    if (!InternetCrackUrlW(address.c_str(), 0, 0, &parts) || parts.dwHostNameLength == 0) return false;
-    return parts.nScheme == INTERNET_SCHEME_HTTP || parts.nScheme == INTERNET_SCHEME_HTTPS;
-}
 
 WebPage FetchPage(const std::wstring& address) {
     constexpr DWORD kFlags = INTERNET_FLAG_RELOAD | INTERNET_FLAG_NO_CACHE_WRITE | INTERNET_FLAG_NO_UI;

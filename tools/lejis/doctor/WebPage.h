@@ -1,9 +1,8 @@
-// One GET by the system's own settings for the Internet, a proxy among them: the same that the library's requests use.
+// One GET. There is no limit of time: who waits for it sets one.
 #pragma once
 
 #include <windows.h>
 
-#include <optional>
 #include <string>
 
 namespace lejis_client {
@@ -18,10 +17,8 @@ struct WebFailure {
     DWORD error;
 };
 
-// Whether this is an address of the web at all.
-bool IsWebAddress(const std::wstring& address);
-
-// Raises a WebFailure.
+// By the system's own settings for the Internet, a proxy among them: the same that the library's requests use. Raises a
+// WebFailure.
 WebPage FetchPage(const std::wstring& address);
 
 }  // namespace lejis_client
