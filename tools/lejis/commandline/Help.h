@@ -219,8 +219,8 @@ inline constexpr wchar_t kDoctorHelp[] =
 Looks at everything on the road to LEJIS and says what to do about what is wrong. It
 sends no incident and changes nothing. Looked at are
 
-  - the library: is it registered, for which programs, in which version; for which
-    LEJIS host is it made
+  - the library: is it registered, for which programs, in which version; can every
+    class be created; for which LEJIS host is it made
   - with --url: the submission service. Can its server be reached, is its WSDL that of
     a submission service and of the library's LEJIS host, does a sample request pass
     its schemas, and does a spoilt one fail them

@@ -1,5 +1,6 @@
 #include "doctor/LibraryCheck.h"
 
+#include "doctor/ClassCheck.h"
 #include "doctor/RegistrationCheck.h"
 #include "library/Library.h"
 #include "library/LibraryError.h"
@@ -27,6 +28,9 @@ Finding CheckUse(LibraryInUse& library) {
         const std::wstring how = RegisteredFile(kOwnBitness) ? L"" : L", without registration, by a manifest";
         return {kUse, Health::kOk, version + L", " + library.file + how, {}};
     } catch (const NotRegistered&) {
+        if (RegisteredFile(kOwnBitness)) {
+            return {kUse, Health::kFailed, L"the registered library cannot be used", InstallAgain(kOwnBitness)};
+        }
         return {kUse, Health::kFailed, L"this lejis is a " + Bits(kOwnBitness) + L" program and finds no library",
                 HowToRegister() + L"."};
     } catch (const LibraryError& error) {
@@ -55,6 +59,10 @@ Finding WithoutReason(const Finding& finding, bool isTold) {
     return finding.health == Health::kFailed && isTold ? Unseen(finding.subject) : finding;
 }
 
+void ExamineClasses(Bitness bitness, const std::wstring& file, Diagnosis& diagnosis) {
+    diagnosis.Examine(Late(ClassesNameOf(bitness)), [=] { return CheckClasses(bitness, file); });
+}
+
 }  // namespace
 
 std::optional<std::wstring> CheckLibrary(Diagnosis& diagnosis) {
@@ -69,6 +77,11 @@ std::optional<std::wstring> CheckLibrary(Diagnosis& diagnosis) {
     const auto checkUse = [=] { return WithoutReason(CheckUse(*library), isTold); };
     const bool isUsed = diagnosis.Examine(Late(kUse), checkUse) == Health::kOk;
 
+    for (const auto& [bitness, health] : registrations) {
+        const bool isInUse = isUsed && bitness == kOwnBitness;
+        const auto file = isInUse ? std::optional(library->file) : RegisteredFile(bitness);
+        if (file && (isInUse || health != Health::kFailed)) ExamineClasses(bitness, *file, diagnosis);
+    }
     diagnosis.Add(isUsed ? HostOf(*library) : Unseen(kHost));
     return isUsed ? library->lejisHost : std::nullopt;
 }

@@ -14,17 +14,29 @@ const std::wstring& ProgramVersion() {
     return version;
 }
 
-// Many places have programs of one bitness alone.
+// Many places have programs of one bitness alone, but the suite is one of 32 bits.
 Finding NotThere(Bitness bitness) {
+    if (bitness == Bitness::k32 && RegisteredFile(Bitness::k64)) {
+        return {LibraryNameOf(bitness), Health::kWarning,
+                L"not registered, though the 64-bit one is: the suite is a 32-bit program and finds no library",
+                L"Install the x86 package where the suite runs."};
+    }
     return {
         LibraryNameOf(bitness), Health::kOk, L"not registered; only " + Bits(bitness) + L" programs would need it", {}};
 }
 
+Finding Failed(Bitness bitness, const std::wstring& text) {
+    return {LibraryNameOf(bitness), Health::kFailed, text, InstallAgain(bitness)};
+}
+
 Finding CheckFile(Bitness bitness, const std::wstring& file) {
+    if (!FileExists(file)) return Failed(bitness, L"registered, but there is no file " + file);
+    const auto found = BitnessOf(file);
     const auto version = VersionOf(file);
-    if (!version) {
-        return {LibraryNameOf(bitness), Health::kFailed, L"registered, but there is no library at " + file,
-                InstallAgain(bitness)};
+    if (!found || !version) return Failed(bitness, L"registered, but this is no library: " + file);
+    if (*found != bitness) {
+        return Failed(bitness, L"registered is a " + Bits(*found) + L" library, which no " + Bits(bitness) +
+                                   L" program can load: " + file);
     }
     const std::wstring host = LejisHostOf(file).value_or(L"");
     const std::wstring text = *version + (host.empty() ? L"" : L" for " + host) + L", " + file;

@@ -1,6 +1,8 @@
 // What the registry says about the library, for programs of either bitness.
 #pragma once
 
+#include <windows.h>
+
 #include <optional>
 #include <string>
 
@@ -13,7 +15,10 @@ inline constexpr Bitness kOtherBitness = sizeof(void*) == 8 ? Bitness::k32 : Bit
 
 bool SystemHas(Bitness bitness);
 
-// Where the library is registered; nothing when it is not.
+// Where the library is registered, by its foremost classes; nothing when none of them is.
 std::optional<std::wstring> RegisteredFile(Bitness bitness);
+
+// Where one class is registered.
+std::optional<std::wstring> RegisteredFile(Bitness bitness, const CLSID& classId);
 
 }  // namespace lejis_client

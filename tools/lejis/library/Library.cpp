@@ -75,8 +75,12 @@ std::wstring HowToRegister() {
     BOOL underWow64 = FALSE;
     IsWow64Process(GetCurrentProcess(), &underWow64);
     const std::wstring tool = underWow64 ? L"C:\\Windows\\SysWOW64\\regsvr32.exe" : L"regsvr32";
-    return L"TVLejisCore is not registered for " + bits +
-           L"-bit programs here; register it once, as administrator, with: " + tool + L" \"" + library + L"\"";
+    const auto registered = RegisteredFile(kOwnBitness);
+    const std::wstring what =
+        registered ? L"TVLejisCore cannot be loaded for " + bits + L"-bit programs from where it is registered, " +
+                         *registered + L"; register it again"
+                   : L"TVLejisCore is not registered for " + bits + L"-bit programs here; register it once";
+    return what + L", as administrator, with: " + tool + L" \"" + library + L"\"";
 }
 
 }  // namespace lejis_client

@@ -1,0 +1,16 @@
+// Can every class of a library be created? Those of a library that this program cannot load are looked up in its
+// registration.
+#pragma once
+
+#include "doctor/Finding.h"
+#include "library/InstalledLibrary.h"
+
+namespace lejis_client {
+
+// The subject of the finding.
+const wchar_t* ClassesNameOf(Bitness bitness);
+
+// `file`: the library, which need not be registered when it is of this program's own bitness.
+Finding CheckClasses(Bitness bitness, const std::wstring& file);
+
+}  // namespace lejis_client
