@@ -4,7 +4,7 @@ import os
 from lejis_case import SimulatorCase
 
 # What it looks at on this machine, beside the registration of either bitness.
-LOCAL = {"Library in use", "LEJIS host", "Debug dumps"}
+LOCAL = {"Library in use", "LEJIS host", "Proxy", "Debug dumps"}
 
 
 class DoctorCase(SimulatorCase):

@@ -4,6 +4,7 @@
 #include "doctor/Diagnosis.h"
 #include "doctor/DumpCheck.h"
 #include "doctor/LibraryCheck.h"
+#include "doctor/ProxyCheck.h"
 #include "doctor/ServiceCheck.h"
 #include "text/Number.h"
 
@@ -24,6 +25,7 @@ long Seconds(const CommandLine& commandLine) {
 
 void Examine(const CommandLine& commandLine, Diagnosis& diagnosis) {
     const auto lejisHost = CheckLibrary(diagnosis);
+    diagnosis.Add(CheckProxy());
     if (commandLine.url) CheckService(ServiceKind::kSubmission, *commandLine.url, lejisHost, diagnosis);
     if (commandLine.searchUrl) CheckService(ServiceKind::kSearch, *commandLine.searchUrl, lejisHost, diagnosis);
     CheckDumps(diagnosis);

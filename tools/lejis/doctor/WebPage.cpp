@@ -21,8 +21,8 @@ Internet Owned(HINTERNET handle) {
     return Internet(handle);
 }
 
-Internet OpenInternet() {
-    Internet internet = Owned(InternetOpenW(L"lejis", INTERNET_OPEN_TYPE_PRECONFIG, nullptr, nullptr, 0));
+Internet OpenInternet(DWORD access) {
+    Internet internet = Owned(InternetOpenW(L"lejis", access, nullptr, nullptr, 0));
     DWORD limit = INFINITE;
     for (const DWORD option : {INTERNET_OPTION_CONNECT_TIMEOUT, INTERNET_OPTION_RECEIVE_TIMEOUT}) {
         InternetSetOptionW(internet.get(), option, &limit, sizeof limit);
@@ -48,14 +48,18 @@ std::string ContentOf(HINTERNET request) {
     return content;
 }
 
-}  // namespace
-
-WebPage FetchPage(const std::wstring& address) {
+WebPage Fetch(const std::wstring& address, DWORD access) {
     constexpr DWORD kFlags = INTERNET_FLAG_RELOAD | INTERNET_FLAG_NO_CACHE_WRITE | INTERNET_FLAG_NO_UI;
-    const Internet internet = OpenInternet();
+    const Internet internet = OpenInternet(access);
     const Internet request = Owned(InternetOpenUrlW(internet.get(), address.c_str(), nullptr, 0, kFlags, 0));
     const DWORD status = StatusOf(request.get());
     return {status, ContentOf(request.get())};
 }
+
+}  // namespace
+
+WebPage FetchPage(const std::wstring& address) { return Fetch(address, INTERNET_OPEN_TYPE_PRECONFIG); }
+
+WebPage FetchPageDirectly(const std::wstring& address) { return Fetch(address, INTERNET_OPEN_TYPE_DIRECT); }
 
 }  // namespace lejis_client

@@ -21,4 +21,7 @@ struct WebFailure {
 // WebFailure.
 WebPage FetchPage(const std::wstring& address);
 
+// Past any proxy. Raises a WebFailure.
+WebPage FetchPageDirectly(const std::wstring& address);
+
 }  // namespace lejis_client
