@@ -1,16 +1,32 @@
 """What the tests of lejis doctor share."""
 import os
+from pathlib import Path
 
 from lejis_case import SimulatorCase
 
+FLAGS = r"HKCU\Software\VB and VBA Program Settings\TalvexSuite\Flags"
+DUMPS = ("LejisSubmitRequest.xml", "LejisSubmitResponse.xml", "LejisSearchRequest.xml", "LejisSearchResponse.xml")
 # What it looks at on this machine, beside the registration of either bitness.
-LOCAL = {"Library in use", "LEJIS host", "Proxy", "Debug dumps"}
+LOCAL = {"Library in use", "LEJIS host", "Proxy", "Debug dumps", "Dump files"}
+
+
+def dump_folders():
+    """Of all users of the prefix."""
+    users = Path(os.environ["WINEPREFIX"], "drive_c", "users")
+    return list(users.glob("*/AppData/Local/TalvexSuite/Diagnostics"))
 
 
 class DoctorCase(SimulatorCase):
     def setUp(self):
         super().setUp()
         self.search_url = os.environ["LEJIS_SIMULATOR_URL"] + "/lejis-core-Rev01/services/search"
+        self.remove_dumps()
+
+    @staticmethod
+    def remove_dumps():
+        for folder in dump_folders():
+            for name in DUMPS:
+                (folder / name).unlink(missing_ok=True)
 
     def findings(self, code, *arguments, **options):
         """The health and the text by the subject; the cure stands in the text's second line."""

@@ -1,21 +1,64 @@
 """lejis doctor: the user's settings for debug dumps and for the proxy."""
 import unittest
 
-from doctor_case import DoctorCase
-from lejis_case import DONE, TRY_AGAIN
+from doctor_case import DUMPS, FLAGS, DoctorCase, dump_folders
+from lejis_case import DONE, PROJECT, TRY_AGAIN
 from registration import reg, set_value
 from small_server import Proxy
 
-FLAGS = r"HKCU\Software\VB and VBA Program Settings\TalvexSuite\Flags"
 INTERNET = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Internet Settings"
 
 
 class DumpsTest(DoctorCase):
+    def set_flag(self, text, kind="REG_SZ"):
+        reg("add", FLAGS, "/v", "DebugLejis", "/t", kind, "/d", text, "/f")
+
+    def setUp(self):
+        super().setUp()
+        set_value(self, FLAGS, "DebugLejis", "N")
+
     def test_dumps_that_are_on(self):
-        set_value(self, FLAGS, "DebugLejis", "Y")
+        self.set_flag("Y")
         health, text = self.findings(DONE)["Debug dumps"]
         self.assertEqual(health, "warning")
         self.assertRegex(text, r"personal data, are written to C:\\.*\\TalvexSuite\\Diagnostics\nSet DebugLejis to ")
+
+    def test_values_that_look_like_on_and_mean_off(self):
+        for text, kind, written in (("y", "REG_SZ", '"y"'), ("Yes", "REG_SZ", '"Yes"'), ("1", "REG_SZ", '"1"'),
+                                    ("Y ", "REG_SZ", '"Y "'), ("true", "REG_SZ", '"true"'),
+                                    ("1", "REG_DWORD", "the number 1")):
+            with self.subTest(text, kind=kind):
+                self.set_flag(text, kind)
+                health, words = self.findings(DONE)["Debug dumps"]
+                self.assertEqual(health, "warning")
+                self.assertTrue(words.startswith(f"off for this user, though DebugLejis is {written}: only"), words)
+
+    def test_values_that_mean_off(self):
+        for text, kind in (("N", "REG_SZ"), ("", "REG_SZ"), ("0", "REG_SZ"), ("off", "REG_SZ"), ("0", "REG_DWORD")):
+            with self.subTest(text, kind=kind):
+                self.set_flag(text, kind)
+                self.assertEqual(self.findings(DONE)["Debug dumps"], ("ok", "off for this user"))
+
+    def test_files_that_are_left(self):
+        self.set_flag("Y")
+        self.findings(DONE)
+        self.set_flag("N")
+        self.addCleanup(self.remove_dumps)
+        for name in DUMPS:
+            (dump_folders()[0] / name).write_text("<a/>", encoding="ascii")
+            health, text = self.findings(DONE)["Dump files"]
+            self.assertEqual(health, "warning")
+            self.assertRegex(text, rf"^with personal data in C:\\.*\\Diagnostics: .*{name}\nDelete them")
+
+    def test_it_makes_no_folder_for_them(self):
+        for folder in dump_folders():
+            folder.rmdir()
+        self.assertEqual(self.findings(DONE)["Dump files"], ("ok", "none are there"))
+        self.assertEqual(dump_folders(), [])
+
+    def test_it_knows_the_files_that_the_guide_names(self):
+        guide = (PROJECT / "docs" / "debug-dumps.md").read_text(encoding="utf-8")
+        self.assertEqual({line.split("`")[1] for line in guide.splitlines() if line.startswith("| `Lejis")}, set(DUMPS))
 
 
 class ProxyTest(DoctorCase):

@@ -226,7 +226,7 @@ sends no incident and changes nothing. Looked at are
     a submission service and of the library's LEJIS host, does a sample request pass
     its schemas, and does a spoilt one fail them
   - with --search-url: the search service likewise
-  - the debug dumps: are they on for this user, and where do they go
+  - the debug dumps: are they on for this user, where do they go, are any left
 
   --url URL           address of the submission service of the LEJIS Interface
   --search-url URL    address of the search service of the LEJIS Interface

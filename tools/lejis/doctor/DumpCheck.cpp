@@ -1,6 +1,8 @@
 #include "doctor/DumpCheck.h"
 
+#include "doctor/DebugFlag.h"
 #include "foundation/LejisUtils.h"
+#include "library/DllFile.h"
 #include "platform/ComError.h"
 #include "platform/host/SuiteEnvironment.h"
 
@@ -8,9 +10,12 @@ namespace lejis_client {
 namespace {
 
 constexpr wchar_t kSubject[] = L"Debug dumps";
+constexpr wchar_t kFiles[] = L"Dump files";
 
-Finding CheckFlag() {
-    if (!lejis::LejisUtils::DebugFlagIsOn()) return {kSubject, Health::kOk, L"off for this user", {}};
+constexpr const wchar_t* kNames[] = {L"LejisSubmitRequest.xml", L"LejisSubmitResponse.xml", L"LejisSearchRequest.xml",
+                                     L"LejisSearchResponse.xml"};
+
+Finding FlagThatIsOn() {
     try {
         return {kSubject, Health::kWarning,
                 L"on for this user: requests and answers, with personal data, are written to " +
@@ -22,8 +27,56 @@ Finding CheckFlag() {
     }
 }
 
+Finding CheckFlag() {
+    if (lejis::LejisUtils::DebugFlagIsOn()) return FlagThatIsOn();
+    const std::wstring value = DebugFlagAsWritten();
+    if (!LooksOn(value)) return {kSubject, Health::kOk, L"off for this user", {}};
+    return {
+        kSubject, Health::kWarning,
+        L"off for this user, though DebugLejis is " + value + L": only the text \"Y\", in upper case, turns them on",
+        L"Set DebugLejis to \"Y\" if you want dumps, and to \"N\" if you do not."};
+}
+
+// The folder of the dumps, where there is one; nothing is created. Without the suite the library makes it on its first
+// use.
+std::optional<std::wstring> ExistingFolder() {
+    CLSID ignored;
+    if (FAILED(CLSIDFromProgID(L"TalvexSuite.SuiteEnvironment", &ignored))) {
+        wchar_t base[MAX_PATH] = {};
+        const DWORD length = GetEnvironmentVariableW(L"LOCALAPPDATA", base, ARRAYSIZE(base));
+        const std::wstring folder = base + std::wstring(L"\\TalvexSuite\\Diagnostics");
+        return length > 0 && length < ARRAYSIZE(base) && FileExists(folder) ? std::optional(folder) : std::nullopt;
+    }
+    return platform::host::DiagnosticsFolder();
+}
+
+// The names of those that are there, one after the other.
+std::wstring DumpsIn(const std::wstring& folder) {
+    std::wstring found;
+    for (const wchar_t* name : kNames) {
+        if (FileExists(folder + L'\\' + name)) found += (found.empty() ? L"" : L", ") + std::wstring(name);
+    }
+    return found;
+}
+
+Finding CheckFiles() {
+    try {
+        const auto folder = ExistingFolder();
+        const std::wstring found = folder ? DumpsIn(*folder) : std::wstring();
+        if (found.empty()) return {kFiles, Health::kOk, L"none are there", {}};
+        return {kFiles, Health::kWarning, L"with personal data in " + *folder + L": " + found,
+                L"Delete them when nobody needs them any more."};
+    } catch (const platform::ComError& error) {
+        return {kFiles, Health::kWarning, L"the suite names no folder for them: " + error.Description(),
+                L"Repair the suite's diagnostics folder."};
+    }
+}
+
 }  // namespace
 
-void CheckDumps(Diagnosis& diagnosis) { diagnosis.Examine(Late(kSubject), CheckFlag); }
+void CheckDumps(Diagnosis& diagnosis) {
+    diagnosis.Examine(Late(kSubject), CheckFlag);
+    diagnosis.Examine(Late(kFiles), CheckFiles);
+}
 
 }  // namespace lejis_client

@@ -1,4 +1,4 @@
-// Does the library write requests and answers to files, and where?
+// Does the library write requests and answers to files, and where, and are such files left?
 #pragma once
 
 #include "doctor/Diagnosis.h"
