@@ -4,7 +4,7 @@ import re
 import subprocess
 import unittest
 
-from lejis_case import DONE, PROJECT, REFUSED, TIME_LIMIT, WRONG_USAGE, LejisCase
+from lejis_case import DONE, PROJECT, REFUSED, TIME_LIMIT, WRONG_USAGE, LejisCase, card
 
 COMMANDS = ("check", "show", "submit", "delete", "search", "doctor")
 
@@ -19,12 +19,20 @@ WRONG = [
     (("check", "x.xml", "--url", "u"), "unknown option --url", "lejis check --help"),
     (("doctor", "x.xml"), "unexpected argument x.xml", "lejis doctor --help"),
     (("doctor", "--user", "u"), "unknown option --user", "lejis doctor --help"),
-    (("check", "x.xml", "-v"), "unknown option -v", "lejis check --help"),
+    (("check", "x.xml", "-x"), "unknown option -x", "lejis check --help"),
+    (("check", "x.xml", "-q", "--verbose"), "give either --quiet or --verbose", "lejis check --help"),
+    (("sumbit", "x.xml"), "unknown command sumbit; did you mean submit?", "lejis --help"),
+    (("submit", "x.xml", "--ulr", "u"), "unknown option --ulr; did you mean --url?", "lejis submit --help"),
+    (("search", "--surename", "X", "--url", "u"), "unknown option --surename; did you mean --surname?",
+     "lejis search --help"),
+    (("submit", "x.xml", "--url", "u", "--url", "v"), "--url is given twice", "lejis submit --help"),
+    (("search", "--licence", "1", "--license=2", "--url", "u"), "--license is given twice", "lejis search --help"),
+    (("help", "sumbit"), "unknown command sumbit; did you mean submit?", "lejis --help"),
     (("submit", "x.xml"), "--url is missing", "lejis submit --help"),
     (("submit", "--url", "u"), "no file given", "lejis submit --help"),
     (("submit", "x.xml", "--url"), "--url needs a value", "lejis submit --help"),
     (("submit", "x.xml", "--url", "--validate-schema"), "--url needs a value", "lejis submit --help"),
-    (("submit", "x.xml", "--url", "u", "--validate-schema=no"), "unknown option --validate-schema",
+    (("submit", "x.xml", "--url", "u", "--validate-schema=no"), "--validate-schema takes no value",
      "lejis submit --help"),
     (("submit", "x.xml", "--url", "u", "--ori", "PA0990100"), "unknown option --ori", "lejis submit --help"),
     (("delete", "x.xml", "--url", "u", "--validate-schema"), "unknown option --validate-schema",
@@ -55,7 +63,7 @@ class CommandLineTest(LejisCase):
                 self.assertEqual(run, (WRONG_USAGE, "", f"lejis: {reason}\nTry {help_command}\n"))
 
     def test_help_names_every_command_and_exit_code(self):
-        for option in ("--help", "-h"):
+        for option in ("--help", "-h", "help"):
             text = self.expect(DONE, option)
             for word in (*(f"lejis {command}" for command in COMMANDS), "--version", "--json",
                          "Exit codes:\n\n    0   all done", "   64   "):
@@ -65,6 +73,34 @@ class CommandLineTest(LejisCase):
         words = {"check": "Nothing is sent", "submit": "--validate-schema", "delete": "--submitted YYYY-MM-DD"}
         for command, word in words.items():
             self.assertIn(word, self.expect(DONE, command, "no such file.xml", "--help"))
+
+    def test_the_command_help_is_that_of_the_option(self):
+        self.assertEqual(self.expect(DONE, "help"), self.expect(DONE, "--help"))
+        for command in COMMANDS:
+            self.assertEqual(self.expect(DONE, "help", command), self.expect(DONE, command, "--help"))
+
+    def test_examples_can_be_pasted_into_the_command_prompt(self):
+        for command in COMMANDS:
+            self.assertNotIn("\\\n", self.expect(DONE, command, "--help"))
+
+    def test_what_follows_two_hyphens_is_a_file(self):
+        self.write("--json", card())
+        self.assertEqual(self.expect(DONE, "check", "--", "--json"), "--json  fit for submission\n")
+
+    def test_quiet_tells_what_did_not_go_through(self):
+        self.write("a.xml", card())
+        self.write("b.xml", "<a>")
+        output = self.expect(REFUSED, "check", "a.xml", "b.xml", "-q")
+        self.assertTrue(output.startswith("b.xml  unreadable\n"), output)
+
+    def test_the_environment_stands_in_for_options(self):
+        self.write("a.xml", card())
+        run = self.lejis("submit", "a.xml", environment={"LEJIS_URL": "no address"})
+        self.assertIn("Invalid URL 'no address'", run.output)
+        run = self.lejis("submit", "a.xml", "--url", "other", environment={"LEJIS_URL": "no address"})
+        self.assertIn("Invalid URL 'other'", run.output)
+        run = self.lejis("search", "--zip", "1", environment={"LEJIS_SEARCH_URL": "no address", "LEJIS_USER": "u"})
+        self.assertIn("Invalid URL 'no address'.", run.complaint)
 
     def test_help_fits_an_old_console(self):
         for arguments in ((), *((command,) for command in COMMANDS)):

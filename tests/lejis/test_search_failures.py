@@ -23,7 +23,7 @@ WRONG = [
     (("--max", "3", "--exclude-ori", "PA0990100", "--user", USER, "--url", "u"), "nothing to search for"),
     (("x.xml", *GIVEN), "unexpected argument x.xml"),
     ((*GIVEN, "--ori", "PA0990100"), "unknown option --ori"),
-    ((*GIVEN, "--xml=yes"), "unknown option --xml"),
+    ((*GIVEN, "--xml=yes"), "--xml takes no value"),
     ((*GIVEN, "--surname"), "--surname needs a value"),
     ((*GIVEN, "--surname", "--given"), "--surname needs a value"),
     ((*GIVEN, "--dob", "2024-02-30"), "--dob: '2024-02-30' is no day; write it as in 2024-03-09"),

@@ -52,4 +52,10 @@ const Command* FindCommand(std::wstring_view name) {
     return nullptr;
 }
 
+std::vector<std::wstring_view> CommandNames() {
+    std::vector<std::wstring_view> names;
+    for (const Command& command : kCommands) names.push_back(command.name);
+    return names;
+}
+
 }  // namespace lejis_client

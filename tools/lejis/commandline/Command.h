@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 namespace lejis_client {
 
@@ -31,5 +32,7 @@ struct Command {
 
 // Null when there is no such command.
 const Command* FindCommand(std::wstring_view name);
+
+std::vector<std::wstring_view> CommandNames();
 
 }  // namespace lejis_client

@@ -4,6 +4,9 @@
 #include "files/FileList.h"
 #include "search/SearchSettings.h"
 #include "text/Day.h"
+#include "text/NearestName.h"
+
+#include <windows.h>
 
 #include <algorithm>
 
@@ -22,6 +25,10 @@ constexpr Switch kSwitches[] = {
     {L"--validate-schema", &CommandLine::validateSchema, &Command::canValidateSchema},
     {L"--xml", &CommandLine::xml, &Command::searches},
     {L"--recurse", &CommandLine::recurse, &Command::takesIncidents},
+    {L"-q", &CommandLine::quiet, &Command::takesIncidents},
+    {L"--quiet", &CommandLine::quiet, &Command::takesIncidents},
+    {L"-v", &CommandLine::verbose, &Command::takesIncidents},
+    {L"--verbose", &CommandLine::verbose, &Command::takesIncidents},
     {L"--force", &CommandLine::force, &Command::needsUrl},
 };
 
@@ -62,8 +69,45 @@ const Row* Find(const Row (&table)[count], const std::wstring& name, const Comma
 }
 
 constexpr wchar_t kJson[] = L"--json";
+constexpr wchar_t kHelpCommand[] = L"help";
+
+constexpr wchar_t kEndOfOptions[] = L"--";
+constexpr std::wstring_view kOptionPrefix = L"--";
 
 bool AsksForHelp(const std::wstring& argument) { return argument == L"--help" || argument == L"-h"; }
+
+bool AsksForVersion(const std::wstring& argument) { return argument == L"--version" || argument == L"-V"; }
+
+// "; did you mean --url?", or nothing.
+std::wstring DidYouMean(std::wstring_view written, const std::vector<std::wstring_view>& names,
+                        std::wstring_view prefix) {
+    const auto nearest = NearestName(written, names);
+    return nearest ? L"; did you mean " + std::wstring(prefix) + std::wstring(names[*nearest]) + L"?" : L"";
+}
+
+std::vector<std::wstring_view> OptionNames(const Command& command) {
+    std::vector<std::wstring_view> names = {L"json", L"help"};
+    const auto add = [&](const auto& table) {
+        for (const auto& row : table) {
+            const bool isLong = std::wstring_view(row.name).starts_with(kOptionPrefix);
+            if (isLong && command.*row.allowed)
+                names.push_back(std::wstring_view(row.name).substr(kOptionPrefix.size()));
+        }
+    };
+    add(kSwitches);
+    add(kOptions);
+    if (!command.searches) return names;
+    for (const std::wstring_view name : SearchOptionNames()) names.push_back(name.substr(kOptionPrefix.size()));
+    return names;
+}
+
+[[noreturn]] void ThrowUnknownOption(const CommandLine& commandLine, const std::wstring& name) {
+    std::wstring hint;
+    if (name.starts_with(kOptionPrefix)) {
+        hint = DidYouMean(name.substr(kOptionPrefix.size()), OptionNames(*commandLine.command), kOptionPrefix);
+    }
+    Throw(commandLine, L"unknown option " + name + hint);
+}
 
 // An option is one of this program's or one of those that go into a search.
 bool IsOption(const CommandLine& commandLine, const std::wstring& name) {
@@ -73,10 +117,16 @@ bool IsOption(const CommandLine& commandLine, const std::wstring& name) {
 
 void Set(CommandLine& commandLine, const std::wstring& name, const std::wstring& value) {
     if (const Option* option = Find(kOptions, name, *commandLine.command)) {
+        if (commandLine.*option->value) Throw(commandLine, name + L" is given twice");
         commandLine.*option->value = value;
-    } else {
-        commandLine.search.push_back({FindSearchOption(name), value});
+        return;
     }
+    const SearchOption* const option = FindSearchOption(name);
+    const auto isGiven = [&](const SearchValue& given) { return given.option->put == option->put; };
+    if (!option->mayRepeat && std::any_of(commandLine.search.begin(), commandLine.search.end(), isGiven)) {
+        Throw(commandLine, name + L" is given twice");
+    }
+    commandLine.search.push_back({option, value});
 }
 
 // Takes the option at this place, with its value behind an equals sign or in the next argument; returns the next place.
@@ -88,7 +138,8 @@ std::size_t TakeOption(CommandLine& commandLine, const Arguments& arguments, std
     }
     const std::size_t equals = argument.find(L'=');
     const std::wstring name = argument.substr(0, equals);
-    if (!IsOption(commandLine, name)) Throw(commandLine, L"unknown option " + name);
+    if (Find(kSwitches, name, *commandLine.command)) Throw(commandLine, name + L" takes no value");
+    if (!IsOption(commandLine, name)) ThrowUnknownOption(commandLine, name);
     if (equals != std::wstring::npos) {
         Set(commandLine, name, argument.substr(equals + 1));
         return place + 1;
@@ -101,6 +152,7 @@ std::size_t TakeOption(CommandLine& commandLine, const Arguments& arguments, std
 }
 
 void RequireIncident(const CommandLine& commandLine) {
+    if (commandLine.quiet && commandLine.verbose) Throw(commandLine, L"give either --quiet or --verbose");
     if (!commandLine.NamesIncident()) {
         if (commandLine.files.empty()) Throw(commandLine, L"no file given");
         return;
@@ -145,30 +197,79 @@ void RequireAll(const CommandLine& commandLine) {
 CommandLine WithoutCommand(const std::wstring& argument) {
     CommandLine commandLine;
     commandLine.help = AsksForHelp(argument);
-    commandLine.version = argument == L"--version";
+    commandLine.version = AsksForVersion(argument);
     if (commandLine.help || commandLine.version) return commandLine;
-    Throw(commandLine, (argument.starts_with(L'-') ? L"unknown option " : L"unknown command ") + argument);
+    if (argument.starts_with(L'-')) Throw(commandLine, L"unknown option " + argument);
+    Throw(commandLine, L"unknown command " + argument + DidYouMean(argument, CommandNames(), {}));
+}
+
+// "lejis help", "lejis help submit".
+CommandLine Help(const Arguments& arguments) {
+    CommandLine commandLine;
+    commandLine.help = true;
+    if (arguments.size() == 1) return commandLine;
+    commandLine.command = FindCommand(arguments[1]);
+    return commandLine.command ? commandLine : WithoutCommand(arguments[1]);
+}
+
+struct Variable {
+    const wchar_t* name;
+    std::optional<std::wstring> CommandLine::*value;
+    bool (*concerns)(const Command& command);
+};
+
+constexpr Variable kVariables[] = {
+    {L"LEJIS_URL", &CommandLine::url, [](const Command& command) { return command.takesUrl && !command.searches; }},
+    {L"LEJIS_SEARCH_URL", &CommandLine::url, [](const Command& command) { return command.searches; }},
+    {L"LEJIS_SEARCH_URL", &CommandLine::searchUrl, [](const Command& command) { return command.diagnoses; }},
+    {L"LEJIS_USER", &CommandLine::user, [](const Command& command) { return command.searches; }},
+};
+
+std::optional<std::wstring> ValueOf(const wchar_t* variable) {
+    std::wstring value(GetEnvironmentVariableW(variable, nullptr, 0), L'\0');
+    value.resize(GetEnvironmentVariableW(variable, value.data(), static_cast<DWORD>(value.size())));
+    return value.empty() ? std::nullopt : std::optional(value);
+}
+
+// What the command line leaves out may stand in the environment.
+void TakeEnvironment(CommandLine& commandLine) {
+    for (const Variable& variable : kVariables) {
+        std::optional<std::wstring>& value = commandLine.*variable.value;
+        if (!value && variable.concerns(*commandLine.command)) value = ValueOf(variable.name);
+    }
 }
 
 }  // namespace
 
 bool CommandLine::AsksForJson(const Arguments& arguments) {
-    return std::find(arguments.begin(), arguments.end(), kJson) != arguments.end();
+    const auto end = std::find(arguments.begin(), arguments.end(), kEndOfOptions);
+    return std::find(arguments.begin(), end, kJson) != end;
 }
 
 CommandLine CommandLine::Parse(Arguments arguments) {
-    const bool json = std::erase(arguments, kJson) > 0;
+    const bool json = AsksForJson(arguments);
+    const auto end = std::find(arguments.begin(), arguments.end(), kEndOfOptions);
+    arguments.erase(std::remove(arguments.begin(), end, kJson), end);
     if (arguments.empty()) throw UsageError{L"no command given", {}};
     CommandLine commandLine;
     commandLine.command = FindCommand(arguments.front());
-    if (!commandLine.command) commandLine = WithoutCommand(arguments.front());
+    if (arguments.front() == kHelpCommand) {
+        commandLine = Help(arguments);
+    } else if (commandLine.command) {
+        commandLine.TakeArguments(arguments);
+    } else {
+        commandLine = WithoutCommand(arguments.front());
+    }
     commandLine.json = json;
-    if (commandLine.command) commandLine.TakeArguments(arguments);
     return commandLine;
 }
 
 void CommandLine::TakeArguments(const Arguments& arguments) {
     for (std::size_t place = 1; place < arguments.size();) {
+        if (arguments[place] == kEndOfOptions) {
+            files.insert(files.end(), arguments.begin() + static_cast<std::ptrdiff_t>(place) + 1, arguments.end());
+            break;
+        }
         if (AsksForHelp(arguments[place])) {
             help = true;
             return;
@@ -179,6 +280,7 @@ void CommandLine::TakeArguments(const Arguments& arguments) {
             files.push_back(arguments[place++]);
         }
     }
+    TakeEnvironment(*this);
     RequireAll(*this);
 }
 

@@ -26,6 +26,8 @@ struct CommandLine {
     bool validateSchema = false;
     bool xml = false;
     bool recurse = false;
+    bool quiet = false;
+    bool verbose = false;
     // Whether to send by a library that is made for no true LEJIS.
     bool force = false;
     // Whether the answer is for a program.
@@ -48,7 +50,7 @@ struct CommandLine {
     std::vector<std::wstring> files;
 
 private:
-    // What stands behind the command.
+    // What comes after the command.
     void TakeArguments(const std::vector<std::wstring>& arguments);
 };
 

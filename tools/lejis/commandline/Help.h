@@ -15,7 +15,7 @@ them, through the registered TVLejisCore.
                                     searches for incidents
   lejis ledger FILE                 sums up what became of submitted incidents
   lejis doctor [--url URL]          looks for what stands in the way of all this
-  lejis COMMAND --help              tells more, with examples
+  lejis help COMMAND                tells more, with examples
   lejis --version                   names this program and the library that it uses
 
 With every command:
@@ -26,13 +26,15 @@ A FILE is one incident card in XML (docs/incident-format.md tells its elements),
 pattern such as incidents\*.xml, @LIST for the names in a text file, or - for standard
 input; with --recurse it may be a folder. A URL is the address of a service of the
 LEJIS Interface; ask who looks after it. A value may follow its option after a blank or
-an equals sign.
+an equals sign; what follows -- is a FILE. With --quiet (-q) only what did not go
+through is told, with --verbose (-v) every try. What is left out is taken from the
+environment: LEJIS_URL, LEJIS_SEARCH_URL and LEJIS_USER.
 
 The first steps, from an incident in a file to the index:
 
   lejis doctor --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
   lejis check incident.xml
-  lejis submit incident.xml \
+  lejis submit incident.xml ^
       --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
 
 Exit codes:
@@ -119,9 +121,9 @@ Ctrl-C ends the run when the incidents under way are done; a second one, at once
 
 Examples:
 
-  lejis submit incident.xml \
+  lejis submit incident.xml ^
       --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
-  lejis submit incidents --recurse --jobs 4 --retry 5 --ledger night.ledger \
+  lejis submit incidents --recurse --jobs 4 --retry 5 --ledger night.ledger ^
       --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
   lejis ledger night.ledger
 
@@ -150,9 +152,9 @@ Withdraws incidents from LEJIS. Of a file only the identifiers are used.
 
 Examples:
 
-  lejis delete incident.xml \
+  lejis delete incident.xml ^
       --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
-  lejis delete --ori PA0990100 --id 2024-000123 --submitted 2024-03-09 \
+  lejis delete --ori PA0990100 --id 2024-000123 --submitted 2024-03-09 ^
       --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
 
 Exit codes: 0 all withdrawn; 1 something was refused or could not be read; 2 something
@@ -204,9 +206,9 @@ and inches, as 510, a weight in pounds. LEJIS wants a serial number for property
 
 Examples:
 
-  lejis search --surname PUBLIC --dob 1970-01-31 --user jdoe \
+  lejis search --surname PUBLIC --dob 1970-01-31 --user jdoe ^
       --url http://lejis-interface:8080/lejis-core-Rev01/services/search
-  lejis search --plate ABC1234 --plate-state PA --max 10 --json --user jdoe \
+  lejis search --plate ABC1234 --plate-state PA --max 10 --json --user jdoe ^
       --url http://lejis-interface:8080/lejis-core-Rev01/services/search
 
 Exit codes: 0 found, or nothing found; 1 LEJIS refused the search or the user; 2 the

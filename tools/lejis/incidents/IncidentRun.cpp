@@ -71,7 +71,12 @@ public:
         return exitCode;
     }
 
-    void Begun(const Task& task) override { report_->Begin(task.name); }
+    void Begun(const Task& task) override {
+        if (isVerbose_ && task.attempts > 1) {
+            Console::Errors().Write(task.name + L": try " + std::to_wstring(task.attempts) + L'\n');
+        }
+        report_->Begin(task.name);
+    }
 
     void Tried(const Task& task, const Attempt& attempt) override {
         if (!ledger_ || attempt.outcome.result == Result::LeftOut) return;
@@ -89,6 +94,7 @@ public:
 private:
     IncidentRun(const CommandLine& commandLine, const BacklogSettings& settings, const std::deque<Task>& tasks)
         : command_(*commandLine.command),
+          isVerbose_(commandLine.verbose),
           done_(command_.name, command_.success),
           report_(Report::Create(commandLine, NamesOf(tasks))),
           backlog_(
@@ -99,6 +105,7 @@ private:
     }
 
     const Command& command_;
+    bool isVerbose_;
     LedgerIndex done_;
     std::unique_ptr<Ledger> ledger_;
     std::wstring ledgerFault_;

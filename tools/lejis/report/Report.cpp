@@ -8,7 +8,7 @@ namespace lejis_client {
 
 std::unique_ptr<Report> Report::Create(const CommandLine& commandLine, const std::vector<std::wstring>& names) {
     if (commandLine.json) return std::make_unique<JsonReport>(*commandLine.command, names.size());
-    return std::make_unique<TextReport>(*commandLine.command, names);
+    return std::make_unique<TextReport>(*commandLine.command, names, commandLine.quiet);
 }
 
 void Report::Begin(const std::wstring& name) { progress_.Begin(name); }

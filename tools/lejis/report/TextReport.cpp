@@ -54,12 +54,14 @@ std::wstring ReasonToStop(const Ending& ending) {
 
 }  // namespace
 
-TextReport::TextReport(const Command& command, const std::vector<std::wstring>& names) : Report(command, names.size()) {
+TextReport::TextReport(const Command& command, const std::vector<std::wstring>& names, bool isQuiet)
+    : Report(command, names.size()), isQuiet_(isQuiet) {
     for (const std::wstring& name : names) nameWidth_ = std::max(nameWidth_, std::min(name.size(), kWidestName));
 }
 
 void TextReport::Tell(const std::wstring& name, const Attempt& attempt) {
     const Outcome& outcome = attempt.outcome;
+    if (isQuiet_ && outcome.errors.empty() && outcome.warnings.empty()) return;
     const Console& output = Console::Output();
     output.Write(progress_.Number() + PaddedRight(name, nameWidth_) + L"  ");
     output.Write(Status(outcome), ToneOf(outcome));

@@ -8,7 +8,8 @@ namespace lejis_client {
 
 class TextReport final : public Report {
 public:
-    TextReport(const Command& command, const std::vector<std::wstring>& names);
+    // A quiet one tells only of what did not go through, and of warnings.
+    TextReport(const Command& command, const std::vector<std::wstring>& names, bool isQuiet);
 
 private:
     void Tell(const std::wstring& name, const Attempt& attempt) override;
@@ -16,6 +17,7 @@ private:
     std::wstring Status(const Outcome& outcome) const;
     std::wstring Counts(const Ending& ending) const;
 
+    bool isQuiet_;
     std::size_t nameWidth_ = 0;
     FailureList failures_;
 };

@@ -78,7 +78,9 @@ constexpr SearchOption kOptions[] = {
     {L"--dob", true, DayComplaint, PutBirthDate},
     {L"--ssn", true, NoComplaint, kPerson<&Person::put_SSN>},
     {L"--licence", true, NoComplaint, kPerson<&Person::put_DriversLicense>},
+    {L"--license", true, NoComplaint, kPerson<&Person::put_DriversLicense>},
     {L"--licence-state", true, NoComplaint, kPerson<&Person::put_DriversLicenseState>},
+    {L"--license-state", true, NoComplaint, kPerson<&Person::put_DriversLicenseState>},
     {L"--sex", true, NoComplaint, kPerson<&Person::put_SexNCIC>},
     {L"--race", true, NoComplaint, kPerson<&Person::put_RaceNCIC>},
     {L"--height", true, kShort, PutNumber<&Request::get_personArguments, &Person::get_Height>},
@@ -102,7 +104,7 @@ constexpr SearchOption kOptions[] = {
     {L"--zip", true, NoComplaint, kPlace<&Place::put_ZIP>},
     {L"--text", true, NoComplaint, kWords},
     {L"--max", false, NumberComplaint<1, kMostOfLong>, PutMax},
-    {L"--exclude-ori", false, NoComplaint, ExcludeOri},
+    {L"--exclude-ori", false, NoComplaint, ExcludeOri, true},
 };
 
 }  // namespace
@@ -111,6 +113,12 @@ const SearchOption* FindSearchOption(const std::wstring& name) {
     const auto* const found =
         std::find_if(std::begin(kOptions), std::end(kOptions), [&](const auto& row) { return row.name == name; });
     return found == std::end(kOptions) ? nullptr : found;
+}
+
+std::vector<std::wstring_view> SearchOptionNames() {
+    std::vector<std::wstring_view> names;
+    for (const SearchOption& option : kOptions) names.push_back(option.name);
+    return names;
 }
 
 bool HasCriterion(const SearchValues& values) {

@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace lejis_client {
@@ -16,6 +17,7 @@ struct SearchOption {
     // Says what is wrong with a value; empty when nothing is.
     std::wstring (*complaint)(const std::wstring& value);
     void (*put)(ILejisSearchRequest* request, const std::wstring& value);
+    bool mayRepeat = false;
 };
 
 // One use of an option.
@@ -28,6 +30,8 @@ using SearchValues = std::vector<SearchValue>;
 
 // Null when there is no such option.
 const SearchOption* FindSearchOption(const std::wstring& name);
+
+std::vector<std::wstring_view> SearchOptionNames();
 
 bool HasCriterion(const SearchValues& values);
 
