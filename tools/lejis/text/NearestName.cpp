@@ -11,20 +11,22 @@ namespace {
 
 bool AreSame(wchar_t one, wchar_t other) { return std::towlower(one) == std::towlower(other); }
 
-// How many characters have to be put in, taken out or replaced.
+// How many characters have to be put in, taken out, replaced, or exchanged with their neighbours.
 std::size_t Difference(std::wstring_view one, std::wstring_view other) {
-    // Of the first characters of `one`, so far: the differences from each beginning of `other`.
-    std::vector<std::size_t> row(other.size() + 1);
-    std::iota(row.begin(), row.end(), std::size_t{0});
+    // Each row has the differences of a beginning of `one` from every beginning of `other`.
+    std::vector<std::size_t> beforeLast, last(other.size() + 1);
+    std::iota(last.begin(), last.end(), std::size_t{0});
     for (std::size_t i = 0; i < one.size(); ++i) {
-        std::size_t diagonal = std::exchange(row[0], i + 1);
+        std::vector<std::size_t> row = {i + 1};
         for (std::size_t j = 0; j < other.size(); ++j) {
-            const std::size_t replaced = diagonal + (AreSame(one[i], other[j]) ? 0 : 1);
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
+            const std::size_t replaced = last[j] + (AreSame(one[i], other[j]) ? 0 : 1);
+            row.push_back(std::min({replaced, last[j + 1] + 1, row[j] + 1}));
+            const bool isExchanged = i > 0 && j > 0 && AreSame(one[i], other[j - 1]) && AreSame(one[i - 1], other[j]);
+            if (isExchanged) row.back() = std::min(row.back(), beforeLast[j - 1] + 1);
         }
+        beforeLast = std::exchange(last, std::move(row));
     }
-    return row.back();
+    return last.back();
 }
 
 }  // namespace
