@@ -84,6 +84,8 @@ run_scripts() {
 
 # lejis.exe, used as people use it; the pattern of --filter does not speak of these tests.
 run_lejis() {
+  # Every test starts the program, some of them often.
+  local time_limit=600
   [[ -z $filter ]] || return 0
   run_tests "$1" client unittest lejis "$project/tests/support/with_simulator.sh" "$project/tests/lejis/run.sh" "$1"
 }

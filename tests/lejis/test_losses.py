@@ -66,6 +66,9 @@ UNREAD = {
     "an identifier that is not in its j:ID": (
         person("<j:PersonSSNID>900112222</j:PersonSSNID>"),
         "Line 17: The text '900112222' in j:PersonSSNID is not read."),
+    "a text in pieces": (
+        person("<j:Residence>", " Smith &amp; <![CDATA[Sons]]>", "<j:LocationAddress/> &lt;", "</j:Residence>"),
+        "Line 18: The text 'Smith & Sons  <' in j:Residence is not read."),
     "a text between elements": (
         person("<j:PersonSurName>DOE</j:PersonSurName>", "  and", "<j:PersonGivenName>JOHN</j:PersonGivenName>"),
         "Line 18: The text 'and' in card:RMSPersonIndexCards is not read."),
@@ -144,6 +147,15 @@ BAD_VALUES = {
     "a house number": (
         place("<j:LocationStreet>", "<j:StreetNumberText>12A</j:StreetNumberText>", "</j:LocationStreet>"),
         "Line 18: j:StreetNumberText '12A' is not read: it is no number."),
+    "a license without its state": (
+        person("<j:PersonDriverLicenseID><j:ID>90214467</j:ID></j:PersonDriverLicenseID>"),
+        "Line 17: j:PersonDriverLicenseID/j:ID '90214467' is not sent without "
+        "j:PersonDriverLicenseID/j:IDJurisdictionCode.ncicLSTA."),
+    "the state of a plate without its number": (
+        vehicle("<j:VehicleLicensePlateID>", "<j:ID/>",
+                "<j:IDJurisdictionCode.ncicLSTA>PA</j:IDJurisdictionCode.ncicLSTA></j:VehicleLicensePlateID>"),
+        "Line 19: j:VehicleLicensePlateID/j:IDJurisdictionCode.ncicLSTA 'PA' is not sent without "
+        "j:VehicleLicensePlateID/j:ID."),
     "a long value on several lines": (
         vehicle("<j:VehicleModelYearDate>\n" + "two thousand\nand four " * 9 + "</j:VehicleModelYearDate>"),
         f"Line 17: j:VehicleModelYearDate '{('two thousand and four ' * 9)[:60]}\u2026' is not read: it is no year."),
@@ -177,6 +189,9 @@ NOTHING_LOST = {
         "<card:RMSPropertyIndexCards/>", "<card:RMSPersonIndexCards/>", "<card:RMSVehicleIndexCards/>",
         "<card:RMSPersonIndexCards/>", "<j:ActivityTime>22:40</j:ActivityTime>", "<j:CaveatText>x</j:CaveatText>",
         "<j:ActivityDate>2024-03-09</j:ActivityDate>"),
+    "a license in two elements": person(
+        "<j:PersonDriverLicenseID><j:ID>90214467</j:ID></j:PersonDriverLicenseID>", "<j:PersonDriverLicenseID>"
+        "<j:IDJurisdictionCode.ncicLSTA>PA</j:IDJurisdictionCode.ncicLSTA></j:PersonDriverLicenseID>"),
     "an identifier in the second of its elements": person(
         "<j:PersonSSNID/>", "<j:PersonSSNID><j:ID>900112222</j:ID></j:PersonSSNID>"),
 }
@@ -247,12 +262,15 @@ class LossTest(LejisCase):
                 self.assertEqual(bullets(self.expect(DONE, "check", "a.xml")), [warning])
 
     def test_losses_come_in_the_order_of_the_file_before_other_warnings(self):
-        self.write("a.xml", person("<j:PersonSurname/>", "<j:PersonBirthdate/>", "<j:PersonWeightMeasure>x"
-                                   "</j:PersonWeightMeasure>", "<j:PersonGivenname/>").replace("2202", "9999"))
-        self.assertEqual([line.split()[:3] for line in bullets(self.expect(DONE, "check", "a.xml"))],
-                         [["Line", "17:", "j:PersonSurname"], ["Line", "18:", "j:PersonBirthdate"],
-                          ["Line", "19:", "j:PersonWeightMeasure"], ["Line", "20:", "j:PersonGivenname"],
-                          ["Main", "record:", "Charge"]])
+        text = person("<j:PersonSurname/>", "<j:PersonBirthdate/>", "<j:PersonWeightMeasure>x</j:PersonWeightMeasure>",
+                      "<j:Residence>x", "<j:PersonGivenname/>", "</j:Residence>")
+        self.write("a.xml", text.replace("2202", "9999").replace(
+            "<card:RMSPerson", "<j:ActivityDate>x</j:ActivityDate><card:RMSPerson"))
+        self.assertEqual([line.split()[:4] for line in bullets(self.expect(DONE, "check", "a.xml"))],
+                         [["Line", "16:", "j:ActivityDate", "'x'"], ["Line", "17:", "j:PersonSurname", "is"],
+                          ["Line", "18:", "j:PersonBirthdate", "is"], ["Line", "19:", "j:PersonWeightMeasure", "'x'"],
+                          ["Line", "20:", "The", "text"], ["Line", "21:", "j:PersonGivenname", "is"],
+                          ["Main", "record:", "Charge", "NCIC"]])
 
 
 class SubmitTest(SimulatorCase):

@@ -77,6 +77,7 @@ which its start tag ends. The rest of the incident is submitted.
 | `The text 'DOE' in j:Residence is not read.` | a text stands where elements are expected |
 | `j:PersonGivenName is not read: it stands in j:PersonSurName, and its text is taken for a part of that.` | an element stands where a value is expected |
 | `j:VehicleModelYearDate '40000' is not read: it is no year.` | the value is of another kind, and nothing is known then |
+| `j:VehicleLicensePlateID/j:ID 'ABC1234' is not sent without j:VehicleLicensePlateID/j:IDJurisdictionCode.ncicLSTA.` | a number is sent only with its state, and a state only with its number |
 | `j:PersonWeightMeasure '150.5' is read as 150.` | the library keeps another number |
 | `j:PersonBirthDate '1990-02-30' cannot be read: it is no date.` | an error: the library would not read what follows in this card, so the file is not submitted |
 
@@ -199,6 +200,7 @@ std::wstring Holds(const FormatRow& row) {
 std::wstring Meaning(const FormatRow& row) {
     std::wstring text(row.meaning);
     if (row.isRequired) text += L"; **required**";
+    if (!row.partner.empty()) text += L"; sent only with " + Code(row.partner.substr(row.partner.rfind(L'/') + 1));
     if (row.content == Content::kBirthDate) text += L"; **not empty**";
     if (row.content == Content::kEachOfSection) text += L"; any number of them";
     if (!row.attribute.empty()) {

@@ -3,10 +3,10 @@
 
 #include <comdef.h>
 #include <comutil.h>
-#include <nlohmann/json.hpp>
 #include <ole2.h>
 #include <windows.h>
 #include <wrl/client.h>
+#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <map>

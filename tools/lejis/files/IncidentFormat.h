@@ -44,6 +44,8 @@ struct FormatRow {
     // An attribute, which the library writes and does not read: it has this one value.
     std::wstring_view attribute = {};
     std::wstring_view attributeValue = {};
+    // The path of the value without which the library does not send this one.
+    std::wstring_view partner = {};
     // Without it there is no telling which incident it is.
     bool isRequired = false;
 };

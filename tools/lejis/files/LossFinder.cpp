@@ -34,7 +34,7 @@ void LossFinder::Begin(int line, const WrittenName& name) {
         ++unread_.depth;
         ++unread_.elements;
     } else if (open_.empty()) {
-        open_.push_back({&IncidentTree(), line, 0, {}, {}});
+        open_.push_back({&IncidentTree(), line, 0, {}, {}, {}, 0});
     } else if (!open_.back().node->children) {
         ++depthInValue_;
         Add(line, name.Text() + L" is not read: it stands in " + std::wstring(open_.back().node->name.qualified) +
@@ -70,14 +70,13 @@ void LossFinder::Attribute(int line, const WrittenName& name, std::wstring_view 
 void LossFinder::Text(int line, std::wstring_view text) {
     if (unread_.depth > 0 || open_.empty()) return;
     OpenElement& element = open_.back();
-    const std::size_t begin = text.find_first_not_of(kWhiteSpace);
-    if (element.node->children && begin != std::wstring_view::npos) {
-        line += static_cast<int>(std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(begin), L'\n'));
-        Add(line, L"The text " + Quoted(Trimmed(text)) + L" in " + std::wstring(element.node->name.qualified) +
-                      L" is not read.");
-    } else if (!element.node->children) {
-        element.text += text;
+    if (element.text.empty()) {
+        // Most texts are the white space between elements.
+        const std::size_t begin = std::min(text.find_first_not_of(kWhiteSpace), text.size());
+        element.textLine = line + static_cast<int>(std::ranges::count(text.substr(0, begin), L'\n'));
+        text.remove_prefix(begin);
     }
+    element.text += text;
 }
 
 void LossFinder::End() {
@@ -86,7 +85,14 @@ void LossFinder::End() {
         --depthInValue_;
         return;
     }
-    if (!open_.back().node->children) EndValue(open_.back());
+    const OpenElement& element = open_.back();
+    if (!element.node->children) {
+        EndValue(element);
+    } else if (!element.text.empty()) {
+        Add(element.textLine, L"The text " + Quoted(Trimmed(element.text)) + L" in " +
+                                  std::wstring(element.node->name.qualified) + L" is not read.");
+    }
+    AddLostHalves(element.halves);
     open_.pop_back();
 }
 
@@ -101,7 +107,7 @@ void LossFinder::BeginRead(int line, const FormatNode& node) {
     const std::size_t place = open_.size();
     const std::size_t reader = open_.back().reader;
     if (IsReadOnce(node)) open_[reader].found.push_back(&node);
-    open_.push_back({&node, line, node.row ? place : reader, {}, {}});
+    open_.push_back({&node, line, node.row ? place : reader, {}, {}, {}, 0});
 }
 
 void LossFinder::BeginUnread(int line, const WrittenName& name, const std::wstring& why) {
@@ -118,11 +124,25 @@ void LossFinder::EndUnread() {
 void LossFinder::EndValue(const OpenElement& element) {
     const FormatRow& row = *element.node->row;
     const std::wstring_view value = Trimmed(element.text);
+    if (!row.partner.empty() && !value.empty()) {
+        const std::size_t reader = open_[open_.size() - 2].reader;
+        open_[reader].halves.push_back({&row, element.line, std::wstring(value)});
+    }
     if (row.content == Content::kActivityDate || row.content == Content::kActivityTime) {
         activityTime_.Set(row, element.line, value);
     } else if (const auto fault = FaultOf(row.content, value)) {
         Add(element.line, std::wstring(element.node->name.qualified) + L' ' + Quoted(value) + fault->ending,
             fault->isFatal);
+    }
+}
+
+void LossFinder::AddLostHalves(const std::vector<Half>& halves) {
+    for (const Half& half : halves) {
+        const std::wstring_view partner = half.row->partner;
+        const bool isWhole = std::ranges::any_of(halves, [&](const Half& other) { return other.row->path == partner; });
+        if (isWhole) continue;
+        Add(half.line, std::wstring(half.row->path) + L' ' + Quoted(half.value) + L" is not sent without " +
+                           std::wstring(partner) + L".");
     }
 }
 

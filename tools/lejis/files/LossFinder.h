@@ -18,7 +18,7 @@ public:
     void Begin(int line, const WrittenName& name);
     // Of the element that has just begun.
     void Attribute(int line, const WrittenName& name, std::wstring_view value);
-    // The line is that in which the text begins.
+    // A piece of the text in the element that is open. The line is that in which the piece begins.
     void Text(int line, std::wstring_view text);
     void End();
 
@@ -26,6 +26,13 @@ public:
     std::vector<Loss> Losses() const;
 
 private:
+    // A value that is sent with its partner alone.
+    struct Half {
+        const FormatRow* row;
+        int line;
+        std::wstring value;
+    };
+
     struct OpenElement {
         const FormatNode* node;
         int line;
@@ -34,7 +41,10 @@ private:
         std::size_t reader;
         // Which of the elements that it looks for it has found: it reads the first one.
         std::vector<const FormatNode*> found;
+        std::vector<Half> halves;
+        // From its first character that is no white space on, and the line of that.
         std::wstring text;
+        int textLine;
     };
 
     // An element that is not read, and all in it.
@@ -50,6 +60,7 @@ private:
     void BeginUnread(int line, const WrittenName& name, const std::wstring& why);
     void EndUnread();
     void EndValue(const OpenElement& element);
+    void AddLostHalves(const std::vector<Half>& halves);
     bool WasFound(const FormatNode& node) const;
     // Whether the library reads one such element and passes over the others.
     static bool IsReadOnce(const FormatNode& node);
