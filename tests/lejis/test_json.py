@@ -83,7 +83,7 @@ class SearchTest(JsonCase):
 
     def test_what_was_found(self):
         (incident,) = self.search(DONE, "--surname", "REESE")["incidents"]
-        self.assertEqual(list(incident), ["agency", "incident", "date", "charge", "place", "persons", "vehicles"])
+        self.assertEqual(list(incident), ["agency", "incident", "date", "charge", "place", "persons", "vehicles", "card"])
         self.assertEqual(len(incident["vehicles"]), 2)
 
     def test_nothing_was_found(self):

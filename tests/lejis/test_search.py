@@ -1,9 +1,14 @@
 """lejis search against the simulator: what is asked and what is found."""
+import csv
+import io
+import json
 import os
+import re
 import unittest
 import xml.etree.ElementTree as ElementTree
 
-from lejis_case import DONE
+from lejis_case import DONE, PROJECT
+from lejis_case import card as incident_card
 from search_case import HELD, SAMPLES, SearchCase
 
 BURGLARY, INTERNATIONAL, THEFT = "2024-001873", "2024-000612", "24-H-00519"
@@ -143,6 +148,65 @@ class XmlTest(SearchCase):
     def test_nothing_is_a_document_too(self):
         root = self.found_xml("--zip", "00000", count="Nothing was found.\n")
         self.assertEqual((root.tag, len(root)), ("incidents", 0))
+
+
+IDL = PROJECT / "Plugins" / "LEJIS" / "LEJIS Core Library" / "model"
+
+
+def members_of(interface):
+    """The fields of a card as its description declares them, in that order."""
+    text = (IDL / f"{interface}.idl").read_text(encoding="utf-8")
+    return re.findall(r"^ {4}(?:FIELD|READ_ONLY)\(\d+, \w+\*?, (\w+), ", text, re.MULTILINE)
+
+
+class WholeCardsTest(SearchCase):
+    def cards(self, *arguments):
+        return [incident["card"] for incident in json.loads(self.find(*arguments, "--json"))["incidents"]]
+
+    def test_json_has_every_field_of_a_card_by_its_own_name(self):
+        (card,) = self.cards("--plate", "ZYX4471")
+        self.assertEqual(list(card), members_of("LejisIncidentIndexCard"))
+        for collection in ("Person", "Vehicle", "Property"):
+            for part in card[f"{collection}IndexCards"]:
+                self.assertEqual(list(part), members_of(f"Lejis{collection}IndexCard"))
+        self.assertEqual(list(card["Location"]), members_of("LejisStreetAddress"))
+
+    def test_json_has_values_of_their_kinds(self):
+        (card,) = self.cards("--plate", "ZYX4471")
+        self.assertEqual((card["OrganizationORI"], card["ActivityID"], card["Location"]["ZIP"]),
+                         ("PA0990200", THEFT, "17098"))
+        self.assertRegex(card["ActivityDateTime"], r"^2024-05-16T\d\d:\d\d:\d\d$")
+        person = next(person for person in card["PersonIndexCards"] if person["SurName"] == "ABERNATHY")
+        self.assertEqual((person["BirthDate"], person["CautionIndicator"]), ("1978-02-14T00:00:00", False))
+        self.assertIsInstance(person["Height"], int)
+        self.write("a.xml", incident_card("2024-9", zip_code="15556"))
+        self.hold("a.xml")
+        (bare,) = self.cards("--zip", "15556")
+        self.assertEqual((bare["ActivityDateTime"], bare["PersonIndexCards"]), (None, []))
+
+    def test_csv_has_a_row_for_each_person(self):
+        run = self.search("--plate", "ZYX4471", "--csv")
+        self.assertEqual((run.code, run.complaint), (DONE, "1 incident found.\n"))
+        rows = list(csv.DictReader(io.StringIO(run.output)))
+        self.assertEqual([(row["Incident"], row["SurName"], row["GivenName"]) for row in rows],
+                         [(THEFT, "ABERNATHY", "LUIS"), (THEFT, "REESE", "TAMARA")])
+        self.assertEqual(rows[0]["Place"], "1200 Commerce Ave, lot C, Harlow PA 17098")
+        self.assertEqual(rows[0]["BirthDate"], "1978-02-14T00:00:00")
+        self.assertIn("address.City", rows[0])
+
+    def test_csv_of_an_incident_without_persons_has_one_row(self):
+        self.write("a.xml", incident_card("2024-9", zip_code="15555"))
+        self.hold("a.xml")
+        rows = list(csv.DictReader(io.StringIO(self.search("--zip", "15555", "--csv").output)))
+        self.assertEqual([(row["Incident"], row["SurName"]) for row in rows], [("2024-9", "")])
+
+    def test_a_search_that_got_as_many_as_it_may_says_so(self):
+        self.assertTrue(self.find("--state", "PA", "--max", "2").endswith(
+            "2 incidents found, as many as --max allows; LEJIS may have more.\n"))
+        self.assertTrue(self.find("--state", "PA", "--max", "4").endswith("3 incidents found.\n"))
+        for most, may in (("2", True), ("4", False)):
+            answer = json.loads(self.find("--state", "PA", "--max", most, "--json"))
+            self.assertEqual(answer["mayHaveMore"], may)
 
 
 if __name__ == "__main__":

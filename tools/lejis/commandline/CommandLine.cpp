@@ -24,6 +24,7 @@ struct Switch {
 constexpr Switch kSwitches[] = {
     {L"--validate-schema", &CommandLine::validateSchema, &Command::canValidateSchema},
     {L"--xml", &CommandLine::xml, &Command::searches},
+    {L"--csv", &CommandLine::csv, &Command::searches},
     {L"--recurse", &CommandLine::recurse, &Command::takesIncidents},
     {L"-q", &CommandLine::quiet, &Command::takesIncidents},
     {L"--quiet", &CommandLine::quiet, &Command::takesIncidents},
@@ -177,7 +178,9 @@ void RequireFile(const CommandLine& commandLine) {
 
 void RequireSearch(const CommandLine& commandLine) {
     RefuseFiles(commandLine);
-    if (commandLine.xml && commandLine.json) Throw(commandLine, L"give either --xml or --json");
+    if (commandLine.xml + commandLine.csv + commandLine.json > 1) {
+        Throw(commandLine, L"give one of --xml, --csv and --json");
+    }
     const std::wstring complaint = SearchComplaint(commandLine);
     if (!complaint.empty()) Throw(commandLine, complaint);
 }

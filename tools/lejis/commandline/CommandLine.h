@@ -25,6 +25,7 @@ struct CommandLine {
     bool version = false;
     bool validateSchema = false;
     bool xml = false;
+    bool csv = false;
     bool recurse = false;
     bool quiet = false;
     bool verbose = false;

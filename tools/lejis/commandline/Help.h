@@ -181,8 +181,8 @@ inline constexpr wchar_t kSearchHelp[] =
 
 Searches LEJIS for incidents to which all criteria apply.
 
-  Person     --surname --given --middle --dob YYYY-MM-DD --ssn --licence
-             --licence-state --sex --race --height --weight
+  Person     --surname --given --middle --dob YYYY-MM-DD --ssn --license
+             --license-state --sex --race --height --weight
   Vehicle    --vin --plate --plate-state --vehicle-make --vehicle-model
              --vehicle-year --vehicle-style --vehicle-color
   Property   --serial --property-category --property-make --property-model
@@ -200,6 +200,7 @@ and inches, as 510, a weight in pounds. LEJIS wants a serial number for property
   --force             send also by a library that is made for lejis.example, which
                       otherwise talks to this machine alone
   --xml               print the incident cards as one XML document
+  --csv               print a table for spreadsheets, one row a person
   --json              print what was found as one JSON document
   --wait SECONDS      how long to wait for the answer, once the search is sent;
                       120 if left out

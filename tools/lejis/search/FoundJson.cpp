@@ -1,5 +1,8 @@
 #include "search/FoundJson.h"
 
+#include "search/CardJson.h"
+#include "search/FoundIncident.h"
+
 namespace lejis_client {
 namespace {
 
@@ -13,6 +16,7 @@ Json JsonOf(ILejisIncidentIndexCard* card) {
     for (std::size_t i = 0; i < columns.size(); ++i) incident[kNames[i]] = JsonText(columns[i]);
     incident["persons"] = JsonTexts(PersonsOf(card));
     incident["vehicles"] = JsonTexts(VehiclesOf(card));
+    incident["card"] = CardJson(card);
     return incident;
 }
 

@@ -5,6 +5,7 @@
 #include "console/ExitCode.h"
 #include "console/PrintJson.h"
 #include "library/Members.h"
+#include "search/FoundCsv.h"
 #include "search/FoundJson.h"
 #include "search/FoundTable.h"
 #include "search/FoundXml.h"
@@ -12,6 +13,8 @@
 #include "search/SearchSettings.h"
 #include "search/SearchWait.h"
 #include "text/Layout.h"
+
+#include <algorithm>
 
 namespace lejis_client {
 namespace {
@@ -32,15 +35,30 @@ struct Failure {
 
 const Failure kInterrupted = {L"interrupted", kExitInterrupted, L"Interrupted.", L"Interrupted.\n"};
 
+// LEJIS does not send more than were asked for; the library does not tell how many it has.
+bool MayHaveMore(const CommandLine& commandLine, std::size_t found) {
+    const auto& values = commandLine.search;
+    return std::any_of(values.begin(), values.end(), [&](const SearchValue& value) {
+        return value.option->name == kMaxOption && value.value == std::to_wstring(found);
+    });
+}
+
+std::wstring CountText(std::size_t found, bool mayHaveMore) {
+    if (found == 0) return L"Nothing was found.\n";
+    return Counted(found, L"incident") + L" found" +
+           (mayHaveMore ? L", as many as --max allows; LEJIS may have more.\n" : L".\n");
+}
+
 int PrintFound(const CommandLine& commandLine, const Cards& cards) {
-    const std::wstring count =
-        cards.empty() ? L"Nothing was found.\n" : Counted(cards.size(), L"incident") + L" found.\n";
+    const bool mayHaveMore = MayHaveMore(commandLine, cards.size());
+    const std::wstring count = CountText(cards.size(), mayHaveMore);
     if (commandLine.json) {
         Json document = JsonDocument(L"search", kExitDone);
         document["incidents"] = FoundJson(cards);
+        document["mayHaveMore"] = mayHaveMore;
         Print(document);
-    } else if (commandLine.xml) {
-        Console::Output().Write(FoundXml(cards));
+    } else if (commandLine.xml || commandLine.csv) {
+        Console::Output().Write(commandLine.xml ? FoundXml(cards) : FoundCsv(cards));
         // The document is for a program, the count for a person.
         Console::Errors().Write(count);
     } else {

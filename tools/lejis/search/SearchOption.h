@@ -10,6 +10,8 @@
 
 namespace lejis_client {
 
+inline constexpr std::wstring_view kMaxOption = L"--max";
+
 struct SearchOption {
     const wchar_t* name;
     // Whether it says what to search for, not only how.

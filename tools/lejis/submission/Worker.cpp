@@ -4,7 +4,6 @@
 
 #include <process.h>
 
-#include <mutex>
 #include <utility>
 
 namespace lejis_client {
@@ -20,14 +19,25 @@ struct Worker::Shared {
     const JobMaker makeJob;
     const HANDLE doneEvent;
     const HANDLE goEvent = CreateEventW(nullptr, FALSE, FALSE, nullptr);
-    std::mutex mutex;
-    // Guarded by the mutex.
+    SRWLOCK lock = SRWLOCK_INIT;
+    // Guarded by the lock.
     std::optional<Task> order;
     std::optional<Attempt> result;
     bool isOver = false;
 };
 
 namespace {
+
+class Locked {
+public:
+    explicit Locked(SRWLOCK& lock) : lock_(lock) { AcquireSRWLockExclusive(&lock_); }
+    ~Locked() { ReleaseSRWLockExclusive(&lock_); }
+    Locked(const Locked&) = delete;
+    Locked& operator=(const Locked&) = delete;
+
+private:
+    SRWLOCK& lock_;
+};
 
 class Apartment {
 public:
@@ -49,7 +59,7 @@ Worker::Worker(JobMaker makeJob, HANDLE done) : shared_(std::make_shared<Shared>
 
 Worker::~Worker() {
     {
-        const std::lock_guard lock(shared_->mutex);
+        const Locked locked(shared_->lock);
         shared_->isOver = true;
     }
     SetEvent(shared_->goEvent);
@@ -62,14 +72,14 @@ void Worker::Begin(const Task& task) {
     isBusy_ = true;
     start_ = GetTickCount64();
     {
-        const std::lock_guard lock(shared_->mutex);
+        const Locked locked(shared_->lock);
         shared_->order = task;
     }
     SetEvent(shared_->goEvent);
 }
 
 std::optional<Attempt> Worker::Take() {
-    const std::lock_guard lock(shared_->mutex);
+    const Locked locked(shared_->lock);
     std::optional<Attempt> result = std::exchange(shared_->result, std::nullopt);
     if (result) isBusy_ = false;
     return result;
@@ -84,14 +94,14 @@ unsigned __stdcall Worker::Work(void* parameter) {
         AwaitEvent(shared.goEvent, INFINITE);
         std::optional<Task> task;
         {
-            const std::lock_guard lock(shared.mutex);
+            const Locked locked(shared.lock);
             if (shared.isOver) return 0;
             task = std::exchange(shared.order, std::nullopt);
         }
         if (!task) continue;
         Attempt attempt = job->Do(*task);
         {
-            const std::lock_guard lock(shared.mutex);
+            const Locked locked(shared.lock);
             shared.result = std::move(attempt);
         }
         SetEvent(shared.doneEvent);
