@@ -17,7 +17,7 @@ SYSTEM_LIBRARIES = {"advapi32.dll", "kernel32.dll", "msvcrt.dll", "ole32.dll", "
                     "user32.dll"}
 # What lejis.exe alone takes from Windows, and what Windows looks for beside it first: it stands in a folder that only an
 # administrator writes to. The library, which runs inside programs from any folder, makes do without.
-ONLY_FOR_PROGRAM = {"lejis.exe": {"version.dll", "wininet.dll"}}
+ONLY_FOR_PROGRAM = {"lejis.exe": {"bcrypt.dll", "version.dll", "wininet.dll", "ws2_32.dll"}}
 
 HIGH_ENTROPY_VA = 0x0020
 DYNAMIC_BASE = 0x0040
