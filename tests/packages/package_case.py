@@ -79,9 +79,9 @@ class PackageCase(unittest.TestCase):
         return path
 
     def lejis(self, folder, *arguments, code=0):
-        """The document that lejis prints, with the library of this folder."""
+        """The document that lejis prints, or the line that sums up, with the library of this folder."""
         run = machine.run(folder / "lejis.exe", *arguments, "--json", folder=os.environ["LEJIS_SIMULATOR_SCHEMAS"])
-        document = json.loads(run.output)
+        document = json.loads(run.output.splitlines()[-1] if arguments[0] == "submit" else run.output)
         self.assertEqual((run.code, document["exitCode"]), (code, code), run)
         return document
 
