@@ -147,8 +147,8 @@ TEST_F(WsdlOnWindows, StopsNoTimerOfTheClientWhileItIsFetched) {
 
 // Under Wine a request that is not waited for never completes when nobody listens; so the WSDL's is waited for.
 TEST(WsdlUnderWine, OfAServerThatRefusesTheConnectionEndsAtOnce) {
-    // The blocking fetch is Wine's alone: on Windows there is nothing here to look at.
-    if (!platform::wine::IsHere()) GTEST_SKIP() << "this is no Wine";
+    if (!platform::wine::IsHere())
+        GTEST_SKIP() << "On Windows no fetch blocks; the tests before this one have that road.";
     support::TestHost host;
     EXPECT_TRUE(Raises(platform::kServerUnreachable, L"Error -2146697208", [] {
         SchemaUtils::ValidateSchemaFromWSDL(Request(L"<x/>"), L"http://127.0.0.1:1/submission?wsdl");

@@ -117,54 +117,50 @@ TEST_P(SubmissionSendingFailure, IsAnEventAtOnce) {
 INSTANTIATE_TEST_SUITE_P(Failures, SubmissionSendingFailure, testing::ValuesIn(kSendingFailures),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST(SubmissionEventsLifetime, TheServiceLivesUntilItsAnswerHasBeenToldEvenWhenItsClientLetsGo) {
-    ScriptedHttp http({.responseText = support::SubmissionResponse(L"0")});
-    auto service = platform::Create<LejisSubmissionWebService>();
-    service->URL = kUrl;
-    const auto sink = EventLog::ForSubmissions();
-    sink->ConnectTo(service->Dispatch());
-    service->SubmitAsync(*Document().Get());
+class SubmissionEventsLifetime : public testing::Test {
+protected:
+    SubmissionEventsLifetime() {
+        service->URL = kUrl;
+        log->ConnectTo(service->Dispatch());
+    }
+
+    void Submit() { service->SubmitAsync(*Document().Get()); }
+
+    ScriptedHttp http{{.responseText = support::SubmissionResponse(L"0")}};
+    ComPtr<LejisSubmissionWebService> service = platform::Create<LejisSubmissionWebService>();
+    const ComPtr<EventLog> log = EventLog::ForSubmissions();
+};
+
+TEST_F(SubmissionEventsLifetime, TheServiceLivesUntilItsAnswerHasBeenToldEvenWhenItsClientLetsGo) {
+    Submit();
     service.Reset();
     http.Last().Advance();
-    EXPECT_TRUE(support::PumpUntil([&] { return !sink->events.empty(); }));
-    EXPECT_EQ(std::vector<std::wstring>{L"SubmissionCompleted"}, sink->events);
+    EXPECT_TRUE(support::PumpUntil([&] { return !log->events.empty(); }));
+    EXPECT_EQ(std::vector<std::wstring>{L"SubmissionCompleted"}, log->events);
 }
 
-TEST(SubmissionEventsLifetime, TheSubmissionUnderWayIsLeftAloneByOneThatCannotBeSent) {
-    ScriptedHttp http({.responseText = support::SubmissionResponse(L"0")});
-    const auto service = platform::Create<LejisSubmissionWebService>();
-    service->URL = kUrl;
-    const auto sink = EventLog::ForSubmissions();
-    sink->ConnectTo(service->Dispatch());
-    service->SubmitAsync(*Document().Get());
+TEST_F(SubmissionEventsLifetime, TheSubmissionUnderWayIsLeftAloneByOneThatCannotBeSent) {
+    Submit();
     http.script.createResult = E_OUTOFMEMORY;
-    service->SubmitAsync(*Document().Get());
+    Submit();
     EXPECT_TRUE(http.Last().HasHandler());
     http.Last().Advance();
-    EXPECT_TRUE(support::PumpUntil([&] { return sink->events.size() == 2; }));
+    EXPECT_TRUE(support::PumpUntil([&] { return log->events.size() == 2; }));
     const std::vector<std::wstring> expected = {
         L"ConfigurationError: Internal error -2147024882: Error in DoSubmit (line 4): Out of memory.",
         L"SubmissionCompleted"};
-    EXPECT_EQ(expected, sink->events);
+    EXPECT_EQ(expected, log->events);
 }
 
-TEST(SubmissionEventsLifetime, ASubmissionThatAnotherReplacesBringsNoNews) {
-    ScriptedHttp http({.responseText = support::SubmissionResponse(L"0")});
-    const auto service = platform::Create<LejisSubmissionWebService>();
-    service->URL = kUrl;
-    const auto sink = EventLog::ForSubmissions();
-    sink->ConnectTo(service->Dispatch());
-    service->SubmitAsync(*Document().Get());
-    service->SubmitAsync(*Document().Get());
+TEST_F(SubmissionEventsLifetime, ASubmissionThatAnotherReplacesBringsNoNews) {
+    Submit();
+    Submit();
     for (const auto& request : http.requests) request->Advance();
     support::PumpFor(250);
-    EXPECT_EQ(std::vector<std::wstring>{L"SubmissionCompleted"}, sink->events);
+    EXPECT_EQ(std::vector<std::wstring>{L"SubmissionCompleted"}, log->events);
 }
 
-TEST(SubmissionEventsLifetime, AStateChangeOrARunWithoutARequestHarmsNothing) {
-    const auto service = platform::Create<LejisSubmissionWebService>();
-    const auto log = EventLog::ForSubmissions();
-    log->ConnectTo(service->Dispatch());
+TEST_F(SubmissionEventsLifetime, AStateChangeOrARunWithoutARequestHarmsNothing) {
     EXPECT_EQ(S_OK, service->OnReadyStateChange());
     EXPECT_EQ(S_OK, service->Run());
     EXPECT_EQ(std::vector<std::wstring>{L"ServiceError: Internal error in web service code: Object required"},

@@ -3,11 +3,10 @@
 
 #include "platform/Wine.h"
 #include "support/Xml.h"
+#include "unit_support/LocalListener.h"
 #include "unit_support/TestHost.h"
 
 #include <gtest/gtest.h>
-
-#include <winsock2.h>
 
 #include <string>
 #include <thread>
@@ -20,33 +19,19 @@ constexpr DWORD kDelay = 500;
 // Answers one request with a WSDL, half a second late.
 class SlowServer {
 public:
-    SlowServer() {
-        EXPECT_EQ(0, WSAStartup(MAKEWORD(2, 2), &startup_));
-        listener_ = socket(AF_INET, SOCK_STREAM, IPPROTO_TCP);
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        int size = sizeof address;
-        EXPECT_EQ(0, bind(listener_, reinterpret_cast<const sockaddr*>(&address), size));
-        EXPECT_EQ(0, listen(listener_, 1));
-        EXPECT_EQ(0, getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &size));
-        port_ = ntohs(address.sin_port);
-        thread_ = std::thread([this] { Serve(); });
-    }
+    SlowServer() : thread_([this] { Serve(); }) {}
     ~SlowServer() {
-        // Ends a wait for a client that did not come.
-        closesocket(listener_);
+        listener_.Close();
         thread_.join();
-        WSACleanup();
     }
     SlowServer(const SlowServer&) = delete;
     SlowServer& operator=(const SlowServer&) = delete;
 
-    std::wstring Wsdl() const { return L"http://127.0.0.1:" + std::to_wstring(port_) + L"/submission?wsdl"; }
+    std::wstring Wsdl() const { return listener_.Address(L"submission?wsdl"); }
 
 private:
     void Serve() const {
-        const SOCKET client = accept(listener_, nullptr, nullptr);
+        const SOCKET client = listener_.Accept();
         if (client == INVALID_SOCKET) return;
         char buffer[2048];
         std::string head;
@@ -64,9 +49,7 @@ private:
         closesocket(client);
     }
 
-    WSADATA startup_{};
-    SOCKET listener_ = INVALID_SOCKET;
-    u_short port_ = 0;
+    support::LocalListener listener_;
     std::thread thread_;
 };
 
@@ -75,8 +58,8 @@ int ticks = 0;
 void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) { ++ticks; }
 
 TEST(WsdlOverHttp, IsFetchedUnderWineInOneBlockingCall) {
-    // The blocking fetch is Wine's alone: on Windows there is nothing here to look at.
-    if (!platform::wine::IsHere()) GTEST_SKIP() << "this is no Wine";
+    if (!platform::wine::IsHere())
+        GTEST_SKIP() << "On Windows no fetch blocks; SchemaUtilsTest has the one that yields.";
     const SlowServer server;
     support::TestHost host;
     ticks = 0;
