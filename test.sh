@@ -174,7 +174,8 @@ run_packages() {
   run_tests - packages unittest packages "$project/tests/support/with_simulator.sh" "$project/tests/packages/run.sh" "$@"
 }
 
-# The guide's commands start and stop Wine themselves, so they come last. They are for the 32-bit library.
+# The guide's commands and the demonstration start and stop Wine themselves, so they come last. They are for the 32-bit
+# library.
 run_guide() {
   [[ $selection != x64 ]] && wine_runs x86 || return 0
   run_tests - tools unittest guides /usr/bin/python3 -m unittest discover -s "$project/tests/guides"

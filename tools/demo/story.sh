@@ -33,7 +33,7 @@ lejis_gives() {
   printf '\n  $ lejis'
   printf ' %s' "${@:2}"
   printf '\n'
-  run timeout --kill-after=10 60 "$project/tools/wine-program.sh" "$lejis" "${@:2}" >"$answer" 2>&1 || code=$?
+  run_program "$lejis" "${@:2}" >"$answer" 2>&1 || code=$?
   tr -d '\r' <"$answer" | sed 's/^/    /'
   say "    (exit code $code)"
   ((code == $1)) || not_as_told "exit code $1 was expected"
@@ -131,7 +131,7 @@ it_says 'JNET User ID is not known'
 
 heading "The server breaks off in the middle of its answer; the next search succeeds"
 simulator_plays '{"target": "search", "kind": "truncated"}'
-lejis_gives "$refused" search --surname hol --user jdoe --url "$search_url"
+lejis_gives "$try_again" search --surname hol --user jdoe --url "$search_url"
 it_says 'Internal error in web service code'
 lejis_gives "$done_code" search --surname hol --user jdoe --url "$search_url"
 
