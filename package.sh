@@ -29,7 +29,7 @@ describe() {
   folder=$(dirname "$description")
   [[ ! $description -nt $library ]] || return 0
   mkdir -p "$folder"
-  run timeout --kill-after=10 60 wine "$project/build/$reader/packaging/describe_type_library.exe" \
+  run_program "$project/build/$reader/packaging/describe_type_library.exe" \
     "$(windows_path "$library")" >"$description.new" || fail "the type library of $1 could not be read"
   tr -d '\r' <"$description.new" >"$description"
   rm "$description.new"

@@ -24,7 +24,7 @@ with_simulator() {
       *) command+=("$argument") ;;
     esac
   done
-  run timeout --kill-after=10 60 "$project/tools/wine-program.sh" "${command[@]}"
+  run_program "${command[@]}"
 }
 
 [[ -f ${1:-} ]] || wrong_usage "usage: samples/run.sh PROGRAM [ARGUMENT...]"

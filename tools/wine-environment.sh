@@ -44,7 +44,10 @@ prefix_mark() {
   printf '2 %s %s\n' "$bits" "$(wine --version)"
 }
 
-add_registry_value() { run wine reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null 2>&1; }
+# run_program PROGRAM [ARGUMENT...]: a program that ends soon.
+run_program() { run timeout --kill-after=10 60 "$project/tools/wine-program.sh" "$@"; }
+
+add_registry_value() { run_program reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null 2>&1; }
 
 # boot_prefix LOG: a new one.
 boot_prefix() {
@@ -104,7 +107,7 @@ stop_wine() {
 check_heap_of() {
   local bits
   for bits in 32 64; do
-    run wine reg add "HKLM\\Software\\Microsoft\\Windows NT\\CurrentVersion\\Image File Execution Options\\$1" \
+    run_program reg add "HKLM\\Software\\Microsoft\\Windows NT\\CurrentVersion\\Image File Execution Options\\$1" \
       /v GlobalFlag /t REG_DWORD /d 0x70 /f "/reg:$bits" >/dev/null 2>&1 || fail "the prefix takes no settings"
   done
 }
@@ -115,7 +118,7 @@ register_dll() {
   local code=0
   [[ -f $(library_of "$1") ]] || fail "$(library_of "$1") has not been built"
   # Without /s a newer Wine shows a message box, and nobody is there to close it.
-  run timeout --kill-after=10 60 wine "$(windows_programs "$1")\\regsvr32.exe" /s \
+  run_program "$(windows_programs "$1")\\regsvr32.exe" /s \
     "$(windows_path "$(library_of "$1")")" >/dev/null 2>&1 || code=$?
   ((code == 0)) || fail "the $1 library could not be registered: regsvr32 ended with code $code"
 }

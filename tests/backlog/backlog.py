@@ -28,6 +28,7 @@ sys.path[:0] = [str(PROJECT / folder) for folder in ("tools/simulator", "tests/f
 from fault_server import FaultServer  # noqa: E402  the paths come first
 from lejis_case import card  # noqa: E402
 from moods import Moods  # noqa: E402
+from windows_program import RUNNER  # noqa: E402
 
 DONE = 0
 MOST_RUNS = 40
@@ -62,7 +63,7 @@ class Backlog:
 
     def start(self) -> subprocess.Popen:
         self.runs += 1
-        command = ["wine", self.program, "submit", "--recurse", "incidents", "--url", self.url, "--jobs",
+        command = [RUNNER, self.program, "submit", "--recurse", "incidents", "--url", self.url, "--jobs",
                    str(self.jobs), "--retry", "5", "--stop-after", "50", "--ledger", "night.ledger", "--json"]
         return subprocess.Popen(command, cwd=self.folder, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True)
 

@@ -25,6 +25,7 @@ sys.path[:0] = [str(PROJECT / folder)
 
 from fault_server import FaultServer  # noqa: E402  the paths come first
 from moods import Moods  # noqa: E402
+from windows_program import RUNNER  # noqa: E402
 
 ABSENT, NO_DOUBT = "-", "="
 # Every third version is a full incident, with two persons.
@@ -121,7 +122,7 @@ def endure(client: str, count: int, seed: int, data: Path) -> tuple[Run, Moods]:
     run, moods = Run(), Moods(seed)
     server = FaultServer((), data)
     try:
-        command = ["wine", client, server.moody_address("submit", moods.draw), str(count), str(seed),
+        command = [RUNNER, client, server.moody_address("submit", moods.draw), str(count), str(seed),
                    server.moody_address("submit", Moods(seed).draw)]
         with subprocess.Popen(command, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True) as process:
             listen(process, server, run, "end of ledger")

@@ -9,6 +9,8 @@ import threading
 from pathlib import Path
 from typing import NamedTuple
 
+from windows_program import RUNNER
+
 _ESCAPES = {"\\r": "\r", "\\n": "\n", "\\t": "\t", "\\\\": "\\"}
 
 
@@ -25,7 +27,7 @@ class FaultClient:
     """A Windows program that makes exchanges one after the other."""
 
     def __init__(self, program: str, folder: Path) -> None:
-        self._command = ["wine", program]
+        self._command = [RUNNER, program]
         self._folder = folder
         self._process: subprocess.Popen | None = None
         self._lines: queue.Queue[bytes] = queue.Queue()

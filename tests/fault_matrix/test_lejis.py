@@ -24,10 +24,10 @@ from behaviour import Behaviour, Exchange  # noqa: E402
 from behaviours import BEHAVIOURS  # noqa: E402
 from fault_server import FaultServer  # noqa: E402
 from lejis_case import card  # noqa: E402
+from windows_program import RUNNER  # noqa: E402
 
 ORI = "PA0250100"
 TIME_LIMIT = 280
-RUNNER = PROJECT / "tools" / "wine-program.sh"
 
 _PLAYED = [behaviour for behaviour in BEHAVIOURS if not behaviour.scripted and not behaviour.twice]
 # One run meets all that begin with a request; each of the others has a port of its own.

@@ -10,6 +10,7 @@ import json
 import os
 import re
 import subprocess
+import sys
 import tempfile
 import time
 import unittest
@@ -18,8 +19,11 @@ from pathlib import Path
 from typing import NamedTuple
 
 PROJECT = Path(__file__).resolve().parents[2]
+sys.path.append(str(PROJECT / "tests" / "support"))
+
+from windows_program import RUNNER  # noqa: E402  (the path comes first)
+
 SAMPLES = PROJECT / "samples" / "incidents"
-RUNNER = str(PROJECT / "tools" / "wine-program.sh")
 TIME_LIMIT = 60
 
 DONE, REFUSED, TRY_AGAIN, BOTH, WRONG_USAGE, INTERRUPTED = 0, 1, 2, 3, 64, 130

@@ -7,7 +7,7 @@ import subprocess
 import tempfile
 from pathlib import Path
 
-from lejis_case import TIME_LIMIT
+from lejis_case import RUNNER, TIME_LIMIT
 
 CLASSES = r"HKLM\Software\Classes"
 BITS = 64 if "/x64/" in os.environ["LEJIS_EXE"] else 32
@@ -21,7 +21,7 @@ _MACHINES = {32: 0x14C, 64: 0x8664}
 
 
 def _run(*command):
-    return subprocess.run(["wine", *command], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+    return subprocess.run([RUNNER, *command], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                           stderr=subprocess.DEVNULL, timeout=TIME_LIMIT, check=True).stdout.decode("utf-8")
 
 

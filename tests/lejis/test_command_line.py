@@ -4,7 +4,7 @@ import re
 import subprocess
 import unittest
 
-from lejis_case import DONE, PROJECT, REFUSED, TIME_LIMIT, WRONG_USAGE, LejisCase, card
+from lejis_case import DONE, PROJECT, REFUSED, RUNNER, TIME_LIMIT, WRONG_USAGE, LejisCase, card
 
 COMMANDS = ("check", "show", "submit", "delete", "search", "doctor")
 
@@ -132,7 +132,7 @@ class RegistrationTest(LejisCase):
         self.dll = self.expect(DONE, "--version").splitlines()[2]
 
     def regsvr32(self, *arguments):
-        subprocess.run(["wine", "regsvr32.exe", "/s", *arguments, self.dll], stdin=subprocess.DEVNULL,
+        subprocess.run([RUNNER, "regsvr32.exe", "/s", *arguments, self.dll], stdin=subprocess.DEVNULL,
                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=TIME_LIMIT, check=True)
 
     def test_a_library_that_is_not_registered_is_one_sentence_for_all_files(self):

@@ -9,6 +9,7 @@ from typing import NamedTuple
 sys.path.append(str(Path(__file__).resolve().parents[1] / "support"))
 
 import wine_version  # noqa: E402  (the path comes first)
+from windows_program import RUNNER  # noqa: E402
 
 PREFIX = Path(os.environ["WINEPREFIX"])
 DISK = PREFIX / "drive_c"
@@ -38,8 +39,8 @@ class Run(NamedTuple):
 
 
 def run(*command, folder=None):
-    process = subprocess.run(["wine", *map(str, command)], cwd=folder or DISK, stdin=subprocess.DEVNULL,
-                             capture_output=True, timeout=TIME_LIMIT, check=False)
+    process = subprocess.run([RUNNER, *map(str, command)], cwd=folder or DISK, stdin=subprocess.DEVNULL,
+                             stdout=subprocess.PIPE, timeout=TIME_LIMIT, check=False)
     return Run(process.returncode, process.stdout.decode("utf-8", "replace").replace("\r\n", "\n"))
 
 

@@ -3,6 +3,7 @@ import json
 import os
 import re
 import subprocess
+import sys
 import tempfile
 import unittest
 import urllib.request
@@ -10,6 +11,10 @@ from pathlib import Path
 from typing import NamedTuple
 
 PROJECT = Path(__file__).resolve().parents[2]
+sys.path.append(str(PROJECT / "tests" / "support"))
+
+from windows_program import RUNNER  # noqa: E402  (the path comes first)
+
 SAMPLES = PROJECT / "samples"
 BUILD = PROJECT / "build" / os.environ["LEJIS_ARCHITECTURE"]
 SYSTEM = {"x86": "SysWOW64", "x64": "System32"}[os.environ["LEJIS_ARCHITECTURE"]]
@@ -59,9 +64,10 @@ class SampleCase(unittest.TestCase):
         return [incident["id"] for incident in self.control("GET", "index")]
 
     def wine(self, *command, folder=None, environment=None):
+        # What a program or Wine complains of stands in the tests' own output, which is looked at when a test fails.
         process = subprocess.run(
-            ["wine", *command], cwd=folder, env={**os.environ, **(environment or {})}, stdin=subprocess.DEVNULL,
-            capture_output=True, timeout=TIME_LIMIT, check=False)
+            [RUNNER, *command], cwd=folder, env={**os.environ, **(environment or {})}, stdin=subprocess.DEVNULL,
+            stdout=subprocess.PIPE, timeout=TIME_LIMIT, check=False)
         return Run(process.returncode, process.stdout.decode("utf-8").replace("\r\n", "\n"))
 
     def script(self, path, *arguments):

@@ -14,7 +14,7 @@ incident=$(windows_path "$project/samples/incidents/burglary.xml")
 # lejis_gives CODE ARGUMENT...
 lejis_gives() {
   local code=0
-  run timeout --kill-after=10 60 "$project/tools/wine-program.sh" "$(windows_path "$project/build/$architecture/bin/lejis.exe")" "${@:2}" \
+  run_program "$(windows_path "$project/build/$architecture/bin/lejis.exe")" "${@:2}" \
     >/dev/null || code=$?
   ((code == $1)) || fail "lejis ${*:2} ended with code $code"
 }

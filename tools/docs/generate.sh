@@ -10,9 +10,9 @@ source "$project/tools/wine-environment.sh"
 : "${LEJIS_SIMULATOR_DATA:?with_simulator.sh starts this}"
 clean_up_with :
 mkdir -p "$2/reference"
-run timeout --kill-after=10 60 wine "$(windows_path "$project/build/$1/tools/reference.exe")" \
+run_program "$(windows_path "$project/build/$1/tools/reference.exe")" \
   "$(windows_path "$(library_of "$1")")" "$(windows_path "$2/reference")" || fail "the reference could not be written"
-run timeout --kill-after=10 60 wine "$(windows_path "$project/build/$1/tools/incident_format.exe")" \
+run_program "$(windows_path "$project/build/$1/tools/incident_format.exe")" \
   "$(windows_path "$2")" || fail "the incident format could not be written"
 run "$project/tools/docs/exchanges.sh" "$1"
 run /usr/bin/python3 "$project/tools/docs/exchange_pages.py" "$LEJIS_SIMULATOR_DATA/exchanges" \
