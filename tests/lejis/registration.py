@@ -10,6 +10,7 @@ from pathlib import Path
 from lejis_case import RUNNER, TIME_LIMIT
 
 CLASSES = r"HKLM\Software\Classes"
+INTERNET = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Internet Settings"
 BITS = 64 if "/x64/" in os.environ["LEJIS_EXE"] else 32
 OTHER_BITS = 96 - BITS
 BUILT = Path(os.environ["LEJIS_EXE"]).with_name("TVLejisCore.dll")
@@ -33,6 +34,15 @@ def set_value(test, key, name, text, kind="REG_SZ"):
     """A value that was not there before the test."""
     test.addCleanup(reg, "delete", key, "/v", name, "/f")
     reg("add", key, "/v", name, "/t", kind, "/d", text, "/f")
+
+
+def use_proxy(test, servers, exceptions=None):
+    """As this user's settings for the Internet name it."""
+    test.addCleanup(reg, "add", INTERNET, "/v", "ProxyEnable", "/t", "REG_DWORD", "/d", "0", "/f")
+    reg("add", INTERNET, "/v", "ProxyEnable", "/t", "REG_DWORD", "/d", "1", "/f")
+    set_value(test, INTERNET, "ProxyServer", servers)
+    if exceptions:
+        set_value(test, INTERNET, "ProxyOverride", exceptions)
 
 
 def regsvr32(*arguments):

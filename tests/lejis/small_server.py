@@ -2,6 +2,7 @@
 import http.server
 import socket
 import threading
+import urllib.parse
 import urllib.request
 
 
@@ -21,9 +22,11 @@ class _Serving:
 
 
 class _Handler(http.server.BaseHTTPRequestHandler):
-    def answer(self, status, body):
+    def answer(self, status, body, *headers):
         self.send_response(status)
         self.send_header("Content-Type", "text/xml; charset=utf-8")
+        for header in headers:
+            self.send_header(*header)
         self.send_header("Content-Length", str(len(body)))
         self.end_headers()
         self.wfile.write(body)
@@ -43,9 +46,10 @@ class PageServer(_Serving):
 
 
 class Proxy(_Serving):
-    """Passes GET and POST on, and counts them in `passed`."""
+    """Passes GET and POST on, to the host of `instead` where that is given, and counts them in `passed`. The answers get
+    the header, if any."""
 
-    def __init__(self):
+    def __init__(self, instead=None, header=None):
         self.passed = passed = []
 
         class Handler(_Handler):
@@ -59,9 +63,11 @@ class Proxy(_Serving):
                 if not self.path.startswith("http://"):
                     return self.answer(400, b"")
                 passed.append(self.path)
-                request = urllib.request.Request(self.path, body, dict(self.headers))
+                path = urllib.parse.urlsplit(self.path).path
+                address = instead + path if instead else self.path
+                request = urllib.request.Request(address, body, dict(self.headers))
                 with urllib.request.build_opener(urllib.request.ProxyHandler({})).open(request, timeout=20) as answer:
-                    return self.answer(answer.status, answer.read())
+                    return self.answer(answer.status, answer.read(), *([header] if header else []))
         super().__init__(Handler)
 
 
@@ -75,3 +81,4 @@ class SilentServer:
 
     def __exit__(self, *_):
         self._socket.close()
+

@@ -3,10 +3,8 @@ import unittest
 
 from doctor_case import DUMPS, FLAGS, DoctorCase, dump_folders
 from lejis_case import DONE, PROJECT, TRY_AGAIN
-from registration import reg, set_value
+from registration import reg, set_value, use_proxy
 from small_server import Proxy
-
-INTERNET = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Internet Settings"
 
 
 class DumpsTest(DoctorCase):
@@ -62,36 +60,29 @@ class DumpsTest(DoctorCase):
 
 
 class ProxyTest(DoctorCase):
-    def use(self, servers, exceptions=None):
-        self.addCleanup(reg, "add", INTERNET, "/v", "ProxyEnable", "/t", "REG_DWORD", "/d", "0", "/f")
-        reg("add", INTERNET, "/v", "ProxyEnable", "/t", "REG_DWORD", "/d", "1", "/f")
-        set_value(self, INTERNET, "ProxyServer", servers)
-        if exceptions:
-            set_value(self, INTERNET, "ProxyOverride", exceptions)
-
     def test_none(self):
         self.assertEqual(self.findings(DONE)["Proxy"], ("ok", "none for this user"))
 
     def test_it_is_named_with_its_exceptions(self):
-        self.use("proxy.example:8080", "<local>;*.police.example")
+        use_proxy(self, "proxy.example:8080", "<local>;*.police.example")
         self.assertEqual(self.findings(DONE)["Proxy"],
                          ("ok", "proxy.example:8080, except for <local>;*.police.example"))
 
     def test_one_that_works(self):
         with Proxy() as proxy:
-            self.use(proxy.name)
+            use_proxy(self, proxy.name)
             found = self.in_schemas(DONE, "--url", self.url)
         self.assertEqual((found["Proxy"], found["Submission server"]), (("ok", proxy.name), ("ok", "reached")))
         self.assertIn(self.url + "?wsdl", proxy.passed)
 
     def test_a_dead_one_is_the_cause(self):
-        self.use("127.0.0.1:1")
+        use_proxy(self, "127.0.0.1:1")
         found = self.findings(TRY_AGAIN, "--url", self.url)
         self.expect_failure(found, "Submission server",
                             "^not reached: the proxy 127.0.0.1:1 takes no connection\nSee that the proxy runs")
 
     def test_a_dead_one_for_this_scheme_is_the_cause(self):
-        self.use("https=proxy.example:8080;http=127.0.0.1:1")
+        use_proxy(self, "https=proxy.example:8080;http=127.0.0.1:1")
         found = self.findings(TRY_AGAIN, "--url", self.url)
         self.expect_failure(found, "Submission server", "^not reached: the proxy 127.0.0.1:1 takes no connection")
 

@@ -1,6 +1,6 @@
 #include "doctor/ProxyCheck.h"
 
-#include "doctor/Proxy.h"
+#include "network/Proxy.h"
 
 namespace lejis_client {
 namespace {

@@ -1,7 +1,7 @@
 #include "doctor/ServerCheck.h"
 
-#include "doctor/Proxy.h"
 #include "doctor/WebFailureText.h"
+#include "network/Proxy.h"
 #include "text/WebAddress.h"
 
 #include <windows.h>

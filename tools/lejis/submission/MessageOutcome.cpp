@@ -51,11 +51,10 @@ std::wstring_view StepIn(std::wstring_view message) {
     return colon == std::wstring_view::npos ? message : message.substr(colon + 2);
 }
 
-Row RowOf(const LibraryError& error, bool serverWasThere) {
+Row RowOf(const LibraryError& error, bool mayHaveSent) {
     const std::wstring_view message = error.description;
-    // A server that was there has broken off.
-    if (message.starts_with(kServiceDown))
-        return {kServiceDown, serverWasThere ? Result::Unknown : Result::NotSent, true};
+    // A server that takes connections has broken off.
+    if (message.starts_with(kServiceDown)) return {kServiceDown, mayHaveSent ? Result::Unknown : Result::NotSent, true};
     if (const Row* const row = Find(kRows, message)) return *row;
     // An internal error may come after the answer, when LEJIS has taken the incident.
     if (message.starts_with(kInternalError)) {
@@ -69,8 +68,8 @@ Row RowOf(const LibraryError& error, bool serverWasThere) {
 
 }  // namespace
 
-Outcome OutcomeOf(const LibraryError& error, bool serverWasThere) {
-    const Row row = RowOf(error, serverWasThere);
+Outcome OutcomeOf(const LibraryError& error, bool mayHaveSent) {
+    const Row row = RowOf(error, mayHaveSent);
     Outcome outcome;
     outcome.result = row.result;
     outcome.errors = {error.description};

@@ -6,7 +6,7 @@
 
 namespace lejis_client {
 
-// Whether a server took connections before the library was asked decides what "service is down" means.
-Outcome OutcomeOf(const LibraryError& error, bool serverWasThere);
+// Whether anything could be sent when the library was asked decides what "service is down" means.
+Outcome OutcomeOf(const LibraryError& error, bool mayHaveSent);
 
 }  // namespace lejis_client

@@ -22,13 +22,13 @@ ServiceOperation::ServiceOperation(const CommandLine& commandLine, const wchar_t
 }
 
 Outcome ServiceOperation::Run(ILejisIncidentIndexCard* incident) {
-    const bool serverWasThere = probe_.FindsServer();
+    const bool mayHaveSent = probe_.MaySend();
     try {
         Outcome outcome;
         outcome.warnings = Ask(incident);
         return outcome;
     } catch (const LibraryError& error) {
-        const Outcome outcome = OutcomeOf(error, serverWasThere);
+        const Outcome outcome = OutcomeOf(error, mayHaveSent);
         if (outcome.canTryAgain) probe_.Doubt();
         return Advised(outcome);
     }

@@ -45,7 +45,7 @@ std::optional<WebAddress> ParseWebAddress(const std::wstring& address) {
     if (!InternetCrackUrlW(address.c_str(), 0, 0, &parts) || parts.dwHostNameLength == 0) return {};
     if (parts.nScheme != INTERNET_SCHEME_HTTP && parts.nScheme != INTERNET_SCHEME_HTTPS) return {};
     return WebAddress{parts.nScheme == INTERNET_SCHEME_HTTP ? L"http" : L"https",
-                      WithoutBrackets(Part(parts.lpszHostName, parts.dwHostNameLength)),
+                      WithoutBrackets(Part(parts.lpszHostName, parts.dwHostNameLength)), parts.nPort,
                       Part(parts.lpszExtraInfo, parts.dwExtraInfoLength)};
 }
 

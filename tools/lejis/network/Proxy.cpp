@@ -1,4 +1,4 @@
-#include "doctor/Proxy.h"
+#include "network/Proxy.h"
 
 #include <windows.h>
 #include <wininet.h>
@@ -20,6 +20,17 @@ std::wstring WithoutScheme(const std::wstring& server) {
 }
 
 }  // namespace
+
+bool DetectsProxy() {
+    INTERNET_PER_CONN_OPTIONW flags = {};
+    flags.dwOption = INTERNET_PER_CONN_FLAGS;
+    INTERNET_PER_CONN_OPTION_LISTW list = {sizeof list, nullptr, 1, 0, &flags};
+    DWORD size = sizeof list;
+    if (!InternetQueryOptionW(nullptr, INTERNET_OPTION_PER_CONNECTION_OPTION, &list, &size)) return false;
+    char script[INTERNET_MAX_URL_LENGTH] = {};
+    return (flags.Value.dwValue & PROXY_TYPE_AUTO_DETECT) &&
+           DetectAutoProxyUrl(script, sizeof script, PROXY_AUTO_DETECT_TYPE_DHCP | PROXY_AUTO_DETECT_TYPE_DNS_A);
+}
 
 Proxy ReadProxy() {
     INTERNET_PER_CONN_OPTIONW options[4] = {};

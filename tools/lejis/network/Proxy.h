@@ -17,6 +17,10 @@ struct Proxy {
 
 Proxy ReadProxy();
 
+// Whether the network itself names a script that chooses a proxy, and the settings want the network to be asked. It may
+// take seconds.
+bool DetectsProxy();
+
 // The proxy for addresses of a scheme such as "http", with its port where it has one; empty without a proxy.
 std::wstring ServerFor(const Proxy& proxy, const std::wstring& scheme);
 
