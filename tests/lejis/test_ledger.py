@@ -6,8 +6,8 @@ import unittest
 
 from lejis_case import BOTH, DONE, REFUSED, RUNNER, TIME_LIMIT, TRY_AGAIN, SimulatorCase, card
 
-MEMBERS = ["command", "file", "digest", "ori", "number", "outcome", "tryAgain", "error", "errors", "warnings", "start",
-           "seconds"]
+MEMBERS = ["command", "url", "file", "digest", "ori", "number", "outcome", "tryAgain", "error", "errors", "warnings",
+           "start", "seconds"]
 
 
 class LedgerCase(SimulatorCase):
@@ -38,6 +38,7 @@ class LedgerTest(LedgerCase):
         self.assertEqual(submitted["digest"],
                          "sha256:" + hashlib.sha256((self.folder / "a.xml").read_bytes()).hexdigest())
         self.assertTrue(submitted["file"].endswith("\\a.xml"), submitted)
+        self.assertEqual(submitted["url"], self.url)
         self.assertEqual((submitted["command"], submitted["ori"], submitted["number"], submitted["outcome"]),
                          ("submit", "PA0990100", "2024-1", "submitted"))
         self.assertEqual((submitted["error"], submitted["errors"], len(submitted["warnings"])), (None, [], 1))
@@ -58,6 +59,14 @@ class LedgerTest(LedgerCase):
         self.write("b.xml", card("2024-2", charge="2203"))
         self.submit(DONE, "a.xml", "b.xml")
         self.assertEqual(self.posts(), 4)
+
+    def test_what_one_server_holds_is_submitted_to_another_all_the_same(self):
+        self.write("a.xml", card("2024-1"))
+        self.submit(DONE, "a.xml")
+        first, self.url = self.url, self.url.replace("127.0.0.1", "localhost")
+        self.submit(DONE, "a.xml")
+        self.assertEqual(([entry["url"] for entry in self.entries()], self.posts()), ([first, self.url], 2))
+        self.assertTrue(self.expect(DONE, "ledger", "night.ledger").startswith("2 incidents in 2 tries: 2 submitted.\n"))
 
     def test_an_earlier_content_is_submitted_again_after_a_later_one(self):
         for charge in ("2202", "2203", "2202"):

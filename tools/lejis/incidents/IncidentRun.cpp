@@ -31,9 +31,10 @@ std::vector<std::wstring> NamesOf(const std::deque<Task>& tasks) {
     return names;
 }
 
-LedgerEntry EntryOf(const Command& command, const Task& task, const Attempt& attempt) {
+LedgerEntry EntryOf(const Command& command, const std::wstring& url, const Task& task, const Attempt& attempt) {
     LedgerEntry entry;
     entry.command = command.name;
+    entry.url = url;
     entry.file = task.path.empty() ? task.name : task.path;
     entry.digest = attempt.digest;
     entry.identity = attempt.identity.value_or(Identity{});
@@ -81,7 +82,7 @@ public:
     void Tried(const Task& task, const Attempt& attempt) override {
         if (!ledger_ || attempt.outcome.result == Result::LeftOut) return;
         try {
-            ledger_->Append(EntryOf(command_, task, attempt));
+            ledger_->Append(EntryOf(command_, url_, task, attempt));
         } catch (const FileError& error) {
             // What cannot be written down is not to be done.
             ledgerFault_ = error.reason;
@@ -95,7 +96,8 @@ private:
     IncidentRun(const CommandLine& commandLine, const BacklogSettings& settings, const std::deque<Task>& tasks)
         : command_(*commandLine.command),
           isVerbose_(commandLine.verbose),
-          done_(command_.name, command_.success),
+          url_(commandLine.url.value_or(L"")),
+          done_(command_.name, url_, command_.success),
           report_(Report::Create(commandLine, NamesOf(tasks))),
           backlog_(
               settings, [&] { return std::make_unique<IncidentJob>(commandLine, done_); }, tasks, *this) {
@@ -106,6 +108,7 @@ private:
 
     const Command& command_;
     bool isVerbose_;
+    std::wstring url_;
     LedgerIndex done_;
     std::unique_ptr<Ledger> ledger_;
     std::wstring ledgerFault_;

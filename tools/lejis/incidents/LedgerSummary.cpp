@@ -13,9 +13,12 @@
 namespace lejis_client {
 namespace {
 
+// The address of a service and a file.
+using Place = std::pair<std::wstring, std::wstring>;
+
 // What became of each incident in the end.
 struct Summary {
-    std::map<std::wstring, LedgerEntry> last;
+    std::map<Place, LedgerEntry> last;
     std::size_t tries = 0;
     std::size_t unreadableLines = 0;
     std::map<std::wstring, std::size_t> outcomes;
@@ -34,9 +37,9 @@ Summary SummaryOf(const std::wstring& ledger) {
     Summary summary;
     summary.unreadableLines = ReadLedger(ledger, [&](const LedgerEntry& entry) {
         ++summary.tries;
-        summary.last[entry.file] = entry;
+        summary.last[{entry.url, entry.file}] = entry;
     });
-    for (const auto& [file, entry] : summary.last) Count(entry, summary);
+    for (const auto& [place, entry] : summary.last) Count(entry, summary);
     return summary;
 }
 

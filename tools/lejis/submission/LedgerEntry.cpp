@@ -17,6 +17,7 @@ std::vector<std::wstring> WideTexts(const Json& object, const char* member) {
 LedgerEntry EntryOf(const Json& object) {
     LedgerEntry entry;
     entry.command = WideText(object, "command");
+    entry.url = WideText(object, "url");
     entry.file = WideText(object, "file");
     entry.digest = object.at("digest").get<std::string>();
     entry.identity = {WideText(object, "ori"), WideText(object, "number")};
@@ -34,6 +35,7 @@ LedgerEntry EntryOf(const Json& object) {
 
 std::string LineOf(const LedgerEntry& entry) {
     const Json object = {{"command", JsonText(entry.command)},
+                         {"url", JsonText(entry.url)},
                          {"file", JsonText(entry.file)},
                          {"digest", entry.digest},
                          {"ori", JsonText(entry.identity.ori)},

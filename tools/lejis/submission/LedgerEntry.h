@@ -11,6 +11,8 @@ namespace lejis_client {
 struct LedgerEntry {
     // The name of the command.
     std::wstring command;
+    // Of the service; empty where none was asked.
+    std::wstring url;
     // The whole path; what the command line names the incident by where there is no file.
     std::wstring file;
     std::string digest;

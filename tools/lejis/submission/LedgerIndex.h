@@ -10,8 +10,8 @@ namespace lejis_client {
 
 class LedgerIndex {
 public:
-    // Of what this command has done, which it calls so.
-    LedgerIndex(std::wstring command, std::wstring success);
+    // Of what this command has done at this address, which it calls so.
+    LedgerIndex(std::wstring command, std::wstring url, std::wstring success);
 
     // Entries in the order of the ledger.
     void Add(const LedgerEntry& entry);
@@ -29,6 +29,7 @@ private:
     void Forget(const std::wstring& file);
 
     std::wstring command_;
+    std::wstring url_;
     std::wstring success_;
     std::map<std::wstring, Success> successes_;
     std::map<Identity, std::set<std::wstring>> files_;
