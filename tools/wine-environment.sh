@@ -1,6 +1,7 @@
 # shellcheck shell=bash
 # Sourced after shell-support.sh by scripts that hold the lock: Wine with a prefix of this checkout's own in build/wine.
-# WINE names another Wine than the one on PATH; that one's prefix is build/wine-VERSION.
+# WINE names another Wine than the one on PATH; that one's prefix is build/wine-VERSION. WINE_LANE names a prefix for
+# programs that run at the same time as others; its name stands at the end.
 
 : "${project:?shell-support.sh comes first}"
 # shellcheck source=tools/wine-choice.sh
@@ -14,6 +15,7 @@ if [[ -n ${WINE:-} ]]; then
   wine_version=$("$WINE" --version) || fail "'$WINE --version' tells no version"
   WINEPREFIX=$project/build/${wine_version%% *}
 fi
+WINEPREFIX+=${WINE_LANE:+-$WINE_LANE}
 # Whatever starts `wine` or `wineserver` gets those of the chosen Wine.
 [[ :$PATH: == *:$project/tools/wine:* ]] || export PATH=$project/tools/wine:$PATH
 export WINEARCH=win64

@@ -1,6 +1,6 @@
 """Counts what test programs did.
 
-    test_report.py record FOLDER ARCH RING KIND PROGRAM EXIT_CODE [--filtered]
+    test_report.py record FOLDER ARCH RING KIND PROGRAM EXIT_CODE SECONDS [--filtered]
         reads FOLDER/ARCH-RING-PROGRAM.log (and .xml), prints what failed, adds the counts to FOLDER/rows.tsv
     test_report.py summary FOLDER
         prints a table and, as the last line, "N passed, M failed"; exit code 1 unless all is well
@@ -116,7 +116,7 @@ def read(kind, code, stem, architecture):
     return read_script(code, log, architecture) if kind == "script" else read_unittest(code, log)
 
 
-def record(folder, architecture, ring, kind, program, code, filtered):
+def record(folder, architecture, ring, kind, program, code, seconds, filtered):
     stem = f"{folder}/{architecture}-{ring}-{program}"
     outcome = read(kind, int(code), stem, architecture)
     if not (outcome.passed or outcome.failures or filtered):
@@ -126,7 +126,7 @@ def record(folder, architecture, ring, kind, program, code, filtered):
         for line in output:
             print(f"    {line}")
     with open(f"{folder}/rows.tsv", "a", encoding="utf-8") as rows:
-        print(architecture, ring, outcome.passed, len(outcome.failures), outcome.skipped, sep="\t", file=rows)
+        print(architecture, ring, outcome.passed, len(outcome.failures), outcome.skipped, seconds, sep="\t", file=rows)
 
 
 def summary(folder):
@@ -134,11 +134,12 @@ def summary(folder):
     counts = {}
     for line in rows.read_text(encoding="utf-8").splitlines() if rows.exists() else []:
         architecture, ring, *numbers = line.split("\t")
-        sums = counts.setdefault((architecture, ring), [0, 0, 0])
+        sums = counts.setdefault((architecture, ring), [0, 0, 0, 0])
         counts[architecture, ring] = [a + int(b) for a, b in zip(sums, numbers)]
-    print(f"{'':5} {'':12} {'passed':>7} {'failed':>7} {'skipped':>7}")
-    for (architecture, ring), numbers in counts.items():
-        print(f"{architecture:5} {ring:12} " + " ".join(f"{number:7}" for number in numbers))
+    print(f"{'':5} {'':18} {'passed':>7} {'failed':>7} {'skipped':>7} {'seconds':>7}")
+    # The lanes that write the rows run side by side.
+    for (architecture, ring), numbers in sorted(counts.items(), key=lambda item: item[0][0], reverse=True):
+        print(f"{architecture:5} {ring:18} " + " ".join(f"{number:7}" for number in numbers))
     passed, failed = (sum(numbers[i] for numbers in counts.values()) for i in (0, 1))
     if not passed and not failed:
         print("no test ran")
@@ -147,8 +148,8 @@ def summary(folder):
 
 
 def main(arguments):
-    if arguments[:1] == ["record"] and len(arguments) in (7, 8):
-        return record(*arguments[1:7], filtered=arguments[7:] == ["--filtered"])
+    if arguments[:1] == ["record"] and len(arguments) in (8, 9):
+        return record(*arguments[1:8], filtered=arguments[8:] == ["--filtered"])
     if arguments[:1] == ["summary"] and len(arguments) == 2:
         return summary(arguments[1])
     print(__doc__, file=sys.stderr)

@@ -31,9 +31,9 @@ class TestReportTest(unittest.TestCase):
             stem.with_suffix(".xml").write_text(xml, encoding="utf-8")
         printed = io.StringIO()
         with contextlib.redirect_stdout(printed):
-            test_report.record(self.folder, architecture, "unit", kind, "program", str(code), filtered)
+            test_report.record(self.folder, architecture, "unit", kind, "program", str(code), "3", filtered)
         row = Path(self.folder, "rows.tsv").read_text(encoding="utf-8").splitlines()[-1]
-        return tuple(map(int, row.split("\t")[2:])), printed.getvalue()
+        return tuple(map(int, row.split("\t")[2:5])), printed.getvalue()
 
     def summary(self):
         printed = io.StringIO()
