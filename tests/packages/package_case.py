@@ -80,7 +80,8 @@ class PackageCase(unittest.TestCase):
 
     def lejis(self, folder, *arguments, code=0):
         """The document that lejis prints, or the line that sums up, with the library of this folder."""
-        run = machine.run(folder / "lejis.exe", *arguments, "--json", folder=os.environ["LEJIS_SIMULATOR_SCHEMAS"])
+        run = machine.run(machine.windows_path(folder / "lejis.exe"), *arguments, "--json",
+                          folder=os.environ["LEJIS_SIMULATOR_SCHEMAS"])
         document = json.loads(run.output.splitlines()[-1] if arguments[0] == "submit" else run.output)
         self.assertEqual((run.code, document["exitCode"]), (code, code), run)
         return document
