@@ -2,10 +2,13 @@
 
 #include "platform/Registry.h"
 #include "platform/thread/ThreadState.h"
+#include "services/LejisSearchWebService.h"
 #include "services/LejisSubmissionWebService.h"
 #include "support/Printing.h"
 #include "support/TemporaryFolder.h"
 #include "support/Xml.h"
+#include "unit_support/Answers.h"
+#include "unit_support/EventLog.h"
 #include "unit_support/Incidents.h"
 #include "unit_support/Raises.h"
 #include "unit_support/ScriptedRequest.h"
@@ -38,8 +41,23 @@ protected:
 
     void Save() { LejisUtils::SaveDebugDocument(support::Parse(L"<x>1</x>"), L"Dump.xml"); }
 
+    void Search() {
+        search->URL = L"http://lejis-interface/search";
+        log->ConnectTo(search->Dispatch());
+        EXPECT_EQ(S_OK, search->Search(platform::Create<LejisSearchRequest>().Get()));
+    }
+
+    // The answer to the search comes in and is told.
+    void Answer(const support::ScriptedHttp& http) {
+        http.Last().Advance();
+        host.timers.back()->Tick();
+    }
+
     support::TestHost host;
     support::TemporaryFolder folder;
+    const Microsoft::WRL::ComPtr<LejisSearchWebService> search = platform::Create<LejisSearchWebService>();
+    const Microsoft::WRL::ComPtr<LejisSubmissionWebService> submission = platform::Create<LejisSubmissionWebService>();
+    const Microsoft::WRL::ComPtr<support::EventLog> log = support::EventLog::ForSearches();
 };
 
 TEST_F(DebugDump, IsWrittenWhenTheFlagIsExactlyY) {
@@ -106,19 +124,54 @@ TEST_F(DebugDump, ReplacesTheFileOfTheDumpBefore) {
 TEST_F(DebugDump, OfASubmissionHoldsRequestAndResponse) {
     const DebugFlag flag(L"Y");
     const support::ScriptedHttp http({.responseText = support::SubmissionResponse(L"0")});
-    const auto service = platform::Create<LejisSubmissionWebService>();
-    service->URL = L"http://lejis-interface/submission";
-    service->SubmitIncident(*support::CleanIncident().Get());
+    submission->URL = L"http://lejis-interface/submission";
+    submission->SubmitIncident(*support::CleanIncident().Get());
     EXPECT_TRUE(folder.Holds(L"LejisSubmitRequest.xml"));
     EXPECT_TRUE(folder.Holds(L"LejisSubmitResponse.xml"));
+}
+
+TEST_F(DebugDump, OfASubmissionThatNobodyWaitsForHoldsAnAnswerThatIsNoSuccess) {
+    const DebugFlag flag(L"Y");
+    const auto document = platform::Create<LejisSubmissionDocument>();
+    document->Add(support::CleanIncident());
+    submission->URL = L"http://lejis-interface/submission";
+    for (const long status : {200L, 500L}) {
+        const support::ScriptedHttp http({.status = status, .responseText = support::SoapFault(L"a", L"b")});
+        submission->SubmitAsync(*document.Get());
+        EXPECT_TRUE(folder.Holds(L"LejisSubmitRequest.xml"));
+        Answer(http);
+        EXPECT_EQ(status == 500, folder.Holds(L"LejisSubmitResponse.xml"));
+    }
+}
+
+TEST_F(DebugDump, OfASearchHoldsRequestAndResponse) {
+    const DebugFlag flag(L"Y");
+    const support::ScriptedHttp http({.responseText = support::InquiryResponse(L"")});
+    Search();
+    EXPECT_TRUE(folder.Holds(L"LejisSearchRequest.xml"));
+    EXPECT_FALSE(folder.Holds(L"LejisSearchResponse.xml"));
+    Answer(http);
+    EXPECT_TRUE(folder.Holds(L"LejisSearchResponse.xml"));
+    EXPECT_EQ(std::vector<std::wstring>{L"SearchCompleted: 0 cards"}, log->events);
+}
+
+TEST_F(DebugDump, OfARequestIsMadeBeforeTheRequestIsCheckedAgainstTheSchemas) {
+    const DebugFlag flag(L"Y");
+    const support::ScriptedHttp http({.status = 404});
+    search->ValidateSchema = true;
+    Search();
+    EXPECT_TRUE(folder.Holds(L"LejisSearchRequest.xml"));
+    submission->ValidateSchema = true;
+    submission->URL = L"http://lejis-interface/submission";
+    EXPECT_THROW(submission->SubmitIncident(*support::CleanIncident().Get()), platform::ComError);
+    EXPECT_TRUE(folder.Holds(L"LejisSubmitRequest.xml"));
+    for (const auto& request : http.requests) EXPECT_EQ(L"GET", request->Seen().method);
 }
 
 TEST_F(DebugDump, OfAnIncidentThatFailsValidationIsNotMade) {
     const DebugFlag flag(L"Y");
     const support::ScriptedHttp http;
-    EXPECT_THROW(platform::Create<LejisSubmissionWebService>()->SubmitIncident(
-                     *platform::Create<LejisIncidentIndexCard>().Get()),
-                 platform::ComError);
+    EXPECT_THROW(submission->SubmitIncident(*platform::Create<LejisIncidentIndexCard>().Get()), platform::ComError);
     EXPECT_FALSE(folder.Holds(L"LejisSubmitRequest.xml"));
 }
 
@@ -127,13 +180,35 @@ TEST_F(DebugDump, ThatCannotBeWrittenEndsTheSubmissionBeforeItIsSent) {
     host.diagnosticsFolder = folder.Path() + L"\\missing";
     const support::ScriptedHttp http({.responseText = support::SubmissionResponse(L"0")});
     try {
-        platform::Create<LejisSubmissionWebService>()->SubmitIncident(*support::CleanIncident().Get());
+        submission->SubmitIncident(*support::CleanIncident().Get());
         ADD_FAILURE() << "sent";
     } catch (const platform::ComError& error) {
         EXPECT_EQ(tvFatalError, error.Number());
         EXPECT_NE(std::wstring::npos, error.Description().find(L": Error in DoSubmit (line 2): Cannot write '"));
     }
     EXPECT_TRUE(http.requests.empty());
+}
+
+TEST_F(DebugDump, OfAnAnswerThatCannotBeWrittenIsAnInternalErrorWithItsPath) {
+    const DebugFlag flag(L"Y");
+    support::ScriptedHttp http({.responseText = support::SubmissionResponse(L"0")});
+    const std::wstring missing = folder.Path() + L"\\missing";
+    const std::wstring begin = L"Internal error in web service code: Cannot write '" + missing;
+    http.script.onSend = [&] { host.diagnosticsFolder = missing; };
+    submission->URL = L"http://lejis-interface/submission";
+    try {
+        submission->SubmitIncident(*support::CleanIncident().Get());
+        ADD_FAILURE() << "not noticed";
+    } catch (const platform::ComError& error) {
+        EXPECT_EQ(tvFatalError, error.Number());
+        EXPECT_TRUE(error.Description().starts_with(begin + L"\\LejisSubmitResponse.xml': "));
+        EXPECT_TRUE(error.Description().ends_with(L" (Line 4)"));
+    }
+    host.diagnosticsFolder = folder.Path();
+    Search();
+    Answer(http);
+    ASSERT_EQ(1u, log->events.size());
+    EXPECT_TRUE(log->events[0].starts_with(L"ServiceError: " + begin + L"\\LejisSearchResponse.xml': "));
 }
 
 TEST(BuiltInDebugFolder, LiesBelowTheUsersLocalDataAndIsMadeWhenFirstWrittenTo) {
