@@ -4,8 +4,10 @@
 #include "platform/ComError.h"
 #include "platform/msxml/Node.h"
 #include "support/ComCheck.h"
+#include "support/ServiceTexts.h"
 #include "support/Xml.h"
 #include "unit_support/Raises.h"
+#include "unit_support/ScriptedRequest.h"
 #include "unit_support/TestHost.h"
 
 #include <gtest/gtest.h>
@@ -120,6 +122,19 @@ TEST(LejisUtils, KnowsAfterWhichStatusTryingAgainMayHelp) {
          {LONG_MIN, -1L, 1L, 200L, 399L, 401L, 403L, 404L, 407L, 409L, 500L, 501L, 503L, 505L, 11999L, 12000L}) {
         EXPECT_FALSE(LejisUtils::IsTransientStatus(status)) << status;
     }
+}
+
+// What the services tell of each status stands in their own tests; these are told by none of them.
+TEST(LejisUtils, HasWordsForEveryStatus) {
+    support::ScriptedHttp http;
+    for (const int status : {-1, 200, 403, 404, 500, 503, 12000, 12003}) {
+        http.script = {.status = status, .statusText = L"Some Reason"};
+        EXPECT_EQ(support::kUnexpectedError, LejisUtils::GetNetworkErrorMessage(platform::HttpRequest::Create()));
+        http.script.statusText.clear();
+        EXPECT_EQ(support::NoMessageText(status), LejisUtils::GetNetworkErrorMessage(platform::HttpRequest::Create()));
+    }
+    http.script = {.status = 12007, .statusText = L"Some Reason"};
+    EXPECT_EQ(L"Host not found.", LejisUtils::GetNetworkErrorMessage(platform::HttpRequest::Create()));
 }
 
 }  // namespace
