@@ -48,6 +48,7 @@ TEST_F(SearchService, PostsToTheUrlWithoutWaiting) {
     EXPECT_EQ(L"POST", sent.method);
     EXPECT_EQ(L"http://lejis-interface/search", sent.url);
     EXPECT_TRUE(sent.asynchronous);
+    EXPECT_FALSE(sent.isUserGiven);
     EXPECT_TRUE(http.Last().HasHandler());
     http.Last().Advance();
     EXPECT_TRUE(AwaitEvent());

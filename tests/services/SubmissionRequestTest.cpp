@@ -63,6 +63,7 @@ TEST_F(SubmissionRequest, IsPostedToTheUrlAndWaitedFor) {
     EXPECT_EQ(L"POST", sent.method);
     EXPECT_EQ(L"http://lejis-interface/submission", sent.url);
     EXPECT_FALSE(sent.asynchronous);
+    EXPECT_FALSE(sent.isUserGiven);
     EXPECT_EQ(1, sent.sends);
 }
 
@@ -137,6 +138,22 @@ TEST_F(SubmissionRequest, IsGivenUpWhenTheHostsYieldRaises) {
     host.onYield = [] {};
     http.script.readyStates = {4};
     EXPECT_NO_THROW(service->SubmitIncident(*CleanIncident().Get()));
+}
+
+TEST_F(SubmissionRequest, PassesASubmissionErrorOfTheHostOnWithItsNumberAndSource) {
+    support::TestHost host;
+    http.script.readyStates = {1};
+    for (const long number : {long{tvTransientError}, long{tvFatalError}}) {
+        host.onYield = [number] { throw platform::ComError(number, L"Not now.", L"TalvexSuite"); };
+        try {
+            service->SubmitIncident(*CleanIncident().Get());
+            ADD_FAILURE() << "not raised";
+        } catch (const platform::ComError& error) {
+            EXPECT_EQ(number, error.Number());
+            EXPECT_EQ(L"Error in DoSubmit (line 8): Not now.", error.Description());
+            EXPECT_EQ(L"TalvexSuite", error.Source());
+        }
+    }
 }
 
 TEST_F(SubmissionRequest, LosesItsAnswerToASubmissionMadeWhileItWaits) {

@@ -37,6 +37,7 @@ STDMETHODIMP LateBoundObject::Invoke(DISPID member, REFIID, LCID, WORD kind, DIS
         *exception = EXCEPINFO{};
         exception->scode = error.Number();
         exception->bstrDescription = platform::ToBstr(error.Description()).Detach();
+        exception->bstrSource = platform::ToBstr(error.Source()).Detach();
         return DISP_E_EXCEPTION;
     }
 }

@@ -28,11 +28,12 @@ void ScriptedRequest::Advance() {
                      script_.callsWithoutParameters ? nullptr : &none, nullptr, nullptr, nullptr);
 }
 
-STDMETHODIMP ScriptedRequest::open(BSTR method, BSTR url, VARIANT asynchronous, VARIANT, VARIANT) {
+STDMETHODIMP ScriptedRequest::open(BSTR method, BSTR url, VARIANT asynchronous, VARIANT user, VARIANT password) {
     sent_.method = method;
     sent_.url = url ? url : L"";
     sent_.isModeGiven = V_VT(&asynchronous) == VT_BOOL;
     sent_.asynchronous = !sent_.isModeGiven || V_BOOL(&asynchronous) != VARIANT_FALSE;
+    sent_.isUserGiven = V_VT(&user) != VT_ERROR || V_VT(&password) != VT_ERROR;
     return script_.openResult;
 }
 

@@ -45,6 +45,8 @@ struct Sent {
     // What `open` was told; without a word on it a request is asynchronous.
     bool isModeGiven = false;
     bool asynchronous = false;
+    // A user or a password was named.
+    bool isUserGiven = false;
     std::vector<std::pair<std::wstring, std::wstring>> headers;
     std::wstring body;
     bool bodyIsText = false;
