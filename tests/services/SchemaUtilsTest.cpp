@@ -24,10 +24,11 @@ namespace {
 constexpr long kSchemaError = static_cast<long>(0x80040301);
 constexpr wchar_t kUrl[] = L"http://lejis-interface/submission?wsdl";
 
-// One element "count" that holds a whole number.
-constexpr char kCountSchema[] =
-    "<xsd:schema xmlns:xsd='http://www.w3.org/2001/XMLSchema' targetNamespace='urn:count'>"
-    "<xsd:element name='count' type='xsd:int'/></xsd:schema>";
+// One element of that name, in a namespace of that name, that holds a whole number.
+std::string Schema(const std::string& name) {
+    return "<xsd:schema xmlns:xsd='http://www.w3.org/2001/XMLSchema' targetNamespace='urn:" + name +
+           "'><xsd:element name='" + name + "' type='xsd:int'/></xsd:schema>";
+}
 
 std::wstring Wsdl(const std::wstring& types) {
     return L"<wsdl:definitions xmlns:wsdl='http://schemas.xmlsoap.org/wsdl/' "
@@ -35,13 +36,17 @@ std::wstring Wsdl(const std::wstring& types) {
            types + L"</wsdl:definitions>";
 }
 
-std::wstring Types(const std::wstring& include) {
-    return L"<wsdl:types><xsd:schema targetNamespace='urn:count'>" + include + L"</xsd:schema></wsdl:types>";
+std::wstring SchemaOf(const std::wstring& targetNamespace, const std::wstring& content) {
+    return L"<xsd:schema targetNamespace='" + targetNamespace + L"'>" + content + L"</xsd:schema>";
 }
 
-std::wstring Including(const std::wstring& location) {
-    return Types(L"<xsd:include schemaLocation='" + location + L"'/>");
+std::wstring Types(const std::wstring& content) {
+    return L"<wsdl:types>" + SchemaOf(L"urn:count", content) + L"</wsdl:types>";
 }
+
+std::wstring Include(const std::wstring& location) { return L"<xsd:include schemaLocation='" + location + L"'/>"; }
+
+std::wstring Including(const std::wstring& location) { return Types(Include(location)); }
 
 msxml::Document Request(const std::wstring& payload) {
     return support::Parse(L"<soap:Envelope><soap:Body>" + payload + L"</soap:Body></soap:Envelope>");
@@ -49,7 +54,7 @@ msxml::Document Request(const std::wstring& payload) {
 
 class SchemaUtilsTest : public testing::Test {
 protected:
-    SchemaUtilsTest() : schema(folder.Write(L"count.xsd", kCountSchema)) {}
+    SchemaUtilsTest() : schema(folder.Write(L"count.xsd", Schema("count"))) {}
 
     void Validate(const std::wstring& wsdl, const std::wstring& payload) {
         http.script.responseText = wsdl;
@@ -66,6 +71,7 @@ TEST_F(SchemaUtilsTest, FetchesTheWsdlByGetWithoutBody) {
     EXPECT_EQ(L"GET", http.Last().Seen().method);
     EXPECT_EQ(kUrl, http.Last().Seen().url);
     EXPECT_FALSE(http.Last().Seen().bodyIsText);
+    EXPECT_FALSE(http.Last().Seen().isUserGiven);
 }
 
 TEST_F(SchemaUtilsTest, YieldsOnceAfterEachLookThatFindsTheWsdlIncomplete) {
@@ -201,8 +207,24 @@ TEST_F(SchemaUtilsTest, PassesEverythingWhenTheWsdlHasNoTypes) {
 
 TEST_F(SchemaUtilsTest, AddsOnlyIncludesAndNotWhatStandsInTheWsdl) {
     const std::wstring inlined = L"<xsd:element name='count' type='xsd:date'/>";
-    EXPECT_NO_THROW(Validate(Wsdl(Types(L"<xsd:include schemaLocation='" + schema + L"'/>" + inlined)),
-                             L"<c:count xmlns:c='urn:count'>12</c:count>"));
+    EXPECT_NO_THROW(Validate(Wsdl(Types(Include(schema) + inlined)), L"<c:count xmlns:c='urn:count'>12</c:count>"));
+}
+
+TEST_F(SchemaUtilsTest, AddsTheFirstIncludeOfEachSchemaOfEachTypes) {
+    const std::wstring missing = folder.Path() + L"\\missing.xsd";
+    const std::wstring another = folder.Write(L"another.xsd", Schema("another"));
+    const std::wstring last = folder.Write(L"last.xsd", Schema("last"));
+    const std::wstring wsdl = Wsdl(L"<wsdl:types>" + SchemaOf(L"urn:count", Include(schema) + Include(missing)) +
+                                   SchemaOf(L"urn:another", Include(another)) + L"</wsdl:types><wsdl:types>" +
+                                   SchemaOf(L"urn:last", Include(last)) + L"</wsdl:types><wsdl:message>" +
+                                   SchemaOf(L"urn:deeper", Include(missing)) + L"</wsdl:message>");
+    for (const std::wstring name : {L"count", L"another", L"last"}) {
+        const auto validate = [&](const std::wstring& text) {
+            Validate(wsdl, L"<p:" + name + L" xmlns:p='urn:" + name + L"'>" + text + L"</p:" + name + L">");
+        };
+        EXPECT_NO_THROW(validate(L"12"));
+        EXPECT_THROW(validate(L"twelve"), platform::ComError) << support::Utf8(name);
+    }
 }
 
 TEST_F(SchemaUtilsTest, RaisesForASchemaWithoutInclude) {
@@ -211,7 +233,7 @@ TEST_F(SchemaUtilsTest, RaisesForASchemaWithoutInclude) {
 }
 
 TEST_F(SchemaUtilsTest, RaisesForASchemaWithoutTargetNamespace) {
-    const std::wstring include = L"<xsd:include schemaLocation='" + schema + L"'/>";
+    const std::wstring include = Include(schema);
     for (const std::wstring& types :
          {L"<xsd:schema>" + include + L"</xsd:schema>",
           L"<xsd:schema xmlns:x='urn:x' x:targetNamespace='urn:count'>" + include + L"</xsd:schema>",
