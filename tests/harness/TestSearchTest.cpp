@@ -2,6 +2,7 @@
 #include "harness/TestSearch.h"
 
 #include "inquiry/LejisSearchRequest.h"
+#include "platform/com/Living.h"
 #include "support/ComCheck.h"
 #include "support/MessageBoxCloser.h"
 #include "unit_support/Answers.h"
@@ -12,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <utility>
 
 using Microsoft::WRL::ComPtr;
@@ -70,6 +72,8 @@ TEST_F(TestSearchTest, ShowsAFailureAndReturnsNothing) {
     EXPECT_OK(Search(L"jdoe", results.GetAddressOf()));
     EXPECT_EQ(nullptr, results);
     EXPECT_EQ(L"The index is closed.", box.Text());
+    EXPECT_EQ(LoadIconW(nullptr, IDI_HAND), box.Icon());
+    EXPECT_EQ(std::vector<std::wstring>{L"OK"}, box.Buttons());
 }
 
 TEST_F(TestSearchTest, ShowsAFailureToStartTheSearchInsteadOfWaitingForEver) {
@@ -137,6 +141,8 @@ TEST_F(TestSearchTest, EndsWhenTheHostsYieldRaises) {
     EXPECT_TRUE(support::FailedWith(
         platform::Create<TestSearch>()->Search(support::Bstr(L"jdoe"), request.Get(), results.GetAddressOf()),
         static_cast<long>(0x80045555), L"enough"));
+    EXPECT_EQ(0, std::ranges::count(platform::living::Names(), "lejis::SearchSink"))
+        << "nobody hears of a search that has ended";
     http.Last().ClearHandler();
 }
 

@@ -29,8 +29,21 @@ void CALLBACK MessageBoxCloser::Look(HWND, UINT, UINT_PTR, DWORD) {
     wchar_t text[1024] = L"";
     GetDlgItemTextW(box, kTextControl, text, ARRAYSIZE(text));
     active_->text_ = text;
+    active_->buttons_.clear();
+    EnumChildWindows(box, LookAtControl, 0);
     active_->whileShown_();
     PostMessageW(box, WM_COMMAND, IDOK, 0);
+}
+
+BOOL CALLBACK MessageBoxCloser::LookAtControl(HWND control, LPARAM) {
+    wchar_t kind[16] = L"";
+    wchar_t word[64] = L"";
+    GetClassNameW(control, kind, ARRAYSIZE(kind));
+    GetWindowTextW(control, word, ARRAYSIZE(word));
+    if (kind == std::wstring(L"Button")) active_->buttons_.push_back(word);
+    const auto icon = reinterpret_cast<HICON>(SendMessageW(control, STM_GETICON, 0, 0));
+    if (kind == std::wstring(L"Static") && icon) active_->icon_ = icon;
+    return TRUE;
 }
 
 }  // namespace support

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace support {
 
@@ -20,15 +21,22 @@ public:
 
     // What the box said; empty when none has come.
     const std::wstring& Text() const { return text_; }
+    // The words on its buttons.
+    const std::vector<std::wstring>& Buttons() const { return buttons_; }
+    // Of its picture, which the system shares among all that show it.
+    HICON Icon() const { return icon_; }
 
 private:
     static void CALLBACK Look(HWND, UINT, UINT_PTR, DWORD);
+    static BOOL CALLBACK LookAtControl(HWND control, LPARAM);
 
     static MessageBoxCloser* active_;
 
     const std::wstring title_;
     const std::function<void()> whileShown_;
     std::wstring text_;
+    std::vector<std::wstring> buttons_;
+    HICON icon_ = nullptr;
     UINT_PTR timer_;
 };
 
