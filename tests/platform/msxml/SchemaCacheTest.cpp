@@ -1,6 +1,9 @@
 #include "platform/msxml/SchemaCache.h"
 
+#include "platform/com/UnknownObject.h"
 #include "platform/ComError.h"
+#include "platform/msxml/DocumentClass.h"
+#include "support/ComCheck.h"
 #include "support/Printing.h"
 #include "unit_support/PlayedWindows.h"
 
@@ -9,6 +12,9 @@
 #include <windows.h>
 
 #include <string>
+#include <vector>
+
+using Microsoft::WRL::ComPtr;
 
 namespace msxml {
 namespace {
@@ -56,6 +62,58 @@ TEST_F(SchemaCacheFile, LeavesItToTheParseWhereThatValidates) {
     const support::PlayedWindows windows;
     EXPECT_EQ(std::nullopt, schemas.FindFault(faulty)) << "which only the look after the parse finds here";
     EXPECT_TRUE(schemas.FindFault(L"<order>").has_value());
+}
+
+// While it lives, each document that is made is MSXML's own, and kept.
+class KeptDocuments final : public platform::UnknownObject<IClassFactory> {
+public:
+    KeptDocuments() {
+        EXPECT_OK(CoGetClassObject(__uuidof(DOMDocument60), CLSCTX_INPROC_SERVER, nullptr,
+                                   IID_PPV_ARGS(own_.GetAddressOf())));
+        AddRef();
+        EXPECT_OK(
+            CoRegisterClassObject(__uuidof(DOMDocument60), this, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &cookie_));
+        ReleaseDocumentClass();
+    }
+    ~KeptDocuments() override {
+        CoRevokeClassObject(cookie_);
+        ReleaseDocumentClass();
+    }
+
+    std::vector<ComPtr<IXMLDOMDocument2>> documents;
+
+    STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** object) override {
+        documents.emplace_back();
+        const HRESULT made = own_->CreateInstance(outer, IID_PPV_ARGS(documents.back().GetAddressOf()));
+        return FAILED(made) ? made : documents.back()->QueryInterface(iid, object);
+    }
+    STDMETHODIMP LockServer(BOOL) override { return S_OK; }
+
+private:
+    ComPtr<IClassFactory> own_;
+    DWORD cookie_ = 0;
+};
+
+// The platform under the tests validates nothing while it parses, so what it is asked to do is all that can be seen.
+TEST_F(SchemaCacheFile, AsksTheParseToValidateAgainstTheSchemas) {
+    const SchemaCache schemas = Loaded();
+    KeptDocuments kept;
+    schemas.FindFault(Envelope(L""));
+    ASSERT_EQ(1u, kept.documents.size());
+    VARIANT_BOOL validates = VARIANT_FALSE;
+    VARIANT_BOOL waits = VARIANT_TRUE;
+    _variant_t attached;
+    EXPECT_OK(kept.documents[0]->get_validateOnParse(&validates));
+    EXPECT_OK(kept.documents[0]->get_async(&waits));
+    EXPECT_OK(kept.documents[0]->get_schemas(&attached));
+    EXPECT_EQ(VARIANT_TRUE, validates);
+    EXPECT_EQ(VARIANT_FALSE, waits);
+    ComPtr<IXMLDOMSchemaCollection> collection;
+    long count = 0;
+    ASSERT_EQ(VT_DISPATCH, V_VT(&attached));
+    ASSERT_OK(V_DISPATCH(&attached)->QueryInterface(IID_PPV_ARGS(collection.GetAddressOf())));
+    EXPECT_OK(collection->get_length(&count));
+    EXPECT_EQ(1, count);
 }
 
 TEST_F(SchemaCacheFile, FindsNoFaultInAValidPayload) {
