@@ -39,10 +39,13 @@ TEST(SOAPEnvelope, ReadsAFault) {
 }
 
 TEST(SOAPEnvelope, ReadsAFaultWithoutItsTexts) {
-    const auto envelope = Read(support::Soap(L"<soap:Fault/>"));
-    EXPECT_TRUE(envelope->IsFault());
-    EXPECT_EQ(L"", envelope->FaultCode());
-    EXPECT_EQ(L"", envelope->FaultMessage());
+    for (const wchar_t* content : {L"", L"<soap:faultcode>a</soap:faultcode><soap:faultstring>b</soap:faultstring>",
+                                   L"<detail><faultcode>a</faultcode><faultstring>b</faultstring></detail>"}) {
+        const auto envelope = Read(support::Soap(std::wstring(L"<soap:Fault>") + content + L"</soap:Fault>"));
+        EXPECT_TRUE(envelope->IsFault());
+        EXPECT_EQ(L"", envelope->FaultCode());
+        EXPECT_EQ(L"", envelope->FaultMessage());
+    }
 }
 
 TEST(SOAPEnvelope, ReadsABodyWithoutFault) {
