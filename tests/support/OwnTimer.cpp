@@ -16,6 +16,9 @@ namespace {
 constexpr GUID kMembers = {0x6B1D9E50, 0x2C57, 0x4C57, {0x9C, 0x0B, 0x3F, 0x5D, 0x1E, 0x7A, 0x4A, 0x02}};
 constexpr GUID kEvents = {0x6B1D9E50, 0x2C57, 0x4C57, {0x9C, 0x0B, 0x3F, 0x5D, 0x1E, 0x7A, 0x4A, 0x03}};
 constexpr GUID kClass = {0x6B1D9E50, 0x2C57, 0x4C57, {0x9C, 0x0B, 0x3F, 0x5D, 0x1E, 0x7A, 0x4A, 0x04}};
+constexpr GUID kDualEvents = {0x6B1D9E50, 0x2C57, 0x4C57, {0x9C, 0x0B, 0x3F, 0x5D, 0x1E, 0x7A, 0x4A, 0x05}};
+constexpr GUID kTableEvents = {0x6B1D9E50, 0x2C57, 0x4C57, {0x9C, 0x0B, 0x3F, 0x5D, 0x1E, 0x7A, 0x4A, 0x06}};
+constexpr GUID kOtherEvents = {0x6B1D9E50, 0x2C57, 0x4C57, {0x9C, 0x0B, 0x3F, 0x5D, 0x1E, 0x7A, 0x4A, 0x07}};
 constexpr DISPID kEnabled = 1;
 constexpr DISPID kInterval = 2;
 constexpr DISPID kPaused = 3;
@@ -23,11 +26,9 @@ constexpr DISPID kElapsed = 7;
 
 constexpr wchar_t kProgId[] = L"TalvexSuite.SuiteTimer";
 
-// The one connection point.
-class OnePoint final : public IEnumConnectionPoints {
+template <typename Interface>
+class Counted : public Interface {
 public:
-    explicit OnePoint(IConnectionPoint* point) : point_(point) {}
-
     STDMETHODIMP QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
     STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
     STDMETHODIMP_(ULONG) Release() override {
@@ -35,18 +36,68 @@ public:
         if (left == 0) delete this;
         return left;
     }
+
+protected:
+    virtual ~Counted() = default;
+
+private:
+    ULONG references_ = 0;
+};
+
+// A point that takes every sink and never calls one.
+class SilentPoint final : public Counted<IConnectionPoint> {
+public:
+    explicit SilentPoint(REFIID events) : events_(events) {}
+
+    STDMETHODIMP GetConnectionInterface(IID* iid) override {
+        *iid = events_;
+        return S_OK;
+    }
+    STDMETHODIMP GetConnectionPointContainer(IConnectionPointContainer**) override { return E_NOTIMPL; }
+    STDMETHODIMP Advise(IUnknown*, DWORD* cookie) override {
+        *cookie = 1;
+        return S_OK;
+    }
+    STDMETHODIMP Unadvise(DWORD) override { return S_OK; }
+    STDMETHODIMP EnumConnections(IEnumConnections**) override { return E_NOTIMPL; }
+
+private:
+    const IID events_;
+};
+
+class Points final : public Counted<IEnumConnectionPoints> {
+public:
+    explicit Points(std::vector<ComPtr<IConnectionPoint>> all) : all_(std::move(all)) {}
+
     STDMETHODIMP Next(ULONG, IConnectionPoint** point, ULONG*) override {
-        *point = ComPtr<IConnectionPoint>(point_).Detach();
-        return std::exchange(point_, nullptr) ? S_OK : S_FALSE;
+        *point = nullptr;
+        if (next_ == all_.size()) return S_FALSE;
+        *point = ComPtr<IConnectionPoint>(all_[next_++]).Detach();
+        return S_OK;
     }
     STDMETHODIMP Skip(ULONG) override { return E_NOTIMPL; }
     STDMETHODIMP Reset() override { return E_NOTIMPL; }
     STDMETHODIMP Clone(IEnumConnectionPoints**) override { return E_NOTIMPL; }
 
 private:
-    ComPtr<IConnectionPoint> point_;
-    ULONG references_ = 0;
+    const std::vector<ComPtr<IConnectionPoint>> all_;
+    size_t next_ = 0;
 };
+
+// The events that a timer of this kind has and never raises; null without such.
+const GUID* SilentEvents(TimerKind kind) {
+    switch (kind) {
+        case TimerKind::kHasDualEvents:
+            return &kDualEvents;
+        case TimerKind::kHasTableEvents:
+            return &kTableEvents;
+        case TimerKind::kHasOtherEvents:
+        case TimerKind::kTellsPoints:
+            return &kOtherEvents;
+        default:
+            return nullptr;
+    }
+}
 
 }  // namespace
 
@@ -119,16 +170,21 @@ STDMETHODIMP OwnTimer::GetGUID(DWORD kind, GUID* guid) {
 
 STDMETHODIMP OwnTimer::EnumConnectionPoints(IEnumConnectionPoints** points) {
     *points = nullptr;
-    if (kind_ != TimerKind::kTellsPoints) return E_NOTIMPL;
-    *points = ComPtr<IEnumConnectionPoints>(new OnePoint(this)).Detach();
+    const GUID* const silent = SilentEvents(kind_);
+    if (!silent) return E_NOTIMPL;
+    std::vector<ComPtr<IConnectionPoint>> all = {new SilentPoint(*silent)};
+    if (kind_ == TimerKind::kTellsPoints) all.emplace_back(this);
+    *points = ComPtr<IEnumConnectionPoints>(new Points(std::move(all))).Detach();
     return S_OK;
 }
 
 STDMETHODIMP OwnTimer::FindConnectionPoint(REFIID iid, IConnectionPoint** point) {
     *point = nullptr;
-    if (iid != kEvents) return CONNECT_E_NOCONNECTION;
-    *point = ComPtr<IConnectionPoint>(this).Detach();
-    return S_OK;
+    const GUID* const silent = SilentEvents(kind_);
+    const bool raisesEvents = !silent || kind_ == TimerKind::kTellsPoints;
+    if (raisesEvents && iid == kEvents) *point = ComPtr<IConnectionPoint>(this).Detach();
+    if (silent && iid == *silent) *point = ComPtr<IConnectionPoint>(new SilentPoint(iid)).Detach();
+    return *point ? S_OK : CONNECT_E_NOCONNECTION;
 }
 
 STDMETHODIMP OwnTimer::GetConnectionInterface(IID* iid) {

@@ -15,9 +15,13 @@ enum class TimerKind {
     kTellsClass,
     // The class information names the events' identifier alone.
     kTellsDefaultEvents,
-    // Only an enumeration of the connection points shows the events.
+    // Only an enumeration of the connection points shows the events, after others.
     kTellsPoints,
     kHasNoEvents,
+    // They are raised by a table as well, by a table alone, or are others; none of them ever is.
+    kHasDualEvents,
+    kHasTableEvents,
+    kHasOtherEvents,
     kRefusesSinks,
     kCannotStart,
 };

@@ -60,7 +60,9 @@ TEST_P(UnheardTimer, IsReplacedByTheBuiltInOne) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Suite, UnheardTimer,
-                         testing::Values(TimerKind::kHasNoEvents, TimerKind::kRefusesSinks, TimerKind::kCannotStart));
+                         testing::Values(TimerKind::kHasNoEvents, TimerKind::kHasDualEvents, TimerKind::kHasTableEvents,
+                                         TimerKind::kHasOtherEvents, TimerKind::kRefusesSinks,
+                                         TimerKind::kCannotStart));
 
 TEST(BuiltInTimer, MayBeDestroyedByItsOwnTick) {
     int ticks = 0;
