@@ -154,6 +154,7 @@ STDMETHODIMP OwnTimer::Invoke(DISPID member, REFIID, LCID, WORD kind, DISPPARAMS
                               UINT*) {
     if (kind != DISPATCH_PROPERTYPUT || kind_ == TimerKind::kCannotStart) return DISP_E_MEMBERNOTFOUND;
     if (member == kEnabled) enabled = _variant_t(parameters->rgvarg[0]);
+    if (member == kEnabled && enabled) intervalAtStart = interval;
     if (member == kInterval) interval = _variant_t(parameters->rgvarg[0]);
     return S_OK;
 }

@@ -35,6 +35,8 @@ public:
 
     bool enabled = false;
     long interval = 0;
+    // What the interval was when the timer was started.
+    long intervalAtStart = 0;
     std::vector<Microsoft::WRL::ComPtr<IDispatch>> sinks;
 
     // Raises Paused, which nobody waits for, and Elapsed.

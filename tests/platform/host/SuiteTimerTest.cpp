@@ -23,7 +23,7 @@ protected:
 TEST_P(HeardTimer, TicksByItsOwnEvent) {
     const auto timer = StartSuiteTimer(kInterval, [this] { ++ticks_; });
     ASSERT_EQ(1u, registered_.timers.size());
-    EXPECT_EQ(kInterval, registered_.timers[0]->interval);
+    EXPECT_EQ(kInterval, registered_.timers[0]->intervalAtStart);
     EXPECT_TRUE(registered_.timers[0]->enabled);
     registered_.timers[0]->Tick();
     EXPECT_EQ(1, ticks_);
@@ -51,7 +51,8 @@ protected:
 
 TEST_P(UnheardTimer, IsReplacedByTheBuiltInOne) {
     const auto timer = StartSuiteTimer(kInterval, [this] { ++ticks_; });
-    EXPECT_EQ(1u, registered_.timers.size());
+    ASSERT_EQ(1u, registered_.timers.size());
+    for (const auto& sink : registered_.timers[0]->sinks) EXPECT_EQ(nullptr, sink) << "nobody hears it any more";
     EXPECT_TRUE(PumpUntil([this] { return ticks_ > 1; }));
     timer->Stop();
     const int ticksBefore = ticks_;
