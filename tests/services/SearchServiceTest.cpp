@@ -131,6 +131,15 @@ TEST_F(SearchService, KeepsTheResultsOfTheLastSuccess) {
     EXPECT_EQ(1, count);
 }
 
+TEST_F(SearchService, HasItsResultsBeforeItRaisesTheirEvent) {
+    ComPtr<ICollection> results;
+    log->onEvent = [&] { EXPECT_OK(service->get_results(results.GetAddressOf())); };
+    Search();
+    http.Last().Advance();
+    EXPECT_TRUE(AwaitEvent());
+    EXPECT_NE(nullptr, results);
+}
+
 TEST_F(SearchService, LivesUntilItsEventWhenItsClientLetsGo) {
     Search();
     service.Reset();
