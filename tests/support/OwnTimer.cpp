@@ -84,6 +84,11 @@ private:
     size_t next_ = 0;
 };
 
+bool TellsClass(TimerKind kind) {
+    return kind == TimerKind::kTellsClass || kind == TimerKind::kRefusesSinks || kind == TimerKind::kCannotStart ||
+           kind == TimerKind::kCannotStop;
+}
+
 // The events that a timer of this kind has and never raises; null without such.
 const GUID* SilentEvents(TimerKind kind) {
     switch (kind) {
@@ -116,10 +121,10 @@ void OwnTimer::Tick() {
 
 STDMETHODIMP OwnTimer::QueryInterface(REFIID iid, void** object) {
     *object = nullptr;
-    const bool tellsClass = kind_ == TimerKind::kTellsClass || kind_ == TimerKind::kTellsDefaultEvents;
+    const bool tellsEvents = TellsClass(kind_) || kind_ == TimerKind::kTellsDefaultEvents;
     if (iid == __uuidof(IUnknown) || iid == __uuidof(IDispatch)) {
         *object = static_cast<IDispatch*>(this);
-    } else if (tellsClass && (iid == __uuidof(IProvideClassInfo) || iid == __uuidof(IProvideClassInfo2))) {
+    } else if (tellsEvents && (iid == __uuidof(IProvideClassInfo) || iid == __uuidof(IProvideClassInfo2))) {
         *object = static_cast<IProvideClassInfo2*>(this);
     } else if (kind_ != TimerKind::kHasNoEvents && iid == __uuidof(IConnectionPointContainer)) {
         *object = static_cast<IConnectionPointContainer*>(this);
@@ -152,15 +157,19 @@ STDMETHODIMP OwnTimer::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, 
 
 STDMETHODIMP OwnTimer::Invoke(DISPID member, REFIID, LCID, WORD kind, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*,
                               UINT*) {
-    if (kind != DISPATCH_PROPERTYPUT || kind_ == TimerKind::kCannotStart) return DISP_E_MEMBERNOTFOUND;
-    if (member == kEnabled) enabled = _variant_t(parameters->rgvarg[0]);
-    if (member == kEnabled && enabled) intervalAtStart = interval;
-    if (member == kInterval) interval = _variant_t(parameters->rgvarg[0]);
+    if (kind != DISPATCH_PROPERTYPUT) return DISP_E_MEMBERNOTFOUND;
+    const _variant_t value(parameters->rgvarg[0]);
+    if (member == kInterval) interval = value;
+    if (member != kEnabled) return S_OK;
+    const bool starts = value;
+    if (kind_ == (starts ? TimerKind::kCannotStart : TimerKind::kCannotStop)) return E_FAIL;
+    enabled = starts;
+    if (starts) intervalAtStart = interval;
     return S_OK;
 }
 
 STDMETHODIMP OwnTimer::GetClassInfo(ITypeInfo** information) {
-    return kind_ == TimerKind::kTellsClass ? library_->GetTypeInfoOfGuid(kClass, information) : E_FAIL;
+    return TellsClass(kind_) ? library_->GetTypeInfoOfGuid(kClass, information) : E_FAIL;
 }
 
 STDMETHODIMP OwnTimer::GetGUID(DWORD kind, GUID* guid) {

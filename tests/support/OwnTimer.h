@@ -22,8 +22,10 @@ enum class TimerKind {
     kHasDualEvents,
     kHasTableEvents,
     kHasOtherEvents,
+    // The class is told, and then something fails.
     kRefusesSinks,
     kCannotStart,
+    kCannotStop,
 };
 
 class OwnTimer final : public IDispatch,

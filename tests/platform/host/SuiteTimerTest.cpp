@@ -65,6 +65,19 @@ INSTANTIATE_TEST_SUITE_P(Suite, UnheardTimer,
                                          TimerKind::kHasOtherEvents, TimerKind::kRefusesSinks,
                                          TimerKind::kCannotStart));
 
+TEST(UnstoppableTimer, TicksOnUntilItIsLetGoOf) {
+    OwnTimerClass registered(TimerKind::kCannotStop);
+    int ticks = 0;
+    auto timer = StartSuiteTimer(kInterval, [&] { ++ticks; });
+    ASSERT_EQ(1u, registered.timers.size());
+    timer->Stop();
+    registered.timers[0]->Tick();
+    EXPECT_EQ(1, ticks);
+    timer.reset();
+    registered.timers[0]->Tick();
+    EXPECT_EQ(1, ticks);
+}
+
 TEST(BuiltInTimer, MayBeDestroyedByItsOwnTick) {
     int ticks = 0;
     std::unique_ptr<SuiteTimer> timer = StartSuiteTimer(kInterval, [&] {
