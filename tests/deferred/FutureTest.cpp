@@ -172,6 +172,7 @@ TEST(Future, LetsItsWorkRepeatItself) {
     EXPECT_TRUE(PumpUntil([&] { return observer->completed.size() == 3; }));
     PumpFor(250);
     EXPECT_EQ(3, runnable->runs);
+    EXPECT_EQ(1u, HoldersOf(*runnable.Get())) << "work that holds its future would never end";
 }
 
 TEST(Future, RunsWorkThatFailingWorkGaveIt) {
