@@ -111,6 +111,7 @@ TEST_F(SearchReplacement, DoesNotComeOfACheckAgainstTheSchemasThatFails) {
     http.script = {.status = 404, .responseText = L"There is no such service."};
     Search();
     EXPECT_EQ(2u, http.requests.size());
+    EXPECT_EQ(std::wstring(kUrl) + L"?wsdl", http.Last().Seen().url);
     ExpectBoth(first, L"ConfigurationError: Internal error -2147220735: There is no such service.");
 }
 

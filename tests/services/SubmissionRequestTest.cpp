@@ -114,6 +114,17 @@ TEST_F(SubmissionRequest, IsNotMadeForAnIncidentThatFailsValidation) {
     EXPECT_TRUE(http.requests.empty());
 }
 
+TEST_F(SubmissionRequest, IsNotSentWhenTheWsdlOfItsServiceCannotBeFetched) {
+    service->ValidateSchema = true;
+    http.script = {.status = 404, .responseText = L"There is no such service."};
+    EXPECT_TRUE(support::Raises(tvFatalError,
+                                L"Internal error -2147220735: Error in DoSubmit (line 3): There is no such service. "
+                                L"(Line 1)",
+                                [&] { service->SubmitIncident(*CleanIncident().Get()); }));
+    ASSERT_EQ(1u, http.requests.size());
+    EXPECT_EQ(L"http://lejis-interface/submission?wsdl", http.Last().Seen().url);
+}
+
 TEST_F(SubmissionRequest, IsWaitedForWithOneYieldAfterEachLookThatFindsItIncomplete) {
     support::TestHost host;
     http.script.readyStates = {1, 2, 3, 3, 4};
