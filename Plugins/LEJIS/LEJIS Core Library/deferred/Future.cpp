@@ -23,13 +23,13 @@ STDMETHODIMP Future::get_Completed(VARIANT_BOOL* result) {
 
 void Future::Schedule(IRunnable* runnable, IFutureObserver* observer) {
     RequireRunnable(runnable);
-    invokeTimer_ = platform::host::StartSuiteTimer(kDelayMilliseconds, [this] { OnElapsed(); });
+    invokeTimer_ = platform::host::StartSuiteTimer(kDelayMilliseconds, [this] { m_invokeTimer_Elapsed(); });
     runnable_ = runnable;
     observer_ = observer;
     isScheduled_ = true;
 }
 
-void Future::OnElapsed() {
+void Future::m_invokeTimer_Elapsed() {
     // The observer lets go of the future, as a rule the last to hold it.
     const ComPtr<IFuture> self(this);
     invokeTimer_->Stop();

@@ -21,7 +21,7 @@ public:
     void Schedule(IRunnable* runnable, IFutureObserver* observer);
 
 private:
-    void OnElapsed();
+    void m_invokeTimer_Elapsed();
 
     Microsoft::WRL::ComPtr<IRunnable> runnable_;
     Microsoft::WRL::ComPtr<IFutureObserver> observer_;
