@@ -94,10 +94,14 @@ TEST(SOAPEnvelope, ABodyThatAClientSetsReplacesTheOneThatWasRead) {
 }
 
 TEST(SOAPEnvelope, ReadingAnEnvelopeWithoutBodyLeavesItEmpty) {
-    const auto envelope = Read(support::Soap(L"<x/>"));
-    envelope->FromXmlDocument(Parse(L"<soap:Envelope/>"));
-    EXPECT_EQ(L"", envelope->Body());
-    EXPECT_TRUE(Raises(kObjectRequired, L"Object required", [&] { envelope->IsFault(); }));
+    const auto read = Read(support::Soap(L"<x/>"));
+    const auto set = platform::Create<SOAPEnvelope>();
+    EXPECT_OK(set->put_Body(support::Bstr(L"<x/>")));
+    for (const auto& envelope : {read, set}) {
+        envelope->FromXmlDocument(Parse(L"<soap:Envelope/>"));
+        EXPECT_EQ(L"", envelope->Body());
+        EXPECT_TRUE(Raises(kObjectRequired, L"Object required", [&] { envelope->IsFault(); }));
+    }
 }
 
 TEST(SOAPEnvelope, DoesNotReadTheHeaderBack) {
