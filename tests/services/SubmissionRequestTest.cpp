@@ -114,6 +114,21 @@ TEST_F(SubmissionRequest, IsNotMadeForAnIncidentThatFailsValidation) {
     EXPECT_TRUE(http.requests.empty());
 }
 
+TEST_F(SubmissionRequest, IsNotSentToAnAddressThatIsNone) {
+    for (const std::wstring url : {L"", L"no url", L"ftp://host/", L"file:///C:/answer.xml", L"http://"}) {
+        for (const bool validates : {false, true}) {
+            service->URL = url;
+            service->ValidateSchema = validates;
+            const std::wstring told = L"Invalid URL '" + url + L"'";
+            EXPECT_TRUE(
+                support::Raises(tvTransientError, told, [&] { service->SubmitIncident(*CleanIncident().Get()); }));
+            EXPECT_TRUE(
+                support::Raises(tvTransientError, told, [&] { service->DeleteIncident(*CleanIncident().Get()); }));
+            EXPECT_EQ(0, http.Last().Seen().sends);
+        }
+    }
+}
+
 TEST_F(SubmissionRequest, IsNotSentWhenTheWsdlOfItsServiceCannotBeFetched) {
     service->ValidateSchema = true;
     http.script = {.status = 404, .responseText = L"There is no such service."};
