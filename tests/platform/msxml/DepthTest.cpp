@@ -2,11 +2,14 @@
 
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
+#include "support/ComCheck.h"
 #include "support/DeepXml.h"
 #include "unit_support/CountingElement.h"
 #include "unit_support/Raises.h"
 
 #include <gtest/gtest.h>
+
+using Microsoft::WRL::ComPtr;
 
 namespace msxml {
 namespace {
@@ -52,6 +55,19 @@ TEST(Depth, IsCountedByAWalkWhereTheQueryFails) {
             RequireBoundedDepth(WithoutQueries(Root(Deep(depth)), calls));
         })) << depth;
     }
+}
+
+TEST(Depth, LeavesNoDescriptionOfARefusedQueryForALaterFailure) {
+    int calls = 0;
+    const Document document = Deep(1);
+    ComPtr<ICreateErrorInfo> creation;
+    ComPtr<IErrorInfo> information;
+    ASSERT_OK(CreateErrorInfo(creation.GetAddressOf()));
+    ASSERT_OK(creation.As(&information));
+    const Node refusing = WithoutQueries(document, calls);
+    SetErrorInfo(0, information.Get());
+    EXPECT_NO_THROW(RequireBoundedDepth(refusing));
+    EXPECT_EQ(S_FALSE, GetErrorInfo(0, information.ReleaseAndGetAddressOf()));
 }
 
 TEST(Depth, IsThatOfTheDeepestBranchAlsoByAWalk) {
