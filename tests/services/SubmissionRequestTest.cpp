@@ -184,10 +184,11 @@ TEST_F(SubmissionRequest, PassesASubmissionErrorOfTheHostOnWithItsNumberAndSourc
 
 TEST_F(SubmissionRequest, LosesItsAnswerToASubmissionMadeWhileItWaits) {
     support::TestHost host;
-    http.script.readyStates = {1, 4};
-    bool second = false;
+    // The first alone would never be complete.
+    http.script.readyStates = {1};
     host.onYield = [&] {
-        if (std::exchange(second, true)) return;
+        if (host.yields > 1) throw platform::ComError(static_cast<HRESULT>(0x80042222), L"The user has cancelled.");
+        http.script.readyStates = {4};
         http.script.responseText = support::SubmissionResponse(L"7 of the second");
         EXPECT_TRUE(support::Raises(tvTransientError, L"Unexpected error returned from LEJIS: 7 of the second",
                                     [&] { service->SubmitIncident(*CleanIncident().Get()); }));
