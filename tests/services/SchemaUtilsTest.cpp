@@ -136,9 +136,9 @@ TEST_F(WsdlOnWindows, StopsNoTimerOfTheClientWhileItIsFetched) {
     host.onYield = [] { platform::host::PumpMessages(); };
     Timers::ticks = 0;
     Timers::answered = &http;
+    const DWORD begin = GetTickCount();
     const UINT_PTR tick = SetTimer(nullptr, 0, 50, Timers::Tick);
     const UINT_PTR answer = SetTimer(nullptr, 0, kWait, Timers::Answer);
-    const DWORD begin = GetTickCount();
     EXPECT_NO_THROW(Validate(Wsdl(L""), L"<x/>"));
     const DWORD waited = GetTickCount() - begin;
     KillTimer(nullptr, tick);
