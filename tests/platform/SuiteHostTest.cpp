@@ -37,10 +37,13 @@ TEST(SuiteHost, HasOneInstanceOfItsServicesHoweverOftenTheyAreUsed) {
     EXPECT_EQ(2, host.yields);
 }
 
-TEST(SuiteHost, ThatAnswersWithASuccessNumberDoesNotHideTheError) {
+TEST(SuiteHost, ThatAnswersWithASuccessNumberOrAnErrorDoesNotHideTheError) {
     support::TestHost host;
     host.errorNumber = 5;
     EXPECT_EQ(support::kInvalidArgument, InvalidArgument(L"x").Number());
+    host.failsToNumber = true;
+    EXPECT_EQ(support::kInvalidArgument, InvalidArgument(L"x").Number());
+    EXPECT_EQ(L"x", InvalidArgument(L"x").Description());
 }
 
 TEST(SuiteHost, WhoseYieldRaisesIsHeardWithItsOwnNumberAndText) {

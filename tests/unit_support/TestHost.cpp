@@ -73,6 +73,7 @@ ComPtr<IUnknown> TestHost::MakeServices() {
         std::map<std::wstring, Member>{{L"ErrorNumber",
                                         [this](const std::vector<_variant_t>& arguments, WORD) {
                                             errorKinds.push_back(arguments.at(0));
+                                            if (failsToNumber) throw platform::ComError(E_FAIL, L"No such kind.");
                                             return _variant_t(errorNumber);
                                         }},
                                        {L"Yield", [this](const std::vector<_variant_t>&, WORD) {

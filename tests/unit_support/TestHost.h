@@ -38,6 +38,7 @@ public:
 
     // The suite's answers.
     long errorNumber = static_cast<long>(0x80041234);
+    bool failsToNumber = false;
     std::function<void()> onYield = [] {};
     std::wstring diagnosticsFolder;
 
