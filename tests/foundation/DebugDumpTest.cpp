@@ -111,6 +111,12 @@ TEST_F(DebugDump, HasOneBackslashBeforeItsNameWhetherOrNotTheFolderEndsWithOne) 
     }
 }
 
+TEST_F(DebugDump, IsRefusedWhereTheHostHasNoFolders) {
+    const DebugFlag flag(L"Y");
+    host.hasFolders = false;
+    EXPECT_TRUE(support::Raises(support::kObjectRequired, L"Object required", [this] { Save(); }));
+}
+
 TEST_F(DebugDump, ReplacesTheFileOfTheDumpBefore) {
     const DebugFlag flag(L"Y");
     Save();

@@ -87,6 +87,7 @@ ComPtr<IUnknown> TestHost::MakeEnvironment() {
     ++environmentsMade;
     return AsUnknown(platform::Create<LateBoundObject>(std::map<std::wstring, Member>{
         {L"Folders", [this](const std::vector<_variant_t>&, WORD) {
+             if (!hasFolders) return _variant_t();
              return ToVariant(platform::Create<LateBoundObject>(
                  std::map<std::wstring, Member>{{L"Diagnostics", [this](const std::vector<_variant_t>&, WORD) {
                                                      return _variant_t(diagnosticsFolder.c_str());

@@ -41,6 +41,7 @@ public:
     bool failsToNumber = false;
     std::function<void()> onYield = [] {};
     std::wstring diagnosticsFolder;
+    bool hasFolders = true;
 
     // What the library has asked for.
     std::vector<long> errorKinds;
