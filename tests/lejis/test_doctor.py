@@ -3,7 +3,7 @@ import os
 import unittest
 
 from doctor_case import LOCAL, DoctorCase
-from lejis_case import DONE, REFUSED, TRY_AGAIN, WRONG_USAGE
+from lejis_case import BOTH, DONE, REFUSED, TRY_AGAIN, WRONG_USAGE
 from registration import BITS
 
 LIBRARIES = {"32-bit library", "64-bit library"}
@@ -37,6 +37,14 @@ class DoctorTest(DoctorCase):
         self.expect_failure(found, "Submission server",
                             "takes no connection at this port\nSee that the LEJIS Interface runs")
         self.assertEqual([found[f"Submission {what}"][0] for what in ("WSDL", "host", "schemas")], ["skipped"] * 3)
+
+    def test_what_may_pass_and_what_does_not_are_told_apart_and_together(self):
+        nobody = "http://127.0.0.1:1/search"
+        found = self.findings(BOTH, "--url", "nonsense", "--search-url", nobody)
+        self.assertEqual([found[f"{service} server"][0] for service in ("Submission", "Search")], ["failed"] * 2)
+        self.findings(BOTH, "--url", nobody, "--search-url", "nonsense")
+        self.findings(TRY_AGAIN, "--search-url", nobody)
+        self.findings(REFUSED, "--search-url", "nonsense")
 
     def test_an_address_that_is_none(self):
         for address in ("nonsense", "ftp://127.0.0.1/x", "http://", ""):

@@ -40,8 +40,8 @@ The first steps, from an incident in a file to the index:
 Exit codes:
 
     0   all done
-    1   something was refused, could not be read, or the library is not there:
-        the same again would end the same
+    1   something was refused, could not be read, or the library is not there; or the
+        doctor found what does not pass by itself: the same again would end the same
     2   something is to be tried again, or nobody knows what LEJIS made of it
     3   both of these in one run
    64   the command line makes no sense
@@ -243,8 +243,9 @@ Examples:
   lejis doctor
   lejis doctor --url http://lejis-interface:8080/lejis-core-Rev01/services/submission
 
-Exit codes: 0 nothing has failed, though there may be warnings; 1 something has failed;
-2 all that has failed is the network or the server, which may pass.
+Exit codes: 0 nothing has failed, though there may be warnings; 1 something has
+failed that does not pass by itself; 2 something has failed that may pass: the
+network, the server, or a time limit; 3 both.
 )";
 
 }  // namespace lejis_client

@@ -55,9 +55,7 @@ void Diagnosis::Add(Finding finding) {
 int Diagnosis::ExitCode() const {
     int exitCode = kExitDone;
     for (const Finding& finding : findings_) {
-        if (finding.health != Health::kFailed) continue;
-        if (!finding.mayPass) return kExitRefused;
-        exitCode = kExitTryAgain;
+        if (finding.health == Health::kFailed) exitCode |= finding.mayPass ? kExitTryAgain : kExitRefused;
     }
     return exitCode;
 }

@@ -23,7 +23,7 @@ public:
         return findings_.back().health;
     }
 
-    // What the program ends with.
+    // What the program ends with: as the other commands it tells apart what may pass from what does not.
     int ExitCode() const;
     void Finish() const;
     bool HasGivenUpWork() const { return limit_.WasExceeded(); }
