@@ -6,7 +6,7 @@ import unittest
 
 from lejis_case import DONE, PROJECT, REFUSED, RUNNER, TIME_LIMIT, WRONG_USAGE, LejisCase, card
 
-COMMANDS = ("check", "show", "submit", "delete", "search", "doctor")
+COMMANDS = ("check", "show", "submit", "delete", "search", "ledger", "doctor", "help")
 
 NAMED = ("delete", "--ori", "PA0990100", "--id", "2024-1")
 NO_DAYS = ("2024-02-30", "2023-02-29", "2024-2-3", "20240203", "03/09/2024", "2024-13-01", "0000-01-01", "today", "")
@@ -27,6 +27,16 @@ WRONG = [
      "lejis search --help"),
     (("submit", "x.xml", "--url", "u", "--url", "v"), "--url is given twice", "lejis submit --help"),
     (("search", "--licence", "1", "--license=2", "--url", "u"), "--license is given twice", "lejis search --help"),
+    (("check", "x.xml", "-q", "--quiet"), "--quiet is given twice", "lejis check --help"),
+    (("--hepl",), "unknown option --hepl; did you mean --help?", "lejis --help"),
+    (("hepl",), "unknown command hepl; did you mean help?", "lejis --help"),
+    (("help", "check", "submit"), "unexpected argument submit", "lejis help --help"),
+    (("show",), "no file given", "lejis show --help"),
+    (("show", "x.xml", "y.xml"), "unexpected argument y.xml", "lejis show --help"),
+    (("ledger",), "no file given", "lejis ledger --help"),
+    (("ledger", "x", "y"), "unexpected argument y", "lejis ledger --help"),
+    (("submit", "x.xml", "--url", "u", "--jobs", "33"), "--jobs: '33' is no whole number from 1 to 32",
+     "lejis submit --help"),
     (("help", "sumbit"), "unknown command sumbit; did you mean submit?", "lejis --help"),
     (("submit", "x.xml"), "--url is missing", "lejis submit --help"),
     (("submit", "--url", "u"), "no file given", "lejis submit --help"),
@@ -45,7 +55,7 @@ WRONG = [
      "lejis delete --help"),
     ((*NAMED, "--url", "u"), "--submitted is missing", "lejis delete --help"),
     ((*NAMED, "--submitted", "2024-03-09"), "--url is missing", "lejis delete --help"),
-    *(((*NAMED, "--submitted", day, "--url", "u"), f"'{day}' is no day; write it as in 2024-03-09",
+    *(((*NAMED, "--submitted", day, "--url", "u"), f"--submitted: '{day}' is no day; write it as in 2024-03-09",
        "lejis delete --help") for day in NO_DAYS),
 ]
 

@@ -1,6 +1,7 @@
 // lejis: checks incidents, submits them to LEJIS, withdraws them and searches for them, through the registered library.
-#include "commandline/CommandLine.h"
 #include "commandline/Help.h"
+#include "commandline/LibraryForUrl.h"
+#include "commandline/ParseCommandLine.h"
 #include "commandline/UsageError.h"
 #include "console/Console.h"
 #include "console/ExitCode.h"
@@ -24,16 +25,22 @@
 namespace lejis_client {
 namespace {
 
+void PrintTextInJson(const wchar_t* command, const std::wstring& text) {
+    Json document = JsonDocument(command, kExitDone);
+    document["text"] = JsonText(text);
+    Print(document);
+}
+
 int PrintHelp(const CommandLine& commandLine) {
-    const std::wstring text = commandLine.command ? commandLine.command->help : kGeneralHelp;
-    if (commandLine.json) {
-        Json document = JsonDocument(L"help", kExitDone);
-        document["text"] = JsonText(text);
-        Print(document);
-    } else {
-        Console::Output().Write(text);
-    }
+    const std::wstring text = commandLine.command ? HelpOf(*commandLine.command) : GeneralHelp();
+    commandLine.json ? PrintTextInJson(L"help", text) : Console::Output().Write(text);
     return kExitDone;
+}
+
+int ShowTheFile(const CommandLine& commandLine) {
+    const std::vector<NamedFile> files = ListFiles(commandLine.operands, false);
+    if (files.size() == 1) return Show(files.front(), commandLine.json);
+    throw UsageError{L"show takes one file, and here are " + std::to_wstring(files.size()), commandLine.command->name};
 }
 
 struct LibraryNames {
@@ -84,16 +91,19 @@ int Run(const CommandLine& commandLine) {
     if (commandLine.help) return PrintHelp(commandLine);
     if (commandLine.version) return PrintVersion(commandLine);
     switch (commandLine.command->action) {
-        case Action::Show:
-            return Show(commandLine);
-        case Action::Ledger:
-            return SumUpLedger(commandLine);
-        case Action::Search:
-            return Search(commandLine);
-        case Action::Doctor:
-            return Diagnose(commandLine);
+        case kShowRequest:
+            return ShowTheFile(commandLine);
+        case kSumUpLedger:
+            return SumUpLedger(commandLine.operands.front(), commandLine.json);
+        case kSearchIndex:
+            RequireLibraryForUrl(commandLine);
+            return Search(commandLine.search, commandLine.json);
+        case kDiagnose:
+            return Diagnose(commandLine.doctor, commandLine.json);
         default:
-            return RunOnIncidents(commandLine);
+            // Asked for first, so that a missing library is one sentence and not one for each file.
+            RequireLibraryForUrl(commandLine);
+            return RunOnIncidents(commandLine.incidents, commandLine.json);
     }
 }
 
@@ -113,11 +123,10 @@ struct Refusal {
     std::wstring hint;
 };
 
-int Complain(const std::vector<std::wstring>& arguments, const Refusal& refusal) {
-    if (CommandLine::AsksForJson(arguments)) {
-        const Command* const command = FindCommand(arguments.front());
-        const auto name = command ? std::optional<std::wstring>(command->name) : std::nullopt;
-        Json document = JsonDocument(name, refusal.exitCode);
+// The command is empty where none was understood.
+int Complain(const std::wstring& command, bool json, const Refusal& refusal) {
+    if (json) {
+        Json document = JsonDocument(command.empty() ? std::nullopt : std::optional(command), refusal.exitCode);
         SetError(document, refusal.kind, refusal.message);
         PrintLine(document);
     } else {
@@ -133,25 +142,37 @@ Refusal RefusalOf(const UsageError& error) {
 
 Refusal Unexpected(const std::wstring& message) { return {L"unexpected", kExitRefused, message, {}}; }
 
-int RunSafely() {
-    const std::vector<std::wstring> arguments = Arguments();
+// What keeps a command that was understood from being carried out.
+int RunSafely(const CommandLine& commandLine) {
+    const std::wstring command = commandLine.command ? commandLine.command->name : L"";
+    const auto complain = [&](const Refusal& refusal) { return Complain(command, commandLine.json, refusal); };
     try {
-        return Run(CommandLine::Parse(arguments));
+        return Run(commandLine);
     } catch (const UsageError& error) {
-        return Complain(arguments, RefusalOf(error));
+        return complain(RefusalOf(error));
     } catch (const NotRegistered&) {
-        return Complain(arguments, {L"notRegistered", kExitRefused, HowToRegister(), {}});
+        return complain({L"notRegistered", kExitRefused, HowToRegister(), {}});
     } catch (const FileError& error) {
-        return Complain(arguments, {L"unreadable", kExitRefused, error.reason, {}});
+        return complain({L"unreadable", kExitRefused, error.reason, {}});
     } catch (const LibraryError& error) {
-        return Complain(arguments, Unexpected(error.description));
+        return complain(Unexpected(error.description));
     } catch (const platform::ComError& error) {
-        return Complain(arguments, Unexpected(error.Description()));
+        return complain(Unexpected(error.Description()));
     } catch (const _com_error& error) {
-        return Complain(arguments, Unexpected(L"Unexpected error " + Hexadecimal(error.Error())));
+        return complain(Unexpected(L"Unexpected error " + Hexadecimal(error.Error())));
     } catch (const std::bad_alloc&) {
-        return Complain(arguments, Unexpected(L"There is not enough memory"));
+        return complain(Unexpected(L"There is not enough memory"));
     }
+}
+
+int ParseAndRun(const std::vector<std::wstring>& arguments) {
+    CommandLine commandLine;
+    try {
+        commandLine = ParseCommandLine(arguments);
+    } catch (const UsageError& error) {
+        return Complain(error.command, AsksForJson(arguments), RefusalOf(error));
+    }
+    return RunSafely(commandLine);
 }
 
 }  // namespace
@@ -159,7 +180,7 @@ int RunSafely() {
 
 int main() {
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    const int exitCode = lejis_client::RunSafely();
+    const int exitCode = lejis_client::ParseAndRun(lejis_client::Arguments());
     CoUninitialize();
     return exitCode;
 }

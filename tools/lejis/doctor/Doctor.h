@@ -1,11 +1,11 @@
 // Looks at everything on the road to LEJIS, and says what to do about what is wrong. It changes and sends nothing.
 #pragma once
 
-#include "commandline/CommandLine.h"
+#include "doctor/DoctorSettings.h"
 
 namespace lejis_client {
 
-// Returns the exit code. Raises a UsageError.
-int Diagnose(const CommandLine& commandLine);
+// Returns the exit code.
+int Diagnose(const DoctorSettings& settings, bool json);
 
 }  // namespace lejis_client

@@ -6,10 +6,6 @@
 
 namespace lejis_client {
 
-// Requests as the library sends them, with little in them. Raise a LibraryError.
-msxml::Document SampleSubmission();
-msxml::Document SampleSearch();
-
 Finding CheckSchemas(const Service& service, const std::wstring& wsdlUrl);
 
 // When the schemas have not come in time.

@@ -1,6 +1,6 @@
 #include "doctor/Service.h"
 
-#include "doctor/SchemaCheck.h"
+#include "doctor/SampleRequest.h"
 #include "foundation/Constants.h"
 
 #include <iterator>

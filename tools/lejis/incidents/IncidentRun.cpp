@@ -1,11 +1,11 @@
 #include "incidents/IncidentRun.h"
 
-#include "commandline/LibraryForUrl.h"
 #include "console/Console.h"
 #include "console/ExitCode.h"
 #include "files/FileError.h"
 #include "files/FileList.h"
-#include "report/Report.h"
+#include "report/JsonReport.h"
+#include "report/TextReport.h"
 #include "submission/Backlog.h"
 #include "submission/IncidentJob.h"
 #include "submission/Ledger.h"
@@ -16,10 +16,11 @@ namespace {
 
 constexpr double kSecond = 1000;
 
-std::deque<Task> TasksOf(const CommandLine& commandLine) {
-    if (commandLine.NamesIncident()) return {{*commandLine.ori + L" " + *commandLine.id, {}}};
+std::deque<Task> TasksOf(const IncidentSettings& settings) {
+    const IncidentName& named = settings.job.named;
+    if (named.IsGiven()) return {{*named.ori + L" " + *named.number, {}}};
     std::deque<Task> tasks;
-    for (NamedFile& file : ListFiles(commandLine.files, commandLine.recurse)) {
+    for (NamedFile& file : ListFiles(settings.files, settings.recurse)) {
         tasks.push_back({std::move(file.name), std::move(file.path)});
     }
     return tasks;
@@ -31,14 +32,20 @@ std::vector<std::wstring> NamesOf(const std::deque<Task>& tasks) {
     return names;
 }
 
-LedgerEntry EntryOf(const Command& command, const std::wstring& url, const Task& task, const Attempt& attempt) {
+std::unique_ptr<Report> MakeReport(const IncidentSettings& settings, bool json,
+                                   const std::vector<std::wstring>& names) {
+    if (json) return std::make_unique<JsonReport>(*settings.job.operation, names.size());
+    return std::make_unique<TextReport>(*settings.job.operation, names, settings.quiet);
+}
+
+LedgerEntry EntryOf(const JobSettings& job, const Task& task, const Attempt& attempt) {
     LedgerEntry entry;
-    entry.command = command.name;
-    entry.url = url;
+    entry.command = job.operation->name;
+    entry.url = job.service.url;
     entry.file = task.path.empty() ? task.name : task.path;
     entry.digest = attempt.digest;
     entry.identity = attempt.identity.value_or(Identity{});
-    entry.outcome = WordOf(command, attempt.outcome.result);
+    entry.outcome = WordOf(*job.operation, attempt.outcome.result);
     entry.canTryAgain = attempt.outcome.canTryAgain;
     entry.number = attempt.outcome.number;
     entry.errors = attempt.outcome.errors;
@@ -53,8 +60,7 @@ void TellInterruption() { Console::Errors().Write(L"\nInterrupted. What was unde
 // One run over all incidents.
 class IncidentRun final : public BacklogListener {
 public:
-    IncidentRun(const CommandLine& commandLine, const BacklogSettings& settings)
-        : IncidentRun(commandLine, settings, TasksOf(commandLine)) {}
+    IncidentRun(const IncidentSettings& settings, bool json) : IncidentRun(settings, json, TasksOf(settings)) {}
 
     int Run() {
         const ULONGLONG start = GetTickCount64();
@@ -82,7 +88,7 @@ public:
     void Tried(const Task& task, const Attempt& attempt) override {
         if (!ledger_ || attempt.outcome.result == Result::LeftOut) return;
         try {
-            ledger_->Append(EntryOf(command_, url_, task, attempt));
+            ledger_->Append(EntryOf(job_, task, attempt));
         } catch (const FileError& error) {
             // What cannot be written down is not to be done.
             ledgerFault_ = error.reason;
@@ -93,22 +99,20 @@ public:
     void Ended(const Task& task, const Attempt& attempt) override { report_->End(task.name, attempt); }
 
 private:
-    IncidentRun(const CommandLine& commandLine, const BacklogSettings& settings, const std::deque<Task>& tasks)
-        : command_(*commandLine.command),
-          isVerbose_(commandLine.verbose),
-          url_(commandLine.url.value_or(L"")),
-          done_(command_.name, url_, command_.success),
-          report_(Report::Create(commandLine, NamesOf(tasks))),
+    IncidentRun(const IncidentSettings& settings, bool json, const std::deque<Task>& tasks)
+        : job_(settings.job),
+          isVerbose_(settings.verbose),
+          done_(job_.operation->name, job_.service.url, job_.operation->success),
+          report_(MakeReport(settings, json, NamesOf(tasks))),
           backlog_(
-              settings, [&] { return std::make_unique<IncidentJob>(commandLine, done_); }, tasks, *this) {
-        if (!commandLine.ledger) return;
-        ledger_ = std::make_unique<Ledger>(*commandLine.ledger);
-        ReadLedger(*commandLine.ledger, [this](const LedgerEntry& entry) { done_.Add(entry); });
+              settings.backlog, [&] { return std::make_unique<IncidentJob>(settings.job, done_); }, tasks, *this) {
+        if (!settings.ledger) return;
+        ledger_ = std::make_unique<Ledger>(*settings.ledger);
+        ReadLedger(*settings.ledger, [this](const LedgerEntry& entry) { done_.Add(entry); });
     }
 
-    const Command& command_;
+    const JobSettings& job_;
     bool isVerbose_;
-    std::wstring url_;
     LedgerIndex done_;
     std::unique_ptr<Ledger> ledger_;
     std::wstring ledgerFault_;
@@ -118,11 +122,6 @@ private:
 
 }  // namespace
 
-int RunOnIncidents(const CommandLine& commandLine) {
-    const BacklogSettings settings = BacklogSettings::Of(commandLine);
-    // Asked for first, so that a missing library is one sentence and not one for each file.
-    RequireLibraryForUrl(commandLine);
-    return IncidentRun(commandLine, settings).Run();
-}
+int RunOnIncidents(const IncidentSettings& settings, bool json) { return IncidentRun(settings, json).Run(); }
 
 }  // namespace lejis_client

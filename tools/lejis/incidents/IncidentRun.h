@@ -1,11 +1,12 @@
-// Checks, submits or withdraws the incidents that the command line names.
+// Checks, submits or withdraws incidents.
 #pragma once
 
-#include "commandline/CommandLine.h"
+#include "incidents/IncidentSettings.h"
 
 namespace lejis_client {
 
-// Returns the program's exit code. Raises a UsageError or, where a list or the ledger cannot be read, a FileError.
-int RunOnIncidents(const CommandLine& commandLine);
+// Returns the program's exit code. With `json` the results are for a program. Raises a FileError where a list or the
+// ledger cannot be read.
+int RunOnIncidents(const IncidentSettings& settings, bool json);
 
 }  // namespace lejis_client

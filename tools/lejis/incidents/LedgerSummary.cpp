@@ -73,9 +73,9 @@ Json JsonOf(const Summary& summary) {
 
 }  // namespace
 
-int SumUpLedger(const CommandLine& commandLine) {
-    const Summary summary = SummaryOf(commandLine.files.front());
-    if (commandLine.json) {
+int SumUpLedger(const std::wstring& ledger, bool json) {
+    const Summary summary = SummaryOf(ledger);
+    if (json) {
         Print(JsonOf(summary));
     } else {
         Console::Output().Write(TextOf(summary));

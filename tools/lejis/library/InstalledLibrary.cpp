@@ -1,6 +1,6 @@
 #include "library/InstalledLibrary.h"
 
-#include "library/Library.h"
+#include <TVLejisCore.h>
 
 #include <initializer_list>
 

@@ -27,7 +27,7 @@ void JsonReport::Tell(const std::wstring& name, const Attempt& attempt) {
     PrintLine({{"name", JsonText(name)},
                {"ori", TextOrNull(attempt, &Identity::ori)},
                {"number", TextOrNull(attempt, &Identity::number)},
-               {"outcome", JsonText(WordOf(command_, outcome.result))},
+               {"outcome", JsonText(WordOf(operation_, outcome.result))},
                {"tryAgain", outcome.canTryAgain},
                {"error", outcome.number ? Json(outcome.number) : Json()},
                {"errors", JsonTexts(outcome.errors)},
@@ -37,7 +37,7 @@ void JsonReport::Tell(const std::wstring& name, const Attempt& attempt) {
 }
 
 void JsonReport::SumUp(const Ending& ending, int exitCode) {
-    Json line = JsonDocument(command_.name, exitCode);
+    Json line = JsonDocument(operation_.name, exitCode);
     Json& counts = line["counts"];
     for (const auto& row : kCounts) counts[row.name] = tally_.Count(row.result);
     counts["notBegun"] = ending.left;

@@ -7,7 +7,7 @@ namespace lejis_client {
 
 class JsonReport : public Report {
 public:
-    JsonReport(const Command& command, std::size_t total) : Report(command, total) {}
+    JsonReport(const OperationKind& operation, std::size_t total) : Report(operation, total) {}
 
 private:
     void Tell(const std::wstring& name, const Attempt& attempt) override;

@@ -1,15 +1,8 @@
 #include "report/Report.h"
 
 #include "console/ExitCode.h"
-#include "report/JsonReport.h"
-#include "report/TextReport.h"
 
 namespace lejis_client {
-
-std::unique_ptr<Report> Report::Create(const CommandLine& commandLine, const std::vector<std::wstring>& names) {
-    if (commandLine.json) return std::make_unique<JsonReport>(*commandLine.command, names.size());
-    return std::make_unique<TextReport>(*commandLine.command, names, commandLine.quiet);
-}
 
 void Report::Begin(const std::wstring& name) { progress_.Begin(name); }
 

@@ -1,13 +1,12 @@
 // Tells what becomes of the incidents, as it becomes known, and sums up.
 #pragma once
 
-#include "commandline/CommandLine.h"
 #include "console/Progress.h"
 #include "report/Ending.h"
 #include "report/Tally.h"
+#include "submission/OperationKind.h"
 #include "submission/Task.h"
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -15,9 +14,6 @@ namespace lejis_client {
 
 class Report {
 public:
-    // For people or, where the command line asks for it, for programs.
-    static std::unique_ptr<Report> Create(const CommandLine& commandLine, const std::vector<std::wstring>& names);
-
     virtual ~Report() = default;
     Report(const Report&) = delete;
     Report& operator=(const Report&) = delete;
@@ -28,12 +24,13 @@ public:
     int Finish(const Ending& ending);
 
 protected:
-    Report(const Command& command, std::size_t total) : command_(command), total_(total), progress_(total) {}
+    Report(const OperationKind& operation, std::size_t total)
+        : operation_(operation), total_(total), progress_(total) {}
 
     virtual void Tell(const std::wstring& name, const Attempt& attempt) = 0;
     virtual void SumUp(const Ending& ending, int exitCode) = 0;
 
-    const Command& command_;
+    const OperationKind& operation_;
     std::size_t total_;
     Progress progress_;
     Tally tally_;

@@ -54,8 +54,8 @@ std::wstring ReasonToStop(const Ending& ending) {
 
 }  // namespace
 
-TextReport::TextReport(const Command& command, const std::vector<std::wstring>& names, bool isQuiet)
-    : Report(command, names.size()), isQuiet_(isQuiet) {
+TextReport::TextReport(const OperationKind& operation, const std::vector<std::wstring>& names, bool isQuiet)
+    : Report(operation, names.size()), isQuiet_(isQuiet) {
     for (const std::wstring& name : names) nameWidth_ = std::max(nameWidth_, std::min(name.size(), kWidestName));
 }
 
@@ -70,14 +70,14 @@ void TextReport::Tell(const std::wstring& name, const Attempt& attempt) {
     for (const std::wstring& warning : outcome.warnings) text += ListItem(kWarningBullet, warning);
     if (!outcome.advice.empty()) text += L"    " + outcome.advice + L'\n';
     output.Write(text);
-    if (!outcome.errors.empty()) failures_.Add(WordOf(command_, outcome.result), outcome.errors.front(), name);
+    if (!outcome.errors.empty()) failures_.Add(WordOf(operation_, outcome.result), outcome.errors.front(), name);
 }
 
 void TextReport::SumUp(const Ending& ending, int) {
     if (total_ < 2) return;
     std::wstring text = L"\n";
     if (total_ > kFew && !failures_.IsEmpty()) {
-        text += std::wstring(L"Not ") + command_.success + L":\n" + failures_.Text() + L'\n';
+        text += std::wstring(L"Not ") + operation_.success + L":\n" + failures_.Text() + L'\n';
     }
     const std::size_t begun = total_ - ending.left;
     Console::Output().Write(text + ReasonToStop(ending) + Counts(ending) + Pace(begun, ending.milliseconds) + L'\n');
@@ -85,18 +85,18 @@ void TextReport::SumUp(const Ending& ending, int) {
 
 std::wstring TextReport::Counts(const Ending& ending) const {
     std::wstring text =
-        Counted(total_, L"file") + L": " + std::to_wstring(tally_.Count(Result::Done)) + L' ' + command_.success;
+        Counted(total_, L"file") + L": " + std::to_wstring(tally_.Count(Result::Done)) + L' ' + operation_.success;
     if (tally_.WithWarnings()) text += L" (" + std::to_wstring(tally_.WithWarnings()) + L" with warnings)";
     for (const Result result : kOthers) {
         const std::size_t count = tally_.Count(result);
-        if (count) text += L", " + std::to_wstring(count) + L' ' + WordOf(command_, result);
+        if (count) text += L", " + std::to_wstring(count) + L' ' + WordOf(operation_, result);
     }
     if (ending.left) text += L", " + std::to_wstring(ending.left) + L" not begun";
     return text + L'.';
 }
 
 std::wstring TextReport::Status(const Outcome& outcome) const {
-    const std::wstring word = WordOf(command_, outcome.result);
+    const std::wstring word = WordOf(operation_, outcome.result);
     if (outcome.result == Result::Refused) return word + CountsOf(outcome);
     if (outcome.result != Result::Done || outcome.warnings.empty()) return word;
     return word + L" with " + Counted(outcome.warnings.size(), L"warning");

@@ -9,7 +9,7 @@ namespace lejis_client {
 class TextReport final : public Report {
 public:
     // A quiet one tells only of what did not go through, and of warnings.
-    TextReport(const Command& command, const std::vector<std::wstring>& names, bool isQuiet);
+    TextReport(const OperationKind& operation, const std::vector<std::wstring>& names, bool isQuiet);
 
 private:
     void Tell(const std::wstring& name, const Attempt& attempt) override;

@@ -1,6 +1,5 @@
 #include "search/Search.h"
 
-#include "commandline/LibraryForUrl.h"
 #include "console/Console.h"
 #include "console/ExitCode.h"
 #include "console/PrintJson.h"
@@ -10,11 +9,8 @@
 #include "search/FoundTable.h"
 #include "search/FoundXml.h"
 #include "search/SearchFailure.h"
-#include "search/SearchSettings.h"
 #include "search/SearchWait.h"
 #include "text/Layout.h"
-
-#include <algorithm>
 
 namespace lejis_client {
 namespace {
@@ -36,11 +32,8 @@ struct Failure {
 const Failure kInterrupted = {L"interrupted", kExitInterrupted, L"Interrupted.", L"Interrupted.\n"};
 
 // LEJIS does not send more than were asked for; the library does not tell how many it has.
-bool MayHaveMore(const CommandLine& commandLine, std::size_t found) {
-    const auto& values = commandLine.search;
-    return std::any_of(values.begin(), values.end(), [&](const SearchValue& value) {
-        return value.option->name == kMaxOption && value.value == std::to_wstring(found);
-    });
+bool MayHaveMore(const SearchSettings& settings, std::size_t found) {
+    return settings.most && static_cast<std::size_t>(*settings.most) == found;
 }
 
 std::wstring CountText(std::size_t found, bool mayHaveMore) {
@@ -49,16 +42,16 @@ std::wstring CountText(std::size_t found, bool mayHaveMore) {
            (mayHaveMore ? L", as many as --max allows; LEJIS may have more.\n" : L".\n");
 }
 
-int PrintFound(const CommandLine& commandLine, const Cards& cards) {
-    const bool mayHaveMore = MayHaveMore(commandLine, cards.size());
+int PrintFound(const SearchSettings& settings, bool json, const Cards& cards) {
+    const bool mayHaveMore = MayHaveMore(settings, cards.size());
     const std::wstring count = CountText(cards.size(), mayHaveMore);
-    if (commandLine.json) {
+    if (json) {
         Json document = JsonDocument(L"search", kExitDone);
         document["incidents"] = FoundJson(cards);
         document["mayHaveMore"] = mayHaveMore;
         Print(document);
-    } else if (commandLine.xml || commandLine.csv) {
-        Console::Output().Write(commandLine.xml ? FoundXml(cards) : FoundCsv(cards));
+    } else if (settings.xml || settings.csv) {
+        Console::Output().Write(settings.xml ? FoundXml(cards) : FoundCsv(cards));
         // The document is for a program, the count for a person.
         Console::Errors().Write(count);
     } else {
@@ -74,8 +67,8 @@ Json JsonOf(const Failure& failure) {
     return document;
 }
 
-int PrintFailure(const CommandLine& commandLine, const Failure& failure) {
-    if (commandLine.json) {
+int PrintFailure(bool json, const Failure& failure) {
+    if (json) {
         Print(JsonOf(failure));
     } else {
         Console::Errors().Write(failure.text);
@@ -102,20 +95,18 @@ Failure NoAnswer(long seconds) {
 
 }  // namespace
 
-int Search(const CommandLine& commandLine) {
-    RequireLibraryForUrl(commandLine);
-    const Interruption interruption(commandLine.json ? TellInterruptionInJson : TellInterruption, kPatience);
-    SearchConnection connection(commandLine);
+int Search(const SearchSettings& settings, bool json) {
+    const Interruption interruption(json ? TellInterruptionInJson : TellInterruption, kPatience);
+    SearchConnection connection(settings);
     ShowSearching(0);
-    connection.Send(commandLine.search);
-    const long seconds = SecondsToWait(commandLine);
-    AwaitOutcome(connection, interruption, seconds);
+    connection.Send(settings);
+    AwaitOutcome(connection, interruption, settings.seconds);
     const SearchOutcome& outcome = connection.Outcome();
     if (outcome.end == SearchEnd::Completed) {
-        return PrintFound(commandLine, Objects<ILejisIncidentIndexCard>(outcome.results.Get()));
+        return PrintFound(settings, json, Objects<ILejisIncidentIndexCard>(outcome.results.Get()));
     }
-    if (outcome.end != SearchEnd::None) return PrintFailure(commandLine, FailureOf(outcome));
-    return PrintFailure(commandLine, interruption.HasHappened() ? kInterrupted : NoAnswer(seconds));
+    if (outcome.end != SearchEnd::None) return PrintFailure(json, FailureOf(outcome));
+    return PrintFailure(json, interruption.HasHappened() ? kInterrupted : NoAnswer(settings.seconds));
 }
 
 }  // namespace lejis_client

@@ -1,11 +1,11 @@
 // The command that searches.
 #pragma once
 
-#include "commandline/CommandLine.h"
+#include "search/SearchSettings.h"
 
 namespace lejis_client {
 
 // Returns the exit code of the program.
-int Search(const CommandLine& commandLine);
+int Search(const SearchSettings& settings, bool json);
 
 }  // namespace lejis_client

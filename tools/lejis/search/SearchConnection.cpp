@@ -4,11 +4,22 @@ namespace lejis_client {
 
 using Microsoft::WRL::ComPtr;
 
-SearchConnection::SearchConnection(const CommandLine& commandLine)
+namespace {
+
+auto Controls(ILejisSearchRequest* request) { return Part(request, &ILejisSearchRequest::get_InquiryControls); }
+
+void Exclude(ILejisSearchRequest* request, const std::wstring& ori) {
+    const auto excluded = Part(Controls(request).Get(), &ILejisInquiryControls::get_ExcludedORIIDs);
+    Check(excluded->Add(_variant_t(ori.c_str())));
+}
+
+}  // namespace
+
+SearchConnection::SearchConnection(const SearchSettings& settings)
     : service_(Create<LejisSearchWebService, ILejisSearchWebService>()) {
-    Check(service_->put_URL(_bstr_t(commandLine.url->c_str())));
-    Check(service_->put_Username(_bstr_t(commandLine.user->c_str())));
-    Check(service_->put_ValidateSchema(commandLine.validateSchema ? VARIANT_TRUE : VARIANT_FALSE));
+    Check(service_->put_URL(_bstr_t(settings.url.c_str())));
+    Check(service_->put_Username(_bstr_t(settings.user.c_str())));
+    Check(service_->put_ValidateSchema(settings.validateSchema ? VARIANT_TRUE : VARIANT_FALSE));
     sink_.Attach(new SearchSink());
     ComPtr<IConnectionPointContainer> container;
     Check(service_.As(&container));
@@ -25,9 +36,11 @@ SearchConnection::~SearchConnection() {
     service_->Search(request_.Get());
 }
 
-void SearchConnection::Send(const SearchValues& values) {
+void SearchConnection::Send(const SearchSettings& settings) {
     request_ = Create<LejisSearchRequest, ILejisSearchRequest>();
-    for (const SearchValue& value : values) value.option->put(request_.Get(), value.value);
+    for (const SearchCriterion& put : settings.criteria) put(request_.Get());
+    if (settings.most) Check(Controls(request_.Get())->put_MaxIncidents(*settings.most));
+    for (const std::wstring& ori : settings.excludedOris) Exclude(request_.Get(), ori);
     Check(service_->Search(request_.Get()));
 }
 

@@ -1,8 +1,8 @@
 // A search service, with a sink for its events.
 #pragma once
 
-#include "commandline/CommandLine.h"
 #include "library/Library.h"
+#include "search/SearchSettings.h"
 #include "search/SearchSink.h"
 
 #include <ocidl.h>
@@ -11,13 +11,13 @@ namespace lejis_client {
 
 class SearchConnection {
 public:
-    explicit SearchConnection(const CommandLine& commandLine);
+    explicit SearchConnection(const SearchSettings& settings);
     // A search still under way is given up.
     ~SearchConnection();
     SearchConnection(const SearchConnection&) = delete;
     SearchConnection& operator=(const SearchConnection&) = delete;
 
-    void Send(const SearchValues& values);
+    void Send(const SearchSettings& settings);
     // It comes from the message loop, if it does not come at once.
     const SearchOutcome& Outcome() const { return sink_->Outcome(); }
 

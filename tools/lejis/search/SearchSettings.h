@@ -1,14 +1,25 @@
-// What a search on the command line needs.
+// What is searched for, where, and how it is shown.
 #pragma once
 
-#include "commandline/CommandLine.h"
+#include "search/SearchCriterion.h"
+
+#include <string>
+#include <vector>
 
 namespace lejis_client {
 
-// What is wrong with the options of a search, without a full stop; empty when nothing is.
-std::wstring SearchComplaint(const CommandLine& commandLine);
-
-// How many seconds to wait for the answer.
-long SecondsToWait(const CommandLine& commandLine);
+struct SearchSettings {
+    std::wstring url;
+    std::wstring user;
+    bool validateSchema = false;
+    std::vector<SearchCriterion> criteria;
+    // No more incidents than this; nothing leaves it to LEJIS.
+    std::optional<long> most;
+    std::vector<std::wstring> excludedOris;
+    // How long to wait for the answer.
+    long seconds = 120;
+    bool xml = false;
+    bool csv = false;
+};
 
 }  // namespace lejis_client

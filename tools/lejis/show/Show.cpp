@@ -1,13 +1,10 @@
 #include "show/Show.h"
 
-#include "commandline/CommandLine.h"
-#include "commandline/UsageError.h"
 #include "console/Console.h"
 #include "console/ExitCode.h"
 #include "console/PrintJson.h"
 #include "files/FileContent.h"
 #include "files/FileError.h"
-#include "files/FileList.h"
 #include "files/IncidentFile.h"
 #include "files/StandardInput.h"
 #include "library/SubmissionRequest.h"
@@ -27,12 +24,6 @@ struct Shown {
 
     int ExitCode() const { return errors.empty() ? kExitDone : kExitRefused; }
 };
-
-NamedFile TheFile(const CommandLine& commandLine) {
-    const std::vector<NamedFile> files = ListFiles(commandLine.files, false);
-    if (files.size() == 1) return files.front();
-    throw UsageError{L"show takes one file, and here are " + std::to_wstring(files.size()), L"show"};
-}
 
 std::wstring RequestFor(ILejisIncidentIndexCard* incident) {
     std::wstring markup = msxml::Markup(SubmissionRequest(incident));
@@ -75,12 +66,11 @@ void PrintText(const Shown& shown) {
 
 }  // namespace
 
-int Show(const CommandLine& commandLine) {
-    const NamedFile file = TheFile(commandLine);
+int Show(const NamedFile& file, bool json) {
     // Asked for first: it raises where there is no library.
     LibraryVersion();
     const Shown shown = Look(file.path);
-    commandLine.json ? PrintJson(file.name, shown) : PrintText(shown);
+    json ? PrintJson(file.name, shown) : PrintText(shown);
     return shown.ExitCode();
 }
 

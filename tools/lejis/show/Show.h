@@ -1,11 +1,11 @@
 // Prints what would be sent for an incident file.
 #pragma once
 
+#include "files/FileList.h"
+
 namespace lejis_client {
 
-struct CommandLine;
-
-// Returns the exit code. Raises a UsageError when the pattern of the command line stands for several files.
-int Show(const CommandLine& commandLine);
+// Returns the exit code.
+int Show(const NamedFile& file, bool json);
 
 }  // namespace lejis_client

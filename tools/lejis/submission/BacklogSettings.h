@@ -1,14 +1,9 @@
 // How a long list of incidents is worked on.
 #pragma once
 
-#include "commandline/CommandLine.h"
-
 namespace lejis_client {
 
 struct BacklogSettings {
-    // Raises a UsageError.
-    static BacklogSettings Of(const CommandLine& commandLine);
-
     long jobs = 1;
     // How often a failure that may pass is tried again.
     long retries = 0;

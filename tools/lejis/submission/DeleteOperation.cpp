@@ -2,8 +2,8 @@
 
 namespace lejis_client {
 
-DeleteOperation::DeleteOperation(const CommandLine& commandLine)
-    : ServiceOperation(commandLine,
+DeleteOperation::DeleteOperation(const ServiceSettings& settings)
+    : ServiceOperation(settings,
                        L"LEJIS may have it still or not: withdraw it again, LEJIS knows an incident by agency and "
                        L"number, or look it up.") {}
 

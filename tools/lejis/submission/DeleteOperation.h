@@ -6,7 +6,7 @@ namespace lejis_client {
 
 class DeleteOperation : public ServiceOperation {
 public:
-    explicit DeleteOperation(const CommandLine& commandLine);
+    explicit DeleteOperation(const ServiceSettings& settings);
 
 private:
     std::vector<std::wstring> Ask(ILejisIncidentIndexCard* incident) override;

@@ -8,7 +8,6 @@
 #include "library/LibraryError.h"
 #include "library/Members.h"
 #include "platform/ComError.h"
-#include "submission/NamedIncident.h"
 #include "text/Digest.h"
 #include "text/UtcTime.h"
 #include "text/WindowsText.h"
@@ -37,8 +36,7 @@ Outcome Unexpected(HRESULT number, const std::wstring& text) {
 
 }  // namespace
 
-IncidentJob::IncidentJob(const CommandLine& commandLine, const LedgerIndex& done)
-    : commandLine_(commandLine), done_(done) {}
+IncidentJob::IncidentJob(const JobSettings& settings, const LedgerIndex& done) : settings_(settings), done_(done) {}
 
 Attempt IncidentJob::Do(const Task& task) {
     Attempt attempt;
@@ -62,7 +60,7 @@ Attempt IncidentJob::Do(const Task& task) {
 }
 
 void IncidentJob::Read(const Task& task, Attempt& attempt) {
-    if (task.path.empty()) return Run(NamedIncident(commandLine_).Get(), attempt);
+    if (task.path.empty()) return Run(NamedIncident(settings_.named).Get(), attempt);
     const std::string content = task.path == kStandardInput ? StandardInput() : ReadFileContent(task.path);
     attempt.digest = Digest(content);
     if (const auto identity = done_.Done(task.path, attempt.digest)) {
@@ -72,14 +70,14 @@ void IncidentJob::Read(const Task& task, Attempt& attempt) {
     }
     const IncidentFile file = ReadIncident(content);
     Run(file.card.Get(), attempt);
-    if (!commandLine_.command->tellsLosses) return;
+    if (!settings_.operation->tellsLosses) return;
     std::vector<std::wstring>& warnings = attempt.outcome.warnings;
     warnings.insert(warnings.begin(), file.losses.begin(), file.losses.end());
 }
 
 void IncidentJob::Run(ILejisIncidentIndexCard* incident, Attempt& attempt) {
     attempt.identity = IdentityOf(incident);
-    if (!operation_) operation_ = MakeOperation(commandLine_);
+    if (!operation_) operation_ = settings_.operation->make(settings_.service);
     attempt.outcome = operation_->Run(incident);
 }
 

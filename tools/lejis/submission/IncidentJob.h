@@ -1,17 +1,16 @@
-// Reads an incident and runs the command's operation on it.
+// Reads an incident and runs an operation on it.
 #pragma once
 
-#include "commandline/CommandLine.h"
 #include "submission/Job.h"
+#include "submission/JobSettings.h"
 #include "submission/LedgerIndex.h"
-#include "submission/Operation.h"
 
 namespace lejis_client {
 
 class IncidentJob : public Job {
 public:
     // Both outlive it. The index says what earlier runs have done.
-    IncidentJob(const CommandLine& commandLine, const LedgerIndex& done);
+    IncidentJob(const JobSettings& settings, const LedgerIndex& done);
 
     Attempt Do(const Task& task) override;
 
@@ -19,7 +18,7 @@ private:
     void Read(const Task& task, Attempt& attempt);
     void Run(ILejisIncidentIndexCard* incident, Attempt& attempt);
 
-    const CommandLine& commandLine_;
+    const JobSettings& settings_;
     const LedgerIndex& done_;
     std::unique_ptr<Operation> operation_;
 };

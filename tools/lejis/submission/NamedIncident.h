@@ -1,11 +1,21 @@
-// An incident of which only the identifiers are known, as the command line gives them.
+// An incident of which only the identifiers are known.
 #pragma once
 
-#include "commandline/CommandLine.h"
 #include "library/Library.h"
 
 namespace lejis_client {
 
-Microsoft::WRL::ComPtr<ILejisIncidentIndexCard> NamedIncident(const CommandLine& commandLine);
+struct IncidentName {
+    std::optional<std::wstring> ori;
+    std::optional<std::wstring> number;
+    std::optional<DATE> submitted;
+    std::optional<std::wstring> organization;
+
+    // Whether there is any part of it.
+    bool IsGiven() const { return ori || number || submitted || organization; }
+};
+
+// All but the organization has to be there.
+Microsoft::WRL::ComPtr<ILejisIncidentIndexCard> NamedIncident(const IncidentName& name);
 
 }  // namespace lejis_client

@@ -8,8 +8,6 @@
 
 namespace lejis_client {
 
-struct CommandLine;
-
 class Operation {
 public:
     Operation() = default;
@@ -20,8 +18,5 @@ public:
     // Raises a LibraryError where the library fails before it is asked for the operation itself.
     virtual Outcome Run(ILejisIncidentIndexCard* incident) = 0;
 };
-
-// That of the command.
-std::unique_ptr<Operation> MakeOperation(const CommandLine& commandLine);
 
 }  // namespace lejis_client

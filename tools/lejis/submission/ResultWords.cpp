@@ -2,20 +2,20 @@
 
 namespace lejis_client {
 
-std::wstring WordOf(const Command& command, Result result) {
+std::wstring WordOf(const OperationKind& operation, Result result) {
     switch (result) {
         case Result::Refused:
             return L"refused";
         case Result::NotSent:
-            return command.submits ? L"not sent" : L"unreadable";
+            return operation.sends ? L"not sent" : L"unreadable";
         case Result::Unknown:
             return L"unknown";
         case Result::LeftOut:
-            return std::wstring(command.success) + L" before";
+            return std::wstring(operation.success) + L" before";
         case Result::Done:
             break;
     }
-    return command.success;
+    return operation.success;
 }
 
 }  // namespace lejis_client

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "commandline/Command.h"
-#include "submission/Outcome.h"
+#include "submission/OperationKind.h"
 
 #include <string>
 
 namespace lejis_client {
 
-// How the command calls a result: "submitted", "not sent".
-std::wstring WordOf(const Command& command, Result result);
+// How a result is called: "submitted", "not sent".
+std::wstring WordOf(const OperationKind& operation, Result result);
 
 }  // namespace lejis_client

@@ -1,6 +1,5 @@
 #include "submission/ServiceOperation.h"
 
-#include "commandline/CommandLine.h"
 #include "library/LibraryError.h"
 #include "submission/MessageOutcome.h"
 
@@ -13,12 +12,12 @@ constexpr wchar_t kMendTheRoad[] = L"Nothing reached LEJIS. Trying again does no
 
 }  // namespace
 
-ServiceOperation::ServiceOperation(const CommandLine& commandLine, const wchar_t* adviceOnUnknown)
+ServiceOperation::ServiceOperation(const ServiceSettings& settings, const wchar_t* adviceOnUnknown)
     : service_(Create<LejisSubmissionWebService, ILejisSubmissionWebService>()),
       adviceOnUnknown_(adviceOnUnknown),
-      probe_(*commandLine.url) {
-    Check(service_->put_URL(_bstr_t(commandLine.url->c_str())));
-    Check(service_->put_ValidateSchema(commandLine.validateSchema ? VARIANT_TRUE : VARIANT_FALSE));
+      probe_(settings.url) {
+    Check(service_->put_URL(_bstr_t(settings.url.c_str())));
+    Check(service_->put_ValidateSchema(settings.validateSchema ? VARIANT_TRUE : VARIANT_FALSE));
 }
 
 Outcome ServiceOperation::Run(ILejisIncidentIndexCard* incident) {

@@ -3,6 +3,7 @@
 
 #include "submission/Operation.h"
 #include "submission/ServerProbe.h"
+#include "submission/ServiceSettings.h"
 
 namespace lejis_client {
 
@@ -12,7 +13,7 @@ public:
 
 protected:
     // The advice is for an incident of which nobody knows what LEJIS made of it.
-    ServiceOperation(const CommandLine& commandLine, const wchar_t* adviceOnUnknown);
+    ServiceOperation(const ServiceSettings& settings, const wchar_t* adviceOnUnknown);
 
     ILejisSubmissionWebService& Service() const { return *service_.Get(); }
 

@@ -2,9 +2,9 @@
 
 namespace lejis_client {
 
-SubmitOperation::SubmitOperation(const CommandLine& commandLine)
+SubmitOperation::SubmitOperation(const ServiceSettings& settings)
     : ServiceOperation(
-          commandLine,
+          settings,
           L"LEJIS may have it or not: send it again, LEJIS knows an incident by agency and number, or look "
           L"it up.") {}
 

@@ -6,7 +6,7 @@ namespace lejis_client {
 
 class SubmitOperation : public ServiceOperation {
 public:
-    explicit SubmitOperation(const CommandLine& commandLine);
+    explicit SubmitOperation(const ServiceSettings& settings);
 
 private:
     std::vector<std::wstring> Ask(ILejisIncidentIndexCard* incident) override;

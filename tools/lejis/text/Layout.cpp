@@ -26,6 +26,15 @@ std::wstring Counted(std::size_t count, std::wstring_view noun) {
     return std::to_wstring(count) + L' ' + std::wstring(noun) + (count == 1 ? L"" : L"s");
 }
 
+std::wstring Enumerated(const std::vector<std::wstring_view>& words) {
+    std::wstring text;
+    for (std::size_t place = 0; place < words.size(); ++place) {
+        if (place > 0) text += place + 1 == words.size() ? L" and " : L", ";
+        text += words[place];
+    }
+    return text;
+}
+
 std::wstring PaddedRight(std::wstring_view text, std::size_t width) {
     return std::wstring(text) + Blanks(text.size(), width);
 }

@@ -1,0 +1,15 @@
+// The variables of the environment that stand in for options.
+#pragma once
+
+#include "commandline/CommandLine.h"
+#include "commandline/GivenOptions.h"
+
+namespace lejis_client {
+
+// Takes from the environment what the command line leaves out. Raises a UsageError.
+void TakeEnvironment(CommandLine& commandLine, GivenOptions& given);
+
+// In the order of the options.
+std::vector<std::wstring_view> VariableNames();
+
+}  // namespace lejis_client

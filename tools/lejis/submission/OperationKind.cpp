@@ -1,0 +1,28 @@
+#include "submission/OperationKind.h"
+
+#include "submission/CheckOperation.h"
+#include "submission/DeleteOperation.h"
+#include "submission/SubmitOperation.h"
+
+namespace lejis_client {
+namespace {
+
+template <typename ThatOperation>
+std::unique_ptr<Operation> Make(const ServiceSettings& service) {
+    return std::make_unique<ThatOperation>(service);
+}
+
+std::unique_ptr<Operation> MakeCheck(const ServiceSettings&) { return std::make_unique<CheckOperation>(); }
+
+}  // namespace
+
+const OperationKind kCheck = {
+    .name = L"check", .success = L"fit for submission", .sends = false, .tellsLosses = true, .make = MakeCheck};
+
+const OperationKind kSubmit = {
+    .name = L"submit", .success = L"submitted", .sends = true, .tellsLosses = true, .make = Make<SubmitOperation>};
+
+const OperationKind kDelete = {
+    .name = L"delete", .success = L"withdrawn", .sends = true, .tellsLosses = false, .make = Make<DeleteOperation>};
+
+}  // namespace lejis_client
