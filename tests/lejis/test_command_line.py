@@ -6,7 +6,7 @@ import unittest
 
 from lejis_case import DONE, PROJECT, REFUSED, RUNNER, TIME_LIMIT, WRONG_USAGE, LejisCase, card
 
-COMMANDS = ("check", "show", "submit", "delete", "search", "ledger", "doctor", "help")
+COMMANDS = ("check", "show", "submit", "delete", "search", "ledger", "doctor", "completion", "help")
 
 NAMED = ("delete", "--ori", "PA0990100", "--id", "2024-1")
 NO_DAYS = ("2024-02-30", "2023-02-29", "2024-2-3", "20240203", "03/09/2024", "2024-13-01", "0000-01-01", "today", "")

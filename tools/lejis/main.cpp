@@ -1,4 +1,5 @@
 // lejis: checks incidents, submits them to LEJIS, withdraws them and searches for them, through the registered library.
+#include "commandline/CompletionScript.h"
 #include "commandline/Help.h"
 #include "commandline/LibraryForUrl.h"
 #include "commandline/ParseCommandLine.h"
@@ -34,6 +35,12 @@ void PrintTextInJson(const wchar_t* command, const std::wstring& text) {
 int PrintHelp(const CommandLine& commandLine) {
     const std::wstring text = commandLine.command ? HelpOf(*commandLine.command) : GeneralHelp();
     commandLine.json ? PrintTextInJson(L"help", text) : Console::Output().Write(text);
+    return kExitDone;
+}
+
+int PrintCompletion(const CommandLine& commandLine) {
+    const std::wstring script = CompletionScript(FindShell(commandLine.operands.front())->shell);
+    commandLine.json ? PrintTextInJson(L"completion", script) : Console::Output().WriteAsItIs(script);
     return kExitDone;
 }
 
@@ -100,6 +107,8 @@ int Run(const CommandLine& commandLine) {
             return Search(commandLine.search, commandLine.json);
         case kDiagnose:
             return Diagnose(commandLine.doctor, commandLine.json);
+        case kPrintCompletion:
+            return PrintCompletion(commandLine);
         default:
             // Asked for first, so that a missing library is one sentence and not one for each file.
             RequireLibraryForUrl(commandLine);

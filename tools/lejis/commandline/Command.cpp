@@ -177,6 +177,32 @@ sends no incident and changes nothing. Looked at are
                   L"pass by itself; 2 something has failed that may pass: the network, the server, or a time limit; "
                   L"3 both."},
 
+    {.name = L"completion",
+     .action = kPrintCompletion,
+     .usage = L"SHELL",
+     .otherUsage = nullptr,
+     .summary = L"prints completion for bash or PowerShell",
+     .operand = Operand::kShell,
+     .leastOperands = 1,
+     .mostOperands = 1,
+     .operation = nullptr,
+     .about = LR"(Prints a script with which a shell completes the commands and options of lejis when
+Tab is pressed. SHELL is bash or powershell; the command prompt has no such scripts.
+
+  PowerShell: put this line into the file that $PROFILE names.
+
+      lejis completion powershell | Out-String | Invoke-Expression
+
+  bash: put this line into ~/.bashrc.
+
+      source <(lejis completion bash)
+)",
+     .notes = L"",
+     .examples = LR"(  lejis completion powershell
+  lejis completion bash > lejis-completion.bash
+)",
+     .exitCodes = L"0 printed."},
+
     {.name = L"help",
      .action = kPrintHelp,
      .usage = L"[COMMAND]",

@@ -21,11 +21,12 @@ enum Action : unsigned {
     kSumUpLedger = 1 << 6,
     kDiagnose = 1 << 7,
     kPrintHelp = 1 << 8,
-    kEveryAction = (1 << 9) - 1,
+    kPrintCompletion = 1 << 9,
+    kEveryAction = (1 << 10) - 1,
 };
 
 // What stands on the command line beside options.
-enum class Operand { kNone, kFile, kCommand };
+enum class Operand { kNone, kFile, kCommand, kShell };
 
 struct Command {
     const wchar_t* name;

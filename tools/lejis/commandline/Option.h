@@ -1,5 +1,5 @@
-// The options of the program, one row each: reading a command line, the help and "did you mean" come from these
-// rows.
+// The options of the program, one row each: reading a command line, the help, "did you mean" and the shells' completion
+// come from these rows.
 #pragma once
 
 #include "commandline/Command.h"

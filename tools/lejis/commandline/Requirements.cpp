@@ -1,7 +1,9 @@
 #include "commandline/Requirements.h"
 
 #include "commandline/DidYouMean.h"
+#include "commandline/Shell.h"
 #include "commandline/UsageError.h"
+#include "text/Layout.h"
 
 namespace lejis_client {
 namespace {
@@ -10,11 +12,22 @@ namespace {
     throw UsageError{reason, commandLine.command->name};
 }
 
+const wchar_t* WordFor(Operand operand) {
+    switch (operand) {
+        case Operand::kShell:
+            return L"shell";
+        case Operand::kCommand:
+            return L"command";
+        default:
+            return L"file";
+    }
+}
+
 void CheckOperands(const CommandLine& commandLine) {
     const Command& command = *commandLine.command;
     const auto& operands = commandLine.operands;
     if (operands.size() < command.leastOperands) {
-        Throw(commandLine, L"no file given");
+        Throw(commandLine, std::wstring(L"no ") + WordFor(command.operand) + L" given");
     }
     if (operands.size() > command.mostOperands) {
         Throw(commandLine, L"unexpected argument " + operands[command.mostOperands]);
@@ -43,6 +56,11 @@ void CheckSearch(const CommandLine& commandLine) {
     if (search.criteria.empty()) Throw(commandLine, L"nothing to search for");
 }
 
+void CheckShell(const CommandLine& commandLine) {
+    const std::wstring& shell = commandLine.operands.front();
+    if (!FindShell(shell)) Throw(commandLine, L"unknown shell " + shell + L"; there are " + Enumerated(ShellNames()));
+}
+
 // The help of another command, or the general one.
 void CheckHelp(CommandLine& commandLine) {
     commandLine.help = true;
@@ -68,6 +86,7 @@ void CheckRequirements(CommandLine& commandLine, const GivenOptions& given) {
     const Command& command = *commandLine.command;
     if (command.operation) CheckIncidents(commandLine);
     if (command.action == kSearchIndex) CheckSearch(commandLine);
+    if (command.action == kPrintCompletion) CheckShell(commandLine);
     CheckOptions(commandLine, given);
     if (command.action == kPrintHelp) CheckHelp(commandLine);
 }

@@ -72,12 +72,13 @@ Console::Console(DWORD standardHandle) : handle_(GetStdHandle(standardHandle)), 
     coloured_ = interactive_ && !ColourIsUnwanted();
 }
 
-void Console::Write(std::wstring_view text) const {
-    const std::wstring lines = WithCarriageReturns(text);
+void Console::Write(std::wstring_view text) const { WriteAsItIs(WithCarriageReturns(text)); }
+
+void Console::WriteAsItIs(std::wstring_view text) const {
     if (interactive_) {
-        WriteToConsole(handle_, lines);
+        WriteToConsole(handle_, text);
     } else {
-        WriteToFile(handle_, Utf8(lines));
+        WriteToFile(handle_, Utf8(text));
     }
 }
 

@@ -19,6 +19,8 @@ public:
     bool IsInteractive() const { return interactive_; }
     // Lines end with a line feed in text, whatever they end with outside.
     void Write(std::wstring_view text) const;
+    // The text as it is, for a program that takes line feeds alone.
+    void WriteAsItIs(std::wstring_view text) const;
     // Coloured where that can be seen and the environment's NO_COLOR does not forbid it.
     void Write(std::wstring_view text, Tone tone) const;
 
