@@ -6,8 +6,8 @@ from lejis_case import SimulatorCase
 
 FLAGS = r"HKCU\Software\VB and VBA Program Settings\TalvexSuite\Flags"
 DUMPS = ("LejisSubmitRequest.xml", "LejisSubmitResponse.xml", "LejisSearchRequest.xml", "LejisSearchResponse.xml")
-# What it looks at on this machine, beside the registration of either bitness.
-LOCAL = {"Library in use", "LEJIS host", "Proxy", "Debug dumps", "Dump files"}
+# What it looks at on this machine, beside the registration of either bitness and the variables that are set.
+LOCAL = {"Library in use", "LEJIS host", "Environment", "Proxy", "Debug dumps", "Dump files"}
 
 
 def dump_folders():

@@ -1,10 +1,13 @@
 """lejis doctor: the user's settings for debug dumps and for the proxy."""
+import json
 import unittest
 
 from doctor_case import DUMPS, FLAGS, DoctorCase, dump_folders
-from lejis_case import DONE, PROJECT, TRY_AGAIN
+from lejis_case import DONE, PROJECT, REFUSED, TRY_AGAIN
 from registration import reg, set_value, use_proxy
 from small_server import Proxy
+
+VARIABLES = ("LEJIS_URL", "LEJIS_SEARCH_URL", "LEJIS_USER")
 
 
 class DumpsTest(DoctorCase):
@@ -57,6 +60,38 @@ class DumpsTest(DoctorCase):
     def test_it_knows_the_files_that_the_guide_names(self):
         guide = (PROJECT / "docs" / "debug-dumps.md").read_text(encoding="utf-8")
         self.assertEqual({line.split("`")[1] for line in guide.splitlines() if line.startswith("| `Lejis")}, set(DUMPS))
+
+
+class EnvironmentTest(DoctorCase):
+    ADDRESS = "http://127.0.0.1:1/nobody"
+
+    def test_variables_that_are_not_set_have_one_line(self):
+        found = self.findings(DONE, environment=dict.fromkeys(VARIABLES, ""))
+        self.assertEqual(found["Environment"], ("ok", "LEJIS_URL, LEJIS_SEARCH_URL and LEJIS_USER are not set"))
+        self.assertEqual(set(VARIABLES) & set(found), set())
+
+    def test_each_that_is_set_is_told_with_its_value_and_used(self):
+        found = self.findings(TRY_AGAIN, environment={"LEJIS_SEARCH_URL": self.ADDRESS, "LEJIS_USER": "jdoe"})
+        self.assertEqual(found["LEJIS_SEARCH_URL"], ("ok", f"{self.ADDRESS} (used, for --search-url is not given)"))
+        self.assertEqual(found["LEJIS_USER"], ("ok", "jdoe (not for the doctor; other commands use it where --user is "
+                                                     "not given)"))
+        self.assertEqual(found["Environment"], ("ok", "LEJIS_URL is not set"))
+        self.assertEqual(found["Search server"][0], "failed")
+
+    def test_an_option_wins_and_the_variable_is_told_not_to_count(self):
+        found = self.findings(TRY_AGAIN, "--url", self.ADDRESS, environment={"LEJIS_URL": "nonsense"})
+        self.assertEqual(found["LEJIS_URL"], ("ok", "nonsense (not used, for --url is given)"))
+        self.assertIn("takes no connection", found["Submission server"][1])
+        all_set = self.findings(REFUSED, environment=dict.fromkeys(VARIABLES, "nonsense"))
+        self.assertIn("'nonsense' is no address", all_set["Submission server"][1])
+        self.assertIn("'nonsense' is no address", all_set["Search server"][1])
+        self.assertNotIn("Environment", all_set)
+
+    def test_json_has_them_among_the_findings(self):
+        document = json.loads(self.expect(DONE, "doctor", "--json", environment={"LEJIS_USER": "jdoe"}))
+        texts = {finding["subject"]: finding["text"] for finding in document["findings"]}
+        self.assertTrue(texts["LEJIS_USER"].startswith("jdoe (not for the doctor"), texts)
+        self.assertEqual(texts["Environment"], "LEJIS_URL and LEJIS_SEARCH_URL are not set")
 
 
 class ProxyTest(DoctorCase):

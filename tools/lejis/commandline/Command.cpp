@@ -161,6 +161,7 @@ sends no incident and changes nothing. Looked at are
 
   - the library: is it registered, for which programs, in which version; can every
     class be created; for which LEJIS host is it made
+  - the variables of the environment that stand in for options, and whether they count
   - the proxy that this user's programs go through
   - with --url: the submission service. Can its server be reached, is its WSDL that of
     a submission service and of the library's LEJIS host, does a sample request pass

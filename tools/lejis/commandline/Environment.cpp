@@ -21,16 +21,35 @@ void Take(CommandLine& commandLine, const Option& option, const std::wstring& va
     if (!complaint.empty()) throw UsageError{option.variable + (L": " + complaint), commandLine.command->name};
 }
 
+// That of the action where it has one, and otherwise the first.
+const Option* OptionWith(std::wstring_view variable, Action action) {
+    const Option* found = nullptr;
+    for (const Option& option : Options()) {
+        if (!option.variable || option.variable != variable) continue;
+        if (option.BelongsTo(action)) return &option;
+        if (!found) found = &option;
+    }
+    return found;
+}
+
 }  // namespace
 
-void TakeEnvironment(CommandLine& commandLine, GivenOptions& given) {
-    for (const Option* option : OptionsOf(commandLine.command->action)) {
-        if (!option->variable || given.contains(option)) continue;
-        const auto value = ValueOf(option->variable);
-        if (!value) continue;
-        Take(commandLine, *option, *value);
-        given.insert(option);
+std::vector<Variable> TakeEnvironment(CommandLine& commandLine, GivenOptions& given) {
+    const Action action = commandLine.command->action;
+    std::vector<Variable> variables;
+    for (const std::wstring_view name : VariableNames()) {
+        const Option* const option = OptionWith(name, action);
+        Variable variable = {option->variable, option->name, ValueOf(option->variable), Variable::Use::kByOthers};
+        if (option->BelongsTo(action)) {
+            variable.use = given.contains(option) ? Variable::Use::kOverridden : Variable::Use::kTaken;
+        }
+        if (variable.value && variable.use == Variable::Use::kTaken) {
+            Take(commandLine, *option, *variable.value);
+            given.insert(option);
+        }
+        variables.push_back(std::move(variable));
     }
+    return variables;
 }
 
 std::vector<std::wstring_view> VariableNames() {

@@ -26,7 +26,7 @@ public:
         while (place_ < arguments_.size() && !line_.help && !line_.version) TakeArgument();
         if (line_.help || line_.version) return line_;
         if (!line_.command) Throw(L"no command given");
-        TakeEnvironment(line_, given_);
+        line_.doctor.variables = TakeEnvironment(line_, given_);
         CheckRequirements(line_, given_);
         return line_;
     }

@@ -2,6 +2,7 @@
 
 #include "doctor/Diagnosis.h"
 #include "doctor/DumpCheck.h"
+#include "doctor/EnvironmentCheck.h"
 #include "doctor/LibraryCheck.h"
 #include "doctor/ProxyCheck.h"
 #include "doctor/ServiceCheck.h"
@@ -11,6 +12,7 @@ namespace {
 
 void Examine(const DoctorSettings& settings, Diagnosis& diagnosis) {
     const auto lejisHost = CheckLibrary(diagnosis);
+    CheckEnvironment(settings.variables, diagnosis);
     diagnosis.Add(CheckProxy());
     if (settings.url) CheckService(ServiceKind::kSubmission, *settings.url, lejisHost, diagnosis);
     if (settings.searchUrl) CheckService(ServiceKind::kSearch, *settings.searchUrl, lejisHost, diagnosis);
