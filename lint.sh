@@ -1,8 +1,9 @@
 #!/bin/bash
 # lint.sh
 # What can be seen without running anything: the layout of the C++ sources (clang-format), mistakes in the library and
-# its command-line client (cppcheck; its exceptions stand in tools/cppcheck-exceptions.txt; and no thread_local, which
-# is destroyed wrongly) and in the scripts (shellcheck). The compiler's own warnings are errors in every build.
+# its command-line client (cppcheck; its exceptions stand in tools/cppcheck-exceptions.txt; no thread_local, which is
+# destroyed wrongly; in the client no include that looks up its floors) and in the scripts (shellcheck). The compiler's
+# own warnings are errors in every build.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
@@ -26,6 +27,7 @@ mapfile -t sources < <(files_of '*.cpp' '*.h')
 mapfile -t shipped < <(files_of 'Plugins/*.cpp' 'Plugins/*.h' 'tools/lejis/*.cpp' 'tools/lejis/*.h')
 mapfile -t scripts < <(files_of '*.sh' '.ci/run' 'tools/wine/*')
 core="Plugins/LEJIS/LEJIS Core Library"
+client_floors=(text console library files submission "report search doctor show" incidents commandline main.cpp)
 cppcheck_options=(
   --quiet --error-exitcode=1 --template=gcc -j "$(nproc)"
   '--enable=warning,performance,portability' --std=c++20 --platform=win32W --library=windows
@@ -37,5 +39,6 @@ cppcheck_options=(
 check clang-format clang-format --dry-run --Werror "${sources[@]}"
 check cppcheck cppcheck "${cppcheck_options[@]}" -I "$core" "$core" tools/lejis
 check thread_local tools/find-thread-locals.sh "${shipped[@]}"
+check floors tools/find-upward-includes.sh tools/lejis "${client_floors[@]}"
 check shellcheck shellcheck --external-sources "${scripts[@]}"
 exit "$failed"
