@@ -27,7 +27,8 @@ mapfile -t sources < <(files_of '*.cpp' '*.h')
 mapfile -t shipped < <(files_of 'Plugins/*.cpp' 'Plugins/*.h' 'tools/lejis/*.cpp' 'tools/lejis/*.h')
 mapfile -t scripts < <(files_of '*.sh' '.ci/run' 'tools/wine/*')
 core="Plugins/LEJIS/LEJIS Core Library"
-client_floors=(text console library files submission "report search doctor show" incidents commandline main.cpp)
+client_floors=(text "console network" library files submission "report search doctor show" incidents commandline
+  main.cpp)
 cppcheck_options=(
   --quiet --error-exitcode=1 --template=gcc -j "$(nproc)"
   '--enable=warning,performance,portability' --std=c++20 --platform=win32W --library=windows
