@@ -6,6 +6,8 @@ find_file(STDOLE2_TLB stdole2.tlb
     NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH REQUIRED)
 cmake_path(GET STDOLE2_TLB PARENT_PATH STDOLE2_FOLDER)
 
+set(FORGET_TIME ${CMAKE_CURRENT_LIST_DIR}/forget_time_of_type_library.py)
+
 function(add_type_library target idl)
     cmake_path(GET idl STEM name)
     set(folder ${CMAKE_CURRENT_BINARY_DIR}/type_library)
@@ -17,8 +19,9 @@ function(add_type_library target idl)
     add_custom_command(
         OUTPUT ${folder}/${name}.tlb ${folder}/${name}.h
         COMMAND ${widl} -t -o ${folder}/${name}.tlb ${CMAKE_CURRENT_SOURCE_DIR}/${idl}
+        COMMAND /usr/bin/python3 ${FORGET_TIME} ${folder}/${name}.tlb
         COMMAND ${widl} -h -H ${folder}/${name}.h ${CMAKE_CURRENT_SOURCE_DIR}/${idl}
-        DEPENDS ${included}
+        DEPENDS ${included} ${FORGET_TIME}
         VERBATIM)
     add_custom_target(${target}_files DEPENDS ${folder}/${name}.tlb ${folder}/${name}.h)
 
