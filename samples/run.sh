@@ -1,10 +1,10 @@
 #!/bin/bash
 # samples/run.sh [x86|x64] SAMPLE [ARGUMENT...]
 # Runs a sample under Wine with the library registered, against the LEJIS Interface simulator, whose index holds the
-# burglary of samples/incidents. SAMPLE is a script (.vbs, .js), a C++ source, which is built first, or a program (.exe);
-# its path begins in the current folder, in samples/ or in the project's folder. Without a bitness everything is of 32
-# bits. Among the arguments, SUBMISSION and SEARCH stand for the addresses of the simulator's services. Ends with the
-# sample's exit code, but never with 0 when the sample said nothing.
+# burglary of samples/incidents. SAMPLE is a script (.vbs, .js), a C++ source, which is built first, or a program
+# (.exe); its path begins in the current folder, in samples/ or in the project's folder. Without a bitness everything is
+# of 32 bits. Among the arguments, SUBMISSION and SEARCH stand for the addresses of the simulator's services. Ends with
+# the sample's exit code, but never with 0 when the sample said nothing.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/../tools/shell-support.sh"
@@ -36,7 +36,8 @@ demand_arguments() {
   ((${#arguments[@]} < ${#parameters[@]})) || return 0
   # A search names more than the address.
   ((${#parameters[@]} == 1)) || service=SEARCH
-  wrong_usage "$(basename "$sample") needs ${parameters[*]}, for the simulator: samples/run.sh $name ${parameters[*]/#URL/$service}"
+  wrong_usage "${sample##*/} needs ${parameters[*]}, for the simulator:" \
+    "samples/run.sh $name ${parameters[*]/#URL/$service}"
 }
 
 built_program() {
@@ -100,7 +101,8 @@ take_architecture x86 "$@"
 name=${arguments[0]}
 arguments=("${arguments[@]:1}")
 sample=$(found_sample "$name") || wrong_usage "there is no sample $name"
-[[ $sample =~ \.(vbs|js|cpp|exe)$ ]] || wrong_usage "$name is neither a script (.vbs, .js) nor a C++ source nor a program (.exe)"
+[[ $sample =~ \.(vbs|js|cpp|exe)$ ]] ||
+  wrong_usage "$name is neither a script (.vbs, .js) nor a C++ source nor a program (.exe)"
 demand_arguments
 if [[ -n ${LEJIS_SIMULATOR_URL:-} ]]; then
   output=$(mktemp)
