@@ -1,17 +1,51 @@
 #!/bin/bash
-# package.sh [--lejis-host HOST] [x86|x64|all]
+# package.sh [--lejis-host HOST] [--sign CERT KEY [--timestamp URL]] [x86|x64|all]
 # Builds the library and makes its packages in build/packages: for each bitness a zip, a zip of the debug symbols and an
-# installer (MSI), and SHA256SUMS. HOST is the host in the namespaces of the LEJIS that they are made for, and stands in
-# the packages' names; without it they are made for lejis.example, which stands for none.
+# installer (MSI), and SHA256SUMS. HOST is the host in the namespaces of the LEJIS that they are
+# made for, and stands in the packages' names; without it they are made for lejis.example, which stands for none.
+# --sign: the DLLs, programs and installers are signed with this certificate (a file with its chain, PEM) and key (PEM);
+# URL is the time-stamping service without which a signature ends with its certificate.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
 # shellcheck source=tools/wine-environment.sh
 source "$project/tools/wine-environment.sh"
 
+signing=()
+selection=all
+
+# Paths are given as seen from where the script was started.
+readable_file() {
+  [[ -r ${1:-} ]] || wrong_usage "${1:-nothing}: there is no such certificate or key"
+  realpath "$1"
+}
+
+read_arguments() {
+  local certificate key
+  while (($#)); do
+    case $1 in
+      --sign)
+        certificate=$(readable_file "${2:-}")
+        key=$(readable_file "${3:-}")
+        signing+=(--sign "$certificate" "$key")
+        shift 2
+        ;;
+      --timestamp)
+        [[ -n ${2:-} ]] || wrong_usage "--timestamp needs the address of a service"
+        signing+=(--timestamp "$2")
+        shift
+        ;;
+      -*) wrong_usage "unknown option $1" ;;
+      *) selection=$1 ;;
+    esac
+    shift
+  done
+  [[ ${signing[0]:---sign} == --sign ]] || wrong_usage "--timestamp is of use with --sign alone, and comes after it"
+}
+
 take_lejis_host "$@"
-((${#arguments[@]} <= 1)) || wrong_usage "usage: package.sh [--lejis-host HOST] [x86|x64|all]"
-architectures=$(architectures_of "${arguments[0]:-all}")
+read_arguments "${arguments[@]}"
+architectures=$(architectures_of "$selection")
 build=("$project/build.sh" ${lejis_host:+--lejis-host "$lejis_host"})
 packages=$project/build/packages
 
@@ -45,8 +79,8 @@ done
 start_wine
 for architecture in $architectures; do
   describe "$architecture"
-  run /usr/bin/python3 "$project/tools/packaging/package.py" "$architecture" "$(description_of "$architecture")" \
-    "$packages"
+  run /usr/bin/python3 "$project/tools/packaging/package.py" "${signing[@]}" "$architecture" \
+    "$(description_of "$architecture")" "$packages"
 done
 cd "$packages"
 sha256sum -- *.zip *.msi >SHA256SUMS

@@ -40,7 +40,10 @@ missing_packages() {
   /usr/bin/python3 -c 'import lxml.etree' 2>/dev/null || say python3-lxml
   [[ -f /usr/include/nlohmann/json.hpp ]] || say nlohmann-json3-dev
   has_command wixl || say wixl
+  has_command osslsigncode || say osslsigncode
+  has_command openssl || say openssl
   has_command msibuild || say msitools
+  /usr/bin/python3 -c 'import markdown' 2>/dev/null || say python3-markdown
   /usr/bin/python3 -c 'import pefile' 2>/dev/null || say python3-pefile
   local program
   for program in "${programs[@]}"; do

@@ -47,11 +47,12 @@ TEST_F(VersionResource, NamesTheLibrary) {
 
 TEST_F(VersionResource, SaysThatTheDllRegistersItself) { EXPECT_EQ(L"", Text(L"OLESelfRegister")); }
 
-TEST_F(VersionResource, HasOneVersionInTextAndNumbers) {
+TEST_F(VersionResource, ShowsThreeOfItsFourNumbers) {
     const VS_FIXEDFILEINFO& fixed = Fixed();
     const std::wstring numbers =
         std::to_wstring(HIWORD(fixed.dwFileVersionMS)) + L"." + std::to_wstring(LOWORD(fixed.dwFileVersionMS)) + L"." +
-        std::to_wstring(HIWORD(fixed.dwFileVersionLS)) + L"." + std::to_wstring(LOWORD(fixed.dwFileVersionLS));
+        std::to_wstring(LOWORD(fixed.dwFileVersionLS));
+    EXPECT_EQ(0, HIWORD(fixed.dwFileVersionLS));
     EXPECT_EQ(numbers, Text(L"FileVersion"));
     EXPECT_EQ(numbers, Text(L"ProductVersion"));
     EXPECT_EQ(static_cast<DWORD>(VFT_DLL), fixed.dwFileType);

@@ -18,7 +18,7 @@ from pathlib import Path
 import wine_machine as machine
 
 PROJECT = Path(__file__).resolve().parents[2]
-sys.path.insert(0, str(PROJECT / "tools" / "packaging"))
+sys.path[:0] = [str(PROJECT / "tools" / "packaging"), str(PROJECT / "cmake")]
 
 PACKAGES = Path(os.environ["LEJIS_PACKAGES"])
 ARCHITECTURES = os.environ["LEJIS_ARCHITECTURES"].split()
@@ -72,10 +72,10 @@ class PackageCase(unittest.TestCase):
     def msiexec(self, *arguments):
         self.expect(machine.MSIEXEC, *arguments, "/qn")
 
-    def install(self, architecture):
+    def install(self, architecture, *choices):
         path = package(architecture, ".msi")
         self.addCleanup(machine.run, machine.MSIEXEC, "/x", machine.windows_path(path), "/qn")
-        self.msiexec("/i", machine.windows_path(path))
+        self.msiexec("/i", machine.windows_path(path), *choices)
         return path
 
     def lejis(self, folder, *arguments, code=0):

@@ -15,15 +15,26 @@ from lxml import etree
 from package_case import BITS, PACKAGES, PROJECT, PackageCase, for_each_architecture, installed_folder, package
 
 import archive
+import documents
+import forget_time_of_type_library
+import installer_rows
 import manifests
 import package as packaging
 
 OBJDUMP = {"x86": "i686-w64-mingw32-objdump", "x64": "x86_64-w64-mingw32-objdump"}
-INCIDENT_FORMAT = {"docs/incident-format.md", *(f"docs/incident-format/{name}.xsd"
+INCIDENT_FORMAT = {"docs/incident-format.html", *(f"docs/incident-format/{name}.xsd"
                                                 for name in ("incident", "card", "extra", "jxdm"))}
-IN_EVERY_ZIP = {"TVLejisCore.dll", "lejis.exe", "register.cmd", "unregister.cmd", "README.md", "docs/installing.md",
-                "registration-free/Talvex.TVLejisCore.manifest", "registration-free/lejis.exe.manifest",
-                "samples/incidents/burglary.xml", *INCIDENT_FORMAT}
+INSTALLED = {"TVLejisCore.dll", "lejis.exe", "README.txt", "LICENSE.txt", "CHANGELOG.html", "TVLejisCore.spdx.json",
+             "docs/index.html", "docs/installing.html", "docs/getting-started-windows.html", "docs/messages.html",
+             "docs/reference/LejisSearchWebService.html", "samples/README.html", "samples/incidents/burglary.xml",
+             "samples/vbscript/submit.vbs", "samples/cpp/early_bound.cpp", "sdk/TVLejisCore.tlb", "sdk/TVLejisCore.idl",
+             "sdk/model/Model.idl", "sdk/TVLejisCore.h", *INCIDENT_FORMAT}
+ONLY_IN_ZIP = {"register.cmd", "unregister.cmd", "registration-free/Talvex.TVLejisCore.manifest",
+               "registration-free/lejis.exe.manifest"}
+# For those who have the sources.
+IN_NO_PACKAGE = {"docs/architecture.html", "docs/fuzzing.html", "docs/getting-started.html", "samples/run.sh",
+                 "README.md"}
+BINARY = (".dll", ".exe", ".tlb", ".manifest")
 
 
 def project_version():
@@ -32,9 +43,10 @@ def project_version():
     return re.search(r"project\(TVLejisCore VERSION ([\d.]+)", text)[1]
 
 
-def public_version():
-    major, minor, _, revision = project_version().split(".")
-    return f"{major}.{minor}.{revision}"
+def windows_version():
+    """Where Windows demands four numbers."""
+    major, minor, revision = project_version().split(".")
+    return f"{major}.{minor}.0.{revision}"
 
 
 def content(path):
@@ -48,15 +60,22 @@ def file_version(program):
     return ".".join(str(numbers[i]) for i in (1, 0, 3, 2))
 
 
+def shown_versions(program):
+    """The texts of the version resource that are a version."""
+    text = program.decode("utf-16-le", "ignore")
+    return re.findall(r"(?:FileVersion|ProductVersion)\0+([\d.]+)\0", text)
+
+
 def msi_property(path, name):
-    table = subprocess.run(["msiinfo", "export", str(path), "Property"], capture_output=True, text=True, check=True)
-    return dict(line.split("\t") for line in table.stdout.splitlines() if line.count("\t") == 1)[name]
+    return {row["Property"]: row["Value"] for row in installer_rows.rows(path, "Property")}[name]
 
 
 class ContentTest(PackageCase):
     @for_each_architecture
     def test_the_zip_holds_what_people_need(self, architecture):
-        self.assertLessEqual(IN_EVERY_ZIP, set(content(package(architecture, ".zip"))))
+        files = set(content(package(architecture, ".zip")))
+        self.assertLessEqual(INSTALLED | ONLY_IN_ZIP, files)
+        self.assertEqual(IN_NO_PACKAGE & files, set())
 
     @for_each_architecture
     def test_the_schemas_describe_the_samples(self, architecture):
@@ -68,23 +87,48 @@ class ContentTest(PackageCase):
             self.assertTrue(schema.validate(etree.parse(path)), (path.name, schema.error_log))
 
     @for_each_architecture
-    def test_the_installer_brings_the_incident_format(self, architecture):
-        table = subprocess.run(["msiinfo", "export", str(package(architecture, ".msi")), "File"], capture_output=True,
-                               text=True, check=True).stdout
-        files = {line.split("\t")[0] for line in table.splitlines()}
-        self.assertLessEqual({Path(name).name for name in INCIDENT_FORMAT}, files)
+    def test_the_installer_brings_what_the_zip_holds_but_scripts_and_manifests(self, architecture):
+        with tempfile.TemporaryDirectory() as folder:
+            subprocess.run(["msiextract", "-C", folder, package(architecture, ".msi")], capture_output=True, check=True)
+            root, = Path(folder).rglob("TVLejisCore")
+            installed = {path.relative_to(root).as_posix(): path.read_bytes() for path in root.rglob("*")
+                         if path.is_file()}
+        zipped = content(package(architecture, ".zip"))
+        self.assertEqual({name: text for name, text in zipped.items() if name not in ONLY_IN_ZIP}, installed)
 
-    def test_the_incident_format_has_the_host_of_the_library(self):
-        for name, text in packaging.incident_format("lejis.state.example").items():
-            self.assertIn(b"http://lejis.state.example/lejis/jxdm/1.0/" if "jxdm" not in name else b"jxdm/3.0.3", text)
-            self.assertNotIn(b"//lejis.example", text)
+    def test_what_names_the_host_has_that_of_the_library(self):
+        members = documents.for_people("1.2.3", "lejis.state.example")
+        names = {*INCIDENT_FORMAT, *(name for name in members if name.startswith("samples/incidents/")
+                                     and name.endswith(".xml"))} - {"docs/incident-format/jxdm.xsd"}
+        self.assertGreater(len(names), 8)
+        for name in names:
+            self.assertIn(b"http://lejis.state.example/lejis/jxdm/1.0/", members[name], name)
+            self.assertNotIn(b"//lejis.example", members[name], name)
 
     @for_each_architecture
-    def test_scripts_have_the_lines_of_windows_and_no_placeholder(self, architecture):
-        for name, text in content(package(architecture, ".zip")).items():
-            if name.endswith(".cmd"):
-                self.assertEqual(text.count(b"\n"), text.count(b"\r\n"))
-                self.assertNotIn(b"@FOLDER@", text)
+    def test_texts_have_the_lines_of_windows_and_no_placeholder(self, architecture):
+        texts = {name: text for name, text in content(package(architecture, ".zip")).items()
+                 if not name.endswith(BINARY)}
+        self.assertGreater(len(texts), 90)
+        for name, text in texts.items():
+            self.assertEqual(text.count(b"\n"), text.count(b"\r\n"), name)
+            self.assertNotRegex(text, rb"@[A-Z]+@", name)
+
+    @for_each_architecture
+    def test_the_type_library_and_the_header_can_be_made_of_the_idl(self, architecture):
+        folder = self.unpack(architecture) / "sdk"
+        tool = OBJDUMP[architecture].replace("objdump", "widl")
+        version = ".".join(project_version().split(".")[:2])
+        headers = packaging.cached(architecture, "WINE_WINDOWS_HEADERS")
+        wine_libraries = Path(packaging.cached(architecture, "STDOLE2_TLB")).parent
+        command = [tool, f"-DLIBRARY_VERSION={version}", f"-I{headers}", f"-L{wine_libraries}", "-I."]
+        (folder / "made").mkdir()
+        for options in (["-t", "-o", "made/TVLejisCore.tlb"], ["-h", "-H", "made/TVLejisCore.h"]):
+            subprocess.run([*command, *options, "TVLejisCore.idl"], cwd=folder, check=True)
+        library = forget_time_of_type_library.without_time((folder / "made" / "TVLejisCore.tlb").read_bytes())
+        self.assertEqual(library, (folder / "TVLejisCore.tlb").read_bytes())
+        self.assertEqual((folder / "made" / "TVLejisCore.h").read_text(encoding="utf-8").splitlines(),
+                         (folder / "TVLejisCore.h").read_text(encoding="utf-8").splitlines())
 
     @for_each_architecture
     def test_symbols_lie_apart_and_are_named(self, architecture):
@@ -127,8 +171,8 @@ class ContentTest(PackageCase):
 class LejisHostTest(PackageCase):
     @for_each_architecture
     def test_usual_packages_name_the_host_inside(self, architecture):
-        guide = content(package(architecture, ".zip"))["docs/installing.md"].decode()
-        self.assertIn("made for the LEJIS host `lejis.example`", guide)
+        guide = content(package(architecture, ".zip"))["docs/installing.html"].decode()
+        self.assertIn("made for the LEJIS host <code>lejis.example</code>", guide)
         self.assertEqual(msi_property(package(architecture, ".msi"), "LEJISHOST"), "lejis.example")
         self.assertEqual(msi_property(package(architecture, ".msi"), "ProductName"),
                          f"TVLejisCore ({BITS[architecture]}-bit)")
@@ -139,14 +183,15 @@ class LejisHostTest(PackageCase):
         description = PROJECT / "build" / architecture / "packaging" / "type_library.tsv"
         with tempfile.TemporaryDirectory() as folder, mock.patch.object(packaging, "lejis_host", lambda _: host):
             packaging.main(architecture, description, folder)
-            name = f"TVLejisCore-{public_version()}-{host}-{architecture}"
+            name = f"TVLejisCore-{project_version()}-{host}-{architecture}"
             self.assertEqual({path.name for path in Path(folder).iterdir()},
                              {f"{name}.zip", f"{name}-symbols.zip", f"{name}.msi"})
             installer = Path(folder, f"{name}.msi")
             self.assertEqual(msi_property(installer, "LEJISHOST"), host)
-            self.assertEqual(msi_property(installer, "ProductName"), f"TVLejisCore for {host} ({BITS[architecture]}-bit)")
-            guide = content(Path(folder, f"{name}.zip"))["docs/installing.md"].decode()
-            self.assertIn(f"made for the LEJIS host `{host}`", guide)
+            self.assertEqual(msi_property(installer, "ProductName"),
+                             f"TVLejisCore for {host} ({BITS[architecture]}-bit)")
+            guide = content(Path(folder, f"{name}.zip"))["docs/installing.html"].decode()
+            self.assertIn(f"made for the LEJIS host <code>{host}</code>", guide)
 
     @for_each_architecture
     def test_the_programs_say_it_too(self, architecture):
@@ -160,10 +205,14 @@ class VersionTest(PackageCase):
     def test_one_version_is_everywhere(self, architecture):
         path = package(architecture, ".zip")
         files = content(path)
-        self.assertEqual(path.name, f"TVLejisCore-{public_version()}-{architecture}.zip")
+        self.assertEqual(path.name, f"TVLejisCore-{project_version()}-{architecture}.zip")
         for name in ("TVLejisCore.dll", "lejis.exe"):
-            self.assertEqual(file_version(files[name]), project_version(), name)
-        self.assertEqual(msi_property(package(architecture, ".msi"), "ProductVersion"), public_version())
+            self.assertEqual(file_version(files[name]), windows_version(), name)
+            self.assertEqual(shown_versions(files[name]), [project_version()] * 2, name)
+        self.assertIn(f"TVLejisCore {project_version()},", files["README.txt"].decode())
+        self.assertIn(f">TVLejisCore {project_version()}<", files["docs/index.html"].decode())
+        self.assertIn(f">{project_version()}, ", files["CHANGELOG.html"].decode())
+        self.assertEqual(msi_property(package(architecture, ".msi"), "ProductVersion"), project_version())
         self.check_manifests(files)
 
     def check_manifests(self, files):
@@ -171,7 +220,7 @@ class VersionTest(PackageCase):
         program = ElementTree.fromstring(files["registration-free/lejis.exe.manifest"])
         space = "{%s}" % manifests.NAMESPACE
         identities = [*library.iter(space + "assemblyIdentity"), *program.iter(space + "assemblyIdentity")]
-        self.assertEqual([identity.get("version") for identity in identities], [project_version()] * 3)
+        self.assertEqual([identity.get("version") for identity in identities], [windows_version()] * 3)
         major_and_minor = ".".join(project_version().split(".")[:2])
         self.assertEqual([one.get("version") for one in library.iter(space + "typelib")], [major_and_minor])
 
@@ -179,7 +228,7 @@ class VersionTest(PackageCase):
     def test_the_programs_say_it_too(self, architecture):
         self.install(architecture)
         document = self.lejis(installed_folder(architecture), "--version")
-        self.assertEqual((document["lejis"], document["library"]["version"]), (public_version(), public_version()))
+        self.assertEqual((document["lejis"], document["library"]["version"]), (project_version(), project_version()))
 
 
 if __name__ == "__main__":

@@ -1,6 +1,7 @@
 """The packages are installed, used and uninstalled; nothing of them stays behind."""
 import re
 import shutil
+import subprocess
 import tempfile
 import unittest
 from pathlib import Path
@@ -9,7 +10,7 @@ import wine_machine as machine
 from package_case import (ARCHITECTURES, BITS, PROJECT, SEARCH_URL, PackageCase, for_each_architecture,
                           installed_folder, package)
 
-import installer
+import installer_source
 import manifests
 import package as packaging
 import type_library
@@ -86,35 +87,63 @@ class InstallationTest(PackageCase):
 
     @for_each_architecture
     def test_an_upgrade_takes_the_place_of_the_older_version(self, architecture):
-        newer = self.newer_installer(architecture)
+        newer = machine.windows_path(self.newer_installer(architecture))
         before = machine.picture()
         self.install(architecture)
         self.addCleanup(machine.run, machine.MSIEXEC, "/x", newer, "/qn")
         self.msiexec("/i", newer)
         self.check_use(installed_folder(architecture))
-        installed = self.expect("reg", "query", r"HKLM\Software\Microsoft\Windows\CurrentVersion\Uninstall", "/s",
-                                f"/reg:{BITS[architecture]}")
-        self.assertEqual(re.findall(r"DisplayVersion +REG_SZ +(\S+)", installed), ["99.0.1"])
-        self.assertNotEqual(machine.run(machine.MSIEXEC, "/i", machine.windows_path(package(architecture, ".msi")),
-                                        "/qn").code, 0, "an older one does not take the place of a newer one")
-        self.check_use(installed_folder(architecture))
+        self.assertEqual(self.installed_versions(architecture), ["99.0.1"])
         self.msiexec("/x", newer)
         self.expect_same(before)
+
+    def test_an_older_version_does_not_take_the_place_of_a_newer_one(self):
+        architecture = ARCHITECTURES[0]
+        newer = machine.windows_path(self.newer_installer(architecture))
+        # Not by an upgrade: Wine forgets what a product can be upgraded by when an older one goes.
+        self.addCleanup(machine.run, machine.MSIEXEC, "/x", newer, "/qn")
+        self.msiexec("/i", newer)
+        older = machine.windows_path(package(architecture, ".msi"))
+        self.assertNotEqual(machine.run(machine.MSIEXEC, "/i", older, "/qn").code, 0)
+        self.assertEqual(self.installed_versions(architecture), ["99.0.1"])
+
+    def installed_versions(self, architecture):
+        """As "Apps and features" lists them."""
+        installed = self.expect("reg", "query", r"HKLM\Software\Microsoft\Windows\CurrentVersion\Uninstall", "/s",
+                                f"/reg:{BITS[architecture]}")
+        return re.findall(r"DisplayVersion +REG_SZ +(\S+)", installed)
+
+    def test_a_newer_version_that_fails_leaves_the_older_one_as_it_was(self):
+        architecture = ARCHITECTURES[0]
+        newer = self.newer_installer(architecture)
+        # An error at the begin of what changes the machine: Wine rolls nothing back, Windows does.
+        subprocess.run(["msibuild", newer,
+                        "-q", "INSERT INTO `CustomAction` (`Action`, `Type`, `Target`) "
+                              "VALUES ('Fail', 19, 'This fails.')",
+                        "-q", "INSERT INTO `InstallExecuteSequence` (`Action`, `Sequence`) VALUES ('Fail', 1510)"],
+                       check=True)
+        self.install(architecture)
+        before = machine.picture()
+        self.assertNotEqual(machine.run(machine.MSIEXEC, "/i", machine.windows_path(newer), "/qn").code, 0)
+        self.expect_same(before)
+        self.check_use(installed_folder(architecture))
 
     def newer_installer(self, architecture):
         folder = tempfile.mkdtemp(dir=machine.DISK / "users")
         self.addCleanup(shutil.rmtree, folder)
         description = PROJECT / "build" / architecture / "packaging" / "type_library.tsv"
         output = Path(folder) / "newer.msi"
-        packaging.build_installer(type_library.read(description), architecture, "99.0.0.1",
-                                  packaging.DEFAULT_LEJIS_HOST, 1700000000, output)
-        return machine.windows_path(output)
+        version, host = "99.0.1", packaging.DEFAULT_LEJIS_HOST
+        moment = 1700000000
+        files = packaging.common_files(architecture, version, host, moment, packaging.programs_of(architecture))
+        packaging.build_installer(type_library.read(description), architecture, version, host, files, moment, output)
+        return output
 
     def test_the_versions_have_products_of_their_own_and_one_family(self):
-        codes = {installer.product_code(architecture, version)
+        codes = {installer_source.product_code(architecture, version)
                  for architecture in BITS for version in ("1.0.0", "1.0.1")}
         self.assertEqual(len(codes), 4)
-        self.assertEqual(installer.UPGRADE_CODES, {"x86": "5B0C4E0E-3B0D-4C7A-9D52-0B6A4C7E8E10",
+        self.assertEqual(installer_source.UPGRADE_CODES, {"x86": "5B0C4E0E-3B0D-4C7A-9D52-0B6A4C7E8E10",
                                                    "x64": "A7D9C1A5-6E36-4B0B-8E0C-6C5E7F0A2D21"})
 
 

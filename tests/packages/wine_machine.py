@@ -31,6 +31,8 @@ KEPT_BY_WINE = re.compile(
       | disk\ users/[^/]+/AppData/Local/Microsoft/Windows/INet(Cache|Cookies)/
       | user\.reg\ .*\\Internet\ Settings\]\ "ProxyEnable"=
       | disk\ windows/temp(/|$)""", re.VERBOSE)
+# It takes a folder out of the PATH, and leaves the separator.
+SEPARATORS_LEFT = re.compile(r'(Session Manager.*Environment\] "PATH"=.*?);+"$')
 
 
 class Run(NamedTuple):
@@ -72,7 +74,7 @@ def picture():
     stop()
     entries = {entry for hive in HIVES for entry in _registry(hive)}
     entries |= {f"disk {path.relative_to(DISK)}" for path in DISK.rglob("*")}
-    return {entry for entry in entries if not KEPT_BY_WINE.match(entry)}
+    return {SEPARATORS_LEFT.sub(r'\1"', entry) for entry in entries if not KEPT_BY_WINE.match(entry)}
 
 
 CLASSES = "system.reg [Software\\\\Classes\\\\"

@@ -9,6 +9,7 @@
 #include "unit_support/ScriptedRequest.h"
 #include "unit_support/Soap.h"
 #include "unit_support/TestHost.h"
+#include "Version.h"
 
 #include <gtest/gtest.h>
 
@@ -54,7 +55,7 @@ constexpr wchar_t kBareCard[] =
 std::wstring ExpectedRequest() {
     return std::wstring(L"<soap:Envelope><soap:Body><lejis:SubmitRmsIndex>") + kBareCard +
            L"<lejis:ContributingSystem><ext:companyName>Talvex</ext:companyName>"
-           L"<ext:systemName>TalvexSuite</ext:systemName><ext:systemVersion>1.0.0</ext:systemVersion>"
+           L"<ext:systemName>TalvexSuite</ext:systemName><ext:systemVersion>" PUBLIC_VERSION L"</ext:systemVersion>"
            L"</lejis:ContributingSystem></lejis:SubmitRmsIndex></soap:Body></soap:Envelope>";
 }
 
