@@ -1,7 +1,7 @@
 #!/bin/bash
 # package.sh [--lejis-host HOST] [--sign CERT KEY [--timestamp URL]] [x86|x64|all]
 # Builds the library and makes its packages in build/packages: for each bitness a zip, a zip of the debug symbols and an
-# installer (MSI), and SHA256SUMS. HOST is the host in the namespaces of the LEJIS that they are
+# installer (MSI); a zip of the simulator, and SHA256SUMS. HOST is the host in the namespaces of the LEJIS that they are
 # made for, and stands in the packages' names; without it they are made for lejis.example, which stands for none.
 # --sign: the DLLs, programs and installers are signed with this certificate (a file with its chain, PEM) and key (PEM);
 # URL is the time-stamping service without which a signature ends with its certificate.
@@ -82,6 +82,7 @@ for architecture in $architectures; do
   run /usr/bin/python3 "$project/tools/packaging/package.py" "${signing[@]}" "$architecture" \
     "$(description_of "$architecture")" "$packages"
 done
+run /usr/bin/python3 "$project/tools/packaging/simulator_package.py" "$architecture" "$packages"
 cd "$packages"
 sha256sum -- *.zip *.msi >SHA256SUMS
 say "Packages in build/packages:"
