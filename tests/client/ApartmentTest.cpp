@@ -2,6 +2,7 @@
 #include "client/Client.h"
 #include "client/LateBound.h"
 #include "support/Messages.h"
+#include "support/Xml.h"
 
 #include <gtest/gtest.h>
 
@@ -130,6 +131,58 @@ TEST(MultiThreadedApartmentDeathTest, LearnsOfErrors) {
         EXPECT_TRUE(RaisedBy(date.Put(L"Value", L"hello"), kInvalidArgument, L"Not a valid date."));
         // The error object of a call through the table does not travel between apartments under Wine, its number does.
         EXPECT_EQ(kInvalidArgument, manager->InvokeLater(nullptr));
+    });
+}
+
+// The document belongs to the client's apartment, and the library writes into it and reads it through proxies.
+TEST(MultiThreadedApartmentDeathTest, GivesAndTakesXml) {
+    InMultiThreadedApartment([] {
+        const support::Document document = support::NewDocument();
+        const auto person = Create<LejisPersonIndexCard, ILejisPersonIndexCard>();
+        const auto copy = Create<LejisPersonIndexCard, ILejisPersonIndexCard>();
+        ASSERT_NE(nullptr, copy);
+        ComPtr<INullableInteger> height;
+        ComPtr<IDispatch> written;
+        support::Element element;
+        ComPtr<IXMLDOMNode> root;
+        BSTR surname = nullptr;
+        EXPECT_OK(person->put_SurName(Bstr(L"PUBLIC")));
+        // A measure has an attribute.
+        ASSERT_OK(person->get_Height(height.GetAddressOf()));
+        EXPECT_OK(height->put_Value(_variant_t(short{510})));
+        ASSERT_OK(person->ToXmlElement(document.Get(), written.GetAddressOf()));
+        ASSERT_OK(written.As(&element));
+        EXPECT_OK(document->appendChild(element.Get(), root.GetAddressOf()));
+        ASSERT_OK(copy->FromXmlElement(element.Get()));
+        EXPECT_OK(copy->get_SurName(&surname));
+        EXPECT_EQ(L"PUBLIC", support::Take(surname));
+        _variant_t value;
+        ASSERT_OK(copy->get_Height(height.ReleaseAndGetAddressOf()));
+        EXPECT_OK(height->get_Value(&value));
+        EXPECT_EQ(_variant_t(short{510}), value);
+    });
+}
+
+TEST(MultiThreadedApartmentDeathTest, GivesAndTakesEnvelopes) {
+    InMultiThreadedApartment([] {
+        const support::Document document = support::NewDocument();
+        const auto envelope = Create<SOAPEnvelope, ISOAPEnvelope>();
+        ASSERT_NE(nullptr, envelope);
+        ComPtr<IDispatch> written;
+        EXPECT_OK(envelope->put_Username(Bstr(L"jdoe")));
+        EXPECT_OK(envelope->put_Body(Bstr(L"<a/>")));
+        ASSERT_OK(envelope->ToXmlElement(document.Get(), written.GetAddressOf()));
+        EXPECT_TRUE(support::SameXml(written.Get(),
+                                     L"<soap:Envelope><soap:Header><wsse:Security><wsse:UsernameToken>"
+                                     L"<wsse:Username>jdoe</wsse:Username></wsse:UsernameToken></wsse:Security>"
+                                     L"</soap:Header><soap:Body>&lt;a/&gt;</soap:Body></soap:Envelope>"));
+        const support::Document answer = support::Parse(
+            L"<soap:Envelope><soap:Body><soap:Fault><faultstring>Not today.</faultstring></soap:Fault></soap:Body>"
+            L"</soap:Envelope>");
+        BSTR message = nullptr;
+        ASSERT_OK(envelope->FromXmlDocument(answer.Get()));
+        EXPECT_OK(envelope->FaultMessage(&message));
+        EXPECT_EQ(L"Not today.", support::Take(message));
     });
 }
 

@@ -36,6 +36,24 @@ ComPtr<Interface> As(const Node& node) {
     return object;
 }
 
+bool IsOfAnotherApartment(const Node& node) {
+    // Only proxies have this interface.
+    ComPtr<IClientSecurity> proxy;
+    return SUCCEEDED(node->QueryInterface(IID_PPV_ARGS(proxy.GetAddressOf())));
+}
+
+// A new, empty document that takes the element in: a node joins no document of another apartment.
+Document DocumentBeside(const Element& element) {
+    if (!IsOfAnotherApartment(element)) return CreateDocument();
+    Node copy;
+    Check(OwnerDocument(element)->cloneNode(VARIANT_FALSE, copy.GetAddressOf()));
+    const Document document = As<IXMLDOMDocument2>(copy);
+    // Not every MSXML leaves the root out of such a copy. Text that does not parse empties the document.
+    VARIANT_BOOL loaded = VARIANT_FALSE;
+    Check(document->loadXML(InText(L""), &loaded));
+    return document;
+}
+
 }  // namespace
 
 Element CreateElement(const Document& document, std::wstring_view qualifiedName, std::wstring_view namespaceUri) {
@@ -46,12 +64,17 @@ void SetAttribute(const Document& document, const Element& element, std::wstring
                   std::wstring_view namespaceUri, std::wstring_view value) {
     const Node attribute = CreateNode(document, NODE_ATTRIBUTE, qualifiedName, namespaceUri);
     Check(attribute->put_text(InText(value)));
-    Check(element->setAttributeNode(As<IXMLDOMAttribute>(attribute).Get(), nullptr));
+    // A proxy, which a document of another apartment has, takes no null for a result; the same in Append.
+    ComPtr<IXMLDOMAttribute> replaced;
+    Check(element->setAttributeNode(As<IXMLDOMAttribute>(attribute).Get(), replaced.GetAddressOf()));
 }
 
 void SetText(const Element& element, std::wstring_view text) { Check(element->put_text(InText(text))); }
 
-void Append(const Node& parent, const Node& child) { Check(parent->appendChild(child.Get(), nullptr)); }
+void Append(const Node& parent, const Node& child) {
+    Node appended;
+    Check(parent->appendChild(child.Get(), appended.GetAddressOf()));
+}
 
 void AppendRoot(const Document& document, const Element& root) {
     if (Root(document)) throw platform::ComError(E_FAIL, L"Only one top level element is allowed in an XML document.");
@@ -128,7 +151,7 @@ Document OwnerDocument(const Node& node) {
 std::wstring Markup(const Element& element) {
     RequireBoundedDepth(element);
     // Not every MSXML writes the ancestors' declarations with a subtree; the root of a document has none to miss.
-    const Document alone = CreateDocument();
+    const Document alone = DocumentBeside(element);
     Append(alone, Copy(element));
     return Xml(Root(alone));
 }
