@@ -2,7 +2,7 @@
 # docs.sh
 # Makes the generated pages of docs/ anew: docs/reference/ from the type library, the page and schemas of the incident
 # format from the table of lejis.exe, and the exchanges in docs/roads.md from the library's real traffic with the
-# simulator. test.sh tells when that is needed.
+# simulator. Also samples/csharp/TVLejisCore.cs, from the type library. test.sh tells when that is needed.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
@@ -24,5 +24,6 @@ pages=$project/build/docs
 rm -rf "$pages"
 run "$project/tests/support/with_simulator.sh" "$project/tools/docs/generate.sh" "$architecture" "$pages"
 rm -rf "$project/docs/reference" "$project/docs/incident-format"
+mv "$pages/TVLejisCore.cs" "$project/samples/csharp/"
 cp -R "$pages/." "$project/docs/"
-say "docs/reference, docs/incident-format and docs/roads.md are up to date."
+say "docs/reference, docs/incident-format, docs/roads.md and samples/csharp/TVLejisCore.cs are up to date."

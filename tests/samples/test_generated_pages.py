@@ -1,9 +1,9 @@
-"""The pages of docs/ that are made with the library are those that it makes now."""
+"""The pages of docs/ that are made with the library, and its declarations for C#, are those that it makes now."""
 import os
 import subprocess
 import unittest
 
-from sample_case import PROJECT, SampleCase
+from sample_case import PROJECT, SAMPLES, SampleCase
 
 TIME_LIMIT = 120
 FOLDERS = ("reference", "incident-format")
@@ -25,6 +25,8 @@ class GeneratedPagesTest(SampleCase):
             with self.subTest(page):
                 self.assertEqual((PROJECT / "docs" / page).read_text(encoding="utf-8"),
                                  (self.folder / page).read_text(encoding="utf-8"), "./docs.sh makes them anew")
+        self.assertEqual((SAMPLES / "csharp" / "TVLejisCore.cs").read_text(encoding="utf-8"),
+                         (self.folder / "TVLejisCore.cs").read_text(encoding="utf-8"), "./docs.sh makes it anew")
 
 
 if __name__ == "__main__":

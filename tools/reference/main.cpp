@@ -1,5 +1,6 @@
-// reference TYPE_LIBRARY FOLDER: writes the pages of the type library (a .tlb, or a DLL that holds one) into the
-// folder.
+// reference TYPE_LIBRARY FOLDER CSHARP_FILE: writes the pages of the type library (a .tlb, or a DLL that holds one)
+// into the folder, and what a C# program says of it into the file.
+#include "CSharp.h"
 #include "LibraryReader.h"
 #include "Pages.h"
 
@@ -29,13 +30,13 @@ void Write(const std::filesystem::path& file, const std::wstring& text) {
 }
 
 int Run(int count, wchar_t** arguments) {
-    if (count != 3) {
-        std::cerr << "usage: reference TYPE_LIBRARY FOLDER\n";
+    if (count != 4) {
+        std::cerr << "usage: reference TYPE_LIBRARY FOLDER CSHARP_FILE\n";
         return 64;
     }
-    for (const auto& [name, text] : WritePages(ReadLibrary(arguments[1]))) {
-        Write(std::filesystem::path(arguments[2]) / name, text);
-    }
+    const Library library = ReadLibrary(arguments[1]);
+    for (const auto& [name, text] : WritePages(library)) Write(std::filesystem::path(arguments[2]) / name, text);
+    Write(arguments[3], WriteCSharp(library));
     return 0;
 }
 
