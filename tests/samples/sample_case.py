@@ -73,3 +73,13 @@ class SampleCase(unittest.TestCase):
     def script(self, path, *arguments):
         cscript = rf"C:\windows\{SYSTEM}\cscript.exe"
         return self.wine(cscript, "//nologo", windows_path(path), *arguments)
+
+    def adapted(self, script, replacements):
+        """A copy of the script in which each of the texts stood once and has been replaced."""
+        text = script.read_text()
+        for own, stand_in in replacements.items():
+            self.assertEqual(text.count(own), 1, own)
+            text = text.replace(own, stand_in)
+        path = self.folder / script.name
+        path.write_text(text)
+        return path
