@@ -6,8 +6,8 @@ from typing import NamedTuple
 PROJECT = Path(__file__).resolve().parents[2]
 LISTING = PROJECT / "tests" / "client" / "golden" / "type_library.txt"
 
-HEAD = re.compile(r"(interface|dispinterface|coclass|enum) (\w+) ")
-MEMBER = re.compile(r"    -?\d+ (method|get|put) \w+\*? (\w+)\((.*)\)")
+HEAD = re.compile(r"(interface|dispinterface|coclass|enum) (\w+) (\{.*?\})")
+MEMBER = re.compile(r"    (-?\d+) (method|get|put) \w+\*? (\w+)\((.*)\)")
 PARAMETER = re.compile(r"\[([^]]*)\] (\w+)\**(?: (\w+))?")
 IMPLEMENTED = re.compile(r"    \[(.*)\] (\w+)")
 VALUE = re.compile(r"    (\w+) = ")
@@ -26,15 +26,18 @@ class TypeLibrary:
         self.default = {}  # interface of a class
         self.events = {}  # interface of a class
         self.values = set()
+        self.identifiers = {}  # by name
+        self._numbers = {}  # of the members of an interface: (number, name)
         kind = name = None
         for line in LISTING.read_text(encoding="utf-8").splitlines()[1:]:
             if head := HEAD.match(line):
-                kind, name = head.groups()
+                kind, name, self.identifiers[name] = head.groups()
             elif line.startswith(" "):
                 getattr(self, f"_{kind}")(name, line)
 
     def _interface(self, name, line):
-        kind, member, arguments = MEMBER.match(line).groups()
+        number, kind, member, arguments = MEMBER.match(line).groups()
+        self._numbers.setdefault(name, []).append((number, member))
         members = self.members.setdefault(name, {})
         if kind == "put":
             members[member] = members[member]._replace(writable=True)
@@ -59,3 +62,7 @@ class TypeLibrary:
     def members_of(self, type_):
         """By name; of a class those of its default interface. None for a type that is none of the library's."""
         return self.members.get(self.default.get(type_, type_))
+
+    def numbers(self, interface):
+        """(number, name) of its members."""
+        return self._numbers[interface]
