@@ -1,12 +1,13 @@
 #!/bin/bash
-# test.sh [x86|x64|all] [--filter PATTERN] [--require-x86] [--require-browser]
+# test.sh [x86|x64|all] [--filter PATTERN] [--clients] [--require-x86] [--require-browser] [--require-clients]
 # Builds everything and runs the tests under Wine, in lanes side by side (tests/suite): one for each architecture, one for
 # the tools and the packages, which are made first. The guides and the demonstration, which are scripts of their own, come
 # last.
 # PATTERN is GoogleTest's, such as "Vehicle*:-*Slow*"; scripts are chosen by their file names likewise, and the tests of
 # the tools, of the samples and of the guides are left out.
+# --clients: also clients in C# and Free Pascal, whose languages are fetched: 300 MB, once.
 # --require-x86 makes it an error that x86 programs cannot be run here, --require-browser that the simulator's page cannot
-# be looked at, for want of Chromium.
+# be looked at, for want of Chromium, --require-clients that Free Pascal cannot be had for --clients, which it includes.
 # The last line is "N passed, M failed"; the exit code is 1 unless tests ran and all passed.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
@@ -16,7 +17,7 @@ source "$project/tools/wine-environment.sh"
 
 selection=all
 setup_options=()
-export LEJIS_TEST_RESULTS=$project/build/test-results LEJIS_TEST_FILTER=
+export LEJIS_TEST_RESULTS=$project/build/test-results LEJIS_TEST_FILTER= LEJIS_TEST_CLIENTS=no
 
 read_arguments() {
   while (($#)); do
@@ -28,6 +29,10 @@ read_arguments() {
         ;;
       --filter=*) LEJIS_TEST_FILTER=${1#*=} ;;
       --require-x86 | --require-browser) setup_options+=("$1") ;;
+      --clients | --require-clients)
+        LEJIS_TEST_CLIENTS=yes
+        setup_options+=("$1")
+        ;;
       -*) wrong_usage "unknown option $1" ;;
       *) selection=$1 ;;
     esac
@@ -79,6 +84,15 @@ run_guides() {
   )
 }
 
+# What clients of which language did, and which languages were not there.
+say_clients() {
+  if [[ $LEJIS_TEST_CLIENTS == yes ]]; then
+    run /usr/bin/python3 "$project/tests/clients/table.py" "$LEJIS_TEST_RESULTS/clients"
+  else
+    say "Clients in C# and Free Pascal were not run: --clients runs them"
+  fi
+}
+
 read_arguments "$@"
 # The coverage run and one with a filter are of the library alone.
 is_whole=no
@@ -100,6 +114,9 @@ for architecture in $architectures; do start_lane "$project/tests/suite/architec
 # shellcheck disable=SC2086  # one argument each
 [[ $is_whole == no ]] || start_lane "$project/tests/suite/tools.sh" $architectures
 await_lanes || code=1
-[[ $is_whole == no ]] || run_guides
+if [[ $is_whole == yes ]]; then
+  run_guides
+  say_clients
+fi
 run /usr/bin/python3 "$project/tests/support/test_report.py" summary "$LEJIS_TEST_RESULTS" || code=1
 exit "$code"

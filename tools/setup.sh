@@ -1,27 +1,35 @@
 #!/bin/bash
-# setup.sh [--require-x86] [--browser | --require-browser] [--with PROGRAM]...
+# setup.sh [--require-x86] [--browser | --require-browser] [--clients | --require-clients] [--with PROGRAM]...
 # Installs on Debian 12 what building and testing need and is not there yet, and programs whose package has their name.
 # Without 32-bit Wine the x86 tests cannot run; that is an error only with --require-x86. --browser: Chromium too, for the
-# tests of the simulator's page; that it cannot be had is an error only with --require-browser.
+# tests of the simulator's page; that it cannot be had is an error only with --require-browser. --clients: Free Pascal and
+# .NET for Windows too, for the tests of clients in these languages; that Free Pascal cannot be had is an error only with
+# --require-clients, and that .NET cannot is none.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/shell-support.sh"
 # shellcheck source=tools/wine-environment.sh
 source "$project/tools/wine-environment.sh"
+# shellcheck source=tools/clients/places.sh
+source "$project/tools/clients/places.sh"
 
 require_x86=no
 browser=no
+clients=no
 programs=()
 while (($#)); do
   case $1 in
     --require-x86) require_x86=yes ;;
     --browser) browser=wanted ;;
     --require-browser) browser=required ;;
+    --clients) clients=wanted ;;
+    --require-clients) clients=required ;;
     --with)
       programs+=("${2:?--with needs a program}")
       shift
       ;;
-    *) wrong_usage "usage: setup.sh [--require-x86] [--browser | --require-browser] [--with PROGRAM]..." ;;
+    *) wrong_usage "usage: setup.sh [--require-x86] [--browser | --require-browser] [--clients | --require-clients]" \
+      "[--with PROGRAM]..." ;;
   esac
   shift
 done
@@ -31,6 +39,8 @@ log=$project/build/setup.log
 gave_up_32_bit=$project/build/.without-32-bit-wine
 # The same for Chromium and --require-browser.
 gave_up_browser=$project/build/.without-browser
+# And for Free Pascal and --require-clients.
+gave_up_free_pascal=$project/build/.without-free-pascal
 
 missing_packages() {
   has_command cmake || say cmake
@@ -115,16 +125,32 @@ judge_32_bit_wine() {
   say "32-bit Wine is not there: the x86 build can be made but not run here (tools/setup.sh --require-x86 tries again)."
 }
 
-# An installation of its own: nothing else depends on it, and it may fail.
-ensure_browser() {
-  if [[ $browser == no ]] || has_browser; then return; fi
-  if [[ $browser == required || ! -e $gave_up_browser ]] && root_is_there; then
+# ensure WANTED MARK IS_THERE PACKAGE...: an installation of its own, for nothing else depends on it and it may fail. Fails
+# when it is wanted but cannot be had.
+ensure() {
+  if [[ $1 == no ]] || "$3"; then return; fi
+  if [[ $1 == required || ! -e $2 ]] && root_is_there; then
     : >"$log"
-    try_to_install chromium chromium-driver python3-selenium || touch "$gave_up_browser"
-    if has_browser; then return; fi
+    try_to_install "${@:4}" || touch "$2"
   fi
+  "$3"
+}
+
+ensure_browser() {
+  ensure "$browser" "$gave_up_browser" has_browser chromium chromium-driver python3-selenium && return
   [[ $browser == wanted ]] || fail "Chromium is demanded and could not be installed (log: $log)"
   say "Chromium is not there: the simulator's page will not be tested (tools/setup.sh --require-browser tries again)."
+}
+
+ensure_clients() {
+  if [[ $clients == no ]]; then return; fi
+  if ensure "$clients" "$gave_up_free_pascal" has_free_pascal fp-compiler fpc-source; then
+    run "$project/tools/clients/free-pascal.sh"
+  else
+    [[ $clients == wanted ]] || fail "Free Pascal is demanded and could not be installed (log: $log)"
+    say "Free Pascal is not there: its clients will not be tested (tools/setup.sh --require-clients tries again)."
+  fi
+  run "$project/tools/clients/dotnet.sh"
 }
 
 mkdir -p "$project/build"
@@ -135,3 +161,4 @@ if ((${#missing[@]})) || ! has_toolchain || { wants_32_bit_wine && root_is_there
 fi
 judge_32_bit_wine
 ensure_browser
+ensure_clients

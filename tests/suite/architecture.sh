@@ -67,6 +67,13 @@ run_rings_of_files() {
   run_unittest fuzzing fuzzing "$project/tests/fuzzing/run.sh"
 }
 
+# Clients in languages that are fetched.
+run_clients() {
+  [[ $LEJIS_TEST_CLIENTS == yes ]] || return 0
+  mkdir -p "$results/clients"
+  run_unittest client clients env "LEJIS_CLIENT_RECORDS=$results/clients" "$simulator" "$project/tests/clients/run.sh"
+}
+
 started=$SECONDS
 clean_up_with stop_wine
 start_wine
@@ -75,6 +82,9 @@ run_rings_of_library
 [[ $architecture == coverage ]] || run_apartments
 if [[ -z $filter ]]; then
   run_python_rings
-  [[ $architecture == coverage ]] || run_rings_of_files
+  if [[ $architecture != coverage ]]; then
+    run_rings_of_files
+    run_clients
+  fi
 fi
 say "$architecture tested in $((SECONDS - started)) s"

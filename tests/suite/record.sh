@@ -3,6 +3,7 @@
 # program and records what it did. Their environment holds
 #   LEJIS_TEST_RESULTS   the folder of the logs
 #   LEJIS_TEST_FILTER    the pattern of --filter, or nothing
+#   LEJIS_TEST_CLIENTS   yes or no: clients in languages that are fetched
 
 : "${project:?shell-support.sh comes first}"
 results=${LEJIS_TEST_RESULTS:?test.sh sets this}
