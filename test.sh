@@ -17,7 +17,7 @@ source "$project/tools/wine-environment.sh"
 
 selection=all
 setup_options=()
-export LEJIS_TEST_RESULTS=$project/build/test-results LEJIS_TEST_FILTER= LEJIS_TEST_CLIENTS=no
+export LEJIS_TEST_RESULTS=$project/build/test-results LEJIS_TEST_FILTER='' LEJIS_TEST_CLIENTS=no
 
 read_arguments() {
   while (($#)); do
