@@ -49,9 +49,9 @@ TEST_F(VersionResource, SaysThatTheDllRegistersItself) { EXPECT_EQ(L"", Text(L"O
 
 TEST_F(VersionResource, ShowsThreeOfItsFourNumbers) {
     const VS_FIXEDFILEINFO& fixed = Fixed();
-    const std::wstring numbers =
-        std::to_wstring(HIWORD(fixed.dwFileVersionMS)) + L"." + std::to_wstring(LOWORD(fixed.dwFileVersionMS)) + L"." +
-        std::to_wstring(LOWORD(fixed.dwFileVersionLS));
+    const std::wstring numbers = std::to_wstring(HIWORD(fixed.dwFileVersionMS)) + L"." +
+                                 std::to_wstring(LOWORD(fixed.dwFileVersionMS)) + L"." +
+                                 std::to_wstring(LOWORD(fixed.dwFileVersionLS));
     EXPECT_EQ(0, HIWORD(fixed.dwFileVersionLS));
     EXPECT_EQ(numbers, Text(L"FileVersion"));
     EXPECT_EQ(numbers, Text(L"ProductVersion"));

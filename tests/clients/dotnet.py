@@ -4,7 +4,7 @@ import os
 import subprocess
 
 from client_case import ARCHITECTURE, CLIENTS
-from sample_case import windows_path
+from sample_case import RUNNER, windows_path
 
 FOLDER = CLIENTS / "dotnet"
 # Wine has no ICU, which .NET wants for the rest.
@@ -22,7 +22,7 @@ def compile_program(program, sources):
     framework, = FOLDER.glob("x86/shared/Microsoft.NETCore.App/*")
     references = [f"-r:{windows_path(framework / assembly)}.dll" for assembly in ASSEMBLIES]
     subprocess.run(
-        ["wine", FOLDER / "x64" / "dotnet.exe", windows_path(compiler), "-nologo", "-noconfig", "-nostdlib",
+        [RUNNER, FOLDER / "x64" / "dotnet.exe", windows_path(compiler), "-nologo", "-noconfig", "-nostdlib",
          "-langversion:5", "-warnaserror", f"-out:{windows_path(program)}", *references, *map(windows_path, sources)],
         env={**os.environ, **ENVIRONMENT}, stdin=subprocess.DEVNULL, timeout=TIME_LIMIT, check=True)
     program.with_suffix(".runtimeconfig.json").write_text(json.dumps(FRAMEWORK))
