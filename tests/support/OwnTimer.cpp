@@ -215,7 +215,7 @@ STDMETHODIMP OwnTimer::Advise(IUnknown* sink, DWORD* cookie) {
 }
 
 STDMETHODIMP OwnTimer::Unadvise(DWORD cookie) {
-    if (cookie < 1 || cookie > sinks.size()) return CONNECT_E_NOCONNECTION;
+    if (kind_ == TimerKind::kCannotStop || cookie < 1 || cookie > sinks.size()) return CONNECT_E_NOCONNECTION;
     sinks[cookie - 1].Reset();
     return S_OK;
 }

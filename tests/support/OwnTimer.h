@@ -25,6 +25,7 @@ enum class TimerKind {
     // The class is told, and then something fails.
     kRefusesSinks,
     kCannotStart,
+    // It goes on calling its sink, too.
     kCannotStop,
 };
 

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 using support::OwnTimerClass;
 using support::PumpUntil;
 using support::TimerKind;
@@ -37,6 +39,35 @@ TEST_P(HeardTimer, IsStoppedAndNotHeardAnyMoreWhenItEnds) {
     timer.reset();
     ASSERT_EQ(1u, registered_.timers[0]->sinks.size());
     EXPECT_EQ(nullptr, registered_.timers[0]->sinks[0]);
+}
+
+// Work that ends its timer and sees whether it is there itself until its own end.
+class LastWork {
+public:
+    std::function<void()> Once() {
+        const auto part = std::make_shared<int>();
+        part_ = part;
+        return [this, part] {
+            LastWork& self = *this;
+            self.timer.reset();
+            ++self.ticks;
+            EXPECT_FALSE(self.part_.expired());
+        };
+    }
+
+    std::unique_ptr<SuiteTimer> timer;
+    int ticks = 0;
+
+private:
+    std::weak_ptr<int> part_;
+};
+
+TEST_P(HeardTimer, MayBeDestroyedByItsOwnTick) {
+    LastWork work;
+    work.timer = StartSuiteTimer(kInterval, work.Once());
+    registered_.timers.at(0)->Tick();
+    registered_.timers.at(0)->Tick();
+    EXPECT_EQ(1, work.ticks);
 }
 
 INSTANTIATE_TEST_SUITE_P(Suite, HeardTimer,
@@ -79,14 +110,20 @@ TEST(UnstoppableTimer, TicksOnUntilItIsLetGoOf) {
 }
 
 TEST(BuiltInTimer, MayBeDestroyedByItsOwnTick) {
-    int ticks = 0;
-    std::unique_ptr<SuiteTimer> timer = StartSuiteTimer(kInterval, [&] {
-        ++ticks;
-        timer.reset();
-    });
-    EXPECT_TRUE(PumpUntil([&] { return ticks > 0; }));
+    LastWork work;
+    work.timer = StartSuiteTimer(kInterval, work.Once());
+    EXPECT_TRUE(PumpUntil([&] { return work.ticks > 0; }));
     support::PumpFor(5 * kInterval);
-    EXPECT_EQ(1, ticks);
+    EXPECT_EQ(1, work.ticks);
+}
+
+TEST(BuiltInTimer, SendsNoMessageOnceItIsStopped) {
+    const auto timer = StartSuiteTimer(kInterval, [] {});
+    timer->Stop();
+    Sleep(5 * kInterval);
+    MSG message;
+    constexpr auto kThreadsOwn = static_cast<LONG_PTR>(-1);
+    EXPECT_FALSE(PeekMessageW(&message, reinterpret_cast<HWND>(kThreadsOwn), WM_TIMER, WM_TIMER, PM_REMOVE));
 }
 
 }  // namespace
