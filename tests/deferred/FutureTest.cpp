@@ -2,6 +2,7 @@
 
 #include "deferred/FutureManager.h"
 #include "deferred/InvokeLater.h"
+#include "platform/com/Living.h"
 #include "platform/com/Module.h"
 #include "support/Messages.h"
 #include "unit_support/Raises.h"
@@ -10,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <utility>
 
 using Microsoft::WRL::ComPtr;
@@ -139,6 +141,21 @@ TEST(Future, HoldsItsWorkUntilTheWorkEnds) {
     future->Schedule(std::exchange(runnable, nullptr).Get(), nullptr);
     host.timers[0]->Tick();
     EXPECT_EQ(1u, held);
+}
+
+TEST(Future, LivesUntilItsTickEndsWhenItsWorkLetsGoOfIt) {
+    const support::TestHost host;
+    auto future = platform::Create<Future>();
+    const auto runnable = platform::Create<RecordingRunnable>();
+    std::ptrdiff_t living = 0;
+    runnable->onRun = [&] {
+        future.Reset();
+        living = std::ranges::count(platform::living::Names(), "lejis::Future");
+    };
+    future->Schedule(runnable.Get(), nullptr);
+    host.timers[0]->Tick();
+    EXPECT_EQ(1, living);
+    EXPECT_EQ(0, std::ranges::count(platform::living::Names(), "lejis::Future"));
 }
 
 TEST(Future, RunsWorkThatItsOwnWorkGivesItAndTellsTheObserverOfEach) {

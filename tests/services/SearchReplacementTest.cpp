@@ -150,6 +150,14 @@ TEST_F(SearchReplacement, ComesOfARequestThatCannotBeSent) {
     ExpectSecondAlone(first, L"NetworkError: The server is down.");
 }
 
+TEST_F(SearchReplacement, LosesAnAnswerThatHasComeToASearchThatCannotBeSent) {
+    Begin().Advance();
+    http.script.sendResult = static_cast<HRESULT>(0x800C0005);
+    Search();
+    support::PumpFor(250);
+    EXPECT_EQ(Events{L"NetworkError: The server is down."}, log->events);
+}
+
 TEST_F(SearchReplacement, LeavesASearchAloneThatWasMadeWhileTheFailingOneWasSent) {
     http.script.sendResult = E_OUTOFMEMORY;
     http.script.onSend = [this] {
