@@ -104,7 +104,13 @@ TEST(ThreadState, LeavesOtherThreadsAloneWhenTheirObjectEndsHere) {
     InNewThread([] {
         Part& part = ThisThreads<Part>();
         auto object = Create<Object>();
-        InNewThread([&] { object.Reset(); });
+        InNewThread([&] {
+            OtherPart& own = ThisThreads<OtherPart>();
+            object.Reset();
+            EXPECT_EQ(0, own.releases);
+            Create<Object>();
+            EXPECT_EQ(1, own.releases) << "its own objects are counted as before";
+        });
         EXPECT_EQ(0, part.releases);
     });
 }
