@@ -122,8 +122,7 @@ TEST(BuiltInTimer, SendsNoMessageOnceItIsStopped) {
     timer->Stop();
     Sleep(5 * kInterval);
     MSG message;
-    constexpr auto kThreadsOwn = static_cast<LONG_PTR>(-1);
-    EXPECT_FALSE(PeekMessageW(&message, reinterpret_cast<HWND>(kThreadsOwn), WM_TIMER, WM_TIMER, PM_REMOVE));
+    EXPECT_FALSE(PeekMessageW(&message, nullptr, WM_TIMER, WM_TIMER, PM_REMOVE));
 }
 
 }  // namespace
