@@ -4,6 +4,8 @@
 #include "deferred/InvokeLater.h"
 #include "platform/com/Living.h"
 #include "platform/com/Module.h"
+#include "platform/thread/ThreadState.h"
+#include "support/ComCheck.h"
 #include "support/Messages.h"
 #include "unit_support/Raises.h"
 #include "unit_support/RecordingRunnable.h"
@@ -12,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <thread>
 #include <utility>
 
 using Microsoft::WRL::ComPtr;
@@ -284,6 +287,28 @@ TEST(FutureManager, EndsWithItsFuturesWhoseRunnableFailed) {
     EXPECT_EQ(2u, HoldersOf(*runnable.Get()));
     manager.Reset();
     EXPECT_EQ(1u, HoldersOf(*runnable.Get()));
+}
+
+// Something else that a thread keeps.
+struct OtherPart final : platform::thread::ThreadPart {
+    void Release() noexcept override { ++releases; }
+
+    int releases = 0;
+};
+
+TEST(InvokeLater, LetsTheThreadReleaseItsPartsWhenItsWorkHasRun) {
+    std::thread([] {
+        EXPECT_OK(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED));
+        const auto& part = platform::thread::ThisThreads<OtherPart>();
+        {
+            const auto runnable = platform::Create<RecordingRunnable>();
+            LejisUtils::InvokeLater(runnable.Get());
+            EXPECT_TRUE(PumpUntil([&] { return runnable->runs > 0; }));
+            EXPECT_EQ(0, part.releases);
+        }
+        EXPECT_EQ(1, part.releases) << "the shared manager is no object of a client's";
+        CoUninitialize();
+    }).join();
 }
 
 TEST(InvokeLater, KeepsTheRunnableAliveUntilItHasRunAndNoLonger) {
