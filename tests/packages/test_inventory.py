@@ -8,16 +8,20 @@ import unittest
 from package_case import PackageCase, for_each_architecture, package
 from test_content import content, project_version
 
-# Debian's packages of what is linked in: what the list says was read from the headers.
-DEBIAN_PACKAGES = {"libstdc++": "g++-mingw-w64-{}-posix", "libgcc": "gcc-mingw-w64-{}-posix-runtime",
-                   "mingw-w64-runtime": "mingw-w64-{}-dev", "winpthreads": "mingw-w64-{}-dev",
-                   "nlohmann-json": "nlohmann-json3-dev"}
-NAMES = {"x86": "i686", "x64": "x86-64"}
+COMPILERS = {"x86": "i686-w64-mingw32-g++-posix", "x64": "x86_64-w64-mingw32-g++-posix"}
+# What each part says of itself in its headers. This GCC tells its first number alone.
+RUNTIME = ("<_mingw.h>", ("__MINGW64_VERSION_MAJOR", "__MINGW64_VERSION_MINOR", "__MINGW64_VERSION_BUGFIX"))
+GCC = ("<_mingw.h>", ("__GNUC__",))
+JSON = ('"/usr/include/nlohmann/detail/abi_macros.hpp"',
+        tuple(f"NLOHMANN_JSON_VERSION_{part}" for part in ("MAJOR", "MINOR", "PATCH")))
+MACROS = {"libstdc++": GCC, "libgcc": GCC, "mingw-w64-runtime": RUNTIME, "winpthreads": RUNTIME, "nlohmann-json": JSON}
 
 
-def debian_version(name):
-    return subprocess.run(["dpkg-query", "--show", "--showformat=${Version}", name], capture_output=True, text=True,
-                          check=True).stdout
+def version_in_header(architecture, header, macros):
+    source = f"#include {header}\nversion {' '.join(macros)}\n"
+    text = subprocess.run([COMPILERS[architecture], "-x", "c++", "-E", "-P", "-"], input=source, capture_output=True,
+                          text=True, check=True).stdout
+    return re.search(r"^version (.*)$", text, re.MULTILINE)[1].replace(" ", ".")
 
 
 class InventoryTest(PackageCase):
@@ -29,10 +33,10 @@ class InventoryTest(PackageCase):
         self.check_files(document, files)
         versions = {part["name"]: part["versionInfo"] for part in document["packages"]}
         self.assertEqual(versions.pop("TVLejisCore"), project_version())
-        self.assertEqual(set(versions), set(DEBIAN_PACKAGES))
+        self.assertEqual(set(versions), set(MACROS))
         for name, version in versions.items():
-            installed = debian_version(DEBIAN_PACKAGES[name].format(NAMES[architecture]))
-            self.assertRegex(installed, rf"^{re.escape(version)}\b", name)
+            known = version_in_header(architecture, *MACROS[name])
+            self.assertRegex(version, rf"^{re.escape(known)}\b", name)
         self.assertTrue(all(part["licenseDeclared"] for part in document["packages"]))
         self.check_relations(document)
 

@@ -4,16 +4,11 @@ import json
 import re
 import subprocess
 import time
-from pathlib import Path
 from typing import NamedTuple
 
 NAME = "TVLejisCore.spdx.json"
-COMPILERS = {"x86": "i686-w64-mingw32-g++-posix", "x64": "x86_64-w64-mingw32-g++-posix"}
-JSON_HEADER = Path("/usr/include/nlohmann/detail/abi_macros.hpp")
-# The macros that say a version, number by number.
-GCC = ("__GNUC__", "__GNUC_MINOR__", "__GNUC_PATCHLEVEL__")
-RUNTIME = tuple(f"__MINGW64_VERSION_{part}" for part in ("MAJOR", "MINOR", "BUGFIX"))
-JSON = tuple(f"NLOHMANN_JSON_VERSION_{part}" for part in ("MAJOR", "MINOR", "PATCH"))
+# As Debian names its packages for them.
+PROCESSORS = {"x86": "i686", "x64": "x86-64"}
 GCC_LICENCE = "GPL-3.0-or-later WITH GCC-exception-3.1"
 BOTH = ("TVLejisCore.dll", "lejis.exe")
 
@@ -26,24 +21,22 @@ class Part(NamedTuple):
     what: str
 
 
-def _version(compiler, header, macros):
-    """As the compiler reads the macros."""
-    source = f"#include {header}\nversion {' '.join(macros)}\n"
-    text = subprocess.run([compiler, "-x", "c++", "-E", "-P", "-"], input=source, capture_output=True, text=True,
-                          check=True).stdout
-    return ".".join(re.search(r"^version (\d+) (\d+) (\d+)$", text, re.MULTILINE).groups())
+def _version(debian_package):
+    """Debian's, which names its own changes too. The compiler itself tells no more than 12."""
+    return subprocess.run(["dpkg-query", "--show", "--showformat=${Version}", debian_package], capture_output=True,
+                          text=True, check=True).stdout
 
 
 def parts(architecture):
     """What others made. The one place where it is listed."""
-    compiler = COMPILERS[architecture]
-    gcc, runtime = _version(compiler, "<_mingw.h>", GCC), _version(compiler, "<_mingw.h>", RUNTIME)
+    processor = PROCESSORS[architecture]
+    gcc, runtime = _version(f"gcc-mingw-w64-{processor}-posix-runtime"), _version(f"mingw-w64-{processor}-dev")
     return [
         Part("libstdc++", gcc, GCC_LICENCE, BOTH, "the C++ standard library of GCC"),
         Part("libgcc", gcc, GCC_LICENCE, BOTH, "the compiler's own run-time library"),
         Part("mingw-w64-runtime", runtime, "ZPL-2.1", BOTH, "start of the program, and the C library's additions"),
         Part("winpthreads", runtime, "MIT AND BSD-3-Clause", BOTH, "threads, for the C++ standard library"),
-        Part("nlohmann-json", _version(compiler, f'"{JSON_HEADER}"', JSON), "MIT", ("lejis.exe",), "JSON"),
+        Part("nlohmann-json", _version("nlohmann-json3-dev"), "MIT", ("lejis.exe",), "JSON"),
     ]
 
 
