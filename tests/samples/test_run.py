@@ -36,8 +36,8 @@ class RunTest(SampleCase):
                 self.assertIn("submit.vbs needs URL", run.output)
 
     def test_missing_arguments_are_named_before_anything_starts(self):
-        for arguments, needed in ((["vbscript/submit.vbs"], "URL, for the simulator: samples/run.sh vbscript/submit.vbs "
-                                                            "SUBMISSION"),
+        for arguments, needed in ((["vbscript/submit.vbs"], "URL, for the simulator: samples/run.sh "
+                                                            "vbscript/submit.vbs SUBMISSION"),
                                   (["vbscript/search.vbs", "SEARCH", "jdoe"], "URL USER SURNAME, "),
                                   (["cpp/early_bound.cpp", "SEARCH"], "URL USER SURNAME, "),
                                   (["cpp/late_bound.cpp"], "URL, ")):

@@ -9,7 +9,7 @@
 results=${LEJIS_TEST_RESULTS:?test.sh sets this}
 filter=${LEJIS_TEST_FILTER:-}
 # Of one test program, in seconds. Lanes share the machine's processors.
-time_limit=600
+time_limit=900
 
 # run_tests ARCH RING KIND PROGRAM COMMAND...
 run_tests() {
