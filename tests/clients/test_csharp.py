@@ -71,25 +71,32 @@ class SearchTest(SearchTests, SearchFailureTests, SampleTest):
         self.assertEqual(self.search(), (64, "usage: Search URL USER SURNAME\n"))
 
 
-class WithoutApartmentTest(SampleCase):
-    """What README.md of the samples says of a program without [STAThread]."""
+class ApartmentTest(SampleCase):
+    """What README.md of the samples says of a program without [STAThread], and of one without a message loop."""
 
-    def without_apartment(self, name):
-        source = self.folder / f"{name}.cs"
-        text = (SAMPLE / source.name).read_text()
-        self.assertEqual(text.count("    [STAThread]\n"), 1)
-        source.write_text(text.replace("    [STAThread]\n", ""))
+    STA_THREAD = "    [STAThread]\n"
+    LOOP = "MessageLoop.RunUntil(() => outcome.ExitCode.HasValue);"
+    SLEEP = "for (int i = 0; i < 100 && !outcome.ExitCode.HasValue; ++i) System.Threading.Thread.Sleep(20);"
+    RESULT = "return outcome.ExitCode.Value;"
+    NO_EVENT = 99
+
+    def run_changed(self, name, replacements, *arguments):
+        source = self.adapted(SAMPLE / f"{name}.cs", replacements)
         program = self.folder / f"{name}.dll"
         dotnet.compile_program(program, [source if one.name == source.name else one for one in PROGRAMS[name]])
-        return dotnet.command(program)
+        return self.wine(*dotnet.command(program), *arguments, environment=dotnet.ENVIRONMENT)
 
-    def test_a_search_is_answered_through_proxies(self):
-        self.assertEqual(self.wine(*self.without_apartment("Search"), SEARCH, "jdoe", "NOBODY",
-                                   environment=dotnet.ENVIRONMENT), (DONE, "0 incident(s) found.\n"))
+    def test_without_sta_thread_a_search_needs_no_message_loop(self):
+        self.assertEqual(self.run_changed("Search", {self.STA_THREAD: "", self.LOOP: self.SLEEP}, SEARCH, "jdoe", "NOBODY"),
+                         (DONE, "0 incident(s) found.\n"))
 
-    def test_a_refusal_keeps_its_number(self):
+    def test_with_sta_thread_but_without_a_message_loop_no_event_comes(self):
+        changes = {self.LOOP: self.SLEEP, self.RESULT: f"return outcome.ExitCode ?? {self.NO_EVENT};"}
+        self.assertEqual(self.run_changed("Search", changes, SEARCH, "jdoe", "NOBODY"), (self.NO_EVENT, ""))
+
+    def test_without_sta_thread_a_refusal_keeps_its_number(self):
         self.play(kind="response-code", text="100 core offline")
-        run = self.wine(*self.without_apartment("Submit"), SUBMISSION, environment=dotnet.ENVIRONMENT)
+        run = self.run_changed("Submit", {self.STA_THREAD: ""}, SUBMISSION)
         self.assertEqual(run.code, TRY_AGAIN, run)
 
 
