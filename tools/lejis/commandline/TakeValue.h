@@ -12,9 +12,13 @@ namespace lejis_client {
 inline constexpr long kMostOfShort = 32767;
 
 // The member at the end of a path of members.
-template <auto... path>
-auto& At(CommandLine& commandLine) {
-    return (commandLine.*....*path);
+template <auto member, auto... rest>
+auto& At(auto& object) {
+    if constexpr (sizeof...(rest) == 0) {
+        return object.*member;
+    } else {
+        return At<rest...>(object.*member);
+    }
 }
 
 template <auto... path>
