@@ -53,35 +53,38 @@ tested_architectures() {
   done
 }
 
-lanes=()
+report() { run /usr/bin/python3 "$project/tests/support/test_report.py" "$@"; }
+
+# By the process.
+declare -A lanes=()
+# start_lane NAME COMMAND...
 start_lane() {
-  "$@" </dev/null 9>&- &
-  lanes+=("$!")
+  "${@:2}" </dev/null 9>&- &
+  lanes[$!]=$1
 }
 
 # shellcheck disable=SC2317  # clean_up_with calls it
 stop_lanes() {
   local lane
-  for lane in "${lanes[@]}"; do kill -TERM "$lane" 2>/dev/null || :; done
+  for lane in "${!lanes[@]}"; do kill -TERM "$lane" 2>/dev/null || :; done
   wait
 }
 
-# Fails where a lane broke off; tests that failed are the summary's matter.
+# A lane that breaks off counts as a failed test. What tests failed, a lane has recorded itself.
 await_lanes() {
-  local lane code=0
-  for lane in "${lanes[@]}"; do wait "$lane" || code=1; done
+  local lane
+  for lane in "${!lanes[@]}"; do
+    wait "$lane" || report broke-off "$LEJIS_TEST_RESULTS" "${lanes[$lane]}"
+  done
   lanes=()
-  return "$code"
 }
 
-# They start and stop Wine themselves. They are for the 32-bit library.
 run_guides() {
-  [[ $selection != x64 ]] && wine_runs x86 || return 0
-  (
-    # shellcheck source=tests/suite/record.sh
-    source "$project/tests/suite/record.sh"
-    run_tests - tools unittest guides /usr/bin/python3 -m unittest discover -s "$project/tests/guides"
-  )
+  if [[ $selection != x64 ]] && wine_runs x86; then
+    run "$project/tests/suite/guides.sh"
+  else
+    say "The guides were not tested: they are for the 32-bit library"
+  fi
 }
 
 # What clients of which language did, and which languages were not there.
@@ -97,6 +100,7 @@ read_arguments "$@"
 # The coverage run and one with a filter are of the library alone.
 is_whole=no
 [[ -n $LEJIS_TEST_FILTER || $selection == coverage ]] || is_whole=yes
+[[ $is_whole$LEJIS_TEST_CLIENTS != noyes ]] || wrong_usage "--clients goes with neither --filter nor coverage"
 architectures_of "$selection" >/dev/null
 clean_up_with stop_lanes
 lock_checkout
@@ -109,14 +113,14 @@ run "$project/build.sh" "$selection"
 
 architectures=$(tested_architectures)
 make_launcher
-code=0
-for architecture in $architectures; do start_lane "$project/tests/suite/architecture.sh" "$architecture"; done
+for architecture in $architectures; do
+  start_lane "$architecture" "$project/tests/suite/architecture.sh" "$architecture"
+done
 # shellcheck disable=SC2086  # one argument each
-[[ $is_whole == no ]] || start_lane "$project/tests/suite/tools.sh" $architectures
-await_lanes || code=1
+[[ $is_whole == no ]] || start_lane tools "$project/tests/suite/tools.sh" $architectures
+await_lanes
 if [[ $is_whole == yes ]]; then
   run_guides
   say_clients
 fi
-run /usr/bin/python3 "$project/tests/support/test_report.py" summary "$LEJIS_TEST_RESULTS" || code=1
-exit "$code"
+report summary "$LEJIS_TEST_RESULTS"

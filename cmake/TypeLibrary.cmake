@@ -18,7 +18,8 @@ function(add_type_library target idl)
 
     add_custom_command(
         OUTPUT ${folder}/${name}.tlb ${folder}/${name}.h
-        COMMAND ${widl} -t -o ${folder}/${name}.tlb ${CMAKE_CURRENT_SOURCE_DIR}/${idl}
+        # In a zone without summer time, in which an hour comes twice.
+        COMMAND ${CMAKE_COMMAND} -E env TZ=UTC ${widl} -t -o ${folder}/${name}.tlb ${CMAKE_CURRENT_SOURCE_DIR}/${idl}
         COMMAND /usr/bin/python3 ${FORGET_TIME} ${folder}/${name}.tlb
         COMMAND ${widl} -h -H ${folder}/${name}.h ${CMAKE_CURRENT_SOURCE_DIR}/${idl}
         DEPENDS ${included} ${FORGET_TIME}

@@ -2,8 +2,9 @@
 
     forget_time_of_type_library.py FILE
 
-widl writes it twice: in a sentence of fixed width, and as a number.
+widl, which is started in UTC, asks for the time twice and writes it in a sentence of fixed width and as a number.
 """
+import calendar
 import re
 import struct
 import sys
@@ -19,11 +20,13 @@ def without_time(content):
     if len(sentences) != 1:
         raise ValueError(f"the time of making was found in {len(sentences)} sentences")
     written = sentences[0][1]
-    number = struct.pack("<I", int(time.mktime(time.strptime(written.decode()))))
-    if content.count(number) != 1:
-        raise ValueError(f"the time of making was found as {content.count(number)} numbers")
+    second = calendar.timegm(time.strptime(written.decode()))
+    # A second may end between the two.
+    numbers = [number for number in (struct.pack("<I", second + late) for late in (-1, 0, 1)) if number in content]
+    if len(numbers) != 1 or content.count(numbers[0]) != 1:
+        raise ValueError(f"the time of making was found as {len(numbers)} numbers")
     return content.replace(written, time.asctime(time.gmtime(NO_TIME)).encode()).replace(
-        number, struct.pack("<I", NO_TIME))
+        numbers[0], struct.pack("<I", NO_TIME))
 
 
 if __name__ == "__main__":

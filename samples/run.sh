@@ -69,7 +69,7 @@ fill_index() {
 
 # judge CODE: the words that the sample lacks.
 judge() {
-  if (($1 == 124)); then
+  if (($1 == 124 || $1 == 137)); then
     fail "${sample##*/} did not end within $time_limit seconds"
   elif [[ ! -s $output ]]; then
     complain "${sample##*/} ended with code $1 and said nothing, as a script does that Wine's cscript cannot run"
@@ -89,7 +89,7 @@ run_sample() {
       *) command+=("$argument") ;;
     esac
   done
-  run timeout --kill-after=10 "$time_limit" "$project/tools/wine-program.sh" "${command[@]}" >"$output" || code=$?
+  run timeout --kill-after=10 "$time_limit" "$project/tools/wine-program.sh" "${command[@]}" >"$output" 2>&1 || code=$?
   cat "$output"
   judge "$code"
 }

@@ -3,8 +3,8 @@
 # Installs on Debian 12 what building and testing need and is not there yet, and programs whose package has their name.
 # Without 32-bit Wine the x86 tests cannot run; that is an error only with --require-x86. --browser: Chromium too, for the
 # tests of the simulator's page; that it cannot be had is an error only with --require-browser. --clients: Free Pascal and
-# .NET for Windows too, for the tests of clients in these languages; that Free Pascal cannot be had is an error only with
-# --require-clients, and that .NET cannot is none.
+# .NET for Windows too, for the tests of clients in these languages; a missing Free Pascal is an error only with
+# --require-clients, a missing .NET never.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/shell-support.sh"
@@ -144,10 +144,9 @@ ensure_browser() {
 
 ensure_clients() {
   if [[ $clients == no ]]; then return; fi
-  if ensure "$clients" "$gave_up_free_pascal" has_free_pascal fp-compiler fpc-source; then
-    run "$project/tools/clients/free-pascal.sh"
-  else
-    [[ $clients == wanted ]] || fail "Free Pascal is demanded and could not be installed (log: $log)"
+  if ! ensure "$clients" "$gave_up_free_pascal" has_free_pascal fp-compiler fpc-source ||
+    ! run "$project/tools/clients/free-pascal.sh"; then
+    [[ $clients == wanted ]] || fail "Free Pascal is demanded and cannot be had (log: $log)"
     say "Free Pascal is not there: its clients will not be tested (tools/setup.sh --require-clients tries again)."
   fi
   run "$project/tools/clients/dotnet.sh"

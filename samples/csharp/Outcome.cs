@@ -2,7 +2,8 @@ using System;
 using System.Runtime.InteropServices;
 using TVLejisCore;
 
-// Hears what became of a search, and tells of it. Without a class interface its automation is that of the events, in every apartment.
+// Hears what became of a search, and tells of it. Without a class interface its automation is that of the events, in every
+// apartment.
 [ComVisible(true), ClassInterface(ClassInterfaceType.None)]
 public class Outcome : _LejisSearchWebServiceEvents
 {
@@ -10,9 +11,17 @@ public class Outcome : _LejisSearchWebServiceEvents
 
     public void SearchCompleted(ICollection results)
     {
-        Console.WriteLine("{0} incident(s) found.", results.Count);
-        for (int number = 1; number <= results.Count; ++number) List((ILejisIncidentIndexCard)results[number]);
-        ExitCode = 0;
+        // COM drops what a handler throws, and the program would wait for ever.
+        try
+        {
+            Console.WriteLine("{0} incident(s) found.", results.Count);
+            for (int number = 1; number <= results.Count; ++number) List((ILejisIncidentIndexCard)results[number]);
+            ExitCode = 0;
+        }
+        finally
+        {
+            ExitCode = ExitCode ?? 1;
+        }
     }
 
     public void NetworkError(string reasonMessage)

@@ -5,6 +5,9 @@ param([Parameter(Mandatory = $true)][string]$Url,
       [Parameter(Mandatory = $true)][string]$User,
       [Parameter(Mandatory = $true)][string]$Surname)
 
+# A class that cannot be created ends the script.
+$ErrorActionPreference = "Stop"
+
 # PowerShell itself connects no events of COM: the sample in C# does, and PowerShell compiles it.
 $csharp = Join-Path (Split-Path $PSScriptRoot) csharp
 $files = "TVLejisCore.cs", "Outcome.cs", "EventConnection.cs", "MessageLoop.cs" | ForEach-Object { Join-Path $csharp $_ }
@@ -21,6 +24,10 @@ $outcome = New-Object Outcome
 $connection = New-Object EventConnection($service, [TVLejisCore._LejisSearchWebServiceEvents], $outcome)
 # Raises nothing and returns at once; exactly one of the events follows.
 $service.Search($request)
-[MessageLoop]::RunUntil([Func[bool]] { $null -ne $outcome.ExitCode })
-$connection.Dispose()
+try {
+    [MessageLoop]::RunUntil([Func[bool]] { $null -ne $outcome.ExitCode })
+}
+finally {
+    $connection.Dispose()
+}
 exit $outcome.ExitCode

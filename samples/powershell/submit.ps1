@@ -3,6 +3,9 @@
 # Ends with 0: taken, 1: refused, trying again does not help, 2: try again later.
 param([Parameter(Mandatory = $true)][string]$Url)
 
+# A class that cannot be created ends the script.
+$ErrorActionPreference = "Stop"
+
 $tvTransientError = -1550879440
 
 function New-Burglary {

@@ -14,16 +14,13 @@ class SearchEvents:
     """The handlers of the events: "On" and the event's name."""
 
     def OnSearchCompleted(self, results):
-        incidents = Dispatch(results)
-        print(f"{incidents.Count} incident(s) found.")
-        # The first item has the number 1.
-        for number in range(1, incidents.Count + 1):
-            incident = Dispatch(incidents.Item(number))
-            print(incident.OrganizationORI, incident.ActivityID, incident.ChargeDescriptionText)
-            for person_number in range(1, incident.PersonIndexCards.Count + 1):
-                person = Dispatch(incident.PersonIndexCards.Item(person_number))
-                print(f"    {person.GivenName} {person.SurName} ({person.Involvement})")
-        end(0)
+        # COM drops what a handler raises, and the program would wait for ever.
+        try:
+            list_incidents(Dispatch(results))
+            end(0)
+        finally:
+            if exit_code is None:
+                end(1)
 
     def OnNetworkError(self, reasonMessage):
         print("No answer, try again later:", reasonMessage)
@@ -36,6 +33,17 @@ class SearchEvents:
     def OnServiceError(self, reasonMessage):
         print("Refused:", reasonMessage)
         end(1)
+
+
+def list_incidents(incidents):
+    print(f"{incidents.Count} incident(s) found.")
+    # The first item has the number 1.
+    for number in range(1, incidents.Count + 1):
+        incident = Dispatch(incidents.Item(number))
+        print(incident.OrganizationORI, incident.ActivityID, incident.ChargeDescriptionText)
+        for person_number in range(1, incident.PersonIndexCards.Count + 1):
+            person = Dispatch(incident.PersonIndexCards.Item(person_number))
+            print(f"    {person.GivenName} {person.SurName} ({person.Involvement})")
 
 
 def end(code):
@@ -59,4 +67,6 @@ def search(url, user, surname):
 
 
 if __name__ == "__main__":
+    if len(sys.argv) != 4:
+        sys.exit("usage: py search.py URL USER SURNAME")
     sys.exit(search(*sys.argv[1:]))

@@ -65,4 +65,6 @@ def submit(url):
 
 
 if __name__ == "__main__":
+    if len(sys.argv) != 2:
+        sys.exit("usage: py submit.py URL")
     sys.exit(submit(*sys.argv[1:]))

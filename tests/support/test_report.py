@@ -2,6 +2,8 @@
 
     test_report.py record FOLDER ARCH RING KIND PROGRAM EXIT_CODE SECONDS [--filtered]
         reads FOLDER/ARCH-RING-PROGRAM.log (and .xml), prints what failed, adds the counts to FOLDER/rows.tsv
+    test_report.py broke-off FOLDER LANE
+        counts a lane of the suite that did not come to its end as a failed test
     test_report.py summary FOLDER
         prints a table and, as the last line, "N passed, M failed"; exit code 1 unless all is well
 
@@ -125,8 +127,17 @@ def record(folder, architecture, ring, kind, program, code, seconds, filtered):
         print(f"FAILED {architecture} {ring} {program}: {name}")
         for line in output:
             print(f"    {line}")
+    add_row(folder, architecture, ring, outcome.passed, len(outcome.failures), outcome.skipped, seconds)
+
+
+def add_row(folder, *columns):
     with open(f"{folder}/rows.tsv", "a", encoding="utf-8") as rows:
-        print(architecture, ring, outcome.passed, len(outcome.failures), outcome.skipped, seconds, sep="\t", file=rows)
+        print(*columns, sep="\t", file=rows)
+
+
+def broke_off(folder, lane):
+    print(f"FAILED {lane}: the lane broke off before its end")
+    add_row(folder, "-", f"lane of {lane}", 0, 1, 0, 0)
 
 
 def summary(folder):
@@ -150,6 +161,8 @@ def summary(folder):
 def main(arguments):
     if arguments[:1] == ["record"] and len(arguments) in (8, 9):
         return record(*arguments[1:8], filtered=arguments[8:] == ["--filtered"])
+    if arguments[:1] == ["broke-off"] and len(arguments) == 3:
+        return broke_off(*arguments[1:])
     if arguments[:1] == ["summary"] and len(arguments) == 2:
         return summary(arguments[1])
     print(__doc__, file=sys.stderr)

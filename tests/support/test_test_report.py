@@ -118,6 +118,13 @@ class TestReportTest(unittest.TestCase):
         self.record("script", 1, "x\n")
         self.assertEqual(self.summary(), (1, "2 passed, 1 failed"))
 
+    def test_a_lane_that_broke_off_is_a_failure(self):
+        self.record("gtest", 0, GOOD_LOG, XML.format(""))
+        with contextlib.redirect_stdout(io.StringIO()) as printed:
+            test_report.broke_off(self.folder, "x64")
+        self.assertEqual(printed.getvalue(), "FAILED x64: the lane broke off before its end\n")
+        self.assertEqual(self.summary(), (1, "1 passed, 1 failed"))
+
 
 if __name__ == "__main__":
     unittest.main()

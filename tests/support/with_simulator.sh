@@ -20,8 +20,8 @@ fi
 
 simulators=$project/build/simulator
 mkdir -p "$simulators"
-# Folders of earlier runs are worth a look, not for ever.
-find "$simulators" -mindepth 1 -maxdepth 1 -type d -mmin +1440 -exec rm -rf {} +
+# Folders of earlier runs are worth a look, not for ever. Another run may remove them at the same time.
+find "$simulators" -mindepth 1 -maxdepth 1 -ignore_readdir_race -type d -mmin +1440 -exec rm -rf {} + || :
 folder=$(mktemp --directory --tmpdir="$simulators")
 log=$folder/simulator.log
 simulator=

@@ -48,20 +48,23 @@ make_units() {
   "${compile[@]}" "$packages/winunits-base/src/eventsink.pp"
 }
 
-make_all() {
-  set -e
-  make_x86_compiler
-  make_units x86 i386 win32 sysinitpas
-  make_x64_compiler
-  make_units x64 x86_64 win64 sysinit
+tell_failure() {
+  local code=$?
+  ((code)) || return 0
+  tail -n 5 "$log" >&2
+  complain "Free Pascal for Windows cannot be made (full log: $log)"
 }
 
 [[ -f $free_pascal/finished && $(<"$free_pascal/finished") == "$version" ]] && exit
 say "Making Free Pascal's compilers and units for Windows ..."
 rm -rf "$free_pascal"
 mkdir -p "$free_pascal"
-(make_all) >"$log" 2>&1 || {
-  tail -n 5 "$log" >&2
-  fail "Free Pascal for Windows cannot be made (full log: $log)"
-}
+trap tell_failure EXIT
+# Nothing stands after this subshell: bash passes over failures in what "||" or "if" looks at.
+(
+  make_x86_compiler
+  make_units x86 i386 win32 sysinitpas
+  make_x64_compiler
+  make_units x64 x86_64 win64 sysinit
+) >"$log" 2>&1
 say "$version" >"$free_pascal/finished"

@@ -53,16 +53,16 @@ func list(incidents lejis.Object) {
 // The events come from the thread's messages.
 func dispatchMessages() {
 	const remove = 1
-	var message [64]byte
+	// On the heap: a handler is Go again, which may move the stack under a message that stands there.
+	message := new([64]byte)
 	user := syscall.NewLazyDLL("user32.dll")
-	place := uintptr(unsafe.Pointer(&message))
 	user.NewProc("MsgWaitForMultipleObjects").Call(0, 0, 0, 50, 0x04FF)
 	for {
-		if found, _, _ := user.NewProc("PeekMessageW").Call(place, 0, 0, 0, remove); found == 0 {
+		if found, _, _ := user.NewProc("PeekMessageW").Call(uintptr(unsafe.Pointer(message)), 0, 0, 0, remove); found == 0 {
 			return
 		}
-		user.NewProc("TranslateMessage").Call(place)
-		user.NewProc("DispatchMessageW").Call(place)
+		user.NewProc("TranslateMessage").Call(uintptr(unsafe.Pointer(message)))
+		user.NewProc("DispatchMessageW").Call(uintptr(unsafe.Pointer(message)))
 	}
 }
 
@@ -85,6 +85,10 @@ func search(url, user, surname string) int {
 }
 
 func main() {
+	if len(os.Args) != 4 {
+		fmt.Println("usage: search URL USER SURNAME")
+		os.Exit(64)
+	}
 	// The objects belong to this thread of the system, and so do its messages.
 	runtime.LockOSThread()
 	if err := ole.CoInitialize(0); err != nil {

@@ -71,6 +71,10 @@ func submit(url string) int {
 }
 
 func main() {
+	if len(os.Args) != 2 {
+		fmt.Println("usage: submit URL")
+		os.Exit(64)
+	}
 	// The objects belong to this thread of the system.
 	runtime.LockOSThread()
 	if err := ole.CoInitialize(0); err != nil {
