@@ -8,16 +8,23 @@ LedgerIndex::LedgerIndex(std::wstring command, std::wstring url, std::wstring su
 void LedgerIndex::Add(const LedgerEntry& entry) {
     // What a test system holds says nothing of another one.
     if (entry.url != url_) return;
-    if (entry.command == command_) {
-        Forget(entry.file);
-        if (entry.outcome != success_) return;
-        successes_[entry.file] = {entry.digest, entry.identity};
-        files_[entry.identity].insert(entry.file);
-    } else if (const auto found = files_.find(entry.identity); found != files_.end()) {
-        // What was submitted may have been withdrawn, and the other way round.
-        for (const std::wstring& file : found->second) successes_.erase(file);
-        files_.erase(found);
-    }
+    const bool isSame = entry.command == command_;
+    if (isSame) Forget(entry.file);
+    // What was submitted may have been withdrawn or replaced since, from whatever file.
+    ForgetIncident(entry.identity, isSame ? entry.digest : std::string());
+    if (!isSame || entry.outcome != success_) return;
+    successes_[entry.file] = {entry.digest, entry.identity};
+    files_[entry.identity].insert(entry.file);
+}
+
+void LedgerIndex::ForgetIncident(const Identity& identity, const std::string& exceptDigest) {
+    const auto found = files_.find(identity);
+    if (found == files_.end()) return;
+    std::erase_if(found->second, [&](const std::wstring& file) {
+        if (successes_.at(file).digest == exceptDigest) return false;
+        successes_.erase(file);
+        return true;
+    });
 }
 
 void LedgerIndex::Forget(const std::wstring& file) {

@@ -27,6 +27,8 @@ private:
     };
 
     void Forget(const std::wstring& file);
+    // Other files with the same content stand for the same as before.
+    void ForgetIncident(const Identity& identity, const std::string& exceptDigest);
 
     std::wstring command_;
     std::wstring url_;
