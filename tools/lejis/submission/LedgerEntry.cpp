@@ -14,6 +14,7 @@ std::vector<std::wstring> WideTexts(const Json& object, const char* member) {
     return texts;
 }
 
+// Of its members, those that somebody reads.
 LedgerEntry EntryOf(const Json& object) {
     LedgerEntry entry;
     entry.command = WideText(object, "command");
@@ -25,9 +26,6 @@ LedgerEntry EntryOf(const Json& object) {
     entry.canTryAgain = object.at("tryAgain").get<bool>();
     entry.number = object.at("error").is_null() ? S_OK : object.at("error").get<HRESULT>();
     entry.errors = WideTexts(object, "errors");
-    entry.warnings = WideTexts(object, "warnings");
-    entry.start = object.at("start").get<std::string>();
-    entry.seconds = object.at("seconds").get<double>();
     return entry;
 }
 
