@@ -3,18 +3,24 @@
 #include "console/Console.h"
 #include "console/ExitCode.h"
 #include "console/PrintJson.h"
+#include "files/FileList.h"
 #include "report/FailureList.h"
 #include "submission/Ledger.h"
 #include "text/Layout.h"
 #include "text/Utf8.h"
 
 #include <map>
+#include <tuple>
 
 namespace lejis_client {
 namespace {
 
-// The address of a service and a file.
-using Place = std::pair<std::wstring, std::wstring>;
+// The address of a service, a file, and the content where the file does not tell the incident.
+using Place = std::tuple<std::wstring, std::wstring, std::string>;
+
+Place PlaceOf(const LedgerEntry& entry) {
+    return {entry.url, entry.file, entry.file == kStandardInput ? entry.digest : std::string()};
+}
 
 // What became of each incident in the end.
 struct Summary {
@@ -37,7 +43,7 @@ Summary SummaryOf(const std::wstring& ledger) {
     Summary summary;
     summary.unreadableLines = ReadLedger(ledger, [&](const LedgerEntry& entry) {
         ++summary.tries;
-        summary.last[{entry.url, entry.file}] = entry;
+        summary.last[PlaceOf(entry)] = entry;
     });
     for (const auto& [place, entry] : summary.last) Count(entry, summary);
     return summary;
