@@ -1,6 +1,7 @@
 """The column "lejis" of docs/messages.md is what tools/lejis makes of each message of a submission."""
 import re
 import unittest
+from typing import NamedTuple
 
 from message_sources import PROJECT, normalised
 
@@ -15,13 +16,20 @@ SECTIONS = ("The request does not get through", "LEJIS answers, and does not tak
 INTERNAL, STEP = "Internal error ", "Error in DoSubmit (line "
 
 
-def rows_of_the_tool(table):
-    """The rows of one of its tables: how the message begins, and the words for its outcome."""
+class Row(NamedTuple):
+    speaker: str
+    road: str
+    begin: str
+    outcome: str
+
+
+def rows_of_the_tool():
+    """Its table: who speaks of which road, how the message begins, and the words for its outcome."""
     source = SOURCE.read_text(encoding="utf-8")
-    body = re.search(rf"constexpr Row {table}\[\] = \{{\n(.*?)\n\}};", source, re.DOTALL)[1]
-    rows = re.findall(r'\{L"([^"]*)", Result::(\w+), (\w+)\}', body)
+    body = re.search(r"constexpr Row kRows\[\] = \{\n(.*?)\n\};", source, re.DOTALL)[1]
+    rows = re.findall(r'\{Speaker::(\w+), Road::(\w+), L"([^"]*)", Result::(\w+), (\w+),\s+\w+\}', body)
     assert len(rows) == body.count("Result::"), body
-    return [(begin, WORDS[result] + AGAIN[again]) for begin, result, again in rows]
+    return [Row(speaker, road, begin, WORDS[result] + AGAIN[again]) for speaker, road, begin, result, again in rows]
 
 
 def rows_of_the_guide():
@@ -51,14 +59,18 @@ def outcome_of(message, shows):
     """The rule of the tool, in a few words of another language."""
     if "tv" not in shows:
         return outcome_of_a_search(message, shows)
-    if message.startswith("The LEJIS Interface service is down."):
-        return "not sent or unknown, try again"
-    for begin, outcome in rows_of_the_tool("kRows"):
-        if message.startswith(begin):
-            return outcome
-    if message.startswith(INTERNAL):
-        return "by what follows"
-    return "refused" if shows.startswith("`tvFatalError`") else "unknown, try again"
+    speaker = "Lejis" if shows.startswith("`tvFatalError`") else "Network"
+    outcomes = []
+    for row in rows_of_the_tool():
+        if row.speaker == speaker and message.startswith(row.begin):
+            outcomes.append(row.outcome)
+            if row.road == "Open":
+                break
+    if len({outcome.removesuffix(AGAIN["true"]) for outcome in outcomes}) == 1:
+        return outcomes[0]
+    first, last = outcomes
+    # What both have in common is said once.
+    return f"{first.removesuffix(AGAIN['true'])} or {last}" if first.endswith(AGAIN["true"]) else f"{first}, or {last}"
 
 
 class OutcomesTest(unittest.TestCase):
@@ -80,7 +92,9 @@ class OutcomesTest(unittest.TestCase):
         text = " ".join(GUIDE.read_text(encoding="utf-8").split())
         listed = re.search(r"`lejis` tells the steps apart: (.*?)\.", text)[1]
         told = dict(re.findall(r"step (\d) is `([^`]+)`", listed))
-        for begin, outcome in rows_of_the_tool("kStepRows"):
+        steps = [row for row in rows_of_the_tool() if row.speaker == "Library"]
+        self.assertEqual(steps.pop()[2:], ("", "unknown, try again"))
+        for _, _, begin, outcome in steps:
             step = re.match(re.escape(STEP) + r"(\d)", begin)[1]
             if begin.endswith("Schema validation error: "):
                 self.assertIn(f"a schema validation error is `{outcome}`", listed)
@@ -90,8 +104,9 @@ class OutcomesTest(unittest.TestCase):
 
     def test_the_rows_of_the_tool_are_messages_of_the_library(self):
         messages = [normalised(message) for message, _, _ in rows_of_the_guide()]
-        for begin, _ in rows_of_the_tool("kRows"):
-            self.assertTrue(any(message.startswith(begin.strip()) for message in messages), begin)
+        for row in rows_of_the_tool():
+            if row.speaker == "Network":
+                self.assertTrue(any(message.startswith(row.begin.strip()) for message in messages), row)
 
 
 if __name__ == "__main__":

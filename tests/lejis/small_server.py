@@ -45,6 +45,17 @@ class PageServer(_Serving):
         super().__init__(Handler)
 
 
+class RedirectingServer(_Serving):
+    """Takes every request, and names another place for the answer."""
+
+    def __init__(self, place):
+        class Handler(_Handler):
+            def do_POST(self):
+                self.rfile.read(int(self.headers["Content-Length"]))
+                self.answer(302, b"", ("Location", place))
+        super().__init__(Handler)
+
+
 class Proxy(_Serving):
     """Passes GET and POST on, to the host of `instead` where that is given, and counts them in `passed`. The answers get
     the header, if any."""

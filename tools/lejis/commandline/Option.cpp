@@ -127,7 +127,7 @@ constexpr Option kOptions[] = {
     {L"--retry", nullptr, L"N", kSendingActions, kBacklog<&BacklogSettings::retries, 0, 100>,
      L"try up to N times again what may pass, with growing pauses"},
     {L"--stop-after", nullptr, L"N", kSendingActions, kBacklog<&BacklogSettings::stopAfter, 1, 1000000>,
-     L"stop when the network or the server has failed N times in a row; 10 if left out"},
+     L"stop when the network or the server has failed for N incidents in a row; 10 if left out"},
     {L"--rate", nullptr, L"N", kSendingActions, kBacklog<&BacklogSettings::rate, 1, 1000>,
      L"begin no more than N a second"},
     {L"--timeout", nullptr, L"SECONDS", kSendingActions, kBacklog<&BacklogSettings::seconds, 1, kDay>,
@@ -140,7 +140,8 @@ constexpr Option kOptions[] = {
      L"send also by a library that is made for lejis.example, which otherwise talks to this machine alone"},
 
     // What is printed.
-    {L"--quiet", L"-q", nullptr, kIncidentActions, kRunFlag<&Run::quiet>, L"tell only what did not go through"},
+    {L"--quiet", L"-q", nullptr, kIncidentActions, kRunFlag<&Run::quiet>,
+     L"tell only what did not go through, and warnings"},
     {L"--verbose", L"-v", nullptr, kIncidentActions, kRunFlag<&Run::verbose>, L"tell every try"},
     {L"--xml", nullptr, nullptr, kSearchIndex, kSearchFlag<&SearchSettings::xml>,
      L"print the incident cards as one XML document"},

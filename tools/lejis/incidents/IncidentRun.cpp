@@ -23,6 +23,7 @@ std::deque<Task> TasksOf(const IncidentSettings& settings) {
     for (NamedFile& file : ListFiles(settings.files, settings.recurse)) {
         tasks.push_back({std::move(file.name), std::move(file.path)});
     }
+    if (tasks.empty()) throw FileError{L"The list names no file."};
     return tasks;
 }
 
@@ -65,16 +66,16 @@ public:
     int Run() {
         const ULONGLONG start = GetTickCount64();
         const Interruption interruption(TellInterruption, INFINITE);
-        backlog_.Run(interruption);
+        WorkOff(interruption);
         Ending ending;
         ending.left = backlog_.Left();
         ending.isInterrupted = interruption.HasHappened();
         ending.failuresInARow = backlog_.FailuresInARow();
+        ending.fault = Fault();
         ending.milliseconds = GetTickCount64() - start;
         const int exitCode = report_->Finish(ending);
-        if (!ledgerFault_.empty()) throw FileError{ledgerFault_};
         // Threads that still wait for an answer would keep the program, or fall with the library under them.
-        if (backlog_.HasAbandonedWorkers()) TerminateProcess(GetCurrentProcess(), static_cast<UINT>(exitCode));
+        if (backlog_.HasWorkersAtWork()) TerminateProcess(GetCurrentProcess(), static_cast<UINT>(exitCode));
         return exitCode;
     }
 
@@ -91,7 +92,7 @@ public:
             ledger_->Append(EntryOf(job_, task, attempt));
         } catch (const FileError& error) {
             // What cannot be written down is not to be done.
-            ledgerFault_ = error.reason;
+            fault_ = error.reason;
             backlog_.Stop();
         }
     }
@@ -111,11 +112,26 @@ private:
         ReadLedger(*settings.ledger, [this](const LedgerEntry& entry) { done_.Add(entry); });
     }
 
+    // Whatever ends the work, the run is summed up.
+    void WorkOff(const Interruption& interruption) {
+        try {
+            backlog_.Run(interruption);
+        } catch (const std::bad_alloc&) {
+            fault_ = L"There is not enough memory.";
+        }
+    }
+
+    std::wstring Fault() const {
+        if (!fault_.empty() || !backlog_.HasTooManyAbandoned()) return fault_;
+        return L"Too many incidents got no answer in time: each keeps a thread of this program waiting.";
+    }
+
     const JobSettings& job_;
     bool isVerbose_;
     LedgerIndex done_;
     std::unique_ptr<Ledger> ledger_;
-    std::wstring ledgerFault_;
+    // Why no more is begun.
+    std::wstring fault_;
     std::unique_ptr<Report> report_;
     Backlog backlog_;
 };

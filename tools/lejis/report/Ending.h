@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <cstddef>
+#include <string>
 
 namespace lejis_client {
 
@@ -11,8 +12,10 @@ struct Ending {
     // How many were not begun.
     std::size_t left = 0;
     bool isInterrupted = false;
-    // How many failures of the network in a row ended it; 0 where they did not.
-    long failuresInARow = 0;
+    // How many incidents in a row the network or the server failed, where that ended it; 0 elsewhere.
+    std::size_t failuresInARow = 0;
+    // What else ended it, as a sentence: a ledger that cannot be written, a lack of memory.
+    std::wstring fault;
     ULONGLONG milliseconds = 0;
 };
 

@@ -29,7 +29,7 @@ void JsonReport::Tell(const std::wstring& name, const Attempt& attempt) {
                {"number", TextOrNull(attempt, &Identity::number)},
                {"outcome", JsonText(WordOf(operation_, outcome.result))},
                {"tryAgain", outcome.canTryAgain},
-               {"error", outcome.number ? Json(outcome.number) : Json()},
+               {"errorNumber", outcome.number ? Json(outcome.number) : Json()},
                {"errors", JsonTexts(outcome.errors)},
                {"warnings", JsonTexts(outcome.warnings)},
                {"advice", JsonText(outcome.advice)},
@@ -38,6 +38,7 @@ void JsonReport::Tell(const std::wstring& name, const Attempt& attempt) {
 
 void JsonReport::SumUp(const Ending& ending, int exitCode) {
     Json line = JsonDocument(operation_.name, exitCode);
+    if (!ending.fault.empty()) SetError(line, L"stopped", ending.fault);
     Json& counts = line["counts"];
     for (const auto& row : kCounts) counts[row.name] = tally_.Count(row.result);
     counts["notBegun"] = ending.left;

@@ -14,7 +14,8 @@ void Report::End(const std::wstring& name, const Attempt& attempt) {
 }
 
 int Report::Finish(const Ending& ending) {
-    const int failures = tally_.ExitCode() | (ending.left > 0 ? kExitTryAgain : kExitDone);
+    const int failures = tally_.ExitCode() | (ending.left > 0 ? kExitTryAgain : kExitDone) |
+                         (ending.fault.empty() ? kExitDone : kExitRefused);
     const int exitCode = ending.isInterrupted ? kExitInterrupted : failures;
     SumUp(ending, exitCode);
     return exitCode;

@@ -43,13 +43,14 @@ std::wstring Pace(std::size_t count, ULONGLONG milliseconds) {
     return text;
 }
 
-// Why not all were begun; empty where they were.
+// Why the run ended before its time; empty where it did not.
 std::wstring ReasonToStop(const Ending& ending) {
-    if (ending.left == 0 && !ending.isInterrupted) return {};
-    const std::wstring left = std::to_wstring(ending.left) + L" not begun";
-    if (ending.isInterrupted) return L"Interrupted: " + left + L".\n";
-    return L"The network or the server failed " + std::to_wstring(ending.failuresInARow) + L" times in a row: " + left +
-           L".\n";
+    const std::wstring left = L": " + std::to_wstring(ending.left) + L" not begun.\n";
+    std::wstring text = ending.fault.empty() ? L"" : ending.fault + L"\n";
+    if (ending.isInterrupted) return text + L"Interrupted" + left;
+    if (ending.failuresInARow == 0) return text;
+    return text + L"The network or the server failed for " + Counted(ending.failuresInARow, L"incident") +
+           L" in a row" + left;
 }
 
 }  // namespace
@@ -74,13 +75,13 @@ void TextReport::Tell(const std::wstring& name, const Attempt& attempt) {
 }
 
 void TextReport::SumUp(const Ending& ending, int) {
-    if (total_ < 2) return;
+    if (total_ < 2 && ending.fault.empty() && ending.failuresInARow == 0) return;
     std::wstring text = L"\n";
     if (total_ > kFew && !failures_.IsEmpty()) {
         text += std::wstring(L"Not ") + operation_.success + L":\n" + failures_.Text() + L'\n';
     }
-    const std::size_t begun = total_ - ending.left;
-    Console::Output().Write(text + ReasonToStop(ending) + Counts(ending) + Pace(begun, ending.milliseconds) + L'\n');
+    const std::size_t tried = total_ - ending.left - tally_.Count(Result::LeftOut);
+    Console::Output().Write(text + ReasonToStop(ending) + Counts(ending) + Pace(tried, ending.milliseconds) + L'\n');
 }
 
 std::wstring TextReport::Counts(const Ending& ending) const {

@@ -3,6 +3,7 @@
 #include "submission/RetryPause.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace lejis_client {
@@ -11,17 +12,21 @@ namespace {
 constexpr ULONGLONG kSecond = 1000;
 
 // The tick is a coarse one: what a late look at it has missed is made up for.
-constexpr ULONGLONG kCatchUp = 100;
+constexpr double kCatchUp = 20;
+
+// Each holds a thread for good, and a program of 32 bits has room for few of them.
+constexpr std::size_t kMostAbandoned = 100;
 
 // Often enough to see that the user has had enough, or that a worker takes too long.
 constexpr ULONGLONG kLongestPause = 250;
 
-Attempt Overdue(const Worker& worker, long seconds) {
-    Attempt attempt;
-    attempt.outcome.result = Result::Unknown;
-    attempt.outcome.errors = {L"There was no answer within " + std::to_wstring(seconds) + L" seconds."};
-    attempt.outcome.canTryAgain = true;
-    attempt.milliseconds = worker.Milliseconds();
+Attempt Overdue(Attempt attempt, long seconds) {
+    Outcome& outcome = attempt.outcome;
+    const wchar_t* const what = outcome.result == Result::Unknown ? L"There was no answer within "
+                                                                  : L"It could not be got ready for sending within ";
+    outcome.errors = {what + std::to_wstring(seconds) + L" seconds."};
+    outcome.canTryAgain = true;
+    outcome.isOfRoad = true;
     return attempt;
 }
 
@@ -34,10 +39,17 @@ Backlog::Backlog(const BacklogSettings& settings, JobMaker makeJob, std::deque<T
       listener_(listener),
       done_(CreateEventW(nullptr, FALSE, FALSE, nullptr)) {}
 
-// An abandoned worker may set the event at any time, so it stays open then.
+// A worker that is left to itself may set the event at any time, so the event stays open then.
 Backlog::~Backlog() {
+    const bool isAnyLeft = HasWorkersAtWork();
     workers_.clear();
-    if (!hasAbandoned_) CloseHandle(done_);
+    if (!isAnyLeft) CloseHandle(done_);
+}
+
+bool Backlog::HasTooManyAbandoned() const { return abandoned_ >= kMostAbandoned; }
+
+double Backlog::StartInterval() const {
+    return settings_.rate > 0 ? static_cast<double>(kSecond) / static_cast<double>(settings_.rate) : 0;
 }
 
 void Backlog::Run(const Interruption& interruption) {
@@ -57,15 +69,15 @@ bool Backlog::IsAnyAtWork() const {
 }
 
 void Backlog::BeginWhatIsDue() {
-    for (ULONGLONG now = GetTickCount64(); now >= nextStart_ && IsAnyDue(now); now = GetTickCount64()) {
+    for (ULONGLONG now = GetTickCount64(); static_cast<double>(now) >= nextStart_ && IsAnyDue(now);
+         now = GetTickCount64()) {
         Worker* const worker = IdleWorker();
         if (!worker) return;
         Task task = TakeDue(now);
         ++task.attempts;
         listener_.Begun(task);
         worker->Begin(task);
-        if (settings_.rate > 0)
-            nextStart_ = std::max(nextStart_, now - kCatchUp) + kSecond / static_cast<ULONGLONG>(settings_.rate);
+        nextStart_ = std::max(nextStart_, static_cast<double>(now) - kCatchUp) + StartInterval();
     }
 }
 
@@ -104,23 +116,24 @@ void Backlog::TakeResults() {
 void Backlog::AbandonOverdue() {
     const ULONGLONG limit = static_cast<ULONGLONG>(settings_.seconds) * kSecond;
     for (auto& worker : workers_) {
-        if (worker->IsIdle() || worker->Milliseconds() < limit) continue;
-        const Task task = worker->CurrentTask();
-        const Attempt attempt = Overdue(*worker, settings_.seconds);
+        const auto known = worker->GiveUp(limit);
+        if (!known) continue;
+        ++abandoned_;
+        Settle(worker->CurrentTask(), Overdue(*known, settings_.seconds));
         worker = std::make_unique<Worker>(makeJob_, done_);
-        hasAbandoned_ = true;
-        Settle(task, attempt);
     }
 }
 
 void Backlog::Settle(Task task, const Attempt& attempt) {
     listener_.Tried(task, attempt);
     const Outcome& outcome = attempt.outcome;
-    if (outcome.canTryAgain) {
-        ++failuresInARow_;
-    } else if (outcome.result == Result::Done || outcome.result == Result::Refused) {
-        failuresInARow_ = 0;
+    if (outcome.isOfRoad) {
+        failing_.insert(task.name);
+    } else if (outcome.result != Result::NotSent && outcome.result != Result::LeftOut) {
+        failing_.clear();
     }
+    // What was not tried takes no part in the pace.
+    if (outcome.result == Result::LeftOut) nextStart_ -= StartInterval();
     if (!outcome.canTryAgain || task.attempts > settings_.retries) return listener_.Ended(task, attempt);
     const ULONGLONG due = GetTickCount64() + RetryPause(task.attempts);
     retries_.emplace(due, Retry{std::move(task), attempt});
@@ -135,7 +148,7 @@ DWORD Backlog::Pause() const {
     ULONGLONG pause = kLongestPause;
     const auto until = [&](ULONGLONG tick) { pause = std::min(pause, tick > now ? tick - now : 0); };
     const bool canBegin = !fresh_.empty() || !retries_.empty();
-    if (canBegin && nextStart_ > now) until(nextStart_);
+    if (canBegin && nextStart_ > static_cast<double>(now)) until(static_cast<ULONGLONG>(std::ceil(nextStart_)));
     if (!retries_.empty() && retries_.begin()->first > now) until(retries_.begin()->first);
     return static_cast<DWORD>(pause);
 }

@@ -7,6 +7,7 @@
 
 #include <deque>
 #include <map>
+#include <set>
 #include <vector>
 
 namespace lejis_client {
@@ -39,15 +40,19 @@ public:
 
     // How many tasks were not begun at all.
     std::size_t Left() const { return fresh_.size(); }
-    bool RoadIsGone() const { return failuresInARow_ >= settings_.stopAfter; }
-    long FailuresInARow() const { return failuresInARow_; }
-    // Whether a thread still waits for an answer that nobody waits for any more.
-    bool HasAbandonedWorkers() const { return hasAbandoned_; }
+    // How many incidents in a row the road has failed, where that ended the run; 0 elsewhere.
+    std::size_t FailuresInARow() const { return IsRoadGone() ? failing_.size() : 0; }
+    // Whether a thread is still at work, or waits for an answer that nobody waits for any more.
+    bool HasWorkersAtWork() const { return abandoned_ > 0 || IsAnyAtWork(); }
+    // Whether the run ended because so many threads wait in vain.
+    bool HasTooManyAbandoned() const;
 
 private:
     bool IsStopping(const Interruption& interruption) const {
-        return isStopped_ || interruption.HasHappened() || RoadIsGone();
+        return isStopped_ || interruption.HasHappened() || IsRoadGone() || HasTooManyAbandoned();
     }
+    bool IsRoadGone() const { return failing_.size() >= static_cast<std::size_t>(settings_.stopAfter); }
+    double StartInterval() const;
     bool IsAnyAtWork() const;
     void BeginWhatIsDue();
     bool IsAnyDue(ULONGLONG now) const;
@@ -73,11 +78,12 @@ private:
     std::vector<std::unique_ptr<Worker>> workers_;
     // Set whenever a worker has done something.
     HANDLE done_;
-    // No task begins before this tick.
-    ULONGLONG nextStart_ = 0;
-    long failuresInARow_ = 0;
+    // No task begins before this tick. A pace of 300 a second needs the fractions.
+    double nextStart_ = 0;
+    // The names of the incidents that the road has failed since the last answer: the tries of one count once.
+    std::set<std::wstring> failing_;
     bool isStopped_ = false;
-    bool hasAbandoned_ = false;
+    std::size_t abandoned_ = 0;
 };
 
 }  // namespace lejis_client

@@ -4,7 +4,7 @@
 
 namespace lejis_client {
 
-Outcome CheckOperation::Run(ILejisIncidentIndexCard* incident) {
+Outcome CheckOperation::Run(ILejisIncidentIndexCard* incident, const std::function<void()>&) {
     const ShapedIncident shaped = Shape(incident);
     Outcome outcome;
     outcome.result = shaped.errors.empty() ? Result::Done : Result::Refused;

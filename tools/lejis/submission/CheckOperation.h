@@ -7,7 +7,7 @@ namespace lejis_client {
 
 class CheckOperation : public Operation {
 public:
-    Outcome Run(ILejisIncidentIndexCard* incident) override;
+    Outcome Run(ILejisIncidentIndexCard* incident, const std::function<void()>& beforeSending) override;
 };
 
 }  // namespace lejis_client

@@ -2,14 +2,14 @@
 
 namespace lejis_client {
 
-DeleteOperation::DeleteOperation(const ServiceSettings& settings)
-    : ServiceOperation(settings,
-                       L"LEJIS may have it still or not: withdraw it again, LEJIS knows an incident by agency and "
-                       L"number, or look it up.") {}
+DeleteOperation::DeleteOperation(const ServiceSettings& settings) : ServiceOperation(settings) {}
 
 std::vector<std::wstring> DeleteOperation::Ask(ILejisIncidentIndexCard* incident) {
     Check(Service().DeleteIncident(incident));
     return {};
 }
+
+// The service sends every withdrawal unchecked.
+void DeleteOperation::RequireFit(ILejisIncidentIndexCard*) const {}
 
 }  // namespace lejis_client

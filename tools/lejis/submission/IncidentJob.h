@@ -12,11 +12,14 @@ public:
     // Both outlive it. The index says what earlier runs have done.
     IncidentJob(const JobSettings& settings, const LedgerIndex& done);
 
-    Attempt Do(const Task& task) override;
+    Attempt Do(const Task& task, AttemptWatch& watch) override;
 
 private:
-    void Read(const Task& task, Attempt& attempt);
-    void Run(ILejisIncidentIndexCard* incident, Attempt& attempt);
+    void ReadAndRun(const Task& task, Attempt& attempt, AttemptWatch& watch);
+    void Run(ILejisIncidentIndexCard* incident, Attempt& attempt, AttemptWatch& watch);
+    // What is to be told where nothing else becomes known.
+    Attempt NotSentYet() const;
+    void SetResult(Outcome& outcome, Result result) const;
 
     const JobSettings& settings_;
     const LedgerIndex& done_;

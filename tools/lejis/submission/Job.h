@@ -1,7 +1,7 @@
 // What a worker does, task by task. It is made, used and destroyed in the worker's thread.
 #pragma once
 
-#include "submission/Task.h"
+#include "submission/AttemptWatch.h"
 
 #include <functional>
 #include <memory>
@@ -15,7 +15,7 @@ public:
     Job(const Job&) = delete;
     Job& operator=(const Job&) = delete;
 
-    virtual Attempt Do(const Task& task) = 0;
+    virtual Attempt Do(const Task& task, AttemptWatch& watch) = 0;
 };
 
 using JobMaker = std::function<std::unique_ptr<Job>()>;

@@ -4,6 +4,7 @@
 #include "library/Library.h"
 #include "submission/Outcome.h"
 
+#include <functional>
 #include <memory>
 
 namespace lejis_client {
@@ -15,8 +16,9 @@ public:
     Operation(const Operation&) = delete;
     Operation& operator=(const Operation&) = delete;
 
-    // Raises a LibraryError where the library fails before it is asked for the operation itself.
-    virtual Outcome Run(ILejisIncidentIndexCard* incident) = 0;
+    // Calls `beforeSending` before anything can leave the workstation. Raises a LibraryError where the library fails
+    // before it is asked for the operation itself.
+    virtual Outcome Run(ILejisIncidentIndexCard* incident, const std::function<void()>& beforeSending) = 0;
 };
 
 }  // namespace lejis_client

@@ -16,13 +16,31 @@ std::unique_ptr<Operation> MakeCheck(const ServiceSettings&) { return std::make_
 
 }  // namespace
 
-const OperationKind kCheck = {
-    .name = L"check", .success = L"fit for submission", .sends = false, .tellsLosses = true, .make = MakeCheck};
+const OperationKind kCheck = {.name = L"check",
+                              .success = L"fit for submission",
+                              .sends = false,
+                              .tellsLosses = true,
+                              .adviceOnUnknown = L"",
+                              .make = MakeCheck};
 
 const OperationKind kSubmit = {
-    .name = L"submit", .success = L"submitted", .sends = true, .tellsLosses = true, .make = Make<SubmitOperation>};
+    .name = L"submit",
+    .success = L"submitted",
+    .sends = true,
+    .tellsLosses = true,
+    .adviceOnUnknown =
+        L"LEJIS may have it or not: send it again, LEJIS knows an incident by agency and number, or "
+        L"look it up.",
+    .make = Make<SubmitOperation>};
 
 const OperationKind kDelete = {
-    .name = L"delete", .success = L"withdrawn", .sends = true, .tellsLosses = false, .make = Make<DeleteOperation>};
+    .name = L"delete",
+    .success = L"withdrawn",
+    .sends = true,
+    .tellsLosses = false,
+    .adviceOnUnknown =
+        L"LEJIS may have it still or not: withdraw it again, LEJIS knows an incident by agency and "
+        L"number, or look it up.",
+    .make = Make<DeleteOperation>};
 
 }  // namespace lejis_client

@@ -29,7 +29,9 @@ struct Outcome {
     std::wstring advice;
     // Whether the same again can end otherwise.
     bool canTryAgain = false;
-    // The library's error number; 0 where the failure is none of the library's.
+    // Whether it failed on the road or at LEJIS as a whole, so that the next incident would fail as well.
+    bool isOfRoad = false;
+    // The library's error number; 0 where the library raised no error.
     HRESULT number = S_OK;
 };
 

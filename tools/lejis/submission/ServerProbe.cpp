@@ -16,22 +16,26 @@ bool MayPassBy(const Proxy& proxy, const WebAddress& address) {
     return !proxy.exceptions.empty() || IsThisMachine(address.host);
 }
 
-bool IsRoadOpen(const std::wstring& url) {
-    const auto address = ParseWebAddress(url);
-    if (!address) return false;
+bool IsOpen(const WebAddress& address) {
     const Proxy proxy = ReadProxy();
     // A script may choose any proxy.
     if (!proxy.script.empty()) return true;
-    const std::wstring server = ServerFor(proxy, address->scheme);
+    const std::wstring server = ServerFor(proxy, address.scheme);
     if (server.empty()) return IsListening(address) || DetectsProxy();
-    return IsListening(ParseWebAddress(L"http://" + server)) || (MayPassBy(proxy, *address) && IsListening(address));
+    return IsListening(ParseWebAddress(L"http://" + server)) || (MayPassBy(proxy, address) && IsListening(address));
+}
+
+Road RoadTo(const std::wstring& url) {
+    const auto address = ParseWebAddress(url);
+    if (!address) return Road::NoAddress;
+    return IsOpen(*address) ? Road::Open : Road::Closed;
 }
 
 }  // namespace
 
-bool ServerProbe::MaySend() {
-    if (doubtful_) doubtful_ = !IsRoadOpen(url_);
-    return !doubtful_;
+Road ServerProbe::Look() {
+    if (road_ == Road::Closed) road_ = RoadTo(url_);
+    return road_;
 }
 
 }  // namespace lejis_client

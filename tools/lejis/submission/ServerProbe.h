@@ -1,6 +1,8 @@
 // Can anything be sent to a server at all? The library says "service is down" both of a server that is not there and of
-// one that broke off with the incident in its hands. What was tried before anything was sent tells the two apart.
+// one that broke off with the incident in its hands. So the road is tried before the service is called.
 #pragma once
+
+#include "submission/Road.h"
 
 #include <string>
 
@@ -10,14 +12,13 @@ class ServerProbe {
 public:
     explicit ServerProbe(std::wstring url) : url_(std::move(url)) {}
 
-    // False where neither the server nor a proxy before it takes a connection, so that nothing can be sent. It tries
-    // once, and again after each doubt.
-    bool MaySend();
-    void Doubt() { doubtful_ = true; }
+    // Tries the road until it was open once, and again after a doubt.
+    Road Look();
+    void Doubt() { road_ = Road::Closed; }
 
 private:
     std::wstring url_;
-    bool doubtful_ = true;
+    Road road_ = Road::Closed;
 };
 
 }  // namespace lejis_client

@@ -9,21 +9,20 @@ namespace lejis_client {
 
 class ServiceOperation : public Operation {
 public:
-    Outcome Run(ILejisIncidentIndexCard* incident) override;
+    Outcome Run(ILejisIncidentIndexCard* incident, const std::function<void()>& beforeSending) override;
 
 protected:
-    // The advice is for an incident of which nobody knows what LEJIS made of it.
-    ServiceOperation(const ServiceSettings& settings, const wchar_t* adviceOnUnknown);
+    explicit ServiceOperation(const ServiceSettings& settings);
 
     ILejisSubmissionWebService& Service() const { return *service_.Get(); }
 
 private:
     // Has the service do it and returns its warnings; raises a LibraryError.
     virtual std::vector<std::wstring> Ask(ILejisIncidentIndexCard* incident) = 0;
-    Outcome Advised(Outcome outcome) const;
+    // Raises a LibraryError for what the service would refuse without sending it.
+    virtual void RequireFit(ILejisIncidentIndexCard* incident) const = 0;
 
     Microsoft::WRL::ComPtr<ILejisSubmissionWebService> service_;
-    const wchar_t* adviceOnUnknown_;
     ServerProbe probe_;
 };
 

@@ -10,6 +10,7 @@ public:
 
 private:
     std::vector<std::wstring> Ask(ILejisIncidentIndexCard* incident) override;
+    void RequireFit(ILejisIncidentIndexCard* incident) const override;
 };
 
 }  // namespace lejis_client

@@ -10,11 +10,14 @@ namespace lejis_client {
 
 // What the worker's owner and its thread have in common. It belongs to both: a thread that never comes back from its
 // task outlives its owner.
-struct Worker::Shared {
+struct Worker::Shared final : AttemptWatch {
     Shared(JobMaker maker, HANDLE done) : makeJob(std::move(maker)), doneEvent(done) {}
     ~Shared() { CloseHandle(goEvent); }
     Shared(const Shared&) = delete;
     Shared& operator=(const Shared&) = delete;
+
+    void Learn(const Attempt& attempt) override;
+    void BeginCall(const Attempt& attempt) override;
 
     const JobMaker makeJob;
     const HANDLE doneEvent;
@@ -23,6 +26,9 @@ struct Worker::Shared {
     // Guarded by the lock.
     std::optional<Task> order;
     std::optional<Attempt> result;
+    // Of the task under way, and since when it prepares the call or waits for the call.
+    Attempt known;
+    ULONGLONG since = 0;
     bool isOver = false;
 };
 
@@ -49,6 +55,18 @@ public:
 
 }  // namespace
 
+void Worker::Shared::Learn(const Attempt& attempt) {
+    const Locked locked(lock);
+    known = attempt;
+}
+
+void Worker::Shared::BeginCall(const Attempt& attempt) {
+    const Locked locked(lock);
+    if (isOver) throw Abandoned();
+    known = attempt;
+    since = GetTickCount64();
+}
+
 Worker::Worker(JobMaker makeJob, HANDLE done) : shared_(std::make_shared<Shared>(std::move(makeJob), done)) {
     auto forThread = std::make_unique<std::shared_ptr<Shared>>(shared_);
     const auto thread = _beginthreadex(nullptr, 0, Work, forThread.get(), 0, nullptr);
@@ -74,6 +92,9 @@ void Worker::Begin(const Task& task) {
     {
         const Locked locked(shared_->lock);
         shared_->order = task;
+        shared_->known = {};
+        shared_->known.outcome.result = Result::NotSent;
+        shared_->since = start_;
     }
     SetEvent(shared_->goEvent);
 }
@@ -83,6 +104,16 @@ std::optional<Attempt> Worker::Take() {
     std::optional<Attempt> result = std::exchange(shared_->result, std::nullopt);
     if (result) isBusy_ = false;
     return result;
+}
+
+std::optional<Attempt> Worker::GiveUp(ULONGLONG milliseconds) {
+    const Locked locked(shared_->lock);
+    const ULONGLONG now = GetTickCount64();
+    if (!isBusy_ || shared_->result || now - shared_->since < milliseconds) return {};
+    shared_->isOver = true;
+    Attempt known = shared_->known;
+    known.milliseconds = now - start_;
+    return known;
 }
 
 unsigned __stdcall Worker::Work(void* parameter) {
@@ -99,7 +130,7 @@ unsigned __stdcall Worker::Work(void* parameter) {
             task = std::exchange(shared.order, std::nullopt);
         }
         if (!task) continue;
-        Attempt attempt = job->Do(*task);
+        Attempt attempt = job->Do(*task, shared);
         {
             const Locked locked(shared.lock);
             shared.result = std::move(attempt);

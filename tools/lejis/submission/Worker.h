@@ -17,13 +17,14 @@ public:
     Worker& operator=(const Worker&) = delete;
 
     bool IsIdle() const { return !isBusy_; }
-    // How long it has been at work.
-    ULONGLONG Milliseconds() const { return GetTickCount64() - start_; }
     const Task& CurrentTask() const { return task_; }
 
     void Begin(const Task& task);
     // What has become of the task; nothing as long as it is under way. The worker is idle afterwards.
     std::optional<Attempt> Take();
+    // Gives up a task that has taken so long before the call of the service, or within it. What is known of the task by
+    // then; nothing where the task is done or has time left. The worker is of no more use afterwards.
+    std::optional<Attempt> GiveUp(ULONGLONG milliseconds);
 
 private:
     struct Shared;
