@@ -1,6 +1,7 @@
 """The ledger of lejis submit and delete, and its summary."""
 import hashlib
 import json
+import resource
 import subprocess
 import unittest
 
@@ -82,6 +83,49 @@ class LedgerTest(LedgerCase):
         self.submit(DONE, "a.xml")
         self.assertEqual((self.indexed(), self.posts()), (["2024-1"], 3))
 
+    def test_what_another_file_has_replaced_since_is_submitted_again(self):
+        self.write("a.xml", card("2024-1"))
+        self.write("b.xml", card("2024-1", charge="2203"))
+        for name in ("a.xml", "b.xml", "a.xml"):
+            self.submit(DONE, name)
+        self.assertEqual(self.posts(), 3)
+
+    def test_copies_of_a_file_stand_for_each_other(self):
+        for name in ("a.xml", "b.xml"):
+            self.write(name, card("2024-1"))
+        self.submit(DONE, "a.xml", "b.xml")
+        self.submit(DONE, "a.xml", "b.xml")
+        self.assertEqual(self.posts(), 2)
+
+    def test_a_withdrawal_that_was_not_waited_for_may_have_been_carried_out(self):
+        self.write("a.xml", card("2024-1"))
+        self.submit(DONE, "a.xml")
+        self.play(kind="slow", seconds=8)
+        self.expect(TRY_AGAIN, "delete", "a.xml", "--url", self.url, "--ledger", "night.ledger", "--timeout", "3")
+        _, withdrawal = self.entries()
+        self.assertEqual((withdrawal["outcome"], withdrawal["ori"], withdrawal["number"]),
+                         ("unknown", "PA0990100", "2024-1"))
+        self.assertRegex(withdrawal["digest"] + withdrawal["start"], r"^sha256:[0-9a-f]{64}\d{4}-.*Z$")
+        self.submit(DONE, "a.xml")
+        self.assertEqual([entry["outcome"] for entry in self.entries()], ["submitted", "unknown", "submitted"])
+
+    def test_a_ledger_that_fails_on_the_way_ends_the_run_with_one_summary(self):
+        for name in "abcde":
+            self.write(f"{name}.xml", card(f"2024-{name}"))
+        # Blank lines leave so little room that the write of the first entry breaks off in its midst.
+        limit = 20_000
+        self.ledger.write_bytes(b"\n" * (limit - 100))
+        command = [RUNNER, self.lejis_program(), "submit", "*.xml", "--url", self.url, "--ledger", "night.ledger",
+                   "--json"]
+        # Python ignores the signal of a file that is too large, and lejis.exe inherits that.
+        run = subprocess.run(command, cwd=self.folder, stdin=subprocess.DEVNULL, capture_output=True,
+                             timeout=TIME_LIMIT, restore_signals=False, check=False,
+                             preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (limit, limit)))
+        incident, last = map(json.loads, run.stdout.splitlines())
+        self.assertEqual((run.returncode, last["exitCode"], incident["outcome"]), (BOTH, BOTH, "submitted"))
+        self.assertEqual((last["error"]["kind"], last["counts"]["notBegun"]), ("stopped", 4))
+        self.assertIn("The ledger night.ledger cannot be written: ", last["error"]["message"])
+
     def test_a_last_line_cut_short_is_passed_over(self):
         self.write("a.xml", card("2024-1"))
         self.write("b.xml", card("2024-2"))
@@ -136,6 +180,13 @@ class SummaryTest(LedgerCase):
         self.assertEqual(summary["outcomes"], {"refused": 1, "submitted": 3})
         (failure,) = summary["failures"]
         self.assertEqual((failure["outcome"], len(failure["names"])), ("refused", 1))
+
+    def test_incidents_from_standard_input_are_told_apart_by_their_content(self):
+        for number in ("2024-8", "2024-9"):
+            subprocess.run([RUNNER, self.lejis_program(), "submit", "-", "--url", self.url, "--ledger", "other.ledger"],
+                           input=card(number).encode(), cwd=self.folder, capture_output=True, timeout=TIME_LIMIT,
+                           check=True)
+        self.assertTrue(self.expect(DONE, "ledger", "other.ledger").startswith("2 incidents in 2 tries: 2 submitted.\n"))
 
     def test_a_ledger_that_is_not_there(self):
         run = self.lejis("ledger", "none.ledger")
