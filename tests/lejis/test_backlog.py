@@ -41,6 +41,38 @@ class FilesTest(LejisCase):
         self.assertEqual(self.taken("c.xml", "one/b.xml", "C.XML", ".\\c.xml", "c*", whole, "one\\b.xml"),
                          ["c.xml", "one/b.xml"])
 
+    def test_a_folder_that_may_not_be_read_ends_the_run_before_it_begins(self):
+        # Were it passed over, the list would be shorter and nobody would know.
+        closed = self.folder / "one" / "deep"
+        self.addCleanup(closed.chmod, 0o700)
+        closed.chmod(0)
+        run = self.lejis("check", "--recurse", "one", "c.xml", restrained=True)
+        self.assertEqual((run.code, run.output), (REFUSED, ""))
+        self.assertRegex(run.complaint, r"^lejis: The folder one\\deep\\ cannot be read: Access denied\.\n$")
+
+    def test_a_pattern_goes_by_long_names(self):
+        # The short names of these end in .XML.
+        for name in ("c.xml~", "c.xml_old", "c.xmlx"):
+            self.write(name, card())
+        self.assertEqual(self.taken("*.xml"), ["c.xml"])
+        self.assertEqual(self.taken("C.X?L"), ["c.xml"])
+        self.assertEqual(self.taken("c.???"), ["c.xml"])
+        self.assertEqual(self.taken("c.xml*"), ["c.xml", "c.xml_old", "c.xmlx", "c.xml~"])
+        self.assertEqual(self.taken("*.*"), ["c.xml", "c.xml_old", "c.xmlx", "c.xml~"])
+
+    def test_a_folder_without_incident_files_is_told_by_its_pattern(self):
+        (self.folder / "empty").mkdir()
+        self.assertEqual(self.expect(REFUSED, "check", "--recurse", "empty"),
+                         "empty\\*.xml  unreadable\n  ! No file matches this pattern.\n")
+
+    def test_names_longer_than_windows_takes_without_a_prefix(self):
+        folder = self.folder.joinpath("deep", *["x" * 50] * 6)
+        folder.mkdir(parents=True)
+        (folder / "long.xml").write_text(card(), encoding="utf-8")
+        (name,) = self.taken("--recurse", "deep")
+        self.assertTrue(name.endswith("x\\long.xml"), name)
+        self.assertEqual(self.taken(name), [name])
+
     def test_a_list_names_files_and_patterns(self):
         for encoding in ("utf-8", "utf-8-sig", "utf-16"):
             self.write("list.txt", "c.xml\r\n\r\n  one\\*.xml  \n".encode(encoding))

@@ -2,6 +2,7 @@
 
 #include "files/FileError.h"
 #include "files/FilePattern.h"
+#include "files/LongPath.h"
 #include "text/WindowsText.h"
 
 #include <windows.h>
@@ -37,8 +38,9 @@ constexpr Reason kReasons[] = {
     throw FileError{L"The file cannot be read: " + SystemMessage(error) + L"."};
 }
 
-FileHandle Open(const std::wstring& path) {
-    if (HasWildcard(path)) throw FileError{L"No file matches this pattern."};
+FileHandle Open(const std::wstring& name) {
+    if (HasWildcard(name)) throw FileError{L"No file matches this pattern."};
+    const std::wstring path = LongPath(name);
     const DWORD attributes = GetFileAttributesW(path.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) ThrowReason(GetLastError());
     if (attributes & FILE_ATTRIBUTE_DIRECTORY)

@@ -2,30 +2,15 @@
 
 #include "files/FileError.h"
 #include "files/FilePattern.h"
+#include "files/FoldedName.h"
+#include "files/LongPath.h"
 #include "files/NameList.h"
 #include "files/UnixPattern.h"
-
-#include <windows.h>
 
 #include <set>
 
 namespace lejis_client {
 namespace {
-
-std::wstring WholePath(const std::wstring& name) {
-    const std::wstring windowsName = WindowsPattern(name);
-    std::wstring path(GetFullPathNameW(windowsName.c_str(), 0, nullptr, nullptr), L'\0');
-    path.resize(GetFullPathNameW(windowsName.c_str(), static_cast<DWORD>(path.size()), path.data(), nullptr));
-    return path.empty() ? name : path;
-}
-
-// Windows takes names that differ in case alone for the same.
-std::wstring Folded(const std::wstring& path) {
-    std::wstring folded(path.size(), L'\0');
-    LCMapStringEx(LOCALE_NAME_INVARIANT, LCMAP_UPPERCASE, path.data(), static_cast<int>(path.size()), folded.data(),
-                  static_cast<int>(folded.size()), nullptr, nullptr, 0);
-    return folded;
-}
 
 class Lister {
 public:
@@ -44,11 +29,11 @@ public:
 private:
     void TakeName(const std::wstring& name) {
         if (name == kStandardInput) return Add({name, name});
-        for (const std::wstring& file : ExpandPattern(name, recurse_)) Add({file, WholePath(file)});
+        for (const std::wstring& file : ExpandPattern(name, recurse_)) Add({file, WholePath(WindowsPattern(file))});
     }
 
     void Add(const NamedFile& file) {
-        if (seen_.insert(Folded(file.path)).second) files_.push_back(file);
+        if (seen_.insert(FoldedName(file.path)).second) files_.push_back(file);
     }
 
     bool recurse_;

@@ -1,10 +1,15 @@
 #include "files/FilePattern.h"
 
+#include "files/FileError.h"
+#include "files/LongPath.h"
 #include "files/UnixPattern.h"
+#include "files/Wildcard.h"
+#include "text/WindowsText.h"
 
 #include <windows.h>
 
 #include <algorithm>
+#include <memory>
 
 namespace lejis_client {
 namespace {
@@ -13,36 +18,66 @@ constexpr wchar_t kIncidentFiles[] = L"*.xml";
 
 std::size_t LengthOfFolder(const std::wstring& pattern) { return pattern.find_last_of(L"\\/:") + 1; }
 
-// The names in a folder, with it before them; those of folders or those of files.
-std::vector<std::wstring> Entries(const std::wstring& pattern, bool folders) {
-    const std::wstring folder = pattern.substr(0, LengthOfFolder(pattern));
+[[noreturn]] void ThrowUnreadable(const std::wstring& folder, DWORD error) {
+    throw FileError{L"The folder " + (folder.empty() ? L"." : folder) + L" cannot be read: " + SystemMessage(error) +
+                    L"."};
+}
+
+struct SearchCloser {
+    using pointer = HANDLE;
+    void operator()(HANDLE search) const { FindClose(search); }
+};
+using Search = std::unique_ptr<HANDLE, SearchCloser>;
+
+// Where nothing can have the name that the user gave, nothing has it. A folder that was found is there.
+bool MeansNothing(DWORD error, bool isFound) {
+    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_NO_MORE_FILES) return true;
+    return !isFound && (error == ERROR_PATH_NOT_FOUND || error == ERROR_INVALID_NAME || error == ERROR_DIRECTORY ||
+                        error == ERROR_BAD_PATHNAME);
+}
+
+enum class Kind { kFiles, kFolders };
+
+bool IsWanted(const WIN32_FIND_DATAW& entry, Kind kind, const std::wstring& pattern) {
+    const std::wstring name = entry.cFileName;
+    // A link to a folder may lead back to one above it.
+    const bool isLink = entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT;
+    const bool isFolder = entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
+    if (isFolder != (kind == Kind::kFolders) || (isFolder && (isLink || name == L"." || name == L".."))) return false;
+    // The system also finds an entry by its short name, such as A~1.XML for a.xml_old.
+    return MatchesWildcard(name, pattern);
+}
+
+// The names in a folder, with it before them. `isFound` says that the folder was found, not given by the user.
+std::vector<std::wstring> Entries(const std::wstring& folder, const std::wstring& pattern, Kind kind, bool isFound) {
     std::vector<std::wstring> names;
-    WIN32_FIND_DATAW found;
-    const HANDLE search = FindFirstFileW(WindowsPattern(pattern).c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return names;
+    WIN32_FIND_DATAW entry;
+    const Search search(FindFirstFileW(LongPath(WindowsPattern(folder + pattern)).c_str(), &entry));
+    if (search.get() == INVALID_HANDLE_VALUE) {
+        const DWORD error = GetLastError();
+        if (!MeansNothing(error, isFound)) ThrowUnreadable(folder, error);
+        return names;
+    }
     do {
-        const std::wstring name = found.cFileName;
-        // A link to a folder may lead back to one above it.
-        const bool isLink = found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT;
-        const bool isFolder = found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
-        if (isFolder != folders || (isFolder && (isLink || name == L"." || name == L".."))) continue;
-        names.push_back(folder + name);
-    } while (FindNextFileW(search, &found));
-    FindClose(search);
+        if (IsWanted(entry, kind, pattern)) names.push_back(folder + entry.cFileName);
+    } while (FindNextFileW(search.get(), &entry));
+    if (GetLastError() != ERROR_NO_MORE_FILES) ThrowUnreadable(folder, GetLastError());
     std::sort(names.begin(), names.end());
     return names;
 }
 
-void AddMatches(const std::wstring& folder, const std::wstring& pattern, bool recurse,
+void AddMatches(const std::wstring& folder, const std::wstring& pattern, bool recurse, bool isFound,
                 std::vector<std::wstring>& files) {
-    const auto own = Entries(folder + pattern, false);
+    const auto own = Entries(folder, pattern, Kind::kFiles, isFound);
     files.insert(files.end(), own.begin(), own.end());
     if (!recurse) return;
-    for (const std::wstring& below : Entries(folder + L"*", true)) AddMatches(below + L'\\', pattern, recurse, files);
+    for (const std::wstring& below : Entries(folder, L"*", Kind::kFolders, isFound)) {
+        AddMatches(below + L'\\', pattern, recurse, true, files);
+    }
 }
 
 bool IsFolder(const std::wstring& path) {
-    const DWORD attributes = GetFileAttributesW(path.c_str());
+    const DWORD attributes = GetFileAttributesW(LongPath(path).c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
@@ -59,14 +94,13 @@ bool HasWildcard(const std::wstring& path) {
 }
 
 std::vector<std::wstring> ExpandPattern(const std::wstring& pattern, bool recurse) {
+    const bool isFolder = recurse && !HasWildcard(pattern) && IsFolder(pattern);
+    const std::wstring wanted = isFolder ? AsFolder(pattern) + kIncidentFiles : pattern;
+    if (!HasWildcard(wanted)) return {wanted};
     std::vector<std::wstring> files;
-    if (HasWildcard(pattern)) {
-        const std::size_t length = LengthOfFolder(pattern);
-        AddMatches(pattern.substr(0, length), pattern.substr(length), recurse, files);
-    } else if (recurse && IsFolder(pattern)) {
-        AddMatches(AsFolder(pattern), kIncidentFiles, recurse, files);
-    }
-    if (files.empty()) files.push_back(pattern);
+    const std::size_t length = LengthOfFolder(wanted);
+    AddMatches(wanted.substr(0, length), wanted.substr(length), recurse, isFolder, files);
+    if (files.empty()) files.push_back(wanted);
     return files;
 }
 
