@@ -74,9 +74,20 @@ class FilesTest(LejisCase):
         self.assertEqual(self.taken(name), [name])
 
     def test_a_list_names_files_and_patterns(self):
-        for encoding in ("utf-8", "utf-8-sig", "utf-16"):
-            self.write("list.txt", "c.xml\r\n\r\n  one\\*.xml  \n".encode(encoding))
-            self.assertEqual(self.taken("@list.txt"), ["c.xml", "one\\b.xml"])
+        text = "c.xml\r\n\r\n  one\\*.xml  \nM\u00fcller.xml\n"
+        self.write("M\u00fcller.xml", card())
+        for content in (*map(text.encode, ("utf-8", "utf-8-sig", "utf-16")), b"\xfe\xff" + text.encode("utf-16-be")):
+            self.write("list.txt", content)
+            self.assertEqual(self.taken("@list.txt"), ["c.xml", "one\\b.xml", "M\u00fcller.xml"])
+
+    def test_a_list_in_another_encoding_is_not_guessed_at(self):
+        for content in ("M\u00fcller.xml".encode("cp437"), "c.xml\n".encode("utf-16-le")):
+            self.write("list.txt", content)
+            run = self.lejis("check", "@list.txt")
+            self.assertEqual((run.code, run.output), (REFUSED, ""))
+            self.assertEqual(run.complaint, "lejis: The list list.txt cannot be read. It is neither UTF-8 nor UTF-16 "
+                             "with a byte order mark. In the command prompt, chcp 65001 before dir /b makes it "
+                             "UTF-8.\n")
 
     def test_a_list_that_names_nothing(self):
         self.write("list.txt", "\r\n  \r\n")

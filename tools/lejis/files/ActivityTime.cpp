@@ -1,6 +1,6 @@
 #include "files/ActivityTime.h"
 
-#include "files/ValueFault.h"
+#include "files/Quoted.h"
 #include "platform/Conversions.h"
 
 namespace lejis_client {

@@ -1,22 +1,16 @@
 #include "files/LossFinder.h"
 
+#include "files/Quoted.h"
 #include "files/UnreadName.h"
 #include "files/ValueFault.h"
 #include "text/Layout.h"
 #include "text/NearestName.h"
+#include "text/Trimmed.h"
 
 #include <algorithm>
 
 namespace lejis_client {
 namespace {
-
-constexpr std::wstring_view kWhiteSpace = L" \t\r\n";
-
-std::wstring_view Trimmed(std::wstring_view text) {
-    const std::size_t begin = text.find_first_not_of(kWhiteSpace);
-    if (begin == std::wstring_view::npos) return {};
-    return text.substr(begin, text.find_last_not_of(kWhiteSpace) + 1 - begin);
-}
 
 // Attributes that speak to programs that read XML, not of the incident.
 bool IsForPrograms(const WrittenName& name) {

@@ -2,6 +2,7 @@
 
 #include "files/FileContent.h"
 #include "files/FileError.h"
+#include "text/Trimmed.h"
 #include "text/Utf8.h"
 
 #include <cstring>
@@ -10,30 +11,38 @@
 namespace lejis_client {
 namespace {
 
-constexpr std::string_view kUtf16Mark = "\xFF\xFE";
+constexpr std::string_view kUtf16LittleMark = "\xFF\xFE";
+constexpr std::string_view kUtf16BigMark = "\xFE\xFF";
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-constexpr wchar_t kBlanks[] = L" \t\r";
+
+std::wstring FromUtf16(std::string_view content, bool isBig) {
+    std::wstring text(content.size() / sizeof(wchar_t), L'\0');
+    std::memcpy(text.data(), content.data(), text.size() * sizeof(wchar_t));
+    if (!isBig) return text;
+    for (wchar_t& unit : text) unit = static_cast<wchar_t>((unit & 0xFF) << 8 | unit >> 8);
+    return text;
+}
+
+// The command prompt writes the code page of its console. Nothing in the file tells which one that is, and a guess
+// would name other files.
+std::wstring FromUtf8(std::string_view content) {
+    const auto text = ValidUtf16(content);
+    if (text && text->find(L'\0') == std::wstring::npos) return *text;
+    throw FileError{
+        L"It is neither UTF-8 nor UTF-16 with a byte order mark. In the command prompt, chcp 65001 before "
+        L"dir /b makes it UTF-8."};
+}
 
 std::wstring Decoded(std::string_view content) {
-    if (content.starts_with(kUtf16Mark)) {
-        content.remove_prefix(kUtf16Mark.size());
-        std::wstring text(content.size() / sizeof(wchar_t), L'\0');
-        std::memcpy(text.data(), content.data(), text.size() * sizeof(wchar_t));
-        return text;
-    }
+    const bool isBig = content.starts_with(kUtf16BigMark);
+    if (isBig || content.starts_with(kUtf16LittleMark)) return FromUtf16(content.substr(2), isBig);
     if (content.starts_with(kUtf8Mark)) content.remove_prefix(kUtf8Mark.size());
-    return Utf16(content);
+    return FromUtf8(content);
 }
 
-std::wstring Trimmed(const std::wstring& line) {
-    const std::size_t start = line.find_first_not_of(kBlanks);
-    if (start == std::wstring::npos) return {};
-    return line.substr(start, line.find_last_not_of(kBlanks) + 1 - start);
-}
-
-std::string ContentOf(const std::wstring& path) {
+std::wstring TextOf(const std::wstring& path) {
     try {
-        return ReadFileContent(path);
+        return Decoded(ReadFileContent(path));
     } catch (const FileError& error) {
         throw FileError{L"The list " + path + L" cannot be read. " + error.reason};
     }
@@ -42,11 +51,11 @@ std::string ContentOf(const std::wstring& path) {
 }  // namespace
 
 std::vector<std::wstring> ReadNameList(const std::wstring& path) {
-    std::wistringstream lines(Decoded(ContentOf(path)));
+    std::wistringstream lines(TextOf(path));
     std::vector<std::wstring> names;
     for (std::wstring line; std::getline(lines, line);) {
-        const std::wstring name = Trimmed(line);
-        if (!name.empty()) names.push_back(name);
+        const std::wstring_view name = Trimmed(line);
+        if (!name.empty()) names.emplace_back(name);
     }
     return names;
 }

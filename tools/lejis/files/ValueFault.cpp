@@ -10,8 +10,6 @@ namespace {
 
 using Fault = std::optional<ValueFault>;
 
-constexpr std::size_t kLongestQuote = 60;
-
 ValueFault NotRead(const wchar_t* reason) { return {std::wstring(L" is not read: it is ") + reason + L"."}; }
 ValueFault Fatal(const wchar_t* reason) { return {std::wstring(L" cannot be read: it is ") + reason + L".", true}; }
 
@@ -86,14 +84,6 @@ std::optional<ValueFault> FaultOf(Content content, std::wstring_view value) {
         default:
             return std::nullopt;
     }
-}
-
-std::wstring Quoted(std::wstring_view value) {
-    std::wstring text(value.substr(0, kLongestQuote));
-    for (wchar_t& character : text) {
-        if (character == L'\t' || character == L'\r' || character == L'\n') character = L' ';
-    }
-    return L"'" + text + (value.size() > kLongestQuote ? L"\u2026'" : L"'");
 }
 
 }  // namespace lejis_client

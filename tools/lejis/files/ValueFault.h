@@ -19,7 +19,4 @@ struct ValueFault {
 // Nothing when the library reads the value as it stands. The value has no white space at its ends.
 std::optional<ValueFault> FaultOf(Content content, std::wstring_view value);
 
-// A value in a sentence: in apostrophes, on one line and not too long.
-std::wstring Quoted(std::wstring_view value);
-
 }  // namespace lejis_client
