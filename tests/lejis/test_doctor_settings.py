@@ -1,6 +1,8 @@
 """lejis doctor: the user's settings for debug dumps and for the proxy."""
 import json
+import os
 import unittest
+from pathlib import Path
 
 from doctor_case import DUMPS, FLAGS, DoctorCase, dump_folders
 from lejis_case import DONE, PROJECT, REFUSED, TRY_AGAIN
@@ -17,6 +19,14 @@ class DumpsTest(DoctorCase):
     def setUp(self):
         super().setUp()
         set_value(self, FLAGS, "DebugLejis", "N")
+
+    @staticmethod
+    def make_dump_folder():
+        users = Path(os.environ["WINEPREFIX"], "drive_c", "users")
+        (local,) = (folder / "AppData" / "Local" for folder in users.iterdir() if folder.name != "Public")
+        folder = local / "TalvexSuite" / "Diagnostics"
+        folder.mkdir(parents=True, exist_ok=True)
+        return folder
 
     def test_dumps_that_are_on(self):
         self.set_flag("Y")
@@ -41,12 +51,10 @@ class DumpsTest(DoctorCase):
                 self.assertEqual(self.findings(DONE)["Debug dumps"], ("ok", "off for this user"))
 
     def test_files_that_are_left(self):
-        self.set_flag("Y")
-        self.findings(DONE)
-        self.set_flag("N")
+        folder = self.make_dump_folder()
         self.addCleanup(self.remove_dumps)
         for name in DUMPS:
-            (dump_folders()[0] / name).write_text("<a/>", encoding="ascii")
+            (folder / name).write_text("<a/>", encoding="ascii")
             health, text = self.findings(DONE)["Dump files"]
             self.assertEqual(health, "warning")
             self.assertRegex(text, rf"^with personal data in C:\\.*\\Diagnostics: .*{name}\nDelete them")
@@ -54,8 +62,10 @@ class DumpsTest(DoctorCase):
     def test_it_makes_no_folder_for_them(self):
         for folder in dump_folders():
             folder.rmdir()
-        self.assertEqual(self.findings(DONE)["Dump files"], ("ok", "none are there"))
-        self.assertEqual(dump_folders(), [])
+        for flag in "NY":
+            self.set_flag(flag)
+            self.assertEqual(self.findings(DONE)["Dump files"], ("ok", "none are there"))
+            self.assertEqual(dump_folders(), [])
 
     def test_it_knows_the_files_that_the_guide_names(self):
         guide = (PROJECT / "docs" / "debug-dumps.md").read_text(encoding="utf-8")

@@ -15,11 +15,22 @@ constexpr wchar_t kFiles[] = L"Dump files";
 constexpr const wchar_t* kNames[] = {L"LejisSubmitRequest.xml", L"LejisSubmitResponse.xml", L"LejisSearchRequest.xml",
                                      L"LejisSearchResponse.xml"};
 
+// Without the suite the library itself makes the folder on its first use. The doctor changes nothing.
+std::wstring DumpFolder() {
+    CLSID ignored;
+    if (SUCCEEDED(CLSIDFromProgID(L"TalvexSuite.SuiteEnvironment", &ignored))) {
+        return platform::host::DiagnosticsFolder();
+    }
+    wchar_t base[MAX_PATH] = {};
+    const DWORD length = GetEnvironmentVariableW(L"LOCALAPPDATA", base, ARRAYSIZE(base));
+    if (length == 0 || length >= ARRAYSIZE(base)) platform::Check(HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND));
+    return base + std::wstring(L"\\TalvexSuite\\Diagnostics");
+}
+
 Finding FlagThatIsOn() {
     try {
         return {kSubject, Health::kWarning,
-                L"on for this user: requests and answers, with personal data, are written to " +
-                    platform::host::DiagnosticsFolder(),
+                L"on for this user: requests and answers, with personal data, are written to " + DumpFolder(),
                 L"Set DebugLejis to \"N\" when you have seen what you looked for, and delete the files."};
     } catch (const platform::ComError& error) {
         return {kSubject, Health::kFailed, L"on for this user, but there is no folder for them: " + error.Description(),
@@ -37,19 +48,6 @@ Finding CheckFlag() {
         L"Set DebugLejis to \"Y\" if you want dumps, and to \"N\" if you do not."};
 }
 
-// The folder of the dumps, where there is one; nothing is created. Without the suite the library makes it on its first
-// use.
-std::optional<std::wstring> ExistingFolder() {
-    CLSID ignored;
-    if (FAILED(CLSIDFromProgID(L"TalvexSuite.SuiteEnvironment", &ignored))) {
-        wchar_t base[MAX_PATH] = {};
-        const DWORD length = GetEnvironmentVariableW(L"LOCALAPPDATA", base, ARRAYSIZE(base));
-        const std::wstring folder = base + std::wstring(L"\\TalvexSuite\\Diagnostics");
-        return length > 0 && length < ARRAYSIZE(base) && FileExists(folder) ? std::optional(folder) : std::nullopt;
-    }
-    return platform::host::DiagnosticsFolder();
-}
-
 // The names of those that are there, one after the other.
 std::wstring DumpsIn(const std::wstring& folder) {
     std::wstring found;
@@ -61,10 +59,10 @@ std::wstring DumpsIn(const std::wstring& folder) {
 
 Finding CheckFiles() {
     try {
-        const auto folder = ExistingFolder();
-        const std::wstring found = folder ? DumpsIn(*folder) : std::wstring();
+        const std::wstring folder = DumpFolder();
+        const std::wstring found = DumpsIn(folder);
         if (found.empty()) return {kFiles, Health::kOk, L"none are there", {}};
-        return {kFiles, Health::kWarning, L"with personal data in " + *folder + L": " + found,
+        return {kFiles, Health::kWarning, L"with personal data in " + folder + L": " + found,
                 L"Delete them when nobody needs them any more."};
     } catch (const platform::ComError& error) {
         return {kFiles, Health::kWarning, L"the suite names no folder for them: " + error.Description(),
