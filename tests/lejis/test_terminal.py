@@ -6,6 +6,7 @@ import time
 import unittest
 
 from lejis_case import DONE, INTERRUPTED, RUNNER, SAMPLES, SimulatorCase, LejisCase, card
+from small_server import SilentServer
 
 COLOUR = re.compile("\x1b\\[[0-9;]*[1-9][0-9;]*m")
 GREEN_SUCCESS = re.compile("\x1b\\[(?:1;32|92)mfit for submission")
@@ -20,6 +21,7 @@ class Terminal:
     """A terminal with the program on it."""
 
     def __init__(self, folder, *arguments, **environment):
+        self._shown = b""
         self.child, self.terminal = pty.fork()
         if self.child == 0:
             os.chdir(folder)
@@ -29,13 +31,19 @@ class Terminal:
     def type(self, keys):
         os.write(self.terminal, keys)
 
+    def await_text(self, text):
+        while text.encode() not in self._shown:
+            piece = self._read()
+            if not piece:
+                raise AssertionError(f"ended without {text}: {self._shown}")
+            self._shown += piece
+
     def end(self):
         """What the program has shown until its end, and its exit code."""
-        shown = b""
         while piece := self._read():
-            shown += piece
+            self._shown += piece
         os.close(self.terminal)
-        return shown.decode("utf-8"), os.waitstatus_to_exitcode(os.waitpid(self.child, 0)[1])
+        return self._shown.decode("utf-8"), os.waitstatus_to_exitcode(os.waitpid(self.child, 0)[1])
 
     def _read(self):
         try:
@@ -102,6 +110,19 @@ class InterruptionTest(SimulatorCase):
         self.assertEqual(code, INTERRUPTED, shown)
         self.assertIn("Interrupted. What was under way may have reached LEJIS.", shown)
         self.assertNotIn("files:", shown)
+
+
+class SilenceTest(LejisCase):
+    """Nothing answers, so that only Ctrl-C ends what has no end of its own."""
+
+    def test_ctrl_c_ends_the_doctor_with_the_same_exit_code(self):
+        with SilentServer() as server:
+            terminal = Terminal(self.folder, "doctor", "--url", server.url, "--timeout", "120")
+            terminal.await_text("Proxy")
+            terminal.type(CTRL_C)
+            shown, code = terminal.end()
+        self.assertEqual(code, INTERRUPTED, shown)
+        self.assertIn("Interrupted.", shown)
 
 
 if __name__ == "__main__":

@@ -3,9 +3,11 @@
 #include "commandline/Help.h"
 #include "commandline/LibraryForUrl.h"
 #include "commandline/ParseCommandLine.h"
-#include "commandline/UsageError.h"
+#include "commandline/PrintVersion.h"
+#include "commandline/Refusal.h"
 #include "console/Console.h"
 #include "console/ExitCode.h"
+#include "console/Interruption.h"
 #include "console/PrintJson.h"
 #include "doctor/Doctor.h"
 #include "files/FileError.h"
@@ -18,7 +20,6 @@
 #include "search/Search.h"
 #include "show/Show.h"
 #include "text/WindowsText.h"
-#include "Version.h"
 
 #include <comdef.h>
 #include <shellapi.h>
@@ -50,53 +51,9 @@ int ShowTheFile(const CommandLine& commandLine) {
     throw UsageError{L"show takes one file, and here are " + std::to_wstring(files.size()), commandLine.command->name};
 }
 
-struct LibraryNames {
-    std::wstring version;
-    std::wstring file;
-    std::optional<std::wstring> host;
-};
-
-// Nothing, and the reason, where there is no library that can be used.
-std::optional<LibraryNames> NamesOfLibrary(std::wstring& reason) {
-    try {
-        const std::wstring version = LibraryVersion();
-        return LibraryNames{version, LibraryFile(), LejisHost()};
-    } catch (const NotRegistered&) {
-        reason = HowToRegister();
-    } catch (const LibraryError& error) {
-        reason = L"TVLejisCore cannot be used: " + error.description;
-    }
-    return {};
-}
-
-Json JsonOf(const LibraryNames& library) {
-    return {{"version", JsonText(library.version)},
-            {"file", JsonText(library.file)},
-            {"lejisHost", library.host ? JsonText(*library.host) : Json()}};
-}
-
-std::wstring TextOf(const LibraryNames& library) {
-    return L"TVLejisCore " + library.version + L"\n" + library.file + L"\nLEJIS host: " +
-           library.host.value_or(L"not named by this library");
-}
-
-int PrintVersion(const CommandLine& commandLine) {
-    std::wstring reason;
-    const auto library = NamesOfLibrary(reason);
-    if (commandLine.json) {
-        Json document = JsonDocument(L"version", kExitDone);
-        document["lejis"] = PUBLIC_VERSION;
-        document["library"] = library ? JsonOf(*library) : Json();
-        Print(document);
-    } else {
-        Console::Output().Write(L"lejis " PUBLIC_VERSION L"\n" + (library ? TextOf(*library) : reason) + L"\n");
-    }
-    return kExitDone;
-}
-
 int Run(const CommandLine& commandLine) {
     if (commandLine.help) return PrintHelp(commandLine);
-    if (commandLine.version) return PrintVersion(commandLine);
+    if (commandLine.version) return PrintVersion(commandLine.json);
     switch (commandLine.command->action) {
         case kShowRequest:
             return ShowTheFile(commandLine);
@@ -122,31 +79,6 @@ std::vector<std::wstring> Arguments() {
     std::vector<std::wstring> result(arguments + 1, arguments + count);
     LocalFree(arguments);
     return result;
-}
-
-// The program's end without having done anything.
-struct Refusal {
-    const wchar_t* kind;
-    int exitCode;
-    std::wstring message;
-    std::wstring hint;
-};
-
-// The command is empty where none was understood.
-int Complain(const std::wstring& command, bool json, const Refusal& refusal) {
-    if (json) {
-        Json document = JsonDocument(command.empty() ? std::nullopt : std::optional(command), refusal.exitCode);
-        SetError(document, refusal.kind, refusal.message);
-        PrintLine(document);
-    } else {
-        Console::Errors().Write(L"lejis: " + refusal.message + L"\n" + refusal.hint);
-    }
-    return refusal.exitCode;
-}
-
-Refusal RefusalOf(const UsageError& error) {
-    const std::wstring help = error.command.empty() ? L"lejis --help" : L"lejis " + error.command + L" --help";
-    return {L"usage", kExitUsage, error.reason, L"Try " + help + L"\n"};
 }
 
 Refusal Unexpected(const std::wstring& message) { return {L"unexpected", kExitRefused, message, {}}; }
@@ -188,6 +120,7 @@ int ParseAndRun(const std::vector<std::wstring>& arguments) {
 }  // namespace lejis_client
 
 int main() {
+    lejis_client::EndOnInterruption();
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     const int exitCode = lejis_client::ParseAndRun(lejis_client::Arguments());
     CoUninitialize();

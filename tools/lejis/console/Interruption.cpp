@@ -1,5 +1,6 @@
 #include "console/Interruption.h"
 
+#include "console/Console.h"
 #include "console/ExitCode.h"
 
 namespace lejis_client {
@@ -24,8 +25,19 @@ bool IsSet(HANDLE event) { return WaitForSingleObject(event, 0) == WAIT_OBJECT_0
 // The thread that works may be in the midst of a call that takes its time, as the one for a schema does.
 bool EndsByItself() { return WaitForSingleObject(HeededEvent(), patienceInMilliseconds) == WAIT_OBJECT_0; }
 
+bool IsInterruption(DWORD kind) { return kind == CTRL_C_EVENT || kind == CTRL_BREAK_EVENT; }
+
+// The handlers run in threads of their own, so they write to the standard error alone: the other output belongs to the
+// main thread, which may be in the midst of a result.
+BOOL WINAPI EndAtOnce(DWORD kind) {
+    if (!IsInterruption(kind)) return FALSE;
+    Console::Errors().Write(L"Interrupted.\n");
+    TerminateProcess(GetCurrentProcess(), kExitInterrupted);
+    return TRUE;
+}
+
 BOOL WINAPI Interrupt(DWORD kind) {
-    if (kind != CTRL_C_EVENT && kind != CTRL_BREAK_EVENT) return FALSE;
+    if (!IsInterruption(kind)) return FALSE;
     const bool isSecond = IsSet(InterruptionEvent());
     SetEvent(InterruptionEvent());
     if (!isSecond && (patienceInMilliseconds == INFINITE || EndsByItself())) return TRUE;
@@ -35,6 +47,8 @@ BOOL WINAPI Interrupt(DWORD kind) {
 }
 
 }  // namespace
+
+void EndOnInterruption() { SetConsoleCtrlHandler(EndAtOnce, TRUE); }
 
 Interruption::Interruption(void (*tell)(), DWORD patience) {
     tellOfEnd = tell;

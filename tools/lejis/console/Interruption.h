@@ -5,6 +5,10 @@
 
 namespace lejis_client {
 
+// From here on Ctrl-C ends the program at once, with the exit code for that, wherever no Interruption lives. Without it
+// the system ends it with a code of its own.
+void EndOnInterruption();
+
 class Interruption {
 public:
     // `tell` says so when the program has to be ended in the midst of something: the user presses Ctrl-C once more, or
