@@ -52,6 +52,32 @@ class DeleteTest(SimulatorCase):
                          f"PA0990100 2024-1  refused\n  ! Not yours.\n{IN_VAIN}")
         self.assertEqual(self.indexed(), ["2024-1", "2024-2", "2024-3"])
 
+    def test_the_rest_of_a_file_need_not_be_right(self):
+        person = "<card:RMSPersonIndexCards><j:PersonBirthDate>soon</j:PersonBirthDate></card:RMSPersonIndexCards>"
+        street = "<j:LocationStreet><j:StreetNumberText>99999999999</j:StreetNumberText></j:LocationStreet>"
+        text = card("2024-1").replace("</lejis:", person + "</lejis:")
+        self.write("1.xml", text.replace("<j:LocationPostal", street + "<j:LocationPostal"))
+        self.assertEqual(self.delete(DONE, "1.xml"), "1.xml  withdrawn\n")
+        self.assertEqual(self.indexed(), ["2024-2", "2024-3"])
+        self.assertIn(">2024-03-11</j:SubmissionSubmittedDate>", self.last_request())
+        self.assertIn(">Millbrook</j:OrganizationName>", self.last_request())
+
+    def test_without_a_date_nothing_is_sent(self):
+        element = "j:SubmissionSubmittedDate"
+        lacks = f"The incident card lacks the day on which the incident is submitted ({element})."
+        for text, told in {
+                card("2024-1").replace("SubmittedDate>", "SubmitedDate>"):
+                    f"{lacks}\n    Line 9: j:SubmissionSubmitedDate is not read; did you mean {element}?",
+                card("2024-1").replace("<j:SubmissionSubmittedDate>2024-03-11</j:SubmissionSubmittedDate>", ""): lacks,
+                card("2024-1").replace("2024-03-11", "2024-03-32"):
+                    f"{element} '2024-03-32' cannot be read: it is not a date.",
+                card("2024-1").replace("2024-03-11", ""): f"{element} '' cannot be read: it is not a date.",
+        }.items():
+            self.write("1.xml", text)
+            output = self.delete(REFUSED, "1.xml")
+            self.assertTrue(output.startswith(f"1.xml  not sent\n  ! {told}\n"), output)
+        self.assertEqual(self.indexed(), ["2024-1", "2024-2", "2024-3"])
+
     def test_a_file_that_is_no_incident(self):
         self.write("a.xml", "<a>")
         self.assertIn("a.xml  not sent\n", self.delete(REFUSED, "a.xml", "2.xml"))

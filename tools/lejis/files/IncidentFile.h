@@ -17,4 +17,7 @@ struct IncidentFile {
 // The incident in the bytes of a file. Raises a FileError with the reason when there is none.
 IncidentFile ReadIncident(const std::string& content);
 
+// The same with nothing but what a withdrawal sends, and wants of it: the rest of the file may be as it likes.
+IncidentFile ReadIdentifiers(const std::string& content);
+
 }  // namespace lejis_client

@@ -13,7 +13,7 @@ enum class Content {
     // Read as one value, the date, a blank and the time.
     kActivityDate,
     kActivityTime,
-    // The one date that keeps its card from being read when it is none.
+    // The one date that keeps its card from being read when its value is not a date.
     kBirthDate,
     kFlag,
     kMeasure,
@@ -48,6 +48,8 @@ struct FormatRow {
     std::wstring_view partner = {};
     // Without it there is no telling which incident it is.
     bool isRequired = false;
+    // Whether a withdrawal sends it, and so needs it.
+    bool isInWithdrawal = false;
 };
 
 // What stands in an element of its own kind.

@@ -80,7 +80,7 @@ void IncidentJob::ReadAndRun(const Task& task, Attempt& attempt, AttemptWatch& w
         attempt.outcome.result = Result::LeftOut;
         return;
     }
-    const IncidentFile file = ReadIncident(content);
+    const IncidentFile file = settings_.operation->tellsLosses ? ReadIncident(content) : ReadIdentifiers(content);
     Run(file.card.Get(), attempt, watch);
     if (!settings_.operation->tellsLosses) return;
     std::vector<std::wstring>& warnings = attempt.outcome.warnings;
