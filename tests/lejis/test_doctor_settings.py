@@ -126,6 +126,15 @@ class ProxyTest(DoctorCase):
         self.expect_failure(found, "Submission server",
                             "^not reached: the proxy 127.0.0.1:1 takes no connection\nSee that the proxy runs")
 
+    def test_a_server_that_is_down_is_not_blamed_on_a_proxy_that_may_be_passed_by(self):
+        use_proxy(self, "127.0.0.1:1", "127.0.0.1")
+        found = self.findings(TRY_AGAIN, "--url", "http://127.0.0.1:2/submission")
+        health, text = found["Submission server"]
+        self.assertEqual(health, "failed")
+        self.assertRegex(text, "^not reached: the machine takes no connection at this port; the proxy 127.0.0.1:1, where "
+                               "it is used, takes no connection\nSee that the LEJIS Interface runs")
+        self.assertNotIn("See that the proxy runs", text)
+
     def test_a_dead_one_for_this_scheme_is_the_cause(self):
         use_proxy(self, "https=proxy.example:8080;http=127.0.0.1:1")
         found = self.findings(TRY_AGAIN, "--url", self.url)

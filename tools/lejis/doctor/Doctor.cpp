@@ -13,7 +13,7 @@ namespace {
 void Examine(const DoctorSettings& settings, Diagnosis& diagnosis) {
     const auto lejisHost = CheckLibrary(diagnosis);
     CheckEnvironment(settings.variables, diagnosis);
-    diagnosis.Add(CheckProxy());
+    CheckProxy(diagnosis);
     if (settings.url) CheckService(ServiceKind::kSubmission, *settings.url, lejisHost, diagnosis);
     if (settings.searchUrl) CheckService(ServiceKind::kSearch, *settings.searchUrl, lejisHost, diagnosis);
     CheckDumps(diagnosis);

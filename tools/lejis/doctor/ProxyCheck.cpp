@@ -5,14 +5,21 @@
 namespace lejis_client {
 namespace {
 
+constexpr wchar_t kSubject[] = L"Proxy";
+
 std::wstring Named(const Proxy& proxy) {
     if (!proxy.script.empty()) return L"chosen by the script " + proxy.script;
-    if (proxy.servers.empty()) return L"none for this user";
-    return proxy.servers + (proxy.exceptions.empty() ? L"" : L", except for " + proxy.exceptions);
+    if (!proxy.servers.empty()) {
+        return proxy.servers + (proxy.exceptions.empty() ? L"" : L", except for " + proxy.exceptions);
+    }
+    return DetectsProxy() ? L"chosen by the script that the network names" : L"none for this user";
 }
 
 }  // namespace
 
-Finding CheckProxy() { return {L"Proxy", Health::kOk, Named(ReadProxy()), {}}; }
+void CheckProxy(Diagnosis& diagnosis) {
+    // The question to the network whether it has a script can take its time.
+    diagnosis.Examine(Late(kSubject), [] { return Finding{kSubject, Health::kOk, Named(ReadProxy()), {}}; });
+}
 
 }  // namespace lejis_client

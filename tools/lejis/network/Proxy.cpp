@@ -3,6 +3,8 @@
 #include <windows.h>
 #include <wininet.h>
 
+#include <algorithm>
+
 namespace lejis_client {
 namespace {
 
@@ -48,6 +50,10 @@ Proxy ReadProxy() {
     if (!(flags & PROXY_TYPE_PROXY)) proxy.servers.clear();
     if (!(flags & PROXY_TYPE_AUTO_PROXY_URL)) proxy.script.clear();
     return proxy;
+}
+
+bool MayPassBy(const Proxy& proxy, const WebAddress& address) {
+    return !proxy.exceptions.empty() || IsThisMachine(address.host);
 }
 
 std::wstring ServerFor(const Proxy& proxy, const std::wstring& scheme) {

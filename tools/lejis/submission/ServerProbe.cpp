@@ -11,11 +11,6 @@ bool IsListening(const std::optional<WebAddress>& address) {
     return address && TakesConnection(address->host, address->port);
 }
 
-// Exceptions, and this machine, of which the system makes an exception by itself, may be reached without the proxy.
-bool MayPassBy(const Proxy& proxy, const WebAddress& address) {
-    return !proxy.exceptions.empty() || IsThisMachine(address.host);
-}
-
 bool IsOpen(const WebAddress& address) {
     const Proxy proxy = ReadProxy();
     // A script may choose any proxy.
