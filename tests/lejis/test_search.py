@@ -189,12 +189,23 @@ class WholeCardsTest(SearchCase):
     def test_csv_has_a_row_for_each_person(self):
         run = self.search("--plate", "ZYX4471", "--csv")
         self.assertEqual((run.code, run.complaint), (DONE, "1 incident found.\n"))
-        rows = list(csv.DictReader(io.StringIO(run.output)))
+        # By its byte order mark Excel knows UTF-8.
+        self.assertTrue(run.output.startswith("\ufeffAgency,"), run.output[:20])
+        rows = list(csv.DictReader(io.StringIO(run.output[1:])))
         self.assertEqual([(row["Incident"], row["SurName"], row["GivenName"]) for row in rows],
                          [(THEFT, "ABERNATHY", "LUIS"), (THEFT, "REESE", "TAMARA")])
         self.assertEqual(rows[0]["Place"], "1200 Commerce Ave, lot C, Harlow PA 17098")
         self.assertEqual(rows[0]["BirthDate"], "1978-02-14T00:00:00")
         self.assertIn("address.City", rows[0])
+
+    def test_csv_holds_no_formulas_for_a_spreadsheet(self):
+        text = (SAMPLES / "vehicle-theft.xml").read_text(encoding="utf-8")
+        for number, name in enumerate(('=HYPERLINK("x")', "+1", "-1", "@SUM(A1)", "REE-SE")):
+            self.hold(self.write("a.xml", text.replace(">REESE<", f">{name}<").replace("24-H-00519", f"24-H-{number}")
+                                 .replace("ZYX4471", "ZYX4472")))
+        rows = list(csv.DictReader(io.StringIO(self.search("--plate", "ZYX4472", "--csv").output)))
+        names = {row["SurName"] for row in rows if row["GivenName"] == "TAMARA"}
+        self.assertEqual(names, {"'=HYPERLINK(\"x\")", "'+1", "'-1", "'@SUM(A1)", "REE-SE"})
 
     def test_csv_of_an_incident_without_persons_has_one_row(self):
         self.write("a.xml", incident_card("2024-9", zip_code="15555"))
@@ -209,6 +220,8 @@ class WholeCardsTest(SearchCase):
         for most, may in (("2", True), ("4", False)):
             answer = json.loads(self.find("--state", "PA", "--max", most, "--json"))
             self.assertEqual(answer["mayHaveMore"], may)
+        # LEJIS may have a limit of its own.
+        self.assertIsNone(json.loads(self.find("--state", "PA", "--json"))["mayHaveMore"])
 
 
 if __name__ == "__main__":

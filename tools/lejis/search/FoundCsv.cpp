@@ -41,6 +41,11 @@ Row PersonNames() {
     return names;
 }
 
+// The texts come from other agencies: a spreadsheet would carry out one that begins like a formula.
+std::wstring WithoutFormula(const std::wstring& value) {
+    return value.find_first_of(L"=+-@\t\r") == 0 ? L'\'' + value : value;
+}
+
 std::wstring Quoted(const std::wstring& value) {
     if (value.find_first_of(L",\"\r\n") == std::wstring::npos) return value;
     std::wstring quoted = L"\"";
@@ -54,7 +59,7 @@ std::wstring Quoted(const std::wstring& value) {
 
 std::wstring Line(const Row& row) {
     std::wstring line;
-    for (const std::wstring& value : row) line += Quoted(value) + L',';
+    for (const std::wstring& value : row) line += Quoted(WithoutFormula(value)) + L',';
     line.back() = L'\n';
     return line;
 }

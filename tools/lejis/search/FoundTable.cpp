@@ -2,6 +2,7 @@
 
 #include "search/FoundIncident.h"
 #include "text/Layout.h"
+#include "text/Printable.h"
 
 #include <algorithm>
 
@@ -14,15 +15,6 @@ constexpr std::size_t kWidestColumn = 40;
 const IncidentColumns kTitles = {L"Agency", L"Incident", L"Date", L"Charge", L"Place"};
 
 using Widths = std::array<std::size_t, kTitles.size()>;
-
-// The texts come from other agencies: none may break the table or talk to the terminal.
-std::wstring Printable(std::wstring text) {
-    const auto isControl = [](wchar_t character) {
-        return character < L' ' || (character >= 0x7F && character < 0xA0);
-    };
-    std::replace_if(text.begin(), text.end(), isControl, L' ');
-    return text;
-}
 
 Widths WidthsOf(const std::vector<IncidentColumns>& rows) {
     Widths widths = {};

@@ -32,8 +32,10 @@ struct Failure {
 const Failure kInterrupted = {L"interrupted", kExitInterrupted, L"Interrupted.", L"Interrupted.\n"};
 
 // LEJIS does not send more than were asked for; the library does not tell how many it has.
-bool MayHaveMore(const SearchSettings& settings, std::size_t found) {
-    return settings.most && static_cast<std::size_t>(*settings.most) == found;
+// It may have a limit of its own, so without one of the user's nothing is known.
+std::optional<bool> MayHaveMore(const SearchSettings& settings, std::size_t found) {
+    if (!settings.most) return std::nullopt;
+    return static_cast<std::size_t>(*settings.most) == found;
 }
 
 std::wstring CountText(std::size_t found, bool mayHaveMore) {
@@ -42,16 +44,19 @@ std::wstring CountText(std::size_t found, bool mayHaveMore) {
            (mayHaveMore ? L", as many as --max allows; LEJIS may have more.\n" : L".\n");
 }
 
+// Without the mark Excel takes the bytes for those of its own code page.
+std::wstring Marked(const std::wstring& csv) { return Console::Output().IsInteractive() ? csv : L'\uFEFF' + csv; }
+
 int PrintFound(const SearchSettings& settings, bool json, const Cards& cards) {
-    const bool mayHaveMore = MayHaveMore(settings, cards.size());
-    const std::wstring count = CountText(cards.size(), mayHaveMore);
+    const std::optional<bool> mayHaveMore = MayHaveMore(settings, cards.size());
+    const std::wstring count = CountText(cards.size(), mayHaveMore.value_or(false));
     if (json) {
         Json document = JsonDocument(L"search", kExitDone);
         document["incidents"] = FoundJson(cards);
-        document["mayHaveMore"] = mayHaveMore;
+        document["mayHaveMore"] = mayHaveMore ? Json(*mayHaveMore) : Json();
         Print(document);
     } else if (settings.xml || settings.csv) {
-        Console::Output().Write(settings.xml ? FoundXml(cards) : FoundCsv(cards));
+        Console::Output().Write(settings.xml ? FoundXml(cards) : Marked(FoundCsv(cards)));
         // The document is for a program, the count for a person.
         Console::Errors().Write(count);
     } else {
@@ -77,7 +82,6 @@ int PrintFailure(bool json, const Failure& failure) {
 }
 
 void TellInterruption() { Console::Errors().Write(L'\n' + kInterrupted.text); }
-void TellInterruptionInJson() { Print(JsonOf(kInterrupted)); }
 
 Failure FailureOf(const SearchOutcome& outcome) {
     const bool canTryAgain = CanTryAgain(outcome);
@@ -96,7 +100,7 @@ Failure NoAnswer(long seconds) {
 }  // namespace
 
 int Search(const SearchSettings& settings, bool json) {
-    const Interruption interruption(json ? TellInterruptionInJson : TellInterruption, kPatience);
+    const Interruption interruption(TellInterruption, kPatience);
     SearchConnection connection(settings);
     ShowSearching(0);
     connection.Send(settings);

@@ -1,5 +1,7 @@
 #include "text/Layout.h"
 
+#include "text/Printable.h"
+
 namespace lejis_client {
 namespace {
 
@@ -14,7 +16,7 @@ std::wstring ListItem(wchar_t bullet, std::wstring_view text) {
     std::wstring item = std::wstring(kIndent) + bullet + L' ';
     for (std::size_t start = 0;;) {
         const std::size_t end = text.find_first_of(L"\r\n", start);
-        item += text.substr(start, end - start);
+        item += Printable(std::wstring(text.substr(start, end - start)));
         item += L'\n';
         if (end == std::wstring_view::npos) return item;
         start = text.substr(end, 2) == L"\r\n" ? end + 2 : end + 1;

@@ -7,7 +7,8 @@
 
 namespace lejis_client {
 
-// The text as an item of a list; its later lines stand below its first one.
+// The text as an item of a list; its later lines stand below its first one. Of its control characters only the line
+// breaks are kept.
 std::wstring ListItem(wchar_t bullet, std::wstring_view text);
 
 // "1 error", "3 errors".
