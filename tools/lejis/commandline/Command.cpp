@@ -31,7 +31,8 @@ constexpr Command kCommands[] = {
   lejis check incidents\*.xml
   lejis check incidents\*.xml --json > checked.json
 )",
-     .exitCodes = L"0 all are fit for submission; 1 at least one is not, or is no incident."},
+     .exitCodes = L"0 all are fit for submission; 1 at least one is not, or is not an incident; 2 one could not be "
+                  L"checked to the end, try again; 3 both; 130 Ctrl-C ended it."},
 
     {.name = L"show",
      .action = kShowRequest,
@@ -52,7 +53,7 @@ Errors and warnings, as lejis check tells them, go to the standard error.
      .examples = LR"(  lejis show incident.xml
   lejis show incident.xml > request.xml
 )",
-     .exitCodes = L"0 this would be sent; 1 it would be refused first, or is no incident."},
+     .exitCodes = L"0 this would be sent; 1 it would be refused first, or is not an incident; 130 Ctrl-C ended it."},
 
     {.name = L"submit",
      .action = kSubmitFiles,
@@ -94,7 +95,8 @@ Ctrl-C ends the run when the incidents under way are done; a second one, at once
      .leastOperands = 0,
      .mostOperands = kAnyNumber,
      .operation = &kDelete,
-     .about = LR"(Withdraws incidents from LEJIS. Of a file only the identifiers are used.
+     .about = LR"(Withdraws incidents from LEJIS. Of a file only the agency's ORI and name, the incident
+number and the date of submission are used.
 )",
      .notes = LR"(Ctrl-C ends the run when the incidents under way are done; a second one, at once.
 )",
@@ -176,7 +178,7 @@ sends no incident and changes nothing. Looked at are
 )",
      .exitCodes = L"0 nothing has failed, though there may be warnings; 1 something has failed that does not "
                   L"pass by itself; 2 something has failed that may pass: the network, the server, or a time limit; "
-                  L"3 both."},
+                  L"3 both; 130 Ctrl-C ended it."},
 
     {.name = L"completion",
      .action = kPrintCompletion,
