@@ -42,7 +42,7 @@ class SubmitTest(SimulatorCase):
         self.assertEqual(self.indexed(), ["2024-7"])
         self.assertEqual([exchange["valid"] for exchange in self.exchanges()], [True])
 
-    def test_the_address_may_stand_behind_an_equals_sign_and_before_the_files(self):
+    def test_the_address_may_follow_an_equals_sign_and_precede_the_files(self):
         self.write("a.xml", card("2024-7"))
         self.assertEqual(self.expect(DONE, "submit", f"--url={self.url}", "a.xml"), "a.xml  submitted\n")
         self.assertEqual(self.indexed(), ["2024-7"])
@@ -91,6 +91,11 @@ class SubmitTest(SimulatorCase):
         for url in ("no address", ""):
             self.assertEqual(self.submit(REFUSED, "a.xml", url=url),
                              f"a.xml  not sent\n  ! Invalid URL '{url}'\n{NOTHING_SENT_IN_VAIN}")
+
+    def test_what_an_answer_says_to_terminals_is_not_passed_on(self):
+        self.write("a.xml", card())
+        self.play(kind="soap-fault", status=500, message="Not\u009b2J known.\nCall us.")
+        self.assertEqual(self.submit(REFUSED, "a.xml"), f"a.xml  refused\n  ! Not 2J known.\n    Call us.\n{IN_VAIN}")
 
     def test_mixed_outcomes(self):
         self.write("a.xml", card("2024-1"))
