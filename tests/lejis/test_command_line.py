@@ -90,8 +90,24 @@ class CommandLineTest(LejisCase):
             self.assertEqual(self.expect(DONE, "help", command), self.expect(DONE, command, "--help"))
 
     def test_examples_can_be_pasted_into_the_command_prompt(self):
+        # Nothing that means something to it but the caret at the end of a line, and one file for the output.
+        special = re.compile(r"[&|<>()^%!]")
         for command in COMMANDS:
-            self.assertNotIn("\\\n", self.expect(DONE, command, "--help"))
+            for example in self.examples_of(command):
+                words = example.partition(" > ")[0].split()
+                with self.subTest(example):
+                    self.assertNotRegex(" ".join(words), special)
+                    self.assertEqual(words[0], "lejis")
+                    self.assertIn(words[1], COMMANDS)
+                    self.assertNotEqual(self.lejis(*words[1:], *self.OFFLINE.get(words[1], ())).code, WRONG_USAGE)
+
+    # The library of the tests is for no true LEJIS; the machine of the examples is not there.
+    OFFLINE = {"submit": ("--force",), "delete": ("--force",), "search": ("--force", "--wait", "1")}
+
+    def examples_of(self, command):
+        """As the command prompt takes them: one to a line, or to several of which each but the last ends in a caret."""
+        text = self.expect(DONE, command, "--help").partition("Examples:\n\n")[2].partition("\n\n")[0]
+        return text.replace("^\n", "").splitlines()
 
     def test_what_follows_two_hyphens_is_a_file(self):
         self.write("--json", card())
