@@ -46,7 +46,7 @@ BAD_FILES = {
     "no number": (card().replace("j:ActivityID", "j:Other"),
                   "The incident card lacks the incident number (card:LejisIndexUid/j:ActivityID/j:ID)."),
     "bad birth date": (card().replace("</lejis:", PERSON.format("1990-02-30") + "</lejis:"),
-                       "Line 19: j:PersonBirthDate '1990-02-30' cannot be read: it is no date."),
+                       "Line 19: j:PersonBirthDate '1990-02-30' cannot be read: it is not a date."),
     "huge street number": (card().replace("<j:LocationPostal", STREET + "<j:LocationPostal"),
                            "Line 14: j:StreetNumberText '99999999999' cannot be read: it is too large a number."),
     "no agency": (card().replace("Submitter.Org", "Org"),

@@ -116,13 +116,13 @@ UNREAD = {
 BAD_VALUES = {
     "a date of the incident": (
         with_elements("<j:ActivityDate>yesterday</j:ActivityDate>"),
-        "Line 16: j:ActivityDate 'yesterday' is not read: it is no date."),
+        "Line 16: j:ActivityDate 'yesterday' is not read: it is not a date."),
     "a time of the incident": (
         with_elements("<j:ActivityDate>2024-03-09</j:ActivityDate>", "<j:ActivityTime>25:00</j:ActivityTime>"),
-        "Line 16: j:ActivityDate '2024-03-09' and j:ActivityTime '25:00' are not read: they are no date and time."),
+        "Line 16: j:ActivityDate '2024-03-09' and j:ActivityTime '25:00' are not read: they are not a date and a time."),
     "a time alone": (
         with_elements("<j:ActivityTime>noon</j:ActivityTime>"),
-        "Line 16: j:ActivityTime 'noon' is not read: it is no time."),
+        "Line 16: j:ActivityTime 'noon' is not read: it is not a time."),
     "a time without its date": (
         with_elements("<j:ActivityTime>22:40:00</j:ActivityTime>"),
         "Line 16: j:ActivityTime '22:40:00' is read as a time of 1899-12-30: there is no date."),
@@ -131,7 +131,7 @@ BAD_VALUES = {
         "Line 17: ext:CautionIndicatorFlag 'yes' is not read: it is neither true nor false."),
     "a height": (
         person("<j:PersonHeightMeasure>5 ft 10</j:PersonHeightMeasure>"),
-        "Line 17: j:PersonHeightMeasure '5 ft 10' is not read: it is no number."),
+        "Line 17: j:PersonHeightMeasure '5 ft 10' is not read: it is not a number."),
     "a height out of range": (
         person("<j:PersonHeightMeasure>99999</j:PersonHeightMeasure>"),
         "Line 17: j:PersonHeightMeasure '99999' is read as 0."),
@@ -140,13 +140,13 @@ BAD_VALUES = {
         "Line 17: j:PersonWeightMeasure '150.5' is read as 150."),
     "a year": (
         vehicle("<j:VehicleModelYearDate>2004-01</j:VehicleModelYearDate>"),
-        "Line 17: j:VehicleModelYearDate '2004-01' is not read: it is no year."),
+        "Line 17: j:VehicleModelYearDate '2004-01' is not read: it is not a year."),
     "a year out of range": (
         vehicle("<j:VehicleModelYearDate>40000</j:VehicleModelYearDate>"),
-        "Line 17: j:VehicleModelYearDate '40000' is not read: it is no year."),
+        "Line 17: j:VehicleModelYearDate '40000' is not read: it is not a year."),
     "a house number": (
         place("<j:LocationStreet>", "<j:StreetNumberText>12A</j:StreetNumberText>", "</j:LocationStreet>"),
-        "Line 18: j:StreetNumberText '12A' is not read: it is no number."),
+        "Line 18: j:StreetNumberText '12A' is not read: it is not a number."),
     "a license without its state": (
         person("<j:PersonDriverLicenseID><j:ID>90214467</j:ID></j:PersonDriverLicenseID>"),
         "Line 17: j:PersonDriverLicenseID/j:ID '90214467' is not sent without "
@@ -158,14 +158,14 @@ BAD_VALUES = {
         "j:VehicleLicensePlateID/j:ID."),
     "a long value on several lines": (
         vehicle("<j:VehicleModelYearDate>\n" + "two thousand\nand four " * 9 + "</j:VehicleModelYearDate>"),
-        f"Line 17: j:VehicleModelYearDate '{('two thousand and four ' * 9)[:60]}\u2026' is not read: it is no year."),
+        f"Line 17: j:VehicleModelYearDate '{('two thousand and four ' * 9)[:60]}\u2026' is not read: it is not a year."),
 }
 
 # The card would be cut off there.
 FATAL_VALUES = {
     "a birth date": (
         person("<j:PersonBirthDate>1990-02-30</j:PersonBirthDate>"),
-        "Line 17: j:PersonBirthDate '1990-02-30' cannot be read: it is no date."),
+        "Line 17: j:PersonBirthDate '1990-02-30' cannot be read: it is not a date."),
     "an empty birth date": (
         person("<j:PersonBirthDate/>"),
         "Line 17: j:PersonBirthDate '' cannot be read: it is empty, and not left out."),
@@ -231,7 +231,7 @@ class LossTest(LejisCase):
         self.write("a.xml", card().replace("2024-03-11<", "2024-02-30<"))
         self.assertEqual(self.expect(REFUSED, "check", "a.xml"),
                          "a.xml  refused: 1 error, 1 warning\n  ! Submission date is missing.\n"
-                         "  \u2022 Line 9: j:SubmissionSubmittedDate '2024-02-30' is not read: it is no date.\n")
+                         "  \u2022 Line 9: j:SubmissionSubmittedDate '2024-02-30' is not read: it is not a date.\n")
 
     def test_values_that_would_cut_off_a_card_make_a_file_unreadable(self):
         found = self.found_in({case: content for case, (content, _) in FATAL_VALUES.items()}, REFUSED)
@@ -245,7 +245,7 @@ class LossTest(LejisCase):
         self.assertEqual(self.expect(REFUSED, "check", "a.xml"),
                          "a.xml  unreadable\n"
                          "  ! Line 17: j:PersonBirthDate '' cannot be read: it is empty, and not left out.\n"
-                         "    Line 19: j:PersonBirthDate 'x' cannot be read: it is no date.\n")
+                         "    Line 19: j:PersonBirthDate 'x' cannot be read: it is not a date.\n")
 
     def test_what_the_library_reads_is_not_named(self):
         for case, found in self.found_in(NOTHING_LOST).items():

@@ -76,10 +76,10 @@ which its start tag ends. The rest of the incident is submitted.
 | `The attribute lang of j:PersonSurName is not read.` | only the units of a person's measures are attributes |
 | `The text 'DOE' in j:Residence is not read.` | a text stands where elements are expected |
 | `j:PersonGivenName is not read: it stands in j:PersonSurName, and its text is taken for a part of that.` | an element stands where a value is expected |
-| `j:VehicleModelYearDate '40000' is not read: it is no year.` | the value is of another kind, and nothing is known then |
+| `j:VehicleModelYearDate '40000' is not read: it is not a year.` | the value is of another kind, and nothing is known then |
 | `j:VehicleLicensePlateID/j:ID 'ABC1234' is not sent without j:VehicleLicensePlateID/j:IDJurisdictionCode.ncicLSTA.` | a number is sent only with its state, and a state only with its number |
 | `j:PersonWeightMeasure '150.5' is read as 150.` | the library keeps another number |
-| `j:PersonBirthDate '1990-02-30' cannot be read: it is no date.` | an error: the library would not read what follows in this card, so the file is not submitted |
+| `j:PersonBirthDate '1990-02-30' cannot be read: it is not a date.` | an error: the library would not read what follows in this card, so the file is not submitted |
 
 ## Schemas
 

@@ -13,15 +13,15 @@ std::optional<Loss> ActivityTime::FindLoss() const {
     if (date_.value.empty() && time_.value.empty()) return std::nullopt;
     if (time_.value.empty()) {
         if (platform::ParseDate(date_.value)) return std::nullopt;
-        return Loss{date_.line, date_.Text() + L" is not read: it is no date."};
+        return Loss{date_.line, date_.Text() + L" is not read: it is not a date."};
     }
     if (date_.value.empty()) {
         const bool isRead = platform::ParseDate(time_.value).has_value();
         return Loss{time_.line, time_.Text() + (isRead ? L" is read as a time of 1899-12-30: there is no date."
-                                                       : L" is not read: it is no time.")};
+                                                       : L" is not read: it is not a time.")};
     }
     if (platform::ParseDate(date_.value + L' ' + time_.value)) return std::nullopt;
-    return Loss{date_.line, date_.Text() + L" and " + time_.Text() + L" are not read: they are no date and time."};
+    return Loss{date_.line, date_.Text() + L" and " + time_.Text() + L" are not read: they are not a date and a time."};
 }
 
 std::wstring ActivityTime::Half::Text() const { return std::wstring(name) + L' ' + Quoted(value); }

@@ -1,5 +1,6 @@
 #include "files/UnreadName.h"
 
+#include "text/Layout.h"
 #include "text/NearestName.h"
 
 namespace lejis_client {
@@ -8,14 +9,10 @@ namespace {
 // More places than these tell nothing.
 constexpr std::size_t kMostPlaces = 3;
 
-// "a, b and c".
-std::wstring Enumerated(const std::vector<const FormatNode*>& nodes) {
-    std::wstring text;
-    for (std::size_t place = 0; place < nodes.size(); ++place) {
-        if (place > 0) text += place + 1 == nodes.size() ? L" and " : L", ";
-        text += nodes[place]->name.qualified;
-    }
-    return text;
+std::wstring NamesOf(const std::vector<const FormatNode*>& nodes) {
+    std::vector<std::wstring_view> names;
+    for (const FormatNode* node : nodes) names.push_back(node->name.qualified);
+    return Enumerated(names);
 }
 
 const FormatNode* NearestOf(const WrittenName& name, const std::vector<const FormatNode*>& expected) {
@@ -30,7 +27,7 @@ const FormatNode* NearestOf(const WrittenName& name, const std::vector<const For
 std::wstring WhyUnread(const WrittenName& name, const std::vector<const FormatNode*>& expected) {
     const auto parents = ParentsOf(name.space, name.local);
     if (parents.size() > kMostPlaces) return L" is not read here.";
-    if (!parents.empty()) return L" is not read here, only in " + Enumerated(parents) + L".";
+    if (!parents.empty()) return L" is not read here, only in " + NamesOf(parents) + L".";
     const FormatNode* const nearest = NearestOf(name, expected);
     if (!nearest) return L" is not read.";
     if (nearest->name.qualified == name.qualified) {

@@ -21,12 +21,12 @@ Fault ReadAs(double number, long kept) {
 
 Fault DateFault(std::wstring_view value) {
     if (value.empty() || platform::ParseDate(value)) return std::nullopt;
-    return NotRead(L"no date");
+    return NotRead(L"not a date");
 }
 
 Fault BirthDateFault(std::wstring_view value) {
     if (platform::ParseDate(value)) return std::nullopt;
-    return Fatal(value.empty() ? L"empty, and not left out" : L"no date");
+    return Fatal(value.empty() ? L"empty, and not left out" : L"not a date");
 }
 
 Fault FlagFault(std::wstring_view value) {
@@ -36,7 +36,7 @@ Fault FlagFault(std::wstring_view value) {
 
 Fault MeasureFault(std::wstring_view value) {
     const auto number = platform::ParseNumber(value);
-    if (!number) return value.empty() ? Fault() : NotRead(L"no number");
+    if (!number) return value.empty() ? Fault() : NotRead(L"not a number");
     // A holder keeps a number that is out of its range as 0.
     return ReadAs(*number, platform::RoundTo<short>(_variant_t(*number)).value_or(0));
 }
@@ -44,13 +44,13 @@ Fault MeasureFault(std::wstring_view value) {
 Fault YearFault(std::wstring_view value) {
     if (value.empty()) return std::nullopt;
     const auto year = platform::ParseShort(value);
-    if (!year) return NotRead(L"no year");
+    if (!year) return NotRead(L"not a year");
     return ReadAs(platform::ParseNumber(value).value_or(*year), *year);
 }
 
 Fault StreetNumberFault(std::wstring_view value) {
     const auto number = platform::ParseNumber(value);
-    if (!number) return value.empty() ? Fault() : NotRead(L"no number");
+    if (!number) return value.empty() ? Fault() : NotRead(L"not a number");
     try {
         return ReadAs(*number, platform::ParseLong(value));
     } catch (const platform::ComError&) {
