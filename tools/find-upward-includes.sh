@@ -42,6 +42,7 @@ awk -F: '
 
 # "ONE OTHER" without their extensions, for the includes; a loop is told line by line.
 pairs=$(awk -F: 'NF { sub(/\.[a-z]+$/, "", $1); sub(/\.[a-z]+$/, "", $3); if ($1 != $3) print $1, $3 }' <<<"$includes")
+# tsort fails where it finds a loop; what it says is judged below.
 circles=$(tsort <<<"$pairs" 2>&1 >/dev/null) || true
 if [[ -n $circles ]]; then
   sed -e 's|^.*contains a loop:$|These include each other in a circle:|' -e 's|^tsort: |  |' <<<"$circles"
