@@ -1,6 +1,7 @@
 #include "support/OwnTimer.h"
 
 #include "support/ComCheck.h"
+#include "support/TestFile.h"
 
 #include <oleauto.h>
 #include <olectl.h>
@@ -223,7 +224,8 @@ STDMETHODIMP OwnTimer::Unadvise(DWORD cookie) {
 OwnTimerClass::OwnTimerClass(TimerKind kind) : kind_(kind) {
     wchar_t classId[40];
     const DWORD bytes = static_cast<DWORD>(2 * (StringFromGUID2(kClass, classId, ARRAYSIZE(classId))));
-    EXPECT_OK(LoadTypeLibEx(L"" OWN_TIMER_LIBRARY, REGKIND_NONE, library_.GetAddressOf()));
+    const std::wstring library = TestFile(L"OwnTimer.tlb", L"" OWN_TIMER_LIBRARY);
+    EXPECT_OK(LoadTypeLibEx(library.c_str(), REGKIND_NONE, library_.GetAddressOf()));
     EXPECT_EQ(ERROR_SUCCESS, RegSetKeyValueW(HKEY_CLASSES_ROOT, (std::wstring(kProgId) + L"\\CLSID").c_str(), nullptr,
                                              REG_SZ, classId, bytes));
     EXPECT_OK(CoRegisterClassObject(kClass, this, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &cookie_));
