@@ -1,0 +1,26 @@
+#include "kit/Ticks.h"
+
+#include <windows.h>
+
+namespace kit_tests {
+namespace {
+
+constexpr UINT kIntervalInMilliseconds = 50;
+
+int ticks = 0;
+UINT_PTR timer = 0;
+
+void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) { ++ticks; }
+
+}  // namespace
+
+Ticks::Ticks() {
+    ticks = 0;
+    timer = SetTimer(nullptr, 0, kIntervalInMilliseconds, Tick);
+}
+
+Ticks::~Ticks() { KillTimer(nullptr, timer); }
+
+int Ticks::Seen() const { return ticks; }
+
+}  // namespace kit_tests
