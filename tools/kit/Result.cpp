@@ -1,0 +1,7 @@
+#include "Result.h"
+
+namespace kit {
+
+Result NotRun(std::string reason) { return {kNotRun, std::move(reason)}; }
+
+}  // namespace kit
