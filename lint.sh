@@ -1,7 +1,7 @@
 #!/bin/bash
 # lint.sh
 # What can be seen without running anything: the layout of the C++ sources (clang-format), mistakes in the library and
-# its command-line client (cppcheck; its exceptions stand in tools/cppcheck-exceptions.txt; no thread_local, which is
+# its programs (cppcheck; its exceptions stand in tools/cppcheck-exceptions.txt; no thread_local, which is
 # destroyed wrongly; in the client no include that looks up its floors) and in the scripts (shellcheck). The compiler's
 # own warnings are errors in every build.
 set -euo pipefail
@@ -38,7 +38,7 @@ cppcheck_options=(
 )
 
 check clang-format clang-format --dry-run --Werror "${sources[@]}"
-check cppcheck cppcheck "${cppcheck_options[@]}" -I "$core" "$core" tools/lejis
+check cppcheck cppcheck "${cppcheck_options[@]}" -I "$core" "$core" tools/lejis tools/kit
 check thread_local tools/find-thread-locals.sh "${shipped[@]}"
 check floors tools/find-upward-includes.sh tools/lejis "${client_floors[@]}"
 check shellcheck shellcheck --external-sources "${scripts[@]}"

@@ -1,10 +1,11 @@
 #!/bin/bash
-# package.sh [--lejis-host HOST] [--sign CERT KEY [--timestamp URL]] [x86|x64|all]
+# package.sh [--lejis-host HOST] [--sign CERT KEY [--timestamp URL]] [--kit] [x86|x64|all]
 # Builds the library and makes its packages in build/packages: for each bitness a zip, a zip of the debug symbols and an
 # installer (MSI); a zip of the simulator, and SHA256SUMS. HOST is the host in the namespaces of the LEJIS that they are
 # made for, and stands in the packages' names; without it they are made for lejis.example, which stands for none.
 # --sign: the DLLs, programs and installers are signed with this certificate (a file with its chain, PEM) and key (PEM);
 # URL is the time-stamping service without which a signature ends with its certificate.
+# --kit: also the zip that tries the library on Windows, with its tests. It is for lejis.example, as the simulator is.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
@@ -13,6 +14,7 @@ source "$project/tools/wine-environment.sh"
 
 signing=()
 selection=all
+with_kit=no
 
 # Paths are given as seen from where the script was started.
 readable_file() {
@@ -35,6 +37,7 @@ read_arguments() {
         signing+=(--timestamp "$2")
         shift
         ;;
+      --kit) with_kit=yes ;;
       -*) wrong_usage "unknown option $1" ;;
       *) selection=$1 ;;
     esac
@@ -45,6 +48,7 @@ read_arguments() {
 
 take_lejis_host "$@"
 read_arguments "${arguments[@]}"
+[[ $with_kit == no || -z $lejis_host ]] || wrong_usage "the kit is tried with the simulator, which is for no LEJIS host"
 architectures=$(architectures_of "$selection")
 build=("$project/build.sh" ${lejis_host:+--lejis-host "$lejis_host"})
 packages=$project/build/packages
@@ -69,12 +73,15 @@ describe() {
   rm "$description.new"
 }
 
+programs=(TVLejisCore lejis)
+[[ $with_kit == no ]] || programs+=(kit unit_tests client_tests end_to_end_tests windows_tests)
+
 clean_up_with stop_wine
 lock_checkout
 run "$project/tools/setup.sh"
 run "${build[@]}" "$reader" describe_type_library
 for architecture in $architectures; do
-  run "${build[@]}" "$architecture" TVLejisCore lejis
+  run "${build[@]}" "$architecture" "${programs[@]}"
 done
 start_wine
 for architecture in $architectures; do
@@ -83,6 +90,13 @@ for architecture in $architectures; do
     "$(description_of "$architecture")" "$packages"
 done
 run /usr/bin/python3 "$project/tools/packaging/simulator_package.py" "$architecture" "$packages"
+if [[ $with_kit == yes ]]; then
+  # shellcheck disable=SC2086  # one argument each
+  run /usr/bin/python3 "$project/tools/packaging/kit_package.py" "$packages" $architectures
+else
+  # One of earlier programs would pass for theirs.
+  rm -f "$packages"/TVLejisCore-*-kit.zip
+fi
 cd "$packages"
 sha256sum -- *.zip *.msi >SHA256SUMS
 say "Packages in build/packages:"
