@@ -6,6 +6,7 @@
 #include "Machine.h"
 #include "Page.h"
 #include "Report.h"
+#include "Simulator.h"
 #include "text/UtcTime.h"
 #include "text/Utf8.h"
 
@@ -69,6 +70,7 @@ void Prepare(const Settings& settings) {
 
 int Check(const Settings& settings) {
     RequireFreeMachine();
+    if (!settings.simulator.empty()) RequireSimulator(settings.simulator);
     Prepare(settings);
     const std::string started = lejis_client::UtcNow();
     const std::vector<Trial> trials = TryAll(settings, SayTrial);
