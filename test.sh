@@ -109,7 +109,7 @@ mkdir -p "$LEJIS_TEST_RESULTS"
 [[ -n $LEJIS_TEST_FILTER ]] || setup_options=(--browser "${setup_options[@]}")
 run "$project/tools/setup.sh" "${setup_options[@]}"
 run "$project/build.sh" "$selection"
-[[ $is_whole == no ]] || run "$project/package.sh" "$selection"
+[[ $is_whole == no ]] || run "$project/package.sh" --kit "$selection"
 
 architectures=$(tested_architectures)
 make_launcher

@@ -40,9 +40,9 @@ class Run(NamedTuple):
     output: str
 
 
-def run(*command, folder=None):
+def run(*command, folder=None, seconds=TIME_LIMIT):
     process = subprocess.run([RUNNER, *map(str, command)], cwd=folder or DISK, stdin=subprocess.DEVNULL,
-                             stdout=subprocess.PIPE, timeout=TIME_LIMIT, check=False)
+                             stdout=subprocess.PIPE, timeout=seconds, check=False)
     return Run(process.returncode, process.stdout.decode("utf-8", "replace").replace("\r\n", "\n"))
 
 
