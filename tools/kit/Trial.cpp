@@ -24,6 +24,7 @@ public:
     void RunAll() {
         const std::vector<Run> runs = ReadRuns(settings_, bits_);
         if (bits_ == L"x64" && !HasBothBitnesses()) return LeaveOut(runs, "this Windows runs no 64-bit programs");
+        StartScriptHostOnce();
         const RegistryPicture before = TakePicture();
         if (!Register(L"register", L"")) return LeaveOut(runs, "the library could not be registered");
         const RegistryPicture registered = TakePicture();
@@ -34,6 +35,13 @@ public:
     }
 
 private:
+    // Wine's registers a type library of its own when it first starts, which is no doing of the library's.
+    void StartScriptHostOnce() const {
+        const std::wstring commandLine = L"\"" + SystemFolder(bits_) + L"\\cscript.exe\" //nologo \"" +
+                                         settings_.folder + L"\\scripts\\windows\\empty.vbs\"";
+        RunProgram(commandLine, settings_.results + L"\\" + bits_ + L" script host.txt", kRegistrationSeconds);
+    }
+
     void Add(const Run& run, Result result) {
         trials_.push_back({run, std::move(result)});
         tell_(trials_.back());

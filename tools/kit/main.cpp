@@ -57,8 +57,10 @@ void RequireFreeMachine() {
     }
     const std::wstring registered = RegisteredLibrary();
     if (registered.empty()) return;
-    throw std::runtime_error("TVLejisCore is registered on this machine (" + lejis_client::Utf8(registered) +
-                             "). Uninstall it first: the kit registers its own.");
+    throw std::runtime_error(
+        "TVLejisCore is registered on this machine (" + lejis_client::Utf8(registered) +
+        "). Uninstall it first: the kit registers its own. What a check that was broken off has left is taken "
+        "out by regsvr32 /u and that path.");
 }
 
 void Prepare(const Settings& settings) {

@@ -38,7 +38,7 @@ def programs(architecture):
 
 def scripts():
     files = {f"scripts/{path.name}": text(path) for path in sorted(SCRIPTS.glob("*.vbs"))}
-    return files | {"scripts/windows/events.vbs": text(FOLDER / "events.vbs")}
+    return files | {f"scripts/windows/{path.name}": text(path) for path in sorted(FOLDER.glob("*.vbs"))}
 
 
 def samples():
