@@ -18,6 +18,7 @@ SIMULATOR = os.environ["LEJIS_SIMULATOR_URL"]
 # Wine takes one schema's reference to another as relative to the current folder.
 SCHEMAS = Path(os.environ["LEJIS_SIMULATOR_DATA"], "schemas")
 LONGEST_CHECK = 3600
+MOST_STARTS = 3
 ARCHITECTURE = ARCHITECTURES[-1]
 ALIEN = r"HKLM\Software\Classes\CLSID\{C1B6C0F4-9E44-4B5D-8D5B-6C0A5F3B7E01}"
 
@@ -31,8 +32,16 @@ class KitCase(PackageCase):
         self.kit, = folder.iterdir()
 
     def check(self, *arguments):
-        return machine.run("cmd", "/c", machine.windows_path(self.kit / "check.cmd"), *arguments, folder=SCHEMAS,
-                           seconds=LONGEST_CHECK)
+        """What check.cmd does: a start by Wine's cmd that fails on a busy machine is not repeated."""
+        return machine.run(machine.windows_path(self.kit / "kit.exe"), *arguments, folder=SCHEMAS, seconds=LONGEST_CHECK)
+
+    def check_by_script(self, *arguments):
+        for _ in range(MOST_STARTS):
+            run = machine.run("cmd", "/c", machine.windows_path(self.kit / "check.cmd"), *arguments, folder=SCHEMAS,
+                              seconds=LONGEST_CHECK)
+            if (self.kit / "results").exists():
+                break
+        return run
 
     def keep(self, architecture):
         """Leaves the kit with the programs of one bitness."""
@@ -224,7 +233,7 @@ class RefusalTest(KitCase):
         self.assertFalse((self.kit / "report.json").exists())
 
     def test_runs_can_be_chosen_by_the_beginnings_of_their_names(self):
-        run = self.check("--only", "Cards")
+        run = self.check_by_script("--only", "Cards")
         self.assertEqual(run.code, 0, (run, self.page()))
         carried_out = {name for name, run in self.runs().items() if run["status"] != "not run"}
         self.assertEqual(carried_out, {"register", "Cards.vbs", "registered", "unregister", "registry"})
