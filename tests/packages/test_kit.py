@@ -33,7 +33,8 @@ class KitCase(PackageCase):
 
     def check(self, *arguments):
         """What check.cmd does: a start by Wine's cmd that fails on a busy machine is not repeated."""
-        return machine.run(machine.windows_path(self.kit / "kit.exe"), *arguments, folder=SCHEMAS, seconds=LONGEST_CHECK)
+        program = machine.windows_path(self.kit / "kit.exe")
+        return machine.run(program, *arguments, folder=SCHEMAS, seconds=LONGEST_CHECK)
 
     def check_by_script(self, *arguments):
         for _ in range(MOST_STARTS):
