@@ -4,17 +4,19 @@
 
 # Its program `wine`. The one in tools/wine, which stands first on the scripts' PATH, is not meant.
 chosen_wine() {
-  local own=${BASH_SOURCE[0]%/*}/wine/wine place
+  local own=${BASH_SOURCE[0]%/*}/wine/wine place places
   if [[ -n ${WINE:-} ]]; then
     type -P "$WINE"
     return
   fi
-  while read -r place; do
+  # All of them first: `type` would complain of a reader that goes away before the last one.
+  mapfile -t places < <(type -aP wine)
+  for place in "${places[@]}"; do
     if ! [[ $place -ef $own ]]; then
       printf '%s\n' "$place"
       return
     fi
-  done < <(type -aP wine)
+  done
   return 1
 }
 
