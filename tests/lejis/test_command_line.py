@@ -35,7 +35,7 @@ WRONG = [
     (("show", "x.xml", "y.xml"), "unexpected argument y.xml", "lejis show --help"),
     (("ledger",), "no file given", "lejis ledger --help"),
     (("ledger", "x", "y"), "unexpected argument y", "lejis ledger --help"),
-    (("submit", "x.xml", "--url", "u", "--jobs", "33"), "--jobs: '33' is no whole number from 1 to 32",
+    (("submit", "x.xml", "--url", "u", "--jobs", "33"), "--jobs: '33' is not a whole number from 1 to 32",
      "lejis submit --help"),
     (("help", "sumbit"), "unknown command sumbit; did you mean submit?", "lejis --help"),
     (("submit", "x.xml"), "--url is missing", "lejis submit --help"),
@@ -55,7 +55,7 @@ WRONG = [
      "lejis delete --help"),
     ((*NAMED, "--url", "u"), "--submitted is missing", "lejis delete --help"),
     ((*NAMED, "--submitted", "2024-03-09"), "--url is missing", "lejis delete --help"),
-    *(((*NAMED, "--submitted", day, "--url", "u"), f"--submitted: '{day}' is no day; write it as in 2024-03-09",
+    *(((*NAMED, "--submitted", day, "--url", "u"), f"--submitted: '{day}' is not a day; write it as in 2024-03-09",
        "lejis delete --help") for day in NO_DAYS),
 ]
 

@@ -91,7 +91,7 @@ class DoctorTest(DoctorCase):
         for limit in ("0", "3601", "soon", ""):
             run = self.lejis("doctor", "--timeout", limit)
             self.assertEqual((run.code, run.complaint.splitlines()[0]),
-                             (WRONG_USAGE, f"lejis: --timeout: '{limit}' is no whole number from 1 to 3600"))
+                             (WRONG_USAGE, f"lejis: --timeout: '{limit}' is not a whole number from 1 to 3600"))
 
 
 if __name__ == "__main__":

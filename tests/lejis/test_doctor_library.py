@@ -28,7 +28,7 @@ class OwnRegistrationTest(DoctorCase):
     def test_a_library_of_the_other_bitness(self):
         turn_into_other_bitness(register_copy(self))
         self.expect_failure(self.findings(REFUSED), OWN,
-                            f"^registered is a {OTHER_BITS}-bit library, which no {BITS}-bit program can load: Z:")
+                            f"^the registered library is a {OTHER_BITS}-bit one, which no {BITS}-bit program can load: Z:")
 
     def test_every_class_can_be_created(self):
         health, text = self.findings(DONE)[OWN_CLASSES]
@@ -69,7 +69,7 @@ class OtherRegistrationTest(DoctorCase):
     def test_a_library_of_this_bitness(self):
         self.register_in_other_view(windows_path(BUILT))
         self.expect_failure(self.findings(REFUSED), OTHER,
-                            f"^registered is a {BITS}-bit library, which no {OTHER_BITS}-bit program can load: Z:")
+                            f"^the registered library is a {BITS}-bit one, which no {OTHER_BITS}-bit program can load: Z:")
 
     def test_a_file_that_is_gone(self):
         self.register_in_other_view(r"C:\nowhere\TVLejisCore.dll")

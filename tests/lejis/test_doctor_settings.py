@@ -82,7 +82,7 @@ class EnvironmentTest(DoctorCase):
 
     def test_each_that_is_set_is_told_with_its_value_and_used(self):
         found = self.findings(TRY_AGAIN, environment={"LEJIS_SEARCH_URL": self.ADDRESS, "LEJIS_USER": "jdoe"})
-        self.assertEqual(found["LEJIS_SEARCH_URL"], ("ok", f"{self.ADDRESS} (used, for --search-url is not given)"))
+        self.assertEqual(found["LEJIS_SEARCH_URL"], ("ok", f"{self.ADDRESS} (used because --search-url is not given)"))
         self.assertEqual(found["LEJIS_USER"], ("ok", "jdoe (not for the doctor; other commands use it where --user is "
                                                      "not given)"))
         self.assertEqual(found["Environment"], ("ok", "LEJIS_URL is not set"))
@@ -90,7 +90,7 @@ class EnvironmentTest(DoctorCase):
 
     def test_an_option_wins_and_the_variable_is_told_not_to_count(self):
         found = self.findings(TRY_AGAIN, "--url", self.ADDRESS, environment={"LEJIS_URL": "nonsense"})
-        self.assertEqual(found["LEJIS_URL"], ("ok", "nonsense (not used, for --url is given)"))
+        self.assertEqual(found["LEJIS_URL"], ("ok", "nonsense (not used because --url is given)"))
         self.assertIn("takes no connection", found["Submission server"][1])
         all_set = self.findings(REFUSED, environment=dict.fromkeys(VARIABLES, "nonsense"))
         self.assertIn("'nonsense' is no address", all_set["Submission server"][1])

@@ -15,7 +15,7 @@ AGAIN = "    Trying again later can help; the search is not at fault.\n"
 IN_VAIN = "    Trying again does not help until this is put right.\n"
 
 GIVEN = ("--zip", "17098", "--user", USER, "--url", "u")
-NUMBER = "is no whole number from"
+NUMBER = "is not a whole number from"
 WRONG = [
     (("--zip", "1", "--url", "u"), "--user is missing"),
     (("--zip", "1", "--user", USER), "--url is missing"),
@@ -26,7 +26,7 @@ WRONG = [
     ((*GIVEN, "--xml=yes"), "--xml takes no value"),
     ((*GIVEN, "--surname"), "--surname needs a value"),
     ((*GIVEN, "--surname", "--given"), "--surname needs a value"),
-    ((*GIVEN, "--dob", "2024-02-30"), "--dob: '2024-02-30' is no day; write it as in 2024-03-09"),
+    ((*GIVEN, "--dob", "2024-02-30"), "--dob: '2024-02-30' is not a day; write it as in 2024-03-09"),
     *(((*GIVEN, option, value), f"{option}: '{value}' {NUMBER} 0 to 32767")
       for option in ("--height", "--weight", "--vehicle-year") for value in ("-1", "32768", "5'9", "")),
     *(((*GIVEN, "--max", value), f"--max: '{value}' {NUMBER} 1 to 2147483647") for value in ("0", "2147483648", "all")),

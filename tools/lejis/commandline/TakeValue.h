@@ -44,7 +44,7 @@ std::wstring WithNumber(const std::wstring& value, long least, long most, Store 
     const auto number = ParseNumber(value, least, most);
     if (number) store(*number);
     return number ? L""
-                  : L"'" + value + L"' is no whole number from " + std::to_wstring(least) + L" to " +
+                  : L"'" + value + L"' is not a whole number from " + std::to_wstring(least) + L" to " +
                         std::to_wstring(most);
 }
 
@@ -52,7 +52,7 @@ template <typename Store>
 std::wstring WithDay(const std::wstring& value, Store store) {
     const auto day = ParseDay(value);
     if (day) store(*day);
-    return day ? L"" : L"'" + value + L"' is no day; write it as in 2024-03-09";
+    return day ? L"" : L"'" + value + L"' is not a day; write it as in 2024-03-09";
 }
 
 template <long least, long most, auto... path>

@@ -10,9 +10,9 @@ std::wstring UseOf(const Variable& variable) {
     const std::wstring option = variable.option;
     switch (variable.use) {
         case Variable::Use::kTaken:
-            return L"used, for " + option + L" is not given";
+            return L"used because " + option + L" is not given";
         case Variable::Use::kOverridden:
-            return L"not used, for " + option + L" is given";
+            return L"not used because " + option + L" is given";
         case Variable::Use::kByOthers:
             break;
     }

@@ -1,5 +1,7 @@
 #include "doctor/HostCheck.h"
 
+#include "text/Layout.h"
+
 #include <algorithm>
 
 namespace lejis_client {
@@ -23,11 +25,7 @@ void CollectHosts(const Texts& uris, Texts& hosts) {
     }
 }
 
-std::wstring Joined(const Texts& texts) {
-    std::wstring joined;
-    for (const std::wstring& text : texts) joined += (joined.empty() ? L"" : L" and ") + text;
-    return joined;
-}
+std::wstring Listed(const Texts& texts) { return Enumerated({texts.begin(), texts.end()}); }
 
 Finding OtherHost(const Service& service, const std::wstring& lejisHost, const std::wstring& hosts) {
     return {service.host, Health::kFailed,
@@ -45,12 +43,12 @@ Finding CheckHost(const Service& service, const ServiceDescription& description,
         return {service.host, Health::kWarning, L"the service's WSDL names no LEJIS host to compare the library's with",
                 L"See that the address is that of the LEJIS " + std::wstring(service.name) + L"."};
     }
-    if (hosts != Texts{lejisHost}) return OtherHost(service, lejisHost, Joined(hosts));
+    if (hosts != Texts{lejisHost}) return OtherHost(service, lejisHost, Listed(hosts));
     const std::wstring action = L"http://" + lejisHost + service.actionPath;
     const Texts& actions = description.soapActions;
     if (!actions.empty() && std::find(actions.begin(), actions.end(), action) == actions.end()) {
         return {service.host, Health::kFailed,
-                L"the library sends the SOAP action " + action + L", but the service's WSDL names " + Joined(actions),
+                L"the library sends the SOAP action " + action + L", but the service's WSDL names " + Listed(actions),
                 L"Ask for a library that is made for this version of LEJIS."};
     }
     return {service.host, Health::kOk, lejisHost + L", as the library's", {}};

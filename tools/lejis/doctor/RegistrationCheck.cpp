@@ -35,7 +35,7 @@ Finding CheckFile(Bitness bitness, const std::wstring& file) {
     const auto version = VersionOf(file);
     if (!found || !version) return Failed(bitness, L"registered, but this is no library: " + file);
     if (*found != bitness) {
-        return Failed(bitness, L"registered is a " + Bits(*found) + L" library, which no " + Bits(bitness) +
+        return Failed(bitness, L"the registered library is a " + Bits(*found) + L" one, which no " + Bits(bitness) +
                                    L" program can load: " + file);
     }
     const std::wstring host = LejisHostOf(file).value_or(L"");
