@@ -32,6 +32,10 @@ from windows_program import RUNNER  # noqa: E402
 
 DONE = 0
 MOST_RUNS = 40
+# Some incidents take so long.
+LONGEST_DELAY = 0.05
+# Some of so many come while an incident is between the index and the ledger.
+MANY_KILLS = 10
 TIME_LIMIT = 3600
 # Outcomes after which the index is as it was before.
 WITHOUT_TRACE = {"refused", "not sent"}
@@ -49,6 +53,7 @@ class Backlog:
     url: str
     runs: int = 0
     kills: int = 0
+    untold: int = 0
     faults: list[str] = field(default_factory=list)
 
     @property
@@ -67,13 +72,15 @@ class Backlog:
                    str(self.jobs), "--retry", "5", "--stop-after", "50", "--ledger", "night.ledger", "--json"]
         return subprocess.Popen(command, cwd=self.folder, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True)
 
-    def run_and_kill(self, lines: int) -> None:
-        """Kills it when it has told of so many incidents, or lets it end before."""
+    def run_and_kill(self, lines: int, delay: float) -> None:
+        """Kills it a while after it has told of so many incidents, or lets it end before."""
         with self.start() as process:
             for _, line in zip(range(lines), process.stdout):
                 if '"command"' in line:
                     break
             else:
+                # A result is told when the ledger has it. Some time later others are under way.
+                time.sleep(delay)
                 self.kills += kill(self.url)
             with contextlib.suppress(subprocess.TimeoutExpired):
                 process.wait(10)
@@ -105,6 +112,10 @@ class Backlog:
                 self.faults.append(f"{when}: {number} was submitted, says the ledger, and is not in the index")
             if is_first and outcomes <= WITHOUT_TRACE and number in held:
                 self.faults.append(f"{when}: {number} is in the index, and the ledger says {outcomes}")
+
+    def count_untold(self) -> None:
+        """The incidents that were killed between their arrival and the ledger's line."""
+        self.untold += len(set(self.server.held()) - {entry["number"] for entry in self.entries()})
 
     def judge_end(self) -> None:
         """All is there, and the ledger says so."""
@@ -145,11 +156,14 @@ def work_off(program: str, count: int, kills: int, jobs: int, seed: int, data: P
         backlog = Backlog(program, data / "work", count, jobs, server, url)
         backlog.write_incidents()
         for number in range(kills):
-            backlog.run_and_kill(draw.randrange(1, max(2, 2 * count // (kills + 1))))
+            backlog.run_and_kill(draw.randrange(1, max(2, 2 * count // (kills + 1))), draw.uniform(0, LONGEST_DELAY))
+            backlog.count_untold()
             backlog.judge(f"after kill {number + 1}", is_first=number == 0)
         while backlog.run_to_the_end() != DONE and backlog.runs < MOST_RUNS:
             backlog.judge(f"after run {backlog.runs}", is_first=kills == 0 and backlog.runs == 1)
         backlog.judge_end()
+        if kills >= MANY_KILLS and backlog.untold == 0:
+            backlog.faults.append("no kill came between the arrival of an incident and its line in the ledger")
     finally:
         server.close()
     return backlog

@@ -40,7 +40,8 @@ CODES = (
 )
 
 
-def _is_refusal(behaviour: Behaviour) -> bool:
+def is_refusal(behaviour: Behaviour) -> bool:
+    """Whether the server says no, so that it cannot have acted."""
     (outcome,) = behaviour.documented("submit", _WINE)[:1]
     return outcome.startswith("fatal: ") and not outcome.startswith("fatal: Internal error")
 
@@ -73,12 +74,12 @@ class Moods:
             behaviour = self._random.choice(FAULTS)
             acts = self._random.random() < 0.5
             self.played[behaviour.name] += 1
-        if acts and behaviour.play and not _is_refusal(behaviour):
-            return replace(behaviour, play=_acting(behaviour.play))
+        if acts and behaviour.play and not is_refusal(behaviour):
+            return replace(behaviour, play=acting(behaviour.play))
         return behaviour
 
 
-def _acting(play: Play) -> Play:
+def acting(play: Play) -> Play:
     """Acts on the request before it misbehaves."""
     def act(exchange: Exchange) -> None:
         answer = exchange.answer()
