@@ -113,7 +113,7 @@ class SettingsTest(LejisCase):
             for value in (str(least - 1), str(most + 1), "x", ""):
                 run = self.lejis("submit", "a.xml", "--url", "u", option, value)
                 self.assertEqual((run.code, run.complaint.splitlines()[0]),
-                                 (WRONG_USAGE, f"lejis: {option}: '{value}' is no whole number from {least} to {most}"))
+                                 (WRONG_USAGE, f"lejis: {option}: '{value}' is not a whole number from {least} to {most}"))
 
     def test_a_check_neither_retries_nor_has_a_ledger(self):
         for option in ("--retry", "--ledger", "--rate", "--timeout", "--stop-after"):
@@ -175,6 +175,15 @@ class WorkersTest(SimulatorCase):
                          [f" {number:02}.xml  submitted" for number in range(12)])
         self.assertEqual(lines[13], "12 files: 12 submitted.")
 
+    def test_a_quiet_run_tells_programs_only_what_did_not_go_through_or_has_warnings(self):
+        self.write_many(3)
+        self.write("bad.xml", "not XML")
+        self.write("warned.xml", card("2024-9", charge="9999"))
+        lines = [json.loads(line) for line in self.expect(
+            REFUSED, "submit", "*.xml", "--url", self.url, "--json", "-q").splitlines()]
+        self.assertEqual([line.get("name") for line in lines], ["bad.xml", "warned.xml", None])
+        self.assertEqual(lines[-1]["counts"]["done"], 4)
+
     def test_many_workers_check_as_one_does(self):
         self.write_many(20)
         alone = self.expect(DONE, "check", "*.xml", "--json").splitlines()
@@ -190,6 +199,23 @@ class RetryTest(SimulatorCase):
         self.play(kind="http-status", status=502, count=2)
         self.assertEqual(self.expect(DONE, "submit", "a.xml", "--url", self.url, "--retry", "2"), "a.xml  submitted\n")
         self.assertEqual((self.indexed(), len(self.exchanges())), (["2024-1"], 3))
+
+    def test_a_verbose_run_tells_why_each_try_failed_that_is_made_again(self):
+        self.write("a.xml", card("2024-1"))
+        self.play(kind="response-code", text="7 bad card")
+        output = self.expect(DONE, "submit", "a.xml", "--url", self.url, "--retry", "1", "-v")
+        self.assertEqual(output, "a.xml  try 1: unknown\n"
+                                 "  ! Unexpected error returned from LEJIS: 7 bad card\n"
+                                 "a.xml  submitted\n")
+
+    def test_a_verbose_run_tells_programs_each_failed_try_in_a_line_of_its_own(self):
+        self.write("a.xml", card("2024-1"))
+        self.play(kind="http-status", status=502)
+        lines = self.expect(DONE, "submit", "a.xml", "--url", self.url, "--retry", "1", "-v", "--json").splitlines()
+        failed, last, summary = map(json.loads, lines)
+        self.assertEqual([failed.get(member) for member in ("name", "try", "outcome", "number")],
+                         ["a.xml", 1, "unknown", "2024-1"])
+        self.assertEqual((last["outcome"], last.get("try"), summary["counts"]["done"]), ("submitted", None, 1))
 
     def test_no_more_often_than_asked_for(self):
         self.write("a.xml", card())

@@ -78,6 +78,19 @@ class TerminalTest(LejisCase):
         self.assertNotIn("[#", self.on_terminal("check", "large.xml", "burglary.xml"))
 
 
+class LedgerTest(SimulatorCase):
+    def test_what_an_earlier_run_has_done_makes_no_pace_of_the_bar(self):
+        for name in "abcde":
+            self.write(f"{name}.xml", card(f"2024-{name}"))
+        run = ("submit", "*.xml", "--url", self.url, "--ledger", "x.ledger", "--jobs", "1")
+        for pattern in (r"\d/s, ", r"5 files: 0 submitted, 5 submitted before\."):
+            shown, code = Terminal(self.folder, *run).end()
+            self.assertEqual(code, DONE, shown)
+            self.assertRegex(shown, pattern)
+        self.assertIn("[####", shown)
+        self.assertNotRegex(shown, r"\d/s, ")
+
+
 class InterruptionTest(SimulatorCase):
     """Four incidents, the first of which takes its time."""
 

@@ -13,6 +13,7 @@
 #include "files/FileError.h"
 #include "incidents/IncidentRun.h"
 #include "incidents/LedgerSummary.h"
+#include "library/Apartment.h"
 #include "library/Library.h"
 #include "library/LibraryError.h"
 #include "library/NotRegistered.h"
@@ -121,8 +122,6 @@ int ParseAndRun(const std::vector<std::wstring>& arguments) {
 
 int main() {
     lejis_client::EndOnInterruption();
-    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    const int exitCode = lejis_client::ParseAndRun(lejis_client::Arguments());
-    CoUninitialize();
-    return exitCode;
+    const lejis_client::Apartment apartment;
+    return lejis_client::ParseAndRun(lejis_client::Arguments());
 }

@@ -125,7 +125,7 @@ constexpr Option kOptions[] = {
     {L"--jobs", nullptr, L"N", kIncidentActions, kBacklog<&BacklogSettings::jobs, 1, 32>,
      L"work on N incidents at a time, up to 32; 1 if left out"},
     {L"--retry", nullptr, L"N", kSendingActions, kBacklog<&BacklogSettings::retries, 0, 100>,
-     L"try up to N times again what may pass, with growing pauses"},
+     L"try up to N times again, with growing pauses, what can end otherwise"},
     {L"--stop-after", nullptr, L"N", kSendingActions, kBacklog<&BacklogSettings::stopAfter, 1, 1000000>,
      L"stop when the network or the server has failed for N incidents in a row; 10 if left out"},
     {L"--rate", nullptr, L"N", kSendingActions, kBacklog<&BacklogSettings::rate, 1, 1000>,
@@ -142,7 +142,8 @@ constexpr Option kOptions[] = {
     // What is printed.
     {L"--quiet", L"-q", nullptr, kIncidentActions, kRunFlag<&Run::quiet>,
      L"tell only what did not go through, and warnings"},
-    {L"--verbose", L"-v", nullptr, kIncidentActions, kRunFlag<&Run::verbose>, L"tell every try"},
+    {L"--verbose", L"-v", nullptr, kIncidentActions, kRunFlag<&Run::verbose>,
+     L"tell also why each try failed that is made again"},
     {L"--xml", nullptr, nullptr, kSearchIndex, kSearchFlag<&SearchSettings::xml>,
      L"print the incident cards as one XML document"},
     {L"--csv", nullptr, nullptr, kSearchIndex, kSearchFlag<&SearchSettings::csv>,

@@ -1,4 +1,5 @@
-// What the program ends with; scripts rely on it.
+// What the program ends with; scripts rely on it. A run in which some incidents are refused and others are to be tried
+// again ends with the bits of both, 3.
 #pragma once
 
 namespace lejis_client {
@@ -9,8 +10,6 @@ enum ExitCode {
     kExitRefused = 1,
     // To be tried again, or nobody knows.
     kExitTryAgain = 2,
-    // Both of these in one run.
-    kExitRefusedAndTryAgain = kExitRefused | kExitTryAgain,
     kExitUsage = 64,
     // What shells make of a program that Ctrl-C has ended.
     kExitInterrupted = 130,

@@ -1,6 +1,7 @@
 #include "console/Progress.h"
 
 #include "console/Console.h"
+#include "text/Duration.h"
 #include "text/Layout.h"
 
 #include <algorithm>
@@ -13,19 +14,18 @@ namespace {
 constexpr std::size_t kFew = 3;
 constexpr std::size_t kConsoleWidth = 79;
 constexpr std::size_t kBarWidth = 20;
-constexpr double kSecond = 1000;
 
 std::wstring Bar(std::size_t done, std::size_t total) {
     const std::size_t full = kBarWidth * done / total;
     return L"[" + std::wstring(full, L'#') + std::wstring(kBarWidth - full, L'.') + L"]";
 }
 
-std::wstring Pace(std::size_t done, std::size_t total, ULONGLONG milliseconds) {
-    if (done == 0 || milliseconds == 0) return {};
-    const double rate = static_cast<double>(done) * kSecond / static_cast<double>(milliseconds);
-    const auto left = static_cast<unsigned>(static_cast<double>(total - done) / rate + 0.5);
+std::wstring Pace(std::size_t tried, std::size_t left, ULONGLONG milliseconds) {
+    if (tried == 0 || milliseconds == 0) return {};
+    const double rate = static_cast<double>(tried) / Seconds(milliseconds);
+    const auto seconds = static_cast<unsigned>(static_cast<double>(left) / rate + 0.5);
     wchar_t text[60];
-    std::swprintf(text, std::size(text), L"  %.1f/s, %u:%02u left", rate, left / 60, left % 60);
+    std::swprintf(text, std::size(text), L"  %.1f/s, %u:%02u left", rate, seconds / 60, seconds % 60);
     return text;
 }
 
@@ -42,12 +42,17 @@ void Progress::Begin(const std::wstring& name) {
 
 void Progress::Show() const {
     if (!HasBar()) return;
-    Console::Errors().Write(L"\r" + ProgressLine(done_, total_, GetTickCount64() - start_, name_));
+    Console::Errors().Write(L"\r" + ProgressLine(done_, tried_, total_, GetTickCount64() - start_, name_));
 }
 
-void Progress::End() {
-    ++done_;
+void Progress::Hide() const {
     if (HasBar()) Console::Errors().Write(L"\r" + std::wstring(kConsoleWidth, L' ') + L"\r");
+}
+
+void Progress::End(bool wasTried) {
+    ++done_;
+    if (wasTried) ++tried_;
+    Hide();
 }
 
 std::wstring Progress::Number() const {
@@ -56,9 +61,10 @@ std::wstring Progress::Number() const {
     return L"[" + PaddedLeft(std::to_wstring(done_), total.size()) + L"/" + total + L"] ";
 }
 
-std::wstring ProgressLine(std::size_t done, std::size_t total, ULONGLONG milliseconds, const std::wstring& name) {
+std::wstring ProgressLine(std::size_t done, std::size_t tried, std::size_t total, ULONGLONG milliseconds,
+                          const std::wstring& name) {
     const std::wstring line = Bar(done, total) + L" " + std::to_wstring(done) + L"/" + std::to_wstring(total) +
-                              Pace(done, total, milliseconds) + L"  " + name;
+                              Pace(tried, total - done, milliseconds) + L"  " + name;
     return PaddedRight(line.substr(0, kConsoleWidth), kConsoleWidth);
 }
 

@@ -13,8 +13,10 @@ public:
 
     // Shows which incident is worked on.
     void Begin(const std::wstring& name);
-    // One has come to its end. Takes the bar away, so that a result can be told in its place.
-    void End();
+    // Takes the bar away, so that something can be told in its place.
+    void Hide() const;
+    // One has come to its end. Of those that were tried, the pace is told.
+    void End(bool wasTried);
     // Shows the bar again below what has been told.
     void Show() const;
     // The number of the result: "[ 3/12] ", or an empty text where a bar or the eye counts.
@@ -25,11 +27,14 @@ private:
 
     std::size_t total_;
     std::size_t done_ = 0;
+    std::size_t tried_ = 0;
     std::wstring name_;
     ULONGLONG start_;
 };
 
-// One line without its end. Rate and remaining time are told once there is something to reckon them from.
-std::wstring ProgressLine(std::size_t done, std::size_t total, ULONGLONG milliseconds, const std::wstring& name);
+// One line without its end. Rate and remaining time are told once there is something to reckon them from; what was done
+// without being tried counts for neither.
+std::wstring ProgressLine(std::size_t done, std::size_t tried, std::size_t total, ULONGLONG milliseconds,
+                          const std::wstring& name);
 
 }  // namespace lejis_client

@@ -1,24 +1,20 @@
 #include "doctor/TimeLimit.h"
 
+#include "library/Apartment.h"
+#include "text/Duration.h"
 #include "text/Layout.h"
-
-#include <objbase.h>
-#include <windows.h>
 
 #include <new>
 
 namespace lejis_client {
 namespace {
 
-constexpr DWORD kSecond = 1000;
-
 using Work = std::function<void()>;
 
 DWORD WINAPI RunInApartment(void* argument) {
     const std::unique_ptr<Work> work(static_cast<Work*>(argument));
-    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    const Apartment apartment;
     (*work)();
-    CoUninitialize();
     return 0;
 }
 
@@ -30,7 +26,8 @@ bool TimeLimit::RunInThread(Work work) {
     const HANDLE thread = CreateThread(nullptr, 0, RunInApartment, argument.get(), 0, nullptr);
     if (!thread) throw std::bad_alloc();
     static_cast<void>(argument.release());
-    const bool isDone = WaitForSingleObject(thread, static_cast<DWORD>(seconds_) * kSecond) == WAIT_OBJECT_0;
+    const auto limit = static_cast<DWORD>(static_cast<ULONGLONG>(seconds_) * kSecond);
+    const bool isDone = WaitForSingleObject(thread, limit) == WAIT_OBJECT_0;
     CloseHandle(thread);
     wasExceeded_ |= !isDone;
     return isDone;

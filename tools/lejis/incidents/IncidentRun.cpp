@@ -10,11 +10,10 @@
 #include "submission/IncidentJob.h"
 #include "submission/Ledger.h"
 #include "submission/ResultWords.h"
+#include "text/Duration.h"
 
 namespace lejis_client {
 namespace {
-
-constexpr double kSecond = 1000;
 
 std::deque<Task> TasksOf(const IncidentSettings& settings) {
     const IncidentName& named = settings.job.named;
@@ -35,7 +34,7 @@ std::vector<std::wstring> NamesOf(const std::deque<Task>& tasks) {
 
 std::unique_ptr<Report> MakeReport(const IncidentSettings& settings, bool json,
                                    const std::vector<std::wstring>& names) {
-    if (json) return std::make_unique<JsonReport>(*settings.job.operation, names.size());
+    if (json) return std::make_unique<JsonReport>(*settings.job.operation, names.size(), settings.quiet);
     return std::make_unique<TextReport>(*settings.job.operation, names, settings.quiet);
 }
 
@@ -52,7 +51,7 @@ LedgerEntry EntryOf(const JobSettings& job, const Task& task, const Attempt& att
     entry.errors = attempt.outcome.errors;
     entry.warnings = attempt.outcome.warnings;
     entry.start = attempt.start;
-    entry.seconds = static_cast<double>(attempt.milliseconds) / kSecond;
+    entry.seconds = Seconds(attempt.milliseconds);
     return entry;
 }
 
@@ -79,12 +78,7 @@ public:
         return exitCode;
     }
 
-    void Begun(const Task& task) override {
-        if (isVerbose_ && task.attempts > 1) {
-            Console::Errors().Write(task.name + L": try " + std::to_wstring(task.attempts) + L'\n');
-        }
-        report_->Begin(task.name);
-    }
+    void Begun(const Task& task) override { report_->Begin(task.name); }
 
     void Tried(const Task& task, const Attempt& attempt) override {
         if (!ledger_ || attempt.outcome.result == Result::LeftOut) return;
@@ -95,6 +89,10 @@ public:
             fault_ = error.reason;
             backlog_.Stop();
         }
+    }
+
+    void Retried(const Task& task, const Attempt& attempt) override {
+        if (isVerbose_) report_->Retry(task.name, task.attempts, attempt);
     }
 
     void Ended(const Task& task, const Attempt& attempt) override { report_->End(task.name, attempt); }

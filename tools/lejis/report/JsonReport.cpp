@@ -2,11 +2,10 @@
 
 #include "console/PrintJson.h"
 #include "submission/ResultWords.h"
+#include "text/Duration.h"
 
 namespace lejis_client {
 namespace {
-
-constexpr double kSecond = 1000;
 
 constexpr struct {
     Result result;
@@ -22,19 +21,27 @@ Json TextOrNull(const Attempt& attempt, std::wstring Identity::*part) {
 
 }  // namespace
 
-void JsonReport::Tell(const std::wstring& name, const Attempt& attempt) {
+Json JsonReport::LineOf(const std::wstring& name, const Attempt& attempt) const {
     const Outcome& outcome = attempt.outcome;
-    PrintLine({{"name", JsonText(name)},
-               {"ori", TextOrNull(attempt, &Identity::ori)},
-               {"number", TextOrNull(attempt, &Identity::number)},
-               {"outcome", JsonText(WordOf(operation_, outcome.result))},
-               {"tryAgain", outcome.canTryAgain},
-               {"errorNumber", outcome.number ? Json(outcome.number) : Json()},
-               {"errors", JsonTexts(outcome.errors)},
-               {"warnings", JsonTexts(outcome.warnings)},
-               {"advice", JsonText(outcome.advice)},
-               {"seconds", static_cast<double>(attempt.milliseconds) / kSecond}});
+    return {{"name", JsonText(name)},
+            {"ori", TextOrNull(attempt, &Identity::ori)},
+            {"number", TextOrNull(attempt, &Identity::number)},
+            {"outcome", JsonText(WordOf(operation_, outcome.result))},
+            {"tryAgain", outcome.canTryAgain},
+            {"errorNumber", outcome.number ? Json(outcome.number) : Json()},
+            {"errors", JsonTexts(outcome.errors)},
+            {"warnings", JsonTexts(outcome.warnings)},
+            {"advice", JsonText(outcome.advice)},
+            {"seconds", Seconds(attempt.milliseconds)}};
 }
+
+void JsonReport::TellTry(const std::wstring& name, long number, const Attempt& attempt) {
+    Json line = LineOf(name, attempt);
+    line["try"] = number;
+    PrintLine(line);
+}
+
+void JsonReport::Tell(const std::wstring& name, const Attempt& attempt) { PrintLine(LineOf(name, attempt)); }
 
 void JsonReport::SumUp(const Ending& ending, int exitCode) {
     Json line = JsonDocument(operation_.name, exitCode);
@@ -43,7 +50,7 @@ void JsonReport::SumUp(const Ending& ending, int exitCode) {
     for (const auto& row : kCounts) counts[row.name] = tally_.Count(row.result);
     counts["notBegun"] = ending.left;
     counts["withWarnings"] = tally_.WithWarnings();
-    line["seconds"] = static_cast<double>(ending.milliseconds) / kSecond;
+    line["seconds"] = Seconds(ending.milliseconds);
     PrintLine(line);
 }
 

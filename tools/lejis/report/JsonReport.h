@@ -2,14 +2,17 @@
 #pragma once
 
 #include "report/Report.h"
+#include "text/Json.h"
 
 namespace lejis_client {
 
 class JsonReport : public Report {
 public:
-    JsonReport(const OperationKind& operation, std::size_t total) : Report(operation, total) {}
+    JsonReport(const OperationKind& operation, std::size_t total, bool isQuiet) : Report(operation, total, isQuiet) {}
 
 private:
+    Json LineOf(const std::wstring& name, const Attempt& attempt) const;
+    void TellTry(const std::wstring& name, long number, const Attempt& attempt) override;
     void Tell(const std::wstring& name, const Attempt& attempt) override;
     void SumUp(const Ending& ending, int exitCode) override;
 };

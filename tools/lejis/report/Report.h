@@ -19,19 +19,24 @@ public:
     Report& operator=(const Report&) = delete;
 
     void Begin(const std::wstring& name);
+    // A try has failed, and another one follows.
+    void Retry(const std::wstring& name, long number, const Attempt& attempt);
     void End(const std::wstring& name, const Attempt& attempt);
     // Sums up; returns the program's exit code.
     int Finish(const Ending& ending);
 
 protected:
-    Report(const OperationKind& operation, std::size_t total)
-        : operation_(operation), total_(total), progress_(total) {}
+    // A quiet report leaves out what went through without a warning.
+    Report(const OperationKind& operation, std::size_t total, bool isQuiet)
+        : operation_(operation), total_(total), isQuiet_(isQuiet), progress_(total) {}
 
+    virtual void TellTry(const std::wstring& name, long number, const Attempt& attempt) = 0;
     virtual void Tell(const std::wstring& name, const Attempt& attempt) = 0;
     virtual void SumUp(const Ending& ending, int exitCode) = 0;
 
     const OperationKind& operation_;
     std::size_t total_;
+    bool isQuiet_;
     Progress progress_;
     Tally tally_;
 };

@@ -2,6 +2,7 @@
 
 #include "console/Console.h"
 #include "submission/ResultWords.h"
+#include "text/Duration.h"
 #include "text/Layout.h"
 
 #include <algorithm>
@@ -19,8 +20,6 @@ constexpr std::size_t kWidestName = 60;
 // So many results are seen at a glance, and are not listed once more.
 constexpr std::size_t kFew = 3;
 
-constexpr double kSecond = 1000;
-
 constexpr Result kOthers[] = {Result::LeftOut, Result::Refused, Result::NotSent, Result::Unknown};
 
 Tone ToneOf(const Outcome& outcome) {
@@ -36,8 +35,14 @@ std::wstring CountsOf(const Outcome& outcome) {
     return outcome.warnings.empty() ? errors : errors + L", " + Counted(outcome.warnings.size(), L"warning");
 }
 
+std::wstring Errors(const Outcome& outcome) {
+    std::wstring text;
+    for (const std::wstring& error : outcome.errors) text += ListItem(kErrorBullet, error);
+    return text;
+}
+
 std::wstring Pace(std::size_t count, ULONGLONG milliseconds) {
-    const double seconds = static_cast<double>(std::max<ULONGLONG>(milliseconds, 1)) / kSecond;
+    const double seconds = Seconds(std::max<ULONGLONG>(milliseconds, 1));
     wchar_t text[80];
     std::swprintf(text, std::size(text), L" %.1f s, %.1f a second.", seconds, static_cast<double>(count) / seconds);
     return text;
@@ -56,18 +61,22 @@ std::wstring ReasonToStop(const Ending& ending) {
 }  // namespace
 
 TextReport::TextReport(const OperationKind& operation, const std::vector<std::wstring>& names, bool isQuiet)
-    : Report(operation, names.size()), isQuiet_(isQuiet) {
+    : Report(operation, names.size(), isQuiet) {
     for (const std::wstring& name : names) nameWidth_ = std::max(nameWidth_, std::min(name.size(), kWidestName));
+}
+
+void TextReport::TellTry(const std::wstring& name, long number, const Attempt& attempt) {
+    const Outcome& outcome = attempt.outcome;
+    const std::wstring word = WordOf(operation_, outcome.result);
+    Console::Output().Write(name + L"  try " + std::to_wstring(number) + L": " + word + L'\n' + Errors(outcome));
 }
 
 void TextReport::Tell(const std::wstring& name, const Attempt& attempt) {
     const Outcome& outcome = attempt.outcome;
-    if (isQuiet_ && outcome.errors.empty() && outcome.warnings.empty()) return;
     const Console& output = Console::Output();
     output.Write(progress_.Number() + PaddedRight(name, nameWidth_) + L"  ");
     output.Write(Status(outcome), ToneOf(outcome));
-    std::wstring text = L"\n";
-    for (const std::wstring& error : outcome.errors) text += ListItem(kErrorBullet, error);
+    std::wstring text = L'\n' + Errors(outcome);
     for (const std::wstring& warning : outcome.warnings) text += ListItem(kWarningBullet, warning);
     if (!outcome.advice.empty()) text += L"    " + outcome.advice + L'\n';
     output.Write(text);

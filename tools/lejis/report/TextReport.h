@@ -8,16 +8,15 @@ namespace lejis_client {
 
 class TextReport final : public Report {
 public:
-    // A quiet one tells only of what did not go through, and of warnings.
     TextReport(const OperationKind& operation, const std::vector<std::wstring>& names, bool isQuiet);
 
 private:
+    void TellTry(const std::wstring& name, long number, const Attempt& attempt) override;
     void Tell(const std::wstring& name, const Attempt& attempt) override;
     void SumUp(const Ending& ending, int exitCode) override;
     std::wstring Status(const Outcome& outcome) const;
     std::wstring Counts(const Ending& ending) const;
 
-    bool isQuiet_;
     std::size_t nameWidth_ = 0;
     FailureList failures_;
 };

@@ -2,13 +2,12 @@
 
 #include "console/Console.h"
 #include "console/MessageLoop.h"
+#include "text/Duration.h"
 
 #include <algorithm>
 
 namespace lejis_client {
 namespace {
-
-constexpr ULONGLONG kSecond = 1000;
 
 void ClearProgress() {
     if (Console::Errors().IsInteractive()) Console::Errors().Write(L"\r" + std::wstring(40, L' ') + L"\r");

@@ -1,18 +1,13 @@
 #include "submission/Backlog.h"
 
 #include "submission/RetryPause.h"
+#include "text/Duration.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace lejis_client {
 namespace {
-
-constexpr ULONGLONG kSecond = 1000;
-
-// The tick is a coarse one: what a late look at it has missed is made up for.
-constexpr double kCatchUp = 20;
 
 // Each holds a thread for good, and a program of 32 bits has room for few of them.
 constexpr std::size_t kMostAbandoned = 100;
@@ -37,7 +32,8 @@ Backlog::Backlog(const BacklogSettings& settings, JobMaker makeJob, std::deque<T
       makeJob_(std::move(makeJob)),
       fresh_(std::move(tasks)),
       listener_(listener),
-      done_(CreateEventW(nullptr, FALSE, FALSE, nullptr)) {}
+      done_(CreateEventW(nullptr, FALSE, FALSE, nullptr)),
+      pace_(settings.rate) {}
 
 // A worker that is left to itself may set the event at any time, so the event stays open then.
 Backlog::~Backlog() {
@@ -47,10 +43,6 @@ Backlog::~Backlog() {
 }
 
 bool Backlog::HasTooManyAbandoned() const { return abandoned_ >= kMostAbandoned; }
-
-double Backlog::StartInterval() const {
-    return settings_.rate > 0 ? static_cast<double>(kSecond) / static_cast<double>(settings_.rate) : 0;
-}
 
 void Backlog::Run(const Interruption& interruption) {
     for (;;) {
@@ -69,15 +61,14 @@ bool Backlog::IsAnyAtWork() const {
 }
 
 void Backlog::BeginWhatIsDue() {
-    for (ULONGLONG now = GetTickCount64(); static_cast<double>(now) >= nextStart_ && IsAnyDue(now);
-         now = GetTickCount64()) {
+    for (ULONGLONG now = GetTickCount64(); pace_.MayStart(now) && IsAnyDue(now); now = GetTickCount64()) {
         Worker* const worker = IdleWorker();
         if (!worker) return;
         Task task = TakeDue(now);
         ++task.attempts;
         listener_.Begun(task);
         worker->Begin(task);
-        nextStart_ = std::max(nextStart_, static_cast<double>(now) - kCatchUp) + StartInterval();
+        pace_.Started(now);
     }
 }
 
@@ -133,8 +124,9 @@ void Backlog::Settle(Task task, const Attempt& attempt) {
         failing_.clear();
     }
     // What was not tried takes no part in the pace.
-    if (outcome.result == Result::LeftOut) nextStart_ -= StartInterval();
+    if (outcome.result == Result::LeftOut) pace_.TakeBack();
     if (!outcome.canTryAgain || task.attempts > settings_.retries) return listener_.Ended(task, attempt);
+    listener_.Retried(task, attempt);
     const ULONGLONG due = GetTickCount64() + RetryPause(task.attempts);
     retries_.emplace(due, Retry{std::move(task), attempt});
 }
@@ -148,7 +140,7 @@ DWORD Backlog::Pause() const {
     ULONGLONG pause = kLongestPause;
     const auto until = [&](ULONGLONG tick) { pause = std::min(pause, tick > now ? tick - now : 0); };
     const bool canBegin = !fresh_.empty() || !retries_.empty();
-    if (canBegin && nextStart_ > static_cast<double>(now)) until(static_cast<ULONGLONG>(std::ceil(nextStart_)));
+    if (canBegin && !pace_.MayStart(now)) until(pace_.Next());
     if (!retries_.empty() && retries_.begin()->first > now) until(retries_.begin()->first);
     return static_cast<DWORD>(pause);
 }

@@ -3,6 +3,7 @@
 
 #include "console/Interruption.h"
 #include "submission/BacklogSettings.h"
+#include "submission/StartPace.h"
 #include "submission/Worker.h"
 
 #include <deque>
@@ -18,7 +19,9 @@ public:
     virtual void Begun(const Task& task) = 0;
     // One try has ended.
     virtual void Tried(const Task& task, const Attempt& attempt) = 0;
-    // This was the last try.
+    // That try has failed, and another one follows.
+    virtual void Retried(const Task& task, const Attempt& attempt) = 0;
+    // That try was the last one.
     virtual void Ended(const Task& task, const Attempt& attempt) = 0;
 
 protected:
@@ -52,7 +55,6 @@ private:
         return isStopped_ || interruption.HasHappened() || IsRoadGone() || HasTooManyAbandoned();
     }
     bool IsRoadGone() const { return failing_.size() >= static_cast<std::size_t>(settings_.stopAfter); }
-    double StartInterval() const;
     bool IsAnyAtWork() const;
     void BeginWhatIsDue();
     bool IsAnyDue(ULONGLONG now) const;
@@ -78,8 +80,7 @@ private:
     std::vector<std::unique_ptr<Worker>> workers_;
     // Set whenever a worker has done something.
     HANDLE done_;
-    // No task begins before this tick. A pace of 300 a second needs the fractions.
-    double nextStart_ = 0;
+    StartPace pace_;
     // The names of the incidents that the road has failed since the last answer: the tries of one count once.
     std::set<std::wstring> failing_;
     bool isStopped_ = false;

@@ -1,6 +1,7 @@
 #include "submission/Worker.h"
 
 #include "console/MessageLoop.h"
+#include "library/Apartment.h"
 
 #include <process.h>
 
@@ -43,14 +44,6 @@ public:
 
 private:
     SRWLOCK& lock_;
-};
-
-class Apartment {
-public:
-    Apartment() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
-    ~Apartment() { CoUninitialize(); }
-    Apartment(const Apartment&) = delete;
-    Apartment& operator=(const Apartment&) = delete;
 };
 
 }  // namespace
