@@ -51,6 +51,9 @@ run_rings_of_library() {
   run_googletest "$architecture" end-to-end end_to_end_tests "$simulator" --in-schemas
 }
 
+# The command-line client, from inside.
+run_unit_tests_of_lejis() { run_googletest "$architecture" unit lejis_tests; }
+
 # The pattern of --filter does not speak of these.
 run_python_rings() {
   run_unittest client lejis "$simulator" "$project/tests/lejis/run.sh"
@@ -79,7 +82,10 @@ clean_up_with stop_wine
 start_wine
 register_dll "$architecture"
 run_rings_of_library
-[[ $architecture == coverage ]] || run_apartments
+if [[ $architecture != coverage ]]; then
+  run_unit_tests_of_lejis
+  run_apartments
+fi
 if [[ -z $filter ]]; then
   run_python_rings
   if [[ $architecture != coverage ]]; then
