@@ -44,7 +44,8 @@ private:
         int size = sizeof error;
         getsockopt(socket_, SOL_SOCKET, SO_ERROR, reinterpret_cast<char*>(&error), &size);
         if (error == 0 && FD_ISSET(socket_, &failed)) error = WSAECONNREFUSED;
-        return error;
+        // Who breaks a connection off has taken it.
+        return error == WSAECONNRESET ? 0 : error;
     }
 
     SOCKET socket_;
