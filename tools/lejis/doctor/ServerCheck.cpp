@@ -1,7 +1,6 @@
 #include "doctor/ServerCheck.h"
 
 #include "doctor/WebFailureText.h"
-#include "network/Proxy.h"
 #include "network/TcpConnection.h"
 #include "text/WebAddress.h"
 
@@ -30,31 +29,6 @@ Finding Unreached(const wchar_t* subject, const std::wstring& reason, const std:
     return {subject, Health::kFailed, L"not reached" + reason, cure, true};
 }
 
-Finding NotReached(const wchar_t* subject, const WebFailure& failure, const WebAddress& address) {
-    const FailureWords words = WordsFor(failure);
-    const Proxy proxy = ReadProxy();
-    if (!proxy.script.empty()) {
-        return Unreached(subject, L", with a proxy of the script " + proxy.script + L": " + words.reason, words.cure);
-    }
-    const std::wstring server = ServerFor(proxy, address.scheme);
-    const bool isDead = !server.empty() && IsDead(server);
-    // Whether the proxy was used is not known where it may be passed by; but past it the server would be reached.
-    const bool mayBeServer = MayPassBy(proxy, address) && !TakesConnection(address.host, address.port);
-    if (isDead && mayBeServer) {
-        return Unreached(subject,
-                         L": " + words.reason + L"; the proxy " + server + L", where it is used, takes no connection",
-                         words.cure);
-    }
-    if (isDead) {
-        return Unreached(subject, L": the proxy " + server + L" takes no connection",
-                         L"See that the proxy runs, or correct it in this user's settings for the Internet.");
-    }
-    const bool isDirect = server.empty() || mayBeServer;
-    return Unreached(subject,
-                     (isDirect ? std::wstring() : L", with the proxy " + server + L" in use") + L": " + words.reason,
-                     words.cure);
-}
-
 }  // namespace
 
 Finding CheckAddress(const wchar_t* subject, const std::wstring& url) {
@@ -77,8 +51,32 @@ Finding CheckServer(const wchar_t* subject, const std::wstring& url, WebPage& pa
         return {subject, Health::kOk, L"reached", {}};
     } catch (const WebFailure& failure) {
         // An address that is not one of the web does not come as far as this.
-        return NotReached(subject, failure, ParseWebAddress(url).value_or(WebAddress{}));
+        return NotReached(subject, failure, ParseWebAddress(url).value_or(WebAddress{}), ReadProxy());
     }
+}
+
+Finding NotReached(const wchar_t* subject, const WebFailure& failure, const WebAddress& address, const Proxy& proxy) {
+    const FailureWords words = WordsFor(failure);
+    if (!proxy.script.empty()) {
+        return Unreached(subject, L", with a proxy of the script " + proxy.script + L": " + words.reason, words.cure);
+    }
+    const std::wstring server = ServerFor(proxy, address.scheme);
+    const bool isDead = !server.empty() && IsDead(server);
+    // Whether the proxy was used is not known where it may be passed by; but past it the server would be reached.
+    const bool mayBeServer = MayPassBy(proxy, address) && !TakesConnection(address.host, address.port);
+    if (isDead && mayBeServer) {
+        return Unreached(subject,
+                         L": " + words.reason + L"; the proxy " + server + L", where it is used, takes no connection",
+                         words.cure);
+    }
+    if (isDead) {
+        return Unreached(subject, L": the proxy " + server + L" takes no connection",
+                         L"See that the proxy runs, or correct it in this user's settings for the Internet.");
+    }
+    const bool isDirect = server.empty() || mayBeServer;
+    return Unreached(subject,
+                     (isDirect ? std::wstring() : L", with the proxy " + server + L" in use") + L": " + words.reason,
+                     words.cure);
 }
 
 Finding LateServer(const wchar_t* subject) {
