@@ -2,8 +2,9 @@
 # lint.sh
 # What can be seen without running anything: the layout of the C++ sources (clang-format), mistakes in the library and
 # its programs (cppcheck; its exceptions stand in tools/cppcheck-exceptions.txt; no thread_local, which is
-# destroyed wrongly; in the client no include that looks up its floors) and in the scripts (shellcheck). The compiler's
-# own warnings are errors in every build.
+# destroyed wrongly; in the client no include that looks up its floors) and in the scripts (shellcheck for those of the
+# shell; flake8 for Python: names that are unknown or unused, syntax, white space). The compiler's own warnings are
+# errors in every build.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
@@ -12,7 +13,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
 cd "$project"
 clean_up_with :
 lock_checkout
-run tools/setup.sh --with clang-format --with cppcheck --with shellcheck
+run tools/setup.sh --with clang-format --with cppcheck --with shellcheck --with flake8
 
 failed=0
 # check NAME COMMAND...
@@ -26,6 +27,7 @@ files_of() { git ls-files --cached --others --exclude-standard -- "$@"; }
 mapfile -t sources < <(files_of '*.cpp' '*.h')
 mapfile -t shipped < <(files_of 'Plugins/*.cpp' 'Plugins/*.h' 'tools/lejis/*.cpp' 'tools/lejis/*.h')
 mapfile -t scripts < <(files_of '*.sh' '.ci/run' 'tools/wine/*')
+mapfile -t modules < <(files_of '*.py')
 core="Plugins/LEJIS/LEJIS Core Library"
 client_floors=(text "console network" library files submission "report search doctor show" incidents commandline
   main.cpp)
@@ -42,4 +44,5 @@ check cppcheck cppcheck "${cppcheck_options[@]}" -I "$core" "$core" tools/lejis 
 check thread_local tools/find-thread-locals.sh "${shipped[@]}"
 check floors tools/find-upward-includes.sh tools/lejis "${client_floors[@]}"
 check shellcheck shellcheck --external-sources "${scripts[@]}"
+check flake8 /usr/bin/python3 -m flake8 --isolated --select=F,E7,E9,W --extend-ignore=W503,W504 "${modules[@]}"
 exit "$failed"

@@ -30,7 +30,7 @@ class DoctorCase(SimulatorCase):
 
     def findings(self, code, *arguments, **options):
         """The health and the text by the subject; the cure stands in the text's second line."""
-        found = {}
+        found, subject = {}, None
         for line in self.expect(code, "doctor", *arguments, **options).splitlines():
             if line.startswith(" "):
                 found[subject] = (found[subject][0], found[subject][1] + "\n" + line.strip())

@@ -92,4 +92,3 @@ class SilentServer:
 
     def __exit__(self, *_):
         self._socket.close()
-
