@@ -9,7 +9,8 @@ CORE = PROJECT / "Plugins" / "LEJIS" / "LEJIS Core Library"
 TEXTS = Path(__file__).resolve().parent / "texts"
 INSTALLED_GUIDE = "docs/installing.md"
 # For those who build the library.
-NOT_PACKED = {"docs/architecture.md", "docs/fuzzing.md", "docs/getting-started.md", "samples/run.sh"}
+NOT_PACKED = {"docs/architecture.md", "docs/internals.md", "docs/pictures/architecture.dot",
+              "docs/pictures/architecture.svg", "docs/fuzzing.md", "docs/getting-started.md", "samples/run.sh"}
 FOLDERS = ("docs", "samples")
 START_SOURCE = "tools/packaging/texts/start.md"
 BITS = {"x86": "32", "x64": "64"}
