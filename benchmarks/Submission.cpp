@@ -4,6 +4,7 @@
 #include "checking/LejisIncidentValidator.h"
 #include "model/LejisSubmissionDocument.h"
 #include "platform/msxml/Document.h"
+#include "platform/msxml/Markup.h"
 #include "platform/msxml/Node.h"
 #include "Sections.h"
 #include "services/SubmissionEnvelope.h"

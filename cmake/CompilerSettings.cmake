@@ -35,8 +35,8 @@ add_link_options(-Wl,--gc-sections)
 add_link_options(-static)
 
 # The DLL itself lists its living objects in a debug build, and what the tests check always does.
-add_compile_definitions($<$<CONFIG:Debug>:TVLEJIS_LIST_LIVING_OBJECTS>)
+add_compile_definitions($<$<CONFIG:Debug>:LIST_LIVING_OBJECTS>)
 
 # What the tests check the library with: undefined behaviour and broken standard library contracts end the process.
 set(CHECKED_BUILD_OPTIONS
-    -O1 -D_GLIBCXX_ASSERTIONS -DTVLEJIS_LIST_LIVING_OBJECTS -fsanitize=undefined -fsanitize-undefined-trap-on-error)
+    -O1 -D_GLIBCXX_ASSERTIONS -DLIST_LIVING_OBJECTS -fsanitize=undefined -fsanitize-undefined-trap-on-error)

@@ -2,6 +2,7 @@
 
 #include "com/Texts.h"
 #include "platform/msxml/Document.h"
+#include "platform/msxml/Markup.h"
 #include "world/Documents.h"
 #include "xml/Tree.h"
 

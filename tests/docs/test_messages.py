@@ -35,7 +35,7 @@ WORDS = {
 }
 TEXTS = {
     r"Software\VB and VBA Program Settings\TalvexSuite\Flags": "a registry key",
-    "TVLejisCore, still alive:": "what a debug build writes to the debugger",
+    "Still alive:": "what a debug build writes to the debugger",
     "<soap:Envelope xmlns:soap='": "the beginning of an envelope",
     "' xmlns:wsse='": "a part of an envelope",
     "'><soap:Body></soap:Body></soap:Envelope>": "the rest of an envelope",

@@ -3,6 +3,7 @@
 #include "checking/LejisIncidentFormatter.h"
 #include "model/LejisSubmissionDocument.h"
 #include "platform/msxml/Document.h"
+#include "platform/msxml/Markup.h"
 #include "services/SubmissionEnvelope.h"
 #include "support/WineVersion.h"
 

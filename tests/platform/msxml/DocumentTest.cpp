@@ -1,4 +1,5 @@
 #include "platform/msxml/Document.h"
+#include "platform/msxml/Markup.h"
 
 #include "model/LejisVehicleIndexCard.h"
 #include "platform/com/UnknownObject.h"

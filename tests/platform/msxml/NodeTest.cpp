@@ -2,6 +2,7 @@
 
 #include "platform/ComError.h"
 #include "platform/msxml/Document.h"
+#include "platform/msxml/Markup.h"
 #include "support/ComCheck.h"
 #include "support/Printing.h"
 #include "support/Xml.h"

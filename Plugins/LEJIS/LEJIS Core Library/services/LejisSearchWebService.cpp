@@ -6,6 +6,7 @@
 #include "inquiry/LejisInquiryResponse.h"
 #include "platform/com/Inside.h"
 #include "platform/msxml/Document.h"
+#include "platform/msxml/Markup.h"
 #include "platform/msxml/Node.h"
 #include "services/SchemaUtils.h"
 #include "services/SearchEnvelope.h"

@@ -7,6 +7,7 @@
 #include "platform/Conversions.h"
 #include "platform/http/Wait.h"
 #include "platform/msxml/Document.h"
+#include "platform/msxml/Markup.h"
 #include "platform/msxml/Node.h"
 #include "services/SchemaUtils.h"
 #include "services/SubmissionEnvelope.h"

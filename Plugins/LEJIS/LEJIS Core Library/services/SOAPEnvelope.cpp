@@ -4,6 +4,7 @@
 #include "foundation/LejisUtils.h"
 #include "platform/msxml/Depth.h"
 #include "platform/msxml/Document.h"
+#include "platform/msxml/Markup.h"
 #include "platform/msxml/Node.h"
 
 #include <utility>

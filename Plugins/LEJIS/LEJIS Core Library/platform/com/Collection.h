@@ -5,7 +5,7 @@
 #include "platform/com/Inside.h"
 
 #include <comutil.h>
-#include <TVLejisCore.h>
+#include <ModuleInterfaces.h>
 
 #include <string_view>
 #include <vector>

@@ -17,7 +17,7 @@ namespace {
 // What is part of no class of its own, such as an enumerator, speaks for the library.
 std::wstring SourceOf(const ComError& error, REFCLSID classId) {
     if (!error.Source().empty()) return error.Source();
-    return classId == GUID_NULL ? L"TVLejisCore" : ProgIdOf(classId);
+    return classId == GUID_NULL ? LibraryName() : ProgIdOf(classId);
 }
 
 void SetErrorObject(const ComError& error, REFCLSID classId) {

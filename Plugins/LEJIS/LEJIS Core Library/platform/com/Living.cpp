@@ -1,6 +1,6 @@
 #include "platform/com/Living.h"
 
-#ifdef TVLEJIS_LIST_LIVING_OBJECTS
+#ifdef LIST_LIVING_OBJECTS
 
 #include <cxxabi.h>
 #include <windows.h>
@@ -51,7 +51,7 @@ std::vector<std::string> Names() {
 }
 
 void Report() noexcept {
-    for (const std::string& name : Names()) OutputDebugStringA(("TVLejisCore, still alive: " + name + "\n").c_str());
+    for (const std::string& name : Names()) OutputDebugStringA(("Still alive: " + name + "\n").c_str());
 }
 
 }  // namespace platform::living

@@ -3,7 +3,7 @@
 
 #include <typeinfo>
 
-#ifdef TVLEJIS_LIST_LIVING_OBJECTS
+#ifdef LIST_LIVING_OBJECTS
 #include <string>
 #include <vector>
 #endif
@@ -13,7 +13,7 @@ namespace platform::living {
 // The class of an object, told only when it is asked for: a constructor of a base does not know it yet.
 using ClassOf = const std::type_info& (*)(const void* object);
 
-#ifdef TVLEJIS_LIST_LIVING_OBJECTS
+#ifdef LIST_LIVING_OBJECTS
 void Enter(const void* object, ClassOf classOf) noexcept;
 void Leave(const void* object) noexcept;
 

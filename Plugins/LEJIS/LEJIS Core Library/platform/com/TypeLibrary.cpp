@@ -12,8 +12,6 @@ using Microsoft::WRL::ComPtr;
 namespace platform {
 namespace {
 
-constexpr wchar_t kProgIdPrefix[] = L"TVLejisCore.";
-
 ITypeLib* ModuleTypeLibrary() {
     static const ComPtr<ITypeLib> library = LoadModuleTypeLibrary();
     return library.Get();
@@ -39,7 +37,13 @@ std::wstring ClassNameOf(REFCLSID classId) {
     return TakeText(name);
 }
 
-std::wstring ProgIdOf(REFCLSID classId) { return kProgIdPrefix + ClassNameOf(classId); }
+std::wstring LibraryName() {
+    BSTR name = nullptr;
+    Check(ModuleTypeLibrary()->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr));
+    return TakeText(name);
+}
+
+std::wstring ProgIdOf(REFCLSID classId) { return LibraryName() + L'.' + ClassNameOf(classId); }
 
 GUID DefaultEventsOf(REFCLSID classId) {
     const ComPtr<ITypeInfo> events = DefaultEventsOf(TypeInfoOf(classId).Get());

@@ -14,7 +14,10 @@ Microsoft::WRL::ComPtr<ITypeLib> LoadModuleTypeLibrary();
 // The description of a class, interface or event set. Raises when the type library has none.
 Microsoft::WRL::ComPtr<ITypeInfo> TypeInfoOf(REFGUID guid);
 
-// The name of a class in the type library, and the ProgID that clients create it by.
+// The name of the type library.
+std::wstring LibraryName();
+
+// The name of a class in the type library, and the ProgID that clients create it by: both names, with a dot between.
 std::wstring ClassNameOf(REFCLSID classId);
 std::wstring ProgIdOf(REFCLSID classId);
 

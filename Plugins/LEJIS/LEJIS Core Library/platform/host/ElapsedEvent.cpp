@@ -3,7 +3,7 @@
 #include "platform/com/TypeInformation.h"
 #include "platform/ComError.h"
 
-#include <TVLejisCore.h>
+#include <ModuleInterfaces.h>
 
 #include <optional>
 

@@ -8,6 +8,8 @@
 #include <windows.h>
 #include <wrl/client.h>
 
+#include <functional>
+
 namespace platform::host {
 
 class TimerSink;

@@ -5,6 +5,8 @@
 
 #include <windows.h>
 
+#include <functional>
+
 namespace platform::host {
 
 class ThreadTimer final : public SuiteTimer {

@@ -1,7 +1,8 @@
 #include "platform/http/AbandonedRequests.h"
 
-#include "platform/http/HttpRequest.h"
 #include "platform/thread/ThreadState.h"
+
+#include <ocidl.h>
 
 #include <algorithm>
 #include <vector>
@@ -13,7 +14,7 @@ namespace {
 
 bool IsComplete(IXMLHTTPRequest* request) {
     long state = 0;
-    return SUCCEEDED(request->get_readyState(&state)) && state == HttpRequest::kComplete;
+    return SUCCEEDED(request->get_readyState(&state)) && state == READYSTATE_COMPLETE;
 }
 
 class AbandonedRequests final : public thread::ThreadPart {

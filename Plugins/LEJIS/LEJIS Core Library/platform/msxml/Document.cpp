@@ -1,6 +1,5 @@
 #include "platform/msxml/Document.h"
 
-#include "platform/com/WrittenBytes.h"
 #include "platform/ComError.h"
 #include "platform/host/SuiteServices.h"
 #include "platform/InText.h"
@@ -68,19 +67,13 @@ Element Root(const Document& document) {
     return root;
 }
 
-void SetProperty(const Document& document, const wchar_t* name, const std::wstring& value) {
-    Check(document->setProperty(InText(name), _variant_t(ToBstr(value))));
+void AppendRoot(const Document& document, const Element& root) {
+    if (Root(document)) throw platform::ComError(E_FAIL, L"Only one top level element is allowed in an XML document.");
+    Append(document, root);
 }
 
-std::wstring Markup(const Document& document) {
-    const auto bytes = platform::Create<platform::WrittenBytes>();
-    const HRESULT saved = document->save(_variant_t(static_cast<IUnknown*>(bytes.Get())));
-    // A text that was cut off within a character has no UTF-8; it is sent nevertheless.
-    if (FAILED(saved)) return Xml(document);
-    constexpr wchar_t kByteOrderMark = L'\xFEFF';
-    std::wstring markup = platform::FromUtf8(bytes->All());
-    if (markup.starts_with(kByteOrderMark)) markup.erase(0, 1);
-    return markup;
+void SetProperty(const Document& document, const wchar_t* name, const std::wstring& value) {
+    Check(document->setProperty(InText(name), _variant_t(ToBstr(value))));
 }
 
 void Save(const Document& document, const std::wstring& path) {

@@ -22,11 +22,10 @@ bool HasDoctype(const Document& document);
 // The root element; null for an empty document.
 Element Root(const Document& document);
 
-void SetProperty(const Document& document, const wchar_t* name, const std::wstring& value);
+// Makes the element the document's root. Raises when the document has one, also where MSXML would take a second.
+void AppendRoot(const Document& document, const Element& root);
 
-// What a document of this library's own says when it is sent: its xml, without an XML declaration and in a time that
-// grows no faster than the document. An MSXML may write characters as references.
-std::wstring Markup(const Document& document);
+void SetProperty(const Document& document, const wchar_t* name, const std::wstring& value);
 
 // Writes the document to a file, replacing it. Raises when that fails, with the platform's description where there is
 // one.

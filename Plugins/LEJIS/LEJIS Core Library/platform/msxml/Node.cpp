@@ -2,8 +2,6 @@
 
 #include "platform/ComError.h"
 #include "platform/InText.h"
-#include "platform/msxml/Depth.h"
-#include "platform/msxml/Document.h"
 #include "platform/Text.h"
 
 #include <comutil.h>
@@ -36,24 +34,6 @@ ComPtr<Interface> As(const Node& node) {
     return object;
 }
 
-bool IsOfAnotherApartment(const Node& node) {
-    // Only proxies have this interface.
-    ComPtr<IClientSecurity> proxy;
-    return SUCCEEDED(node->QueryInterface(IID_PPV_ARGS(proxy.GetAddressOf())));
-}
-
-// A new, empty document that takes the element in: a node joins no document of another apartment.
-Document DocumentBeside(const Element& element) {
-    if (!IsOfAnotherApartment(element)) return CreateDocument();
-    Node copy;
-    Check(OwnerDocument(element)->cloneNode(VARIANT_FALSE, copy.GetAddressOf()));
-    const Document document = As<IXMLDOMDocument2>(copy);
-    // Not every MSXML leaves the root out of such a copy. Text that does not parse empties the document.
-    VARIANT_BOOL loaded = VARIANT_FALSE;
-    Check(document->loadXML(InText(L""), &loaded));
-    return document;
-}
-
 }  // namespace
 
 Element CreateElement(const Document& document, std::wstring_view qualifiedName, std::wstring_view namespaceUri) {
@@ -74,11 +54,6 @@ void SetText(const Element& element, std::wstring_view text) { Check(element->pu
 void Append(const Node& parent, const Node& child) {
     Node appended;
     Check(parent->appendChild(child.Get(), appended.GetAddressOf()));
-}
-
-void AppendRoot(const Document& document, const Element& root) {
-    if (Root(document)) throw platform::ComError(E_FAIL, L"Only one top level element is allowed in an XML document.");
-    Append(document, root);
 }
 
 platform::OutText Text(const Node& node) { return Get(node, &IXMLDOMNode::get_text); }
@@ -146,14 +121,6 @@ Document OwnerDocument(const Node& node) {
     ComPtr<IXMLDOMDocument> owner;
     Check(node->get_ownerDocument(owner.GetAddressOf()));
     return As<IXMLDOMDocument2>(Node(owner.Get()));
-}
-
-std::wstring Markup(const Element& element) {
-    RequireBoundedDepth(element);
-    // Not every MSXML writes the ancestors' declarations with a subtree; the root of a document has none to miss.
-    const Document alone = DocumentBeside(element);
-    Append(alone, Copy(element));
-    return Xml(Root(alone));
 }
 
 }  // namespace msxml

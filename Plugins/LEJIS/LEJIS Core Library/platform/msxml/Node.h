@@ -23,9 +23,6 @@ void SetText(const Element& element, std::wstring_view text);
 // Puts `child` behind the last child of `parent`, taking it out of where it was.
 void Append(const Node& parent, const Node& child);
 
-// Makes the element the document's root. Raises when the document has one, also where MSXML would take a second.
-void AppendRoot(const Document& document, const Element& root);
-
 // The text of a node and its descendants.
 platform::OutText Text(const Node& node);
 
@@ -59,8 +56,5 @@ Document OwnerDocument(const Node& node);
 
 // The node as XML text.
 std::wstring Xml(const Node& node);
-
-// The element as XML text that stands alone: with the declarations that it has from its ancestors.
-std::wstring Markup(const Element& element);
 
 }  // namespace msxml

@@ -62,7 +62,7 @@ void NTAPI OnThread(void*, DWORD reason, void* processEnds) noexcept {
 }
 
 // The system calls what stands in this section, in a DLL and in a program alike.
-extern "C" __attribute__((section(".CRT$XLF"), used)) const PIMAGE_TLS_CALLBACK lejis_on_thread = OnThread;
+extern "C" __attribute__((section(".CRT$XLF"), used)) const PIMAGE_TLS_CALLBACK platform_on_thread = OnThread;
 
 }  // namespace
 

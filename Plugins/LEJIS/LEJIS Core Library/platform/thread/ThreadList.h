@@ -1,7 +1,7 @@
 // The threads that use the library, and their ends.
 #pragma once
 
-#include "platform/thread/ThreadState.h"
+#include "platform/thread/ThreadPart.h"
 
 #include <memory>
 #include <utility>

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 namespace platform::thread {
 
 // What one subject of the library keeps for one thread. The thread makes its part at first use (see ThreadState.h).
@@ -16,5 +18,7 @@ public:
     // Lets go of every object that the part holds, while COM is still there. The part may be used again afterwards.
     virtual void Release() noexcept = 0;
 };
+
+using PartMaker = std::unique_ptr<ThreadPart> (*)();
 
 }  // namespace platform::thread

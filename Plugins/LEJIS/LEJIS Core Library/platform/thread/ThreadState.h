@@ -10,8 +10,6 @@
 
 namespace platform::thread {
 
-using PartMaker = std::unique_ptr<ThreadPart> (*)();
-
 // This thread's part by that maker, made at first use. The reference holds until the thread ends.
 ThreadPart& PartMadeBy(PartMaker maker);
 

@@ -1,4 +1,4 @@
-#include "platform/host/SuiteTimer.h"
+#include "platform/host/StartSuiteTimer.h"
 
 #include "platform/com/LateBound.h"
 #include "platform/host/RegisteredTimer.h"
