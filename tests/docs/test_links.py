@@ -3,7 +3,7 @@ import unittest
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parents[2]
-LINK = re.compile(r"\[[^]\n]*\]\(([^)\s]+)\)")
+LINK = re.compile(r"\[[^]]*\]\(([^)\s]+)\)")
 CODE = re.compile(r"^```.*?^```$", re.MULTILINE | re.DOTALL)
 
 

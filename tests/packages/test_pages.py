@@ -59,9 +59,14 @@ class PageTest(unittest.TestCase):
         return pages.page("# Title\n\n" + text, "docs/a.md", "docs/a.html", names, "1.2.3")
 
     def test_a_link_to_what_is_not_in_the_package_is_text(self):
-        page = self.page("See [the tool](../tools/x.md) and [a site](https://example.org/).")
+        page = self.page("See [the tool](../tools/lejis/README.md) and [a site](https://example.org/).")
         self.assertIn("See <span>the tool</span> and <span>a site</span>.", page)
         self.assertEqual(Page(page.encode()).links, ["index.html"])
+
+    def test_a_link_to_what_is_nowhere_in_the_project_is_a_mistake(self):
+        for link in ("instaling.md", "../tools/lejis/README.html", "../../README.md"):
+            with self.assertRaisesRegex(ValueError, rf"^docs/a\.md: the link to {link} leads nowhere$"):
+                self.page(f"See [that]({link}).")
 
     def test_a_link_in_the_package_follows_its_names(self):
         page = pages.page("# Title\n\n[that](../samples/b.md#c)", "docs/a.md", "docs/a.html",

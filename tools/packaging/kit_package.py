@@ -14,7 +14,7 @@ import pages
 from package import PROJECT, below, project_version, timestamp
 
 FOLDER = Path(__file__).resolve().parent / "kit"
-README = "README.md"
+README = FOLDER / "README.md"
 SCRIPTS = PROJECT / "tests" / "client" / "scripts"
 SHIPPED = ("TVLejisCore.dll", "lejis.exe")
 TESTS = ("unit_tests.exe", "client_tests.exe", "end_to_end_tests.exe", "windows_tests.exe")
@@ -60,8 +60,8 @@ def members(version, architectures):
              "LICENSE.txt": text(PROJECT / "LICENSE")}
     for name in ("check.cmd", "rows.tsv"):
         files[name] = text(FOLDER / name)
-    readme = (FOLDER / README).read_text(encoding="utf-8")
-    page = pages.page(readme, README, "README.html", {}, version, start="README.html")
+    page = pages.page(README.read_text(encoding="utf-8"), README.relative_to(PROJECT).as_posix(), "README.html", {},
+                      version, start="README.html")
     files["README.html"] = documents.with_windows_lines(page)
     for architecture in architectures:
         files |= programs(architecture)

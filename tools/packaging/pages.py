@@ -2,11 +2,13 @@
 import html
 import posixpath
 import re
+from pathlib import Path
 
 import markdown
 from markdown.extensions import Extension
 from markdown.treeprocessors import Treeprocessor
 
+PROJECT = Path(__file__).resolve().parents[2]
 TEMPLATE = """<!DOCTYPE html>
 <html lang="en">
 <head>
@@ -35,6 +37,7 @@ th {{ background: #f3f5f7; }}
 START = "docs/index.html"
 # What is for those who have the sources, and for nobody else.
 SOURCES_ONLY = re.compile(r"<!-- sources only -->.*?<!-- end of sources only -->\n*", re.DOTALL)
+ADDRESS = re.compile(r"[a-z]+:")
 TITLE = re.compile(r"^# (.*)$", re.MULTILINE)
 
 
@@ -44,18 +47,22 @@ def anchor(heading, separator):
 
 
 class _Links(Treeprocessor):
-    """A link to what is not in the package becomes plain text."""
+    """A link to what is not in the package becomes plain text; one to what is nowhere in the project is a mistake."""
 
     def __init__(self, source, target, names):
         super().__init__()
-        self.folder, self.target_folder, self.names = posixpath.dirname(source), posixpath.dirname(target), names
+        self.source, self.names = source, names
+        self.folder, self.target_folder = posixpath.dirname(source), posixpath.dirname(target)
 
     def run(self, root):
         for link in root.iter("a"):
             path, mark, place = link.get("href").partition("#")
             if not path:
                 continue
-            name = self.names.get(posixpath.normpath(posixpath.join(self.folder, path)))
+            place_in_project = posixpath.normpath(posixpath.join(self.folder, path))
+            name = self.names.get(place_in_project)
+            if not (name or ADDRESS.match(path) or (PROJECT / place_in_project).exists()):
+                raise ValueError(f"{self.source}: the link to {path} leads nowhere")
             if name:
                 link.set("href", posixpath.relpath(name, self.target_folder or ".") + mark + place)
             else:

@@ -14,14 +14,15 @@ import pages
 from package import PROJECT, below, project_version, timestamp
 
 FOLDER = PROJECT / "tools" / "simulator"
-README = "README.md"
+README = FOLDER / "README.md"
 START_SCRIPT = Path(__file__).resolve().parent / "simulator" / "simulator.cmd"
 
 
 def members(version):
     files = {path.relative_to(FOLDER).as_posix(): path.read_bytes() for path in FOLDER.rglob("*")
              if path.is_file() and "__pycache__" not in path.parts}
-    readme = pages.page(files.pop(README).decode(), README, "README.html", {}, version, start="README.html")
+    readme = pages.page(files.pop(README.name).decode(), README.relative_to(PROJECT).as_posix(), "README.html", {},
+                        version, start="README.html")
     files["README.html"] = documents.with_windows_lines(readme)
     files["LICENSE.txt"] = documents.with_windows_lines((PROJECT / "LICENSE").read_text(encoding="utf-8"))
     files[START_SCRIPT.name] = documents.with_windows_lines(START_SCRIPT.read_text(encoding="utf-8"))
