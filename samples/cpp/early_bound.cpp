@@ -27,17 +27,44 @@ ComPtr<Interface> Item(ICollection* collection, long number) {
     return object;
 }
 
-void Show(ICollection* incidents) {
+long Count(ICollection* collection) {
     long count = 0;
-    Check(incidents->get_Count(&count));
-    std::printf("%ld incident(s) found.\n", count);
-    for (long number = 1; number <= count; ++number) {
-        const auto incident = Item<ILejisIncidentIndexCard>(incidents, number);
-        _bstr_t agency;
-        _bstr_t id;
-        Check(incident->get_OrganizationORI(agency.GetAddress()));
-        Check(incident->get_ActivityID(id.GetAddress()));
-        std::printf("%ls %ls\n", static_cast<const wchar_t*>(agency), static_cast<const wchar_t*>(id));
+    Check(collection->get_Count(&count));
+    return count;
+}
+
+// The value of a text property, such as &ILejisPersonIndexCard::get_SurName.
+template <typename Interface>
+_bstr_t Text(const ComPtr<Interface>& object, HRESULT (STDMETHODCALLTYPE Interface::*get)(BSTR*)) {
+    _bstr_t text;
+    Check((object.Get()->*get)(text.GetAddress()));
+    return text;
+}
+
+void Print(const _bstr_t& text) { std::printf("%ls", text.length() ? static_cast<const wchar_t*>(text) : L""); }
+
+void ShowPerson(const ComPtr<ILejisPersonIndexCard>& person) {
+    std::printf("    ");
+    Print(Text(person, &ILejisPersonIndexCard::get_GivenName) + L" ");
+    Print(Text(person, &ILejisPersonIndexCard::get_SurName) + L" (");
+    Print(Text(person, &ILejisPersonIndexCard::get_Involvement) + L")\n");
+}
+
+void ShowIncident(const ComPtr<ILejisIncidentIndexCard>& incident) {
+    Print(Text(incident, &ILejisIncidentIndexCard::get_OrganizationORI) + L" ");
+    Print(Text(incident, &ILejisIncidentIndexCard::get_ActivityID) + L" ");
+    Print(Text(incident, &ILejisIncidentIndexCard::get_ChargeDescriptionText) + L"\n");
+    ComPtr<ICollection> persons;
+    Check(incident->get_PersonIndexCards(persons.GetAddressOf()));
+    for (long number = 1; number <= Count(persons.Get()); ++number) {
+        ShowPerson(Item<ILejisPersonIndexCard>(persons.Get(), number));
+    }
+}
+
+void Show(ICollection* incidents) {
+    std::printf("%ld incident(s) found.\n", Count(incidents));
+    for (long number = 1; number <= Count(incidents); ++number) {
+        ShowIncident(Item<ILejisIncidentIndexCard>(incidents, number));
     }
 }
 

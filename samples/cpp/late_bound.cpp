@@ -72,13 +72,18 @@ _variant_t Call(const Object& object, const wchar_t* name, const _variant_t& arg
 
 Object Burglary() {
     const Object incident = Create(L"TVLejisCore.LejisIncidentIndexCard");
+    Put(incident, L"OrganizationName", L"Harlow Police Department");
     Put(incident, L"OrganizationORI", L"PA0250100");
     Put(incident, L"ActivityID", L"2007-000123");
     Put(Get(incident, L"SubmittedDate"), L"Value", L"2007-03-09 14:05:00");
+    Put(Get(incident, L"ActivityDateTime"), L"Value", L"2007-03-09 14:05:00");
     Put(incident, L"ChargeNCICCode", L"2202");
+    Put(incident, L"ChargeDescriptionText", L"Burglary, forced entry, residence");
     // The parts of an incident are there from the beginning and are filled in place.
     Put(Get(incident, L"Location"), L"City", L"HARLOW");
+    Put(Get(incident, L"Location"), L"ZIP", L"170991234");
     const Object victim = Create(L"TVLejisCore.LejisPersonIndexCard");
+    Put(victim, L"GivenName", L"JOHN");
     Put(victim, L"SurName", L"PUBLIC");
     Put(victim, L"Involvement", L"VICTIM");
     Put(victim, L"RaceNCIC", L"X");

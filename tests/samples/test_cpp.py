@@ -5,7 +5,8 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from sample_case import BUILD, DONE, REFUSED, SAMPLES, SEARCH, SUBMISSION, TRY_AGAIN, SampleCase, blocks
+from sample_case import BUILD, SAMPLES, SampleCase, blocks
+from sample_tests import SearchFailureTests, SearchTests, SubmissionTests
 
 FOLDER = SAMPLES / "cpp"
 
@@ -24,60 +25,22 @@ def setUpModule():
     subprocess.run(["bash", "-e", "-c", commands], cwd=programs, env=environment, check=True)
 
 
-class LateBoundTest(SampleCase):
+class SampleTest(SampleCase):
     def submit(self, *arguments):
         return self.wine(str(programs / "late_bound.exe"), *arguments)
 
-    def test_the_warnings_are_listed(self):
-        run = self.submit(SUBMISSION)
-        self.assertEqual(run.code, DONE, run)
-        first, race = run.output.splitlines()
-        self.assertEqual(first, "Submitted with 1 warning(s).")
-        self.assertIn("'X' is not a valid NCIC race code", race)
-        self.assertEqual(self.indexed(), ["2007-000123"])
+    def search(self, *arguments):
+        return self.wine(str(programs / "early_bound.exe"), *arguments)
 
-    def test_a_passing_failure_may_be_tried_again(self):
-        self.play(kind="response-code", text="100 core offline")
-        run = self.submit(SUBMISSION)
-        self.assertEqual(run.code, TRY_AGAIN, run)
-        self.assertEqual(run.output,
-                         "Not sent, try again later: LEJIS server is up, but LEJIS core system is offline.\n")
 
-    def test_a_refusal_is_final(self):
-        self.play(kind="soap-fault", message="The agency is not known here.")
-        self.assertEqual(self.submit(SUBMISSION), (REFUSED, "Refused: The agency is not known here.\n"))
-
+class LateBoundTest(SubmissionTests, SampleTest):
     def test_it_tells_how_to_call_it(self):
         self.assertEqual(self.submit(), (64, "usage: late_bound URL\n"))
 
 
-class EarlyBoundTest(SampleCase):
-    def search(self, user="jdoe", surname="PUBLIC", url=SEARCH):
-        return self.wine(str(programs / "early_bound.exe"), url, user, surname)
-
-    def test_the_incidents_found_are_listed(self):
-        self.play(target="search", kind="cards", count=3)
-        run = self.search()
-        self.assertEqual(run.code, DONE, run)
-        first, *incidents = run.output.splitlines()
-        self.assertEqual((first, len(incidents)), ("3 incident(s) found.", 3))
-
-    def test_nothing_found_is_an_answer(self):
-        self.assertEqual(self.search(surname="NOBODY"), (DONE, "0 incident(s) found.\n"))
-
-    def test_a_passing_failure_may_be_tried_again(self):
-        self.play(target="search", kind="http-status", status=502, reason="")
-        self.assertEqual(self.search(), (
-            TRY_AGAIN,
-            "No answer, try again later: The LEJIS server returned HTTP status code 502 (no message text)\n"))
-
-    def test_a_refusal_is_final(self):
-        self.play(target="search", kind="soap-fault", message="Not today.")
-        self.assertEqual(self.search(), (REFUSED, "Refused: Not today.\n"))
-
-    def test_wrong_settings_are_told_apart(self):
-        self.assertEqual(self.search(url="no address"), (
-            REFUSED, "Not set up correctly, tell the administrator: Invalid URL 'no address'.\n"))
+class EarlyBoundTest(SearchTests, SearchFailureTests, SampleTest):
+    def test_it_tells_how_to_call_it(self):
+        self.assertEqual(self.search(), (64, "usage: early_bound URL USER SURNAME\n"))
 
 
 if __name__ == "__main__":
