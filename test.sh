@@ -92,7 +92,7 @@ say_clients() {
   if [[ $LEJIS_TEST_CLIENTS == yes ]]; then
     run /usr/bin/python3 "$project/tests/clients/table.py" "$LEJIS_TEST_RESULTS/clients"
   else
-    say "The clients in C#, Free Pascal and JScript were not run: --clients runs them"
+    say "The clients in C#, Free Pascal, JScript and VBScript were not run: --clients runs them"
   fi
 }
 

@@ -11,7 +11,7 @@ source "$project/tools/clients/places.sh"
 export LEJIS_ARCHITECTURE=$1 PYTHONPATH=$project/tests/samples
 tests=("${@:2}")
 if ((${#tests[@]} == 0)); then
-  tests=(test_jscript)
+  tests=(test_scripts)
   [[ ! -f $free_pascal/finished ]] || tests+=(test_pascal)
   if has_dotnet; then tests+=(test_csharp); fi
 fi
