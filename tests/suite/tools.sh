@@ -34,4 +34,5 @@ register_dll "$1"
 run_python
 run_page "$1"
 run_tests - packages unittest packages "$simulator" "$project/tests/packages/run.sh" "$@"
+run_tests - kit unittest kit "$simulator" "$project/tests/packages/run.sh" --kit "$@"
 say "tools and packages tested in $((SECONDS - started)) s"
