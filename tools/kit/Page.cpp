@@ -17,6 +17,9 @@ th { background: #f3f5f7; }
 pre { font: 14px/1.45 Consolas, monospace; background: #f3f5f7; padding: .8em 1em; overflow-x: auto; white-space: pre-wrap; }
 .passed { color: #116329; } .failed { color: #a40e26; } .in-part, .not-run { color: #5b5200; }
 .status { font-weight: 600; white-space: nowrap; }
+.status small { display: block; font-weight: 400; }
+.name, .time { white-space: nowrap; } .time { text-align: right; }
+.what { width: 30%; } table.facts { width: auto; }
 </style>
 </head>
 <body>
@@ -53,9 +56,9 @@ std::string Status(const Json& entry, bool underWine) {
     if (const size_t blank = style.find(' '); blank != std::string::npos) style[blank] = '-';
     std::string cell = "<td class=\"status " + style + "\">" + Text(entry["status"]);
     if (underWine && entry["status"] != entry["expectedUnderWine"]) {
-        cell += " (expected under Wine: " + Text(entry["expectedUnderWine"]) + ")";
+        cell += "<small>expected under Wine: " + Text(entry["expectedUnderWine"]) + "</small>";
     } else if (underWine && entry["status"] == kFailed) {
-        cell += " (as always under Wine)";
+        cell += "<small>as always under Wine</small>";
     }
     return cell + "</td>";
 }
@@ -66,16 +69,29 @@ std::string Lines(const Json& texts) {
     return lines;
 }
 
-std::string Summary(const Json& report) {
-    std::string text = "<p>";
-    for (const auto& [status, count] : report["counts"]["points"].items()) {
-        text += (text == "<p>" ? "" : ", ") + std::to_string(count.get<int>()) + " " + status;
+// "2007-03-09T14:05:00.000Z" to the second.
+std::string Moment(const Json& time) {
+    const std::string text = time.get<std::string>();
+    return Escaped(text.substr(0, 10) + " " + text.substr(11, 8));
+}
+
+// Without what there is none of.
+std::string Counts(const Json& counts) {
+    std::string text;
+    for (const auto& [status, count] : counts.items()) {
+        if (count != 0) text += (text.empty() ? "" : ", ") + std::to_string(count.get<int>()) + " " + status;
     }
-    return text + " of " + std::to_string(report["points"].size()) + " points. " +
+    return text;
+}
+
+std::string Summary(const Json& report) {
+    const Json& counts = report["counts"];
+    return "<p>" + std::to_string(report["points"].size()) + " points: " + Counts(counts["points"]) + ".<br>\n" +
+           std::to_string(report["runs"].size()) + " runs: " + Counts(counts["runs"]) + ".<br>\n" +
            (report["simulator"].is_null() ? "No simulator was named: what needs one was not run."
                                           : "Simulator: <code>" + Text(report["simulator"]) + "</code>.") +
-           " " + Text(report["started"]) + " to " + Text(report["ended"]) + ", version " + Text(report["kit"]) +
-           ".</p>\n" +
+           "<br>\nFrom " + Moment(report["started"]) + " to " + Moment(report["ended"]) + " (UTC), version " +
+           Text(report["kit"]) + ".</p>\n" +
            (report["underWine"] == true ? "<p><strong>This is Wine, not Windows.</strong> It proves none of this.</p>\n"
                                         : "");
 }
@@ -88,7 +104,8 @@ std::string Points(const Json& report) {
         rows += "<tr><td>" + std::to_string(point["number"].get<int>()) + "</td><td>" + Text(point["title"]) + "</td>" +
                 Status(point, report["underWine"]) + "<td>" + seen + "</td></tr>\n";
     }
-    return "<h2>Only Windows can prove</h2>\n<table>\n<tr><th></th><th>What</th><th>Status</th><th>Seen</th></tr>\n" +
+    return "<h2>Only Windows can prove</h2>\n<table>\n"
+           "<tr><th></th><th class=\"what\">What</th><th>Status</th><th>Seen</th></tr>\n" +
            rows + "</table>\n";
 }
 
@@ -97,17 +114,21 @@ std::string Machine(const Json& report) {
     for (const Json& fact : report["machine"]) {
         rows += "<tr><td>" + Text(fact["name"]) + "</td><td>" + Text(fact["text"]) + "</td></tr>\n";
     }
-    return "<h2>This machine</h2>\n<table>\n" + rows + "</table>\n";
+    return "<h2>This machine</h2>\n<table class=\"facts\">\n" + rows + "</table>\n";
 }
 
 std::string NameOf(const Json& run) { return Text(run["bits"]) + " " + Text(run["name"]); }
 
+std::string Seconds(const Json& run) {
+    if (run["status"] == kNotRun) return "";
+    return std::to_string(static_cast<int>(run["seconds"].get<double>() + 0.5)) + " s";
+}
+
 std::string Runs(const Json& report) {
     std::string rows;
     for (const Json& run : report["runs"]) {
-        const std::string seconds = std::to_string(static_cast<int>(run["seconds"].get<double>() + 0.5));
-        rows += "<tr><td>" + NameOf(run) + "</td>" + Status(run, report["underWine"]) + "<td>" + Text(run["seen"]) +
-                "</td><td>" + seconds + " s</td></tr>\n";
+        rows += "<tr><td class=\"name\">" + NameOf(run) + "</td>" + Status(run, report["underWine"]) + "<td>" +
+                Text(run["seen"]) + "</td><td class=\"time\">" + Seconds(run) + "</td></tr>\n";
     }
     return "<h2>Runs</h2>\n<table>\n<tr><th>Run</th><th>Status</th><th>Seen</th><th>Time</th></tr>\n" + rows +
            "</table>\n";
@@ -121,7 +142,11 @@ std::string Failures(const Json& report) {
         for (const Json& test : run["failedTests"]) {
             text += "<h4>" + Text(test["name"]) + "</h4>\n<pre>" + Text(test["text"]) + "</pre>\n";
         }
-        if (run["output"] != "") text += "<pre>" + Text(run["output"]) + "</pre>\n";
+        if (run["output"] != "") {
+            text += "<pre>" + Text(run["output"]) + "</pre>\n";
+        } else if (run["failedTests"].empty()) {
+            text += "<p>It printed nothing.</p>\n";
+        }
     }
     return text.empty() ? "" : "<h2>What failed</h2>\n" + text;
 }

@@ -56,7 +56,11 @@ std::vector<Run> ReadRuns(const Settings& settings, const std::wstring& bits) {
 Result CarryOut(const Run& run, const Settings& settings) {
     if (!run.name.starts_with(settings.only)) return NotRun("left out by --only");
     if (run.needsSimulator && settings.simulator.empty()) return NotRun("needs the address of a simulator");
-    if (!Exists(run.program)) return NotRun(lejis_client::Utf8(run.program) + " is not on this machine");
+    if (!Exists(run.program)) {
+        // What an earlier run compiles.
+        if (run.program.starts_with(settings.results)) return NotRun("its program was not made");
+        return NotRun(lejis_client::Utf8(run.program) + " is not on this machine");
+    }
     if (LacksScriptEngine(run)) return NotRun("VBScript is not on this machine: it is an optional feature of Windows");
     const std::wstring stem = settings.results + L"\\" + run.bits + L" " + run.name;
     std::wstring commandLine = L"\"" + run.program + L"\" " + run.arguments;

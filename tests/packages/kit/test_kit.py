@@ -103,6 +103,7 @@ OWN_RUNS = [
     run_row("bad", "code 0", CSCRIPT, r'//nologo "{kit}\bad.vbs"'),
     run_row("endless", "code 0", CSCRIPT, r'//nologo "{kit}\endless.vbs"', seconds=3),
     run_row("absent", "code 0", r"{kit}\absent.exe"),
+    run_row("unmade", "code 0", r"{results}\unmade.exe"),
     run_row("simulator", "code 0", CMD, "/c exit 0", needs="simulator"),
     run_row("no check", "script", CSCRIPT, r'//nologo "{kit}\nothing.vbs"'),
     run_row("other processor", "script", CSCRIPT, r'//nologo "{kit}\processor.vbs"'),
@@ -149,6 +150,7 @@ class JudgementTest(KitCase):
             "register": ("passed", "ended with code 0"), "good": ("passed", 'said "hello"'),
             "silent": ("failed", 'did not say "hello"'), "bad": ("failed", "ended with code 3"),
             "absent": ("not run", f"{machine.windows_path(self.kit)}\\absent.exe is not on this machine"),
+            "unmade": ("not run", "its program was not made"),
             "simulator": ("not run", "needs the address of a simulator"),
             "no check": ("failed", "ended with code 7, but made no check"),
             "other processor": ("failed", f"ran on PDP11, not on {'AMD64' if ARCHITECTURE == 'x64' else 'x86'}"),
@@ -172,6 +174,9 @@ class JudgementTest(KitCase):
         self.assertEqual({point["title"]: point["status"] for point in points},
                          {title: status for title, (_, _, status) in OWN_POINTS.items()})
         page = self.page()
+        self.assertIn("<p>6 points: 1 passed, 1 failed, 2 in part, 2 not run.<br>", page)
+        self.assertIn("<small>expected under Wine: passed</small>", page)
+        self.assertRegex(page, r"<h3>\S+ silent: .*</h3>\r?\n<p>It printed nothing.</p>")
         self.assertIn("<td>Fails &amp; &lt;b&gt;shows&lt;/b&gt;</td>", page)
         self.assertIn("<pre>A &lt;tag&gt;\n</pre>", page.replace("\r", ""))
         self.assertIn("By hand: look at it", page)
