@@ -1,4 +1,4 @@
-// A client that finds members by their names when it runs. Only to listen to events it says what they look like.
+// A client that finds members by their names when it runs. Only of what the library calls it says what that looks like.
 using System;
 using System.Reflection;
 using System.Runtime.InteropServices;
@@ -242,11 +242,15 @@ sealed class Client
 
     void Deferred()
     {
-        // A runnable is an object of a fixed interface, which a client cannot be late-bound for: the service has one.
+        var work = new Work();
+        Call(Create("FutureManager"), "InvokeLater", work);
+        MessageLoop.RunUntil(() => work.Runs == 1);
         object future = Create("Future");
-        object service = Create("LejisSubmissionWebService");
-        Call(future, "Execute", service, new DispatchWrapper(null));
-        MessageLoop.RunUntil(() => (bool)Get(future, "Completed"));
+        Call(future, "Execute", work, work);
+        MessageLoop.RunUntil(() => work.Completions == 1);
+        Steps.Same(2, work.Runs);
+        Steps.Same(true, work.WasCompleted);
+        Steps.Same(true, Get(future, "Completed"));
     }
 
     void Release()
@@ -281,4 +285,32 @@ public class SearchSink : ISearchEvents
     public void ConfigurationError(string reasonMessage) { Outcome = reasonMessage; }
     public void NetworkError(string reasonMessage) { Outcome = reasonMessage; }
     public void ServiceError(string reasonMessage) { Outcome = reasonMessage; }
+}
+
+[ComImport, Guid("7A708079-7BAB-45DD-84A8-9918536CC644"), InterfaceType(ComInterfaceType.InterfaceIsDual)]
+public interface IRunnable
+{
+    [DispId(1)] void Run();
+}
+
+[ComImport, Guid("298C3D57-E048-4D69-9D54-819DA569925B"), InterfaceType(ComInterfaceType.InterfaceIsDual)]
+public interface IFutureObserver
+{
+    [DispId(1)] void FutureCompleted([MarshalAs(UnmanagedType.IDispatch)] object theFuture);
+}
+
+[ComVisible(true), ClassInterface(ClassInterfaceType.None)]
+public class Work : IRunnable, IFutureObserver
+{
+    public int Runs { get; private set; }
+    public int Completions { get; private set; }
+    public bool WasCompleted { get; private set; }
+
+    public void Run() { ++Runs; }
+
+    public void FutureCompleted(object theFuture)
+    {
+        WasCompleted = (bool)Client.Get(theFuture, "Completed");
+        ++Completions;
+    }
 }
