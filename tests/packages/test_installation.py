@@ -116,7 +116,8 @@ class InstallationTest(PackageCase):
     def test_a_newer_version_that_fails_leaves_the_older_one_as_it_was(self):
         architecture = ARCHITECTURES[0]
         newer = self.newer_installer(architecture)
-        # An error at the begin of what changes the machine: Wine rolls nothing back, Windows does.
+        # An error at the begin of what changes the machine. Once files have been copied, Wine's rollback removes them
+        # where Windows puts the older ones back.
         subprocess.run(["msibuild", newer,
                         "-q", "INSERT INTO `CustomAction` (`Action`, `Type`, `Target`) "
                               "VALUES ('Fail', 19, 'This fails.')",
