@@ -8,6 +8,7 @@ import time
 import icon
 import installer_rows
 from installer_source import BITS, ICON, identifier
+from product import MAKER
 
 # A time in the installer's summary: its type and then the time in units of 100 ns since 1601.
 FILE_TIME = struct.pack("<I", 0x40)
@@ -49,5 +50,5 @@ def build(source, work_folder, output, moment):
     name = f"{source.title} {source.version} ({BITS[source.architecture]})"
     template = {"x86": "Intel;1033", "x64": "x64;1033"}[source.architecture]
     installer_rows.complete(output, source)
-    subprocess.run(["msibuild", str(output), "-s", name, "Talvex", template, code], check=True)
+    subprocess.run(["msibuild", str(output), "-s", name, MAKER, template, code], check=True)
     _date_back(output, started, moment)

@@ -5,7 +5,7 @@ import tempfile
 from collections import Counter
 from pathlib import Path
 
-from installer_source import PATH_COMPONENT
+from installer_source import FEATURES, PATH_COMPONENT
 from versions import windows_version
 
 # The older version goes when the newer one is in place, so that it stays when the newer one fails. What both have in
@@ -24,7 +24,6 @@ FIRST_LATE_PROPERTY = 1010  # after CostFinalize
 PATH_NAME, PATH_VALUE = "=-*PATH", "[~];[INSTALLDIR]"
 # Whether a person may leave a feature out; none is only advertised.
 NO_ADVERTISING, CANNOT_BE_LEFT_OUT = 8, 16
-FEATURES = {"Library": NO_ADVERTISING | CANNOT_BE_LEFT_OUT, "Path": NO_ADVERTISING, "Documentation": NO_ADVERTISING}
 
 TABLES = {
     "Environment": "CREATE TABLE `Environment` (`Environment` CHAR(72) NOT NULL, `Name` CHAR(255) NOT NULL "
@@ -74,8 +73,9 @@ def _late_properties():
 
 
 def _features():
-    for name, attributes in FEATURES.items():
-        yield f"UPDATE `Feature` SET `Attributes` = {attributes} WHERE `Feature` = '{name}'"
+    for feature in FEATURES:
+        attributes = NO_ADVERTISING if feature.can_be_left_out else NO_ADVERTISING | CANNOT_BE_LEFT_OUT
+        yield f"UPDATE `Feature` SET `Attributes` = {attributes} WHERE `Feature` = '{feature.name}'"
 
 
 def _file_versions(source):

@@ -3,7 +3,9 @@ import re
 import uuid
 import xml.etree.ElementTree as ElementTree
 from pathlib import PurePosixPath
+from typing import NamedTuple
 
+from product import DESCRIPTION, MAKER
 from registry_rows import own_rows, shared_rows
 
 # These make installed packages know each other; they never change.
@@ -18,11 +20,18 @@ START_PAGE = "docs.index.html"
 PATH_COMPONENT = "CommandLinePath"
 DOWNGRADE = "A newer TVLejisCore is installed already. Uninstall it first if you want this one."
 
-# Identifier, title and description.
+
+class Feature(NamedTuple):
+    name: str
+    title: str
+    description: str
+    can_be_left_out: bool
+
+
 FEATURES = (
-    ("Library", "TVLejisCore", "The library, registered for all users, and lejis.exe."),
-    ("Path", "lejis on the PATH", "Lets every command prompt find lejis.exe."),
-    ("Documentation", "Documentation and samples", "Pages, samples, type library, IDL and C++ header."),
+    Feature("Library", "TVLejisCore", "The library, registered for all users, and lejis.exe.", False),
+    Feature("Path", "lejis on the PATH", "Lets every command prompt find lejis.exe.", True),
+    Feature("Documentation", "Documentation and samples", "Pages, samples, type library, IDL and C++ header.", True),
 )
 
 
@@ -64,16 +73,16 @@ class Source:
     def __init__(self, library, architecture, version, files, title, host):
         self.type_library, self.architecture, self.files = library, architecture, files
         self.title, self.host, self.version = title, host, version
-        self.components = {name: [] for name, *_ in FEATURES}
+        self.components = {feature.name: [] for feature in FEATURES}
         self.folders = {}
 
     def document(self):
         root = ElementTree.Element("Wix", xmlns="http://schemas.microsoft.com/wix/2006/wi")
         product = _add(root, "Product", Id=product_code(self.architecture, self.version), Version=self.version,
-                       Name=f"{self.title} ({BITS[self.architecture]})", Manufacturer="Talvex", Language="1033",
+                       Name=f"{self.title} ({BITS[self.architecture]})", Manufacturer=MAKER, Language="1033",
                        UpgradeCode=UPGRADE_CODES[self.architecture])
         _add(product, "Package", InstallerVersion="200", InstallScope="perMachine", Compressed="yes",
-             Manufacturer="Talvex", Description="Talvex Core LEJIS Support",
+             Manufacturer=MAKER, Description=DESCRIPTION,
              Comments=f"Registers the LEJIS classes for all users; made for the LEJIS host {self.host}")
         _add(product, "MajorUpgrade", DowngradeErrorMessage=DOWNGRADE)
         _add(product, "Media", Id="1", Cabinet="files.cab", EmbedCab="yes")
@@ -87,15 +96,17 @@ class Source:
         return ElementTree.tostring(root, "unicode")
 
     def _add_features(self, product):
-        for name, title, description in FEATURES:
-            feature = _add(product, "Feature", Id=name, Level="1", Title=title, Description=description)
-            for component in self.components[name]:
-                _add(feature, "ComponentRef", Id=component)
+        for feature in FEATURES:
+            # Whether it can be left out is written by installer_rows.
+            element = _add(product, "Feature", Id=feature.name, Level="1", Title=feature.title,
+                           Description=feature.description)
+            for component in self.components[feature.name]:
+                _add(element, "ComponentRef", Id=component)
 
     def _add_folders(self, product):
         target = _add(product, "Directory", Id="TARGETDIR", Name="SourceDir")
         programs = _add(target, "Directory", Id=PROGRAM_FOLDERS[self.architecture])
-        maker = _add(programs, "Directory", Id="MakerFolder", Name="Talvex")
+        maker = _add(programs, "Directory", Id="MakerFolder", Name=MAKER)
         self._add_maker_folder(maker, "MakerFolderRemoval", "Library")
         self.folders[PurePosixPath(".")] = folder = _add(maker, "Directory", Id="INSTALLDIR", Name="TVLejisCore")
         for path in sorted(self.files):
@@ -134,7 +145,7 @@ class Source:
 
     def _add_start_menu(self, target):
         menu = _add(target, "Directory", Id="ProgramMenuFolder", Name="Programs")
-        folder = _add(menu, "Directory", Id="MakerMenu", Name="Talvex")
+        folder = _add(menu, "Directory", Id="MakerMenu", Name=MAKER)
         component = self._component(folder, "StartMenu", "Documentation")
         _add(component, "Shortcut", Id="DocumentationShortcut", Directory="MakerMenu",
              Name=f"{self.title} documentation ({BITS[self.architecture]})", Target=f"[#{START_PAGE}]", Icon=ICON,

@@ -3,7 +3,7 @@ import subprocess
 from pathlib import Path
 from typing import NamedTuple, Optional
 
-DESCRIPTION = "Talvex Core LEJIS Support"
+from product import DESCRIPTION
 
 
 class Signer(NamedTuple):
