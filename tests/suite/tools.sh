@@ -34,5 +34,6 @@ register_dll "$1"
 run_python
 run_page "$1"
 run_tests - packages unittest packages "$simulator" "$project/tests/packages/run.sh" "$@"
-run_tests - kit unittest kit "$simulator" "$project/tests/packages/run.sh" --kit "$@"
+# It runs what the lanes of all architectures do.
+time_limit=1800 run_tests - kit unittest kit "$simulator" "$project/tests/packages/run.sh" --kit "$@"
 say "tools and packages tested in $((SECONDS - started)) s"
