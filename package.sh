@@ -1,11 +1,12 @@
 #!/bin/bash
-# package.sh [--lejis-host HOST] [--sign CERT KEY [--timestamp URL]] [--kit] [x86|x64|all]
+# package.sh [--lejis-host HOST] [--sign CERT KEY [--timestamp URL]] [--kit] [--output FOLDER] [x86|x64|all]
 # Builds the library and makes its packages in build/packages: for each bitness a zip, a zip of the debug symbols and an
 # installer (MSI); a zip of the simulator, and SHA256SUMS. HOST is the host in the namespaces of the LEJIS that they are
 # made for, and stands in the packages' names; without it they are made for lejis.example, which stands for none.
 # --sign: the DLLs, programs and installers are signed with this certificate (a file with its chain, PEM) and key (PEM);
 # URL is the time-stamping service without which a signature ends with its certificate.
 # --kit: also the zip that tries the library on Windows, with its tests. It is for lejis.example, as the simulator is.
+# --output: they are made in this folder instead of build/packages.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
@@ -15,6 +16,7 @@ source "$project/tools/wine-environment.sh"
 signing=()
 selection=all
 with_kit=no
+packages=$project/build/packages
 
 # Paths are given as seen from where the script was started.
 readable_file() {
@@ -38,6 +40,11 @@ read_arguments() {
         shift
         ;;
       --kit) with_kit=yes ;;
+      --output)
+        [[ -n ${2:-} ]] || wrong_usage "--output needs a folder"
+        packages=$(realpath --canonicalize-missing "$2")
+        shift
+        ;;
       -*) wrong_usage "unknown option $1" ;;
       *) selection=$1 ;;
     esac
@@ -51,7 +58,6 @@ read_arguments "${arguments[@]}"
 [[ $with_kit == no || -z $lejis_host ]] || wrong_usage "the kit is tried with the simulator, which is for no LEJIS host"
 architectures=$(architectures_of "$selection")
 build=("$project/build.sh" ${lejis_host:+--lejis-host "$lejis_host"})
-packages=$project/build/packages
 
 # The type library is read by a Windows program, of a bitness that runs here; either reads both.
 reader=x64
@@ -99,5 +105,5 @@ else
 fi
 cd "$packages"
 sha256sum -- *.zip *.msi >SHA256SUMS
-say "Packages in build/packages:"
+say "Packages in ${packages#"$project"/}:"
 find . -maxdepth 1 -type f ! -name SHA256SUMS -printf '  %-40f %8k KB\n' | sort

@@ -9,21 +9,25 @@ from pathlib import Path
 from package_case import ARCHITECTURES, PROJECT
 from test_content import content
 
-import package as packaging
 from signing import Signer
 
 ARCHITECTURE = ARCHITECTURES[-1]
 SIGNED = ("TVLejisCore.dll", "lejis.exe", "TVLejisCore.msi")
 WRONG_USAGE = 64
+LONGEST_PACKAGING = 300
 
 
-def run(*command, **options):
-    return subprocess.run([str(word) for word in command], capture_output=True, text=True, timeout=120, check=False,
-                          **options)
+def run(*command, timeout=120, **options):
+    return subprocess.run([str(word) for word in command], capture_output=True, text=True, timeout=timeout,
+                          check=False, **options)
+
+
+def package(*arguments, **options):
+    return run(PROJECT / "package.sh", *arguments, stdin=subprocess.DEVNULL, **options)
 
 
 def setUpModule():
-    """Signs the packages of one bitness, once."""
+    """Makes signed packages of one bitness, as people do, once."""
     global folder, certificate, key
     folder = Path(tempfile.mkdtemp(prefix="signed-"))
     unittest.addModuleCleanup(shutil.rmtree, folder)
@@ -31,13 +35,19 @@ def setUpModule():
     made = run("openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2", "-subj", "/CN=Tests of Talvex",
                "-addext", "extendedKeyUsage=codeSigning", "-keyout", key, "-out", certificate)
     assert made.returncode == 0, made
-    description = PROJECT / "build" / ARCHITECTURE / "packaging" / "type_library.tsv"
-    packaging.main(ARCHITECTURE, description, folder / "packages", Signer(certificate, key))
-    (archive,) = [path for path in (folder / "packages").glob("*.zip") if "symbols" not in path.name]
+    made = package("--sign", certificate.name, key.name, "--output", "packages", ARCHITECTURE, cwd=folder,
+                   timeout=LONGEST_PACKAGING)
+    assert made.returncode == 0, made
+    take_files(folder / "packages")
+
+
+def take_files(packages):
+    """Puts the files that are to be signed into the folder."""
+    (archive,) = packages.glob(f"*-{ARCHITECTURE}.zip")
     for name, text in content(archive).items():
         if name in SIGNED:
             (folder / name).write_bytes(text)
-    (installer,) = (folder / "packages").glob("*.msi")
+    (installer,) = packages.glob("*.msi")
     shutil.copy(installer, folder / "TVLejisCore.msi")
     # What the installer brings, to be compared with what the archive holds.
     run("msiextract", "-C", folder / "installed", installer)
@@ -87,9 +97,6 @@ class SignatureTest(unittest.TestCase):
 
 
 class OptionTest(unittest.TestCase):
-    def package(self, *arguments):
-        return run(PROJECT / "package.sh", *arguments, stdin=subprocess.DEVNULL)
-
     def test_what_is_missing_is_named_before_anything_is_built(self):
         service = "http://127.0.0.1:1/"
         for arguments, said in (
@@ -98,9 +105,10 @@ class OptionTest(unittest.TestCase):
                 (["--sign", certificate, "nowhere.pem"], "nowhere.pem: there is no such certificate or key"),
                 (["--timestamp", service, "x64"], "--timestamp is of use with --sign alone"),
                 (["--sign", certificate, key, "--timestamp"], "--timestamp needs the address of a service"),
+                (["--output"], "--output needs a folder"),
                 (["--sing", "x64"], "unknown option --sing")):
             with self.subTest(arguments):
-                refused = self.package(*arguments)
+                refused = package(*arguments)
                 self.assertEqual(refused.returncode, WRONG_USAGE, refused)
                 self.assertIn(said, re.sub(r"\s+", " ", refused.stderr))
 
