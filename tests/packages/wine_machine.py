@@ -20,12 +20,14 @@ TIME_LIMIT = 120
 MSIEXEC = "msiexec" if wine_version.major() >= 10 else r"C:\windows\syswow64\msiexec.exe"
 
 # What Wine keeps for itself: the installer's empty folders and keys stay after the first product that was installed,
-# the last start writes its time, and the first use of the web leaves a cache and a setting.
+# its devices are found little by little and bear the time of the last start, and the first use of the web leaves a cache
+# and settings.
 KEPT_BY_WINE = re.compile(
-    r"""system\.reg \[Software\\\\Classes\\\\Installer\\\\(Features|Products|UpgradeCodes)\]$
-      | system\.reg \[Software\\\\Microsoft\\\\Windows\\\\CurrentVersion\\\\Installer\\\\
+    r"""system\.reg\ \[Software\\\\Classes\\\\Installer\\\\(Features|Products|UpgradeCodes)\]$
+      | system\.reg\ \[Software\\\\Microsoft\\\\Windows\\\\CurrentVersion\\\\Installer\\\\
             (UpgradeCodes|UserData\\\\S-1-5-18\\\\(Components|Products))\]$
-      | system\.reg .* "DriverDateData"=
+      | system\.reg\ \[System\\\\CurrentControlSet\\\\(Control\\\\(Class|DeviceClasses)|Enum)\\\\
+      | system\.reg\ \[Software\\\\Microsoft\\\\Windows\ NT\\\\CurrentVersion\\\\NetworkCards\]$
       | disk\ windows/Installer$
       | disk\ users/[^/]+/(Temp|AppData/Local/Temp)(/|$)
       | disk\ users/[^/]+/AppData/Local/Microsoft/Windows/INet(Cache|Cookies)/
