@@ -175,6 +175,8 @@ class JudgementTest(KitCase):
                          {title: status for title, (_, _, status) in OWN_POINTS.items()})
         page = self.page()
         self.assertIn("<p>6 points: 1 passed, 1 failed, 2 in part, 2 not run.<br>", page)
+        # Nothing is said of a status that no run has.
+        self.assertRegex(page, r"\d+ runs: \d+ passed, \d+ failed, 3 not run\.<br>")
         self.assertIn("<small>expected under Wine: passed</small>", page)
         self.assertRegex(page, r"<h3>\S+ silent: .*</h3>\r?\n<p>It printed nothing.</p>")
         self.assertIn("<td>Fails &amp; &lt;b&gt;shows&lt;/b&gt;</td>", page)
