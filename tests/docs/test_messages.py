@@ -18,7 +18,7 @@ FORMS = {
     r"%\S+": "a format of numbers",
 }
 WORDS = {
-    "a key or value of the registry": "ThreadingModel Apartment win32 win64 DebugLejis TVLejisCore.",
+    "a key or value of the registry": "ThreadingModel Apartment win32 win64 DebugLejis",
     "a member of the host's components": "ErrorNumber Yield Folders Diagnostics Interval Enabled "
         "Elapsed",
     "a name of the platform": "LOCALAPPDATA ntdll.dll wine_get_version .CRT$XLF",
@@ -27,7 +27,7 @@ WORDS = {
     "a property of MSXML": "SelectionLanguage XPath SelectionNamespaces",
     "a key of a table": "K",
     "a language of linkage": "C",
-    "the source of an error, or what the suite calls itself": "TVLejisCore Talvex TalvexSuite",
+    "what the suite calls itself": "Talvex TalvexSuite",
     "a set of codes, or one": "ABIUW MFU U Y",
     "the name of a type, which stands for {type} in 'Cannot assign'":
         "Empty Null Integer Long Single Double Currency Date String Error Boolean Variant Decimal SByte Byte UShort "
