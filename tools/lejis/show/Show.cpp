@@ -9,6 +9,7 @@
 #include "files/StandardInput.h"
 #include "library/SubmissionRequest.h"
 #include "platform/msxml/Document.h"
+#include "platform/msxml/Markup.h"
 #include "submission/ShapedIncident.h"
 #include "text/Layout.h"
 #include "text/XmlLayout.h"
