@@ -68,6 +68,7 @@ class ControlTest(SimulatorCase):
     def test_numbers_go_on_after_a_restart(self) -> None:
         self.submit()
         log = ExchangeLog(self.data / "exchanges")
+        self.addCleanup(log.close)
         self.assertEqual(2, log.record(HttpRequest(), b"", 400, {}, None))
 
     def test_index_outlives_a_restart(self) -> None:
@@ -125,7 +126,7 @@ class ControlTest(SimulatorCase):
         self.submit(documents.submission(documents.card("a"), documents.card("b")))
         self.assertEqual("PA0123400 a and 1 more", self.last_exchange()["about"])
         self.call("POST", SEARCH_PATH, inquiries.search(words="Main assault"), SEARCH_HEADERS)
-        self.assertEqual("main, assault", self.last_exchange()["about"])
+        self.assertEqual("Main, assault", self.last_exchange()["about"])
         self.submit(b"<no>")
         self.assertEqual("", self.last_exchange()["about"])
 
@@ -140,6 +141,7 @@ class ControlTest(SimulatorCase):
 
     def test_an_exchange_that_was_forgotten_under_way_stays_so(self) -> None:
         log = ExchangeLog(self.data / "other")
+        self.addCleanup(log.close)
         exchange = log.begin(HttpRequest())
         log.clear()
         exchange.received(b"late")

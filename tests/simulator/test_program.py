@@ -114,14 +114,31 @@ class ProgramTest(unittest.TestCase):
         self.assertIn("cannot start: it would record to itself.", errors)
         self.assertEqual(1, program.returncode)
 
-    def test_an_open_page_does_not_keep_it_from_stopping(self) -> None:
+    def test_an_open_page_keeps_it_running(self) -> None:
         program = self.started("--stop-after", "1")
         watching = http.client.HTTPConnection("127.0.0.1", self.port, timeout=10)
         self.addCleanup(watching.close)
         watching.request("GET", "/control/changes")
         known = json.loads(watching.getresponse().read())["changes"]
         watching.request("GET", f"/control/changes?after={known}")
+        time.sleep(2)
+        self.assertIsNone(program.poll())
+        watching.close()
+        # Somebody who has gone is noticed when there is something to tell.
+        self.post("/control/nothing")
         self.ends(program)
+
+    def test_an_open_page_does_not_hold_up_the_end(self) -> None:
+        program = self.started()
+        watching = http.client.HTTPConnection("127.0.0.1", self.port, timeout=10)
+        self.addCleanup(watching.close)
+        watching.request("GET", "/control/changes")
+        known = json.loads(watching.getresponse().read())["changes"]
+        watching.request("GET", f"/control/changes?after={known}")
+        time.sleep(0.2)
+        program.terminate()
+        self.ends(program, within=1)
+        self.assertEqual(known, json.loads(watching.getresponse().read())["changes"])
 
     def test_signals(self) -> None:
         for number in (signal.SIGTERM, signal.SIGINT):

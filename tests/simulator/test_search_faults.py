@@ -171,7 +171,8 @@ class SearchFaultsTest(SearchCase):
 
     def test_such_a_count_is_no_repetition(self) -> None:
         self.order("cards", count=2)
-        self.assertEqual([{"when": "next", "count": 2, "target": "search", "kind": "cards"}],
+        self.assertEqual([{"when": "next", "count": 2, "target": "search", "kind": "cards",
+                           "hits": 0, "exchanges": []}],
                          self.control("GET", "faults"))
         self.assertEqual(["2", "1"], [self.count(self.answer(PUBLIC)) for _ in "12"])
         self.order("cards", when="every", count=2)

@@ -5,6 +5,7 @@ from __future__ import annotations
 from collections.abc import Callable
 from dataclasses import replace
 from pathlib import Path
+from typing import Any
 
 from endpoints.callers import Callers
 from endpoints.changes import Changes
@@ -12,6 +13,7 @@ from endpoints.console import Console
 from endpoints.exchange_calls import ExchangeCalls
 from endpoints.search_checks import SearchChecks
 from endpoints.server_calls import ServerCalls
+from endpoints.subject import Subject
 from endpoints.submission_checks import SubmissionChecks
 from lejis.namespaces import SEARCH_PATH, SUBMISSION_PATH, Namespaces
 from lejis.schema_set import SchemaSet
@@ -19,6 +21,7 @@ from recording.far_side import FarSide
 from recording.passage import Passage
 from recording.response_frame import ResponseFrame
 from views.message_view import MessageView
+from views.outcome import outcome_of
 from views.raw_message import RawMessage
 from wire.delivery import Delivery
 from wire.exchange_log import ExchangeLog, OpenExchange
@@ -34,20 +37,34 @@ class Recorder:
     the simulator does, but for the record only."""
 
     def __init__(self, data: Path, namespaces: Namespaces, stop: Callable[[], None],
-                 far_side: FarSide, callers: Callers = Callers()) -> None:
-        self._namespaces = namespaces
+                 far_side: FarSide, callers: Callers = Callers(),
+                 keep: int | None = None) -> None:
+        self._namespaces, self._callers = namespaces, callers
         self._schemas = SchemaSet(data / "schemas", namespaces)
         self._far_side = far_side
-        self._log = ExchangeLog(data / "exchanges")
+        self._log = ExchangeLog(data / "exchanges", keep)
         self._changes = Changes()
         self._console = Console(
             callers, self._changes,
             ExchangeCalls(self._log, MessageView(namespaces, self._schemas)).table,
-            ServerCalls(self._changes, stop, far_side.address).table)
+            ServerCalls(self._changes, stop, {
+                "far_side": far_side.address, "lejis_host": namespaces.host,
+                "data": str(data.resolve()), "keep": keep,
+                "services": {"submission": SUBMISSION_PATH, "search": SEARCH_PATH},
+            }, self._news).table)
 
     def close(self) -> None:
-        """Lets go of those who watch."""
+        """Lets go of the files and of those who watch."""
         self._changes.end()
+        self._log.close()
+
+    def stop_watching(self) -> None:
+        """Nobody waits for news any longer."""
+        self._changes.end()
+
+    def _news(self) -> dict[str, Any]:
+        first, last, count = self._log.span
+        return {"listed": {"first": first, "last": last, "count": count}}
 
     def needs_length(self, method: str, target: str) -> bool:
         """Whether a length is needed is for the far side to say."""
@@ -58,13 +75,16 @@ class Recorder:
         return not Console.concerns(target)
 
     def is_watching(self, request: HttpRequest) -> bool:
-        """A page that is open somewhere must not keep the recorder from ending."""
+        """A page that is open keeps the recorder running, but does not hold up its end."""
         return Console.is_watching(request)
 
     def answer(self, request: HttpRequest, peer: str) -> Delivery | Takeover:
         """The console's answer, or the way to the far side's."""
         if Console.concerns(request.target):
             return Delivery(self._console.handle(request, peer))
+        if not self._callers.may_use_services(peer):
+            return Delivery(HttpResponse.text(
+                403, "This machine may not use the recorder; start it with --allow."))
         exchange = self._log.begin(request)
         frame = ResponseFrame(request.method)
         return Passage(exchange, frame, self._far_side.connect,
@@ -82,14 +102,24 @@ class Recorder:
 
     def _finish(self, exchange: OpenExchange, request: HttpRequest, status: int,
                 note: str) -> None:
-        checks, about = self._judged(request)
-        exchange.finish(status, checks, about=about, note=note)
-        self._changes.note()
+        checks, subject = self._judged(request)
+        # Interim responses and codings stand between the raw bytes and what they mean.
+        body = RawMessage(self._log.unlisted_response(exchange.number)).body
+        if exchange.finish(status, checks, note=note, **subject.listed,
+                           outcome=outcome_of(subject.kind, status, body, not note)):
+            self._changes.note(exchange=exchange.number)
 
-    def _judged(self, request: HttpRequest) -> tuple[dict[str, str], str]:
+    def _judged(self, request: HttpRequest) -> tuple[dict[str, str], Subject]:
         kind = _CHECKS.get(request.path) if request.method == "POST" else None
         if kind is None:
-            return {}, ""
+            return {}, _published(request)
         message = replace(request, body=RawMessage(request.head + request.body).body)
         checks = kind(message, self._namespaces, self._schemas)
-        return checks.verdicts, checks.about
+        return checks.verdicts, checks.subject
+
+
+def _published(request: HttpRequest) -> Subject:
+    """What is read only, and not checked."""
+    if request.method == "GET" and "wsdl" in request.query:
+        return Subject("wsdl")
+    return Subject("schema" if request.path.endswith(".xsd") else "other")

@@ -11,9 +11,9 @@ _HOST = re.compile(r"([A-Za-z0-9._-]+|\[[0-9A-Fa-f:.]+\])(:[0-9]{1,5})?")
 
 
 def own_address(request: HttpRequest) -> str | None:
-    """'http://host:port' after the Host header; nothing when that is missing or no host."""
+    """'http://host:port' or the same with https, after the Host header; nothing when that is missing or no host."""
     host = request.header("Host") or ""
-    return f"http://{host}" if _HOST.fullmatch(host) else None
+    return f"{request.scheme}://{host}" if _HOST.fullmatch(host) else None
 
 
 def schemas_address(own: str) -> str:

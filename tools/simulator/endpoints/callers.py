@@ -1,4 +1,4 @@
-"""Who may look inside the simulator and steer it."""
+"""Who may use the simulator, look inside it and steer it."""
 
 from __future__ import annotations
 
@@ -26,11 +26,15 @@ class Callers:
         if host is not None and not _is_beyond_name_service(host):
             return "Control takes an IP address or localhost in the Host header, no other name."
         origin = request.header("Origin")
-        if origin is not None and origin != f"http://{host}":
+        if origin is not None and origin != f"{request.scheme}://{host}":
             return "Control takes no call from another site's page."
         if request.header("Sec-Fetch-Site") not in (None, "same-origin", "none"):
             return "Control takes no call from another site's page."
         return None
+
+    def may_use_services(self, peer: str) -> bool:
+        """Whether submissions and searches from there are answered."""
+        return self._is_allowed(peer)
 
     def _is_allowed(self, peer: str) -> bool:
         address = _address(peer.partition("%")[0])

@@ -56,5 +56,6 @@ class Console:
             return self._page.handle(request)
         response = self._control.handle(request)
         if request.method != "GET":
-            self._changes.note()
+            # What it was about: the first name below /control/.
+            self._changes.note(request.path.removeprefix(CONTROL_PATH).partition("/")[0])
         return replace(response, headers=response.headers + (_SANDBOX,))

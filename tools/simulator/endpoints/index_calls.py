@@ -18,12 +18,21 @@ class IndexCalls:
     def __init__(self, index: IncidentIndex, seed: IndexSeed, namespaces: Namespaces) -> None:
         self._index, self._seed, self._namespaces = index, seed, namespaces
         self.table: Calls = {
-            ("GET", "index"): lambda call: HttpResponse.json(index.summaries()),
+            ("GET", "index"): self._summaries,
             ("POST", "index"): self._add_cards,
             ("DELETE", "index"): lambda call: forgotten(index.clear()),
             ("GET", "index/card"): self._card,
             ("GET", "index/card/view"): self._card_view,
         }
+
+    def _summaries(self, call: ControlCall) -> HttpResponse:
+        """All of them; or so many from a place on, with the number of all that hold the text."""
+        most = call.number("count")
+        if most is None:
+            return HttpResponse.json(self._index.summaries())
+        text = call.request.query.get("text", "")
+        total, cards = self._index.page(text, call.number("from") or 0, min(most, _MOST_CARDS))
+        return HttpResponse.compact_json({"total": total, "cards": cards})
 
     def _add_cards(self, call: ControlCall) -> HttpResponse:
         done = self._seed.add(call.request.body)
@@ -43,4 +52,5 @@ class IndexCalls:
         return self._index.card(call.argument("ori"), call.argument("id"))
 
 
+_MOST_CARDS = 500
 _NOT_HELD = HttpResponse.text(404, "No such incident is held.")

@@ -7,7 +7,8 @@ from lejis.schema_set import SchemaSet
 from wire.http_request import HttpRequest
 from wire.http_response import HttpResponse
 
-from .endpoint import Outcome
+from .endpoint import Decision, Outcome
+from .subject import Subject
 
 
 class SchemaEndpoint:
@@ -18,9 +19,12 @@ class SchemaEndpoint:
     def __init__(self, schemas: SchemaSet) -> None:
         self._schemas = schemas
 
-    def handle(self, request: HttpRequest, has_effect: bool) -> Outcome:
+    def handle(self, request: HttpRequest, has_effect: Decision) -> Outcome:
         """The schema's file as it lies on the disk."""
+        subject = Subject("schema")
+        has_effect(subject)
         body = self._schemas.schema(request.path.removeprefix(SCHEMAS_PATH))
         if body is None:
-            return Outcome(HttpResponse.text(404, "There is no schema of that name."))
-        return Outcome(HttpResponse.xml(body))
+            return Outcome(HttpResponse.text(404, "There is no schema of that name."),
+                           subject=subject)
+        return Outcome(HttpResponse.xml(body), subject=subject)

@@ -12,6 +12,7 @@ from lejis.search_fields import GROUPS
 from wire.http_request import HttpRequest
 
 from .request_checks import RequestChecks
+from .subject import Subject
 
 
 class SearchChecks(RequestChecks):
@@ -31,14 +32,10 @@ class SearchChecks(RequestChecks):
         })
 
     @property
-    def about(self) -> str:
-        """What is searched for."""
-        if self.payload is None:
-            return ""
-        inquiry = Inquiry(self.payload, self._namespaces)
-        asked = [f"{field.column.replace('_', ' ')} {text}"
-                 for criteria in inquiry.criteria.values() for field, text in criteria]
-        return ", ".join(asked + inquiry.words)
+    def subject(self) -> Subject:
+        """What is searched for, in the words of who searches."""
+        about = "" if self.payload is None else Inquiry(self.payload, self._namespaces).asked
+        return Subject("search", about, user=self.user or "")
 
     def _open(self, root: etree._Element) -> None:
         header, body = soap.parts(root, "Header", "Body")

@@ -10,7 +10,7 @@ from lejis.schema_set import SchemaSet
 from wire.http_request import HttpRequest
 from wire.http_response import HttpResponse
 
-from .endpoint import Outcome
+from .endpoint import Decision, Outcome
 from .search_checks import SearchChecks
 
 DEFAULT_BROAD_LIMIT = 500
@@ -32,20 +32,22 @@ class SearchEndpoint:
         self._index = index
         self._broad_limit = broad_limit
 
-    def handle(self, request: HttpRequest, has_effect: bool) -> Outcome:
+    def handle(self, request: HttpRequest, has_effect: Decision) -> Outcome:
         """403 for a user who may not search, whatever the rest of the request is like; a SOAP
         fault for the first check that fails; else what the index holds."""
         checks = SearchChecks(request, self._namespaces, self._schemas)
+        subject = checks.subject
+        has_effect(subject)
         sentence = None if checks.user is None else _refusal(checks.user)
         if sentence is not None:
             return Outcome(HttpResponse.text(403, sentence + ".", reason=sentence),
-                           checks.verdicts, checks.about)
+                           checks.verdicts, subject)
         if checks.objection is not None:
             fault = soap.fault("soap:Client", checks.objection)
-            return Outcome(HttpResponse.xml(fault, 500), checks.verdicts, checks.about)
+            return Outcome(HttpResponse.xml(fault, 500), checks.verdicts, subject)
         count, cards = self._find(Inquiry(checks.payload, self._namespaces))
         answer = soap.inquiry_response(self._namespaces, cards, count)
-        return Outcome(HttpResponse.xml(answer), checks.verdicts, checks.about)
+        return Outcome(HttpResponse.xml(answer), checks.verdicts, subject)
 
     def _find(self, inquiry: Inquiry) -> tuple[int, list[str]]:
         """A search that is refused has a count and no cards; so the count is never 0 then."""

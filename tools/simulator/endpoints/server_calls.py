@@ -3,6 +3,7 @@
 from __future__ import annotations
 
 from collections.abc import Callable
+from typing import Any
 
 from lejis.namespaces import CONTROL_PATH
 from wire.http_response import HttpResponse
@@ -15,22 +16,23 @@ CHANGES_PATH = CONTROL_PATH + "changes"
 
 
 class ServerCalls:
-    """`far_side` is the address that exchanges are passed on to, None where they are simulated."""
+    """`status` says what the server is; `news` goes with every number of changes."""
 
-    def __init__(self, changes: Changes, stop: Callable[[], None],
-                 far_side: str | None = None) -> None:
-        self._changes, self._stop = changes, stop
+    def __init__(self, changes: Changes, stop: Callable[[], None], status: dict[str, Any],
+                 news: Callable[[], dict[str, Any]]) -> None:
+        self._changes, self._stop, self._news = changes, stop, news
         self.table: Calls = {
             ("GET", "changes"): self._wait_for_change,
-            ("GET", "status"): lambda call: HttpResponse.json({"far_side": far_side}),
+            ("GET", "status"): lambda call: HttpResponse.json(status),
             ("POST", "stop"): self._stop_server,
         }
 
     def _wait_for_change(self, call: ControlCall) -> HttpResponse:
         """At once when the caller knows another number, or none, than the present one."""
         known = call.number("after")
-        count = self._changes.count if known is None else self._changes.wait(known)
-        return HttpResponse.json({"changes": count})
+        if known is not None:
+            self._changes.wait(known)
+        return HttpResponse.compact_json({**self._changes.since(known), **self._news()})
 
     def _stop_server(self, _: ControlCall) -> HttpResponse:
         self._stop()

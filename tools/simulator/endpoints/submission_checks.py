@@ -11,6 +11,7 @@ from lejis.schema_set import SchemaSet
 from wire.http_request import HttpRequest
 
 from .request_checks import RequestChecks
+from .subject import Subject
 
 
 class SubmissionChecks(RequestChecks):
@@ -36,10 +37,15 @@ class SubmissionChecks(RequestChecks):
                 for element in self.payload.iterchildren(name)]
 
     @property
-    def about(self) -> str:
-        """Agency and number of the first incident."""
-        keys = [" ".join(card.key) for card in self.cards]
-        return f"{keys[0]} and {len(keys) - 1} more" if len(keys) > 1 else "".join(keys)
+    def subject(self) -> Subject:
+        """Agency and number of the incidents. What withdraws all of them is a deletion."""
+        cards = self.cards
+        keys = tuple(card.key for card in cards)
+        about = " ".join(keys[0]) if keys else ""
+        if len(keys) > 1:
+            about += f" and {len(keys) - 1} more"
+        is_deletion = bool(cards) and all(card.is_bare for card in cards)
+        return Subject("deletion" if is_deletion else "submission", about, keys)
 
     def _open(self, root: etree._Element) -> None:
         (body,) = soap.parts(root, "Body")

@@ -11,7 +11,7 @@ from lejis.schema_set import SchemaSet
 from wire.http_request import HttpRequest
 from wire.http_response import HttpResponse
 
-from .endpoint import Outcome
+from .endpoint import Decision, Outcome
 from .submission_checks import SubmissionChecks
 
 # What became of a card, in the words of the answer and in the order of the answer.
@@ -33,15 +33,17 @@ class SubmissionEndpoint:
         self._schemas = schemas
         self._index = index
 
-    def handle(self, request: HttpRequest, has_effect: bool) -> Outcome:
+    def handle(self, request: HttpRequest, has_effect: Decision) -> Outcome:
         """A SOAP fault for the first check that fails, else code 0 and what was done."""
         checks = SubmissionChecks(request, self._namespaces, self._schemas)
+        subject = checks.subject
+        effective = has_effect(subject)
         if checks.objection is not None:
             fault = soap.fault("soap:Client", checks.objection)
-            return Outcome(HttpResponse.xml(fault, 500), checks.verdicts, checks.about)
-        done = self._index.apply(checks.cards) if has_effect else Counter()
+            return Outcome(HttpResponse.xml(fault, 500), checks.verdicts, subject)
+        done = self._index.apply(checks.cards) if effective else Counter()
         answer = soap.submission_response(self._namespaces, _answer_text(done))
-        return Outcome(HttpResponse.xml(answer), checks.verdicts, checks.about)
+        return Outcome(HttpResponse.xml(answer), checks.verdicts, subject)
 
 
 def _answer_text(done: Counter[str]) -> str:

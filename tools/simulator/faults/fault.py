@@ -2,39 +2,56 @@
 
 from __future__ import annotations
 
-from dataclasses import dataclass
+from collections import deque
+from dataclasses import dataclass, field
 from typing import Any
 
+from endpoints.subject import Subject
+
+from .concern import Concern
 from .fault_kind import FaultKind
 from .fault_kinds import FAULT_KINDS
 
-TARGETS = ("submission", "search", "wsdl", "schema", "any")
 MAX_COUNT = 10_000
+_LATEST_HITS = 10
 
 
-@dataclass
+# Two equal orders are two faults.
+@dataclass(eq=False)
 class Fault:
-    """What to do, where, and how often: `remaining` is None for every time."""
+    """What to do, where, and how often: `remaining` is None for every time, or one in so many."""
 
     name: str
-    target: str
+    concern: Concern
     values: dict[str, Any]
     remaining: int | None
+    one_in: int = 1
+    hits: int = 0
+    exchanges: deque[int] = field(default_factory=lambda: deque(maxlen=_LATEST_HITS))
+    _seen: int = 0
 
     @property
     def kind(self) -> FaultKind:
         """The row of the table that does it."""
         return FAULT_KINDS[self.name]
 
-    def concerns(self, target: str) -> bool:
+    def concerns(self, target: str, subject: Subject) -> bool:
         """Whether a request to the target calls this fault up."""
-        return self.target in (target, "any")
+        return self.concern.includes(target, subject)
+
+    def is_due(self) -> bool:
+        """Whether it is the turn of the request at hand, which counts."""
+        self._seen += 1
+        return self._seen % self.one_in == 0
 
     def to_json(self) -> dict[str, Any]:
         """As it is listed. A parameter of the kind's own named 'count' covers the other one."""
         when = {"when": "every"} if self.remaining is None else {"when": "next",
                                                                  "count": self.remaining}
-        return {**when, "target": self.target, "kind": self.name, **self.values}
+        if self.one_in > 1:
+            when["one_in"] = self.one_in
+        return {**when, **self.concern.to_json(), "kind": self.name, "hits": self.hits,
+                "exchanges": list(self.exchanges), **self.values}
 
     @classmethod
     def from_json(cls, value: Any) -> Fault:
@@ -42,16 +59,17 @@ class Fault:
         if not isinstance(value, dict):
             raise ValueError("A fault is a JSON object.")
         rest = dict(value)
-        when = _one_of(rest.pop("when", "next"), "when", ("next", "every"))
+        one_in = _whole(rest.pop("one_in", 1), "one_in")
+        when = _one_of(rest.pop("when", "every" if one_in > 1 else "next"), "when",
+                       ("next", "every"))
+        if one_in > 1 and when == "next":
+            raise ValueError("'one_in' goes with 'every', not with 'next'.")
         name = _one_of(rest.pop("kind", None), "kind", tuple(FAULT_KINDS))
-        kind = FAULT_KINDS[name]
-        target = _one_of(rest.pop("target", kind.target or "submission"), "target", TARGETS)
-        if kind.target not in (None, target):
-            raise ValueError(f"The kind '{name}' needs the target '{kind.target}'.")
+        concern = Concern.taken_from(rest, name, FAULT_KINDS[name].target)
         # Some kinds mean something else by their count; such a fault is ordered once at a time.
-        count = 1 if "count" in kind.parameters else rest.pop("count", 1)
-        remaining = _count(count) if when == "next" else None
-        return cls(name, target, _values(name, rest), remaining)
+        has_own_count = "count" in FAULT_KINDS[name].parameters
+        count = 1 if has_own_count else _whole(rest.pop("count", 1), "count")
+        return cls(name, concern, _values(name, rest), count if when == "next" else None, one_in)
 
 
 def _one_of(value: Any, what: str, allowed: tuple[str, ...]) -> str:
@@ -60,9 +78,9 @@ def _one_of(value: Any, what: str, allowed: tuple[str, ...]) -> str:
     return value
 
 
-def _count(value: Any) -> int:
+def _whole(value: Any, what: str) -> int:
     if isinstance(value, bool) or not isinstance(value, int) or not 1 <= value <= MAX_COUNT:
-        raise ValueError(f"'count' must be a whole number from 1 to {MAX_COUNT}.")
+        raise ValueError(f"'{what}' must be a whole number from 1 to {MAX_COUNT}.")
     return value
 
 

@@ -35,7 +35,8 @@ class FaultKind:
     """Turns the right answer into the one that is sent.
 
     `honest` kinds delay the answer but mean it: the request has its effect. `target` binds a kind
-    to the one target where it makes sense. `meaning` says to people what the client gets.
+    to the one target where it makes sense. `meaning` says to people what the client gets, and `group` puts
+    alike kinds together.
     """
 
     play: Play
@@ -43,3 +44,4 @@ class FaultKind:
     honest: bool = False
     target: str | None = None
     meaning: str = ""
+    group: str = "Answers"

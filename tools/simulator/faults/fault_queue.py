@@ -3,6 +3,9 @@
 from __future__ import annotations
 
 import threading
+from collections.abc import Iterable
+
+from endpoints.subject import Subject
 
 from .fault import Fault
 
@@ -14,22 +17,31 @@ class FaultQueue:
         self._lock = threading.Lock()
         self._faults: list[Fault] = []
 
-    def add(self, fault: Fault) -> None:
-        """Puts a fault behind those that wait already."""
+    def add(self, faults: Iterable[Fault]) -> None:
+        """Puts faults behind those that wait already."""
         with self._lock:
-            self._faults.append(fault)
+            self._faults += faults
 
-    def take(self, target: str) -> Fault | None:
+    def take(self, target: str, subject: Subject) -> Fault | None:
         """The fault that the request now at this target has to suffer, if any."""
         with self._lock:
-            waiting = [fault for fault in self._faults if fault.concerns(target)]
-            passing = [fault for fault in waiting if fault.remaining is not None]
-            if not passing:
-                return waiting[-1] if waiting else None
-            fault = passing[0]
-            fault.remaining -= 1
-            self._faults = [other for other in self._faults if other.remaining != 0]
+            if not self._faults:
+                return None
+            waiting = [fault for fault in self._faults if fault.concerns(target, subject)]
+            fault = next((one for one in waiting if one.remaining is not None), None)
+            if fault is not None:
+                fault.remaining -= 1
+                self._faults = [other for other in self._faults if other.remaining != 0]
+            else:
+                fault = next((one for one in reversed(waiting) if one.is_due()), None)
+            if fault is not None:
+                fault.hits += 1
             return fault
+
+    def note_exchange(self, fault: Fault, number: int) -> None:
+        """The fault was played in this exchange."""
+        with self._lock:
+            fault.exchanges.append(number)
 
     def list(self) -> list[dict]:
         """All that wait, in order."""

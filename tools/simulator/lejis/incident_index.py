@@ -88,6 +88,26 @@ class IncidentIndex:
                 "SELECT summary FROM incident ORDER BY ori, activity_id").fetchall()
         return [json.loads(summary) for (summary,) in rows]
 
+    def page(self, text: str, first: int, most: int) -> tuple[int, list[dict]]:
+        """How many incidents hold the text in any of their own, without regard to case, and the
+        summaries of some of them, in the order of agency and number."""
+        wanted = text.casefold().split()
+        condition = " AND ".join(["1"] + ["instr(words, ?) > 0"] * len(wanted))
+        with self._lock:
+            (count,) = self._database.execute(
+                f"SELECT count(*) FROM incident WHERE {condition}", wanted).fetchone()
+            rows = self._database.execute(
+                f"SELECT summary FROM incident WHERE {condition} ORDER BY ori, activity_id "
+                "LIMIT ? OFFSET ?", [*wanted, most, first]).fetchall()
+        return count, [json.loads(summary) for (summary,) in rows]
+
+    @property
+    def count(self) -> int:
+        """How many incidents are held."""
+        with self._lock:
+            ((count,),) = self._database.execute("SELECT count(*) FROM incident").fetchall()
+        return count
+
     def card(self, ori: str, activity_id: str) -> str | None:
         """The markup of a card held, or nothing."""
         with self._lock:

@@ -9,6 +9,8 @@ from lxml import etree
 from .namespaces import Namespaces
 from .search_fields import GROUPS, PROPERTY, SERIAL, Field, Group
 
+_QUERY = "lejis:AdHocInquiryArguments/lejis:queryString"
+
 Criteria = list[tuple[Field, str]]
 
 
@@ -24,7 +26,14 @@ class Inquiry:
     @property
     def words(self) -> list[str]:
         """The words of a free search, each of which has to stand somewhere on the card."""
-        return self._text("lejis:AdHocInquiryArguments/lejis:queryString").casefold().split()
+        return self._text(_QUERY).casefold().split()
+
+    @property
+    def asked(self) -> str:
+        """The criteria and words as the client wrote them, for people."""
+        texts = [f"{field.column.replace('_', ' ')} {self._asked_of(group, field).strip()}"
+                 for group, criteria in self.criteria.items() for field, _ in criteria]
+        return ", ".join(texts + self._text(_QUERY).split())
 
     @property
     def most(self) -> int | None:
@@ -50,8 +59,11 @@ class Inquiry:
     def _text(self, path: str) -> str:
         return self._element.findtext(path, default="", namespaces=self._prefixes)
 
+    def _asked_of(self, group: Group, field: Field) -> str:
+        return self._text(f"lejis:{group.block}/{field.asked_at}")
+
     def _criteria_of(self, group: Group) -> Iterator[tuple[Field, str]]:
         for field in group.fields:
-            text = field.compare.prepared(self._text(f"lejis:{group.block}/{field.asked_at}"))
+            text = field.compare.prepared(self._asked_of(group, field))
             if text:
                 yield field, text

@@ -26,6 +26,7 @@ class Namespaces:
     def __init__(self, lejis_host: str = DEFAULT_LEJIS_HOST) -> None:
         if not _HOST.fullmatch(lejis_host):
             raise ValueError(f"'{lejis_host}' is not a host name.")
+        self.host = lejis_host
         root = f"http://{lejis_host}/lejis/jxdm/1.0/"
         self.service = root + "service"
         self.card = root + "card"

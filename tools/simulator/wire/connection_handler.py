@@ -35,7 +35,11 @@ class ConnectionHandler(BaseHTTPRequestHandler):
     disable_nagle_algorithm = True
 
     def setup(self) -> None:
-        """Puts the recorder between the socket and the parser."""
+        """Puts the recorder between the socket and the parser, after the handshake where there is one:
+        on the connection's own thread, since a client may take its time over it."""
+        if self.server.tls:
+            self.request.settimeout(self.timeout)
+            self.request = self.server.tls.wrap_socket(self.request, server_side=True)
         super().setup()
         self.rfile = HeadRecorder(self.rfile)
 
@@ -43,8 +47,8 @@ class ConnectionHandler(BaseHTTPRequestHandler):
         """Reads a request and sends its answer. A client that goes away is no error."""
         try:
             if self._read_request_line():
-                with self.server.activity.exchange() as disregard:
-                    self._exchange(disregard)
+                with self.server.activity.exchange() as watch:
+                    self._exchange(watch)
         except OSError:
             self.close_connection = True
         finally:
@@ -69,7 +73,7 @@ class ConnectionHandler(BaseHTTPRequestHandler):
         self.close_connection = not self.raw_requestline
         return bool(self.raw_requestline)
 
-    def _exchange(self, disregard: Callable[[], None]) -> None:
+    def _exchange(self, watch: Callable[[], None]) -> None:
         try:
             request = self._read_request()
         except RequestRefused as refusal:
@@ -78,7 +82,7 @@ class ConnectionHandler(BaseHTTPRequestHandler):
             self._drain()
         else:
             if self.server.is_watching(request):
-                disregard()
+                watch()
             self._send(self.server.answer(request, self.client_address[0]))
 
     def _read_request(self) -> HttpRequest:
@@ -104,7 +108,7 @@ class ConnectionHandler(BaseHTTPRequestHandler):
 
     def _request(self, body: bytes = b"") -> HttpRequest:
         return HttpRequest(self.command or "", self.path or "", self.rfile.take_head(),
-                           self.headers, body)
+                           self.headers, body, self.server.scheme)
 
     def _is_chunked(self) -> bool:
         coding = self.headers.get("Transfer-Encoding")

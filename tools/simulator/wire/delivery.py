@@ -42,6 +42,11 @@ class Delivery:
         return [raw[start:start + size] for start in range(0, len(raw), size)]
 
     @property
+    def is_whole(self) -> bool:
+        """Whether nothing of the response is held back."""
+        return self.head_share == 1 and self.body_share == 1
+
+    @property
     def status(self) -> int:
         """The status that the client gets to see; 0 when it gets none."""
         return self.response.status if self.head_share > 0 else 0

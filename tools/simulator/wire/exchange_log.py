@@ -3,73 +3,157 @@
 from __future__ import annotations
 
 import json
+import os
 import threading
 import time
+from collections.abc import Iterable
 from pathlib import Path
-from typing import Any
+from typing import IO, Any
 
+from .exchange_table import ExchangeTable, parsed
 from .http_request import HttpRequest
 from .private_files import make_private_folder, open_private
 
+SIDES = ("request", "response")
+
 
 class ExchangeLog:
-    """Numbered files with the raw messages, and one line an exchange that sums it up."""
+    """Numbered files with the raw messages, and one line an exchange that sums it up.
 
-    def __init__(self, folder: Path) -> None:
+    With `keep`, the oldest exchanges go as soon as there are more than so many.
+    """
+
+    def __init__(self, folder: Path, keep: int | None = None) -> None:
         make_private_folder(folder)
-        self._folder = folder
+        self.table = ExchangeTable()
+        self._folder, self._keep = folder, keep
         self._lines = folder / "exchanges.jsonl"
         self._lock = threading.Lock()
+        self._file: IO[bytes] | None = None
         self._forgotten = 0
-        self._count = max((int(file.name[:6]) for file in folder.glob("[0-9]*-request.http")),
-                          default=0)
+        self._stale_lines = 0
+        self._listed = 0
+        self._read()
+        self._count = max((int(entry.name.partition("-")[0]) for entry in os.scandir(folder)
+                           if entry.name.endswith("-request.http")), default=0)
+        with self._lock:
+            self._drop_the_oldest()
+
+    def _read(self) -> None:
+        if not self._lines.exists():
+            return
+        # Only whole lines: the last one may have been cut off by a full disk or a kill.
+        lines = self._lines.read_bytes().split(b"\n")
+        texts = [line.decode("utf-8", "replace") for line in lines[:-1] if line]
+        self.table.add(_listed(text) for text in texts)
+        ((self._listed,),) = self.table.rows("SELECT count(*) FROM exchange")
+        self._stale_lines = len(texts) - self._listed
+        if lines[-1]:
+            with self._lock:
+                self._write_anew()
 
     def record(self, request: HttpRequest, raw_response: bytes, status: int,
-               checks: dict[str, str], fault: str | None, about: str = "") -> int:
+               checks: dict[str, str], fault: str | None, about: str = "", **more: Any) -> int:
         """Keeps one exchange and gives its number. `checks` is empty where nothing is checked."""
         exchange = self.begin(request)
         exchange.received(raw_response)
-        exchange.finish(status, checks, fault=fault, about=about)
+        exchange.finish(status, checks, fault=fault, about=about, **more)
         return exchange.number
 
     def begin(self, request: HttpRequest) -> OpenExchange:
         """Keeps the request of an exchange whose response is still to come."""
         with self._lock:
             self._count += 1
-            number = self._count
-            with open_private(self._file(number, "request"), "wb") as file:
+            number, age = self._count, self._forgotten
+            with open_private(self._path(number, "request"), "wb", buffering=0) as file:
                 file.write(request.head + request.body)
-            response = open_private(self._file(number, "response"), "wb", buffering=0)
-            return OpenExchange(self, number, self._forgotten, request, response)
+            response = open_private(self._path(number, "response"), "wb", buffering=0)
+        return OpenExchange(self, number, age, request, response)
 
-    def add(self, entry: dict[str, Any], age: int) -> None:
+    def add(self, entry: dict[str, Any], age: int) -> bool:
         """Lists an exchange, unless everything of its age has been forgotten meanwhile."""
         with self._lock:
             if age != self._forgotten:
-                return
-            with open_private(self._lines, "ab") as lines:
-                lines.write(json.dumps(entry).encode() + b"\n")
+                return False
+            line = json.dumps(entry)
+            if self._file is None:
+                self._file = open_private(self._lines, "ab", buffering=0)
+            self._file.write(line.encode() + b"\n")
+            self.table.add([(entry, line)])
+            self._listed += 1
+            self._drop_the_oldest()
+            return True
+
+    def _drop_the_oldest(self) -> None:
+        if self._keep is None or self._listed <= self._keep:
+            return
+        gone = self.table.rows("SELECT number FROM exchange ORDER BY number LIMIT ?",
+                               (self._listed - self._keep,))
+        for (number,) in gone:
+            for side in SIDES:
+                self._path(number, side).unlink(missing_ok=True)
+        self.table.remove_before(gone[-1][0] + 1)
+        self._listed -= len(gone)
+        self._stale_lines += len(gone)
+        # Now and then, so that it costs each exchange little.
+        if self._stale_lines > max(1000, self._keep):
+            self._write_anew()
+
+    def _write_anew(self) -> None:
+        self._close_lines()
+        draft = self._lines.with_suffix(".new")
+        with open_private(draft, "wb") as file:
+            for (line,) in self.table.rows("SELECT text FROM line ORDER BY number"):
+                file.write(line.encode() + b"\n")
+        os.replace(draft, self._lines)
+        self._stale_lines = 0
+
+    @property
+    def span(self) -> tuple[int, int, int]:
+        """The lowest and the highest number of the exchanges listed, and how many there are."""
+        ((first, last),) = self.table.rows("SELECT (SELECT min(number) FROM exchange), "
+                                           "(SELECT max(number) FROM exchange)")
+        return first or 1, last or 0, self._listed
+
+    def lines(self, last: int | None = None) -> list[str]:
+        """The summaries as JSON, oldest first; only the last ones when a number is given."""
+        rows = self.table.rows("SELECT text FROM line ORDER BY number DESC LIMIT ?",
+                               (-1 if last is None else last,))
+        return [line for (line,) in reversed(rows)]
+
+    def lines_between(self, ranges: Iterable[tuple[int, int]], most: int) -> list[str]:
+        """The summaries with these numbers, at most so many."""
+        lines: list[str] = []
+        for first, last in ranges:
+            lines += (line for (line,) in self.table.rows(
+                "SELECT text FROM line WHERE number BETWEEN ? AND ? ORDER BY number LIMIT ?",
+                (first, last, most - len(lines))))
+        return lines
 
     def entries(self, last: int | None = None) -> list[dict[str, Any]]:
         """The summaries, oldest first; only the last ones when a number is given."""
-        with self._lock:
-            if not self._lines.exists():
-                return []
-            lines = self._lines.read_text(encoding="utf-8").splitlines()
-        # They are listed as they ended, which is not always as they began.
-        entries = sorted(map(json.loads, lines), key=lambda entry: entry["number"])
-        return entries if last is None else entries[max(0, len(entries) - last):]
+        return [json.loads(line) for line in self.lines(last)]
 
     def entry(self, number: int) -> dict[str, Any] | None:
         """The summary of one exchange, or nothing if there is none such."""
-        return next((entry for entry in self.entries() if entry["number"] == number), None)
+        lines = self.lines_between([(number, number)], 1)
+        return json.loads(lines[0]) if lines else None
 
     def raw(self, number: int, side: str) -> bytes | None:
         """All bytes of the "request" or the "response" of an exchange that is listed."""
+        if not self.table.rows("SELECT 1 FROM exchange WHERE number = ?", (number,)):
+            return None
         try:
-            return self._file(number, side).read_bytes() if self.entry(number) else None
+            return self._path(number, side).read_bytes()
         except FileNotFoundError:
             return None
+
+    def unlisted_response(self, number: int) -> bytes:
+        """What has come of a response whose exchange is still under way."""
+        try:
+            return self._path(number, "response").read_bytes()
+        except FileNotFoundError:
+            return b""
 
     def request_body(self, number: int) -> bytes | None:
         """What a client sent as the body of that exchange, or nothing if there is none such."""
@@ -85,12 +169,24 @@ class ExchangeLog:
             for file in self._folder.glob("[0-9]*-*.http"):
                 forgotten += file.name.endswith("-request.http")
                 file.unlink()
+            self._close_lines()
             self._lines.unlink(missing_ok=True)
-            self._count = 0
+            self.table.clear()
+            self._count = self._listed = self._stale_lines = 0
             self._forgotten += 1
             return forgotten
 
-    def _file(self, number: int, side: str) -> Path:
+    def close(self) -> None:
+        """Lets go of the file."""
+        with self._lock:
+            self._close_lines()
+
+    def _close_lines(self) -> None:
+        if self._file is not None:
+            self._file.close()
+            self._file = None
+
+    def _path(self, number: int, side: str) -> Path:
         return self._folder / f"{number:06}-{side}.http"
 
 
@@ -100,30 +196,54 @@ class OpenExchange:
     def __init__(self, log: ExchangeLog, number: int, age: int, request: HttpRequest,
                  response: Any) -> None:
         self.number = number
+        self.received_bytes = 0
         self._log, self._age = log, age
         self._request = request
         self._response = response
-        self._begun = time.strftime("%Y-%m-%dT%H:%M:%S%z")
+        self._begun, self._started = time.time(), time.monotonic()
 
     def received(self, data: bytes) -> None:
         """Keeps some more bytes of the response."""
+        self.received_bytes += len(data)
         self._response.write(data)
 
-    def finish(self, status: int, checks: dict[str, str], **more: Any) -> None:
+    def finish(self, status: int, checks: dict[str, str], **more: Any) -> bool:
         """Lists the exchange. `valid` is null for one that had nothing to check."""
         self._response.close()
         request = self._request
-        self._log.add({
+        # What `more` says goes before what is reckoned here.
+        at = more.get("at", int(self._begun * 1000))
+        return self._log.add({
             "number": self.number,
-            "time": self._begun,
+            "time": local_time(at),
+            "at": at,
+            "milliseconds": round((time.monotonic() - self._started) * 1000, 1),
             "method": request.method,
             "path": request.target,
             "soap_action": request.header("SOAPAction"),
             "content_type": request.header("Content-Type"),
             "request_bytes": len(request.body),
+            "response_bytes": self.received_bytes,
             "checks": checks,
             "valid": all(verdict == "ok" for verdict in checks.values()) if checks else None,
             "status": status,
             "fault": None,
+            "about": "",
+            "kind": "other",
+            "outcome": "accepted",
+            "ori": "",
+            "incident": "",
+            "user": "",
             **more,
         }, self._age)
+
+
+def _listed(line: str) -> tuple[dict[str, Any], str]:
+    """What was completed is written as it is then."""
+    entry = parsed(line)
+    return entry, line if '"outcome"' in line else json.dumps(entry)
+
+
+def local_time(milliseconds: int) -> str:
+    """A moment since the epoch on this machine's clock, to the second, with its distance from UTC."""
+    return time.strftime("%Y-%m-%dT%H:%M:%S%z", time.localtime(milliseconds / 1000))

@@ -16,6 +16,7 @@ class HttpRequest:
     head: bytes = b""
     headers: Message = field(default_factory=Message)
     body: bytes = b""
+    scheme: str = "http"
 
     @property
     def path(self) -> str:

@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import socket
 import socketserver
+import ssl
 import sys
 import threading
 import time
@@ -37,7 +38,7 @@ class Application(Protocol):
         """Whether a request there may have a body of which nobody knows the length."""
 
     def is_watching(self, request: HttpRequest) -> bool:
-        """Whether such a request only waits, which is no use of the server."""
+        """Whether such a request only waits for something to happen."""
 
 
 class SimulatorServer(ThreadingHTTPServer):
@@ -46,11 +47,12 @@ class SimulatorServer(ThreadingHTTPServer):
     daemon_threads = True
     request_queue_size = 128
 
-    def __init__(self, host: str, port: int, application: Application) -> None:
+    def __init__(self, host: str, port: int, application: Application,
+                 tls: ssl.SSLContext | None = None) -> None:
         self.address_family = socket.AF_INET6 if ":" in host else socket.AF_INET
         self.activity = Activity()
         self.stopping = threading.Event()
-        self._application = application
+        self._application, self.tls = application, tls
         super().__init__((host, port), ConnectionHandler)
 
     def server_bind(self) -> None:
@@ -59,10 +61,15 @@ class SimulatorServer(ThreadingHTTPServer):
         self.server_name, self.server_port = self.server_address[:2]
 
     @property
+    def scheme(self) -> str:
+        """How the server is spoken to."""
+        return "https" if self.tls else "http"
+
+    @property
     def address(self) -> str:
         """Where clients find the server."""
         host = f"[{self.server_name}]" if ":" in self.server_name else self.server_name
-        return f"http://{host}:{self.server_port}"
+        return f"{self.scheme}://{host}:{self.server_port}"
 
     def wait(self, seconds: float) -> None:
         """Lets time pass, but not the server's end."""
@@ -74,7 +81,7 @@ class SimulatorServer(ThreadingHTTPServer):
         self.stopping.set()
         self.shutdown()
         until = time.monotonic() + _LAST_ANSWERS_SECONDS
-        while self.activity.idle_seconds == 0 and time.monotonic() < until:
+        while self.activity.is_answering and time.monotonic() < until:
             time.sleep(0.01)
 
     def needs_length(self, method: str, target: str) -> bool:
@@ -98,7 +105,10 @@ class SimulatorServer(ThreadingHTTPServer):
         return self._guarded(lambda: self._application.answer(request, peer))
 
     def handle_error(self, request: Any, client_address: Any) -> None:
-        """A connection's failure ends that connection and is told, not more."""
+        """A connection's failure ends that connection and is told, not more; a handshake that fails
+        is the client's failure."""
+        if isinstance(sys.exc_info()[1], OSError):
+            return
         traceback.print_exc(file=sys.stderr)
 
     @staticmethod

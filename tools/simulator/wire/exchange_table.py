@@ -1,0 +1,87 @@
+"""What filters, pages and pictures ask about the exchanges, kept in memory."""
+
+from __future__ import annotations
+
+import json
+import sqlite3
+import threading
+from collections.abc import Iterable
+from datetime import datetime
+from typing import Any
+
+_CREATION = """
+CREATE TABLE exchange (
+    number INTEGER PRIMARY KEY,
+    at INTEGER NOT NULL,
+    milliseconds REAL NOT NULL,
+    kind TEXT NOT NULL,
+    outcome TEXT NOT NULL,
+    status INTEGER NOT NULL,
+    ori TEXT NOT NULL,
+    incident TEXT NOT NULL,
+    user TEXT NOT NULL,
+    fault TEXT NOT NULL,
+    imported INTEGER NOT NULL,
+    words TEXT NOT NULL
+)
+"""
+# Apart, so that whoever asks for the rest does not have to leaf through it.
+_LINES = "CREATE TABLE line (number INTEGER PRIMARY KEY, text TEXT NOT NULL)"
+_TABLES = ("exchange", "line")
+_INSERTION = f"INSERT OR REPLACE INTO exchange VALUES ({', '.join('?' * 12)})"
+_WORDS = ("kind", "outcome", "about", "method", "path", "fault", "note", "user", "imported")
+
+
+class ExchangeTable:
+    """One row an exchange. Any thread may call."""
+
+    def __init__(self) -> None:
+        self._lock = threading.Lock()
+        self._database = sqlite3.connect(":memory:", check_same_thread=False, isolation_level=None)
+        self._database.execute(_CREATION)
+        self._database.execute(_LINES)
+
+    def add(self, entries: Iterable[tuple[dict[str, Any], str]]) -> None:
+        """Takes entries, each with the line that is its text in the record."""
+        with self._lock:
+            for entry, line in entries:
+                self._database.execute(_INSERTION, _row(entry))
+                self._database.execute("INSERT OR REPLACE INTO line VALUES (?, ?)",
+                                       (entry["number"], line))
+
+    def rows(self, query: str, values: Iterable[Any] = ()) -> list[tuple]:
+        """The answer to a query of the tables `exchange` and `line`."""
+        with self._lock:
+            return self._database.execute(query, tuple(values)).fetchall()
+
+    def remove_before(self, number: int) -> None:
+        """Drops every exchange with a lower number."""
+        for table in _TABLES:
+            self.rows(f"DELETE FROM {table} WHERE number < ?", (number,))
+
+    def clear(self) -> None:
+        """Drops all of them."""
+        for table in _TABLES:
+            self.rows(f"DELETE FROM {table}")
+
+
+def _row(entry: dict[str, Any]) -> tuple:
+    words = " ".join(str(entry.get(name) or "") for name in _WORDS).lower()
+    return (entry["number"], entry["at"], entry["milliseconds"], entry["kind"], entry["outcome"],
+            entry["status"], entry["ori"], entry["incident"], entry["user"], entry["fault"] or "",
+            1 if entry.get("imported") else 0, words)
+
+
+def parsed(line: str) -> dict[str, Any]:
+    """An entry from its line. Lines of earlier versions lack what was added since."""
+    entry = json.loads(line)
+    return entry if "outcome" in entry else _completed(entry)
+
+
+def _completed(entry: dict[str, Any]) -> dict[str, Any]:
+    at = datetime.strptime(entry["time"], "%Y-%m-%dT%H:%M:%S%z").timestamp()
+    is_service = entry["method"] == "POST" and entry["path"].endswith(("submission", "search"))
+    return {**entry, "at": int(at * 1000), "milliseconds": 0, "response_bytes": 0,
+            "kind": entry["path"].rpartition("/")[2] if is_service else "other",
+            "outcome": "accepted" if 200 <= entry["status"] < 300 else "refused",
+            "ori": "", "incident": "", "user": ""}
