@@ -3,7 +3,6 @@
 from __future__ import annotations
 
 from collections.abc import Callable
-from dataclasses import replace
 from pathlib import Path
 from typing import Any
 
@@ -11,10 +10,9 @@ from endpoints.callers import Callers
 from endpoints.changes import Changes
 from endpoints.console import Console
 from endpoints.exchange_calls import ExchangeCalls
-from endpoints.search_checks import SearchChecks
+from endpoints.har_calls import HarCalls
+from endpoints.judge import Judge
 from endpoints.server_calls import ServerCalls
-from endpoints.subject import Subject
-from endpoints.submission_checks import SubmissionChecks
 from lejis.namespaces import SEARCH_PATH, SUBMISSION_PATH, Namespaces
 from lejis.schema_set import SchemaSet
 from recording.far_side import FarSide
@@ -29,8 +27,6 @@ from wire.http_request import HttpRequest
 from wire.http_response import HttpResponse
 from wire.takeover import Takeover
 
-_CHECKS = {SUBMISSION_PATH: SubmissionChecks, SEARCH_PATH: SearchChecks}
-
 
 class Recorder:
     """Passes on whatever does not concern its own page and control calls. It checks requests as
@@ -44,9 +40,11 @@ class Recorder:
         self._far_side = far_side
         self._log = ExchangeLog(data / "exchanges", keep)
         self._changes = Changes()
+        self._judge = Judge(namespaces, self._schemas)
         self._console = Console(
             callers, self._changes,
-            ExchangeCalls(self._log, MessageView(namespaces, self._schemas)).table,
+            ExchangeCalls(self._log, MessageView(namespaces, self._schemas), namespaces).table,
+            HarCalls(self._log, self._judge, self._changes).table,
             ServerCalls(self._changes, stop, {
                 "far_side": far_side.address, "lejis_host": namespaces.host,
                 "data": str(data.resolve()), "keep": keep,
@@ -102,24 +100,9 @@ class Recorder:
 
     def _finish(self, exchange: OpenExchange, request: HttpRequest, status: int,
                 note: str) -> None:
-        checks, subject = self._judged(request)
+        checks, subject = self._judge(request)
         # Interim responses and codings stand between the raw bytes and what they mean.
         body = RawMessage(self._log.unlisted_response(exchange.number)).body
         if exchange.finish(status, checks, note=note, **subject.listed,
                            outcome=outcome_of(subject.kind, status, body, not note)):
             self._changes.note(exchange=exchange.number)
-
-    def _judged(self, request: HttpRequest) -> tuple[dict[str, str], Subject]:
-        kind = _CHECKS.get(request.path) if request.method == "POST" else None
-        if kind is None:
-            return {}, _published(request)
-        message = replace(request, body=RawMessage(request.head + request.body).body)
-        checks = kind(message, self._namespaces, self._schemas)
-        return checks.verdicts, checks.subject
-
-
-def _published(request: HttpRequest) -> Subject:
-    """What is read only, and not checked."""
-    if request.method == "GET" and "wsdl" in request.query:
-        return Subject("wsdl")
-    return Subject("schema" if request.path.endswith(".xsd") else "other")

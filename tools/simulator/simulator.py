@@ -13,8 +13,10 @@ from endpoints.console import Console
 from endpoints.endpoint import Outcome
 from endpoints.exchange_calls import ExchangeCalls
 from endpoints.fault_calls import FaultCalls
+from endpoints.har_calls import HarCalls
 from endpoints.index_calls import IndexCalls
 from endpoints.index_seed import IndexSeed
+from endpoints.judge import Judge
 from endpoints.router import Router
 from endpoints.schema_endpoint import SchemaEndpoint
 from endpoints.search_endpoint import DEFAULT_BROAD_LIMIT, SearchEndpoint
@@ -52,7 +54,8 @@ class Simulator:
             callers, self._changes,
             FaultCalls(self._faults).table,
             IndexCalls(self._index, IndexSeed(namespaces, schemas, self._index), namespaces).table,
-            ExchangeCalls(self._log, MessageView(namespaces, schemas)).table,
+            ExchangeCalls(self._log, MessageView(namespaces, schemas), namespaces).table,
+            HarCalls(self._log, Judge(namespaces, schemas), self._changes).table,
             ServerCalls(self._changes, stop, {
                 "far_side": None, "lejis_host": namespaces.host, "data": str(data.resolve()),
                 "keep": keep, "services": {"submission": SUBMISSION_PATH, "search": SEARCH_PATH},

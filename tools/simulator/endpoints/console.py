@@ -56,6 +56,9 @@ class Console:
             return self._page.handle(request)
         response = self._control.handle(request)
         if request.method != "GET":
-            # What it was about: the first name below /control/.
-            self._changes.note(request.path.removeprefix(CONTROL_PATH).partition("/")[0])
+            # What it was about is the first name below /control/; exchanges that are added are told
+            # by number.
+            name = request.path.removeprefix(CONTROL_PATH).partition("/")[0]
+            is_told = name == "exchanges" and request.method != "DELETE"
+            self._changes.note(*(() if is_told else (name,)))
         return replace(response, headers=response.headers + (_SANDBOX,))

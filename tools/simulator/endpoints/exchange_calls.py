@@ -4,7 +4,12 @@ from __future__ import annotations
 
 import re
 
+from lxml import etree
+
+from lejis import soap
+from lejis.namespaces import Namespaces
 from views.message_view import MessageView
+from views.raw_message import RawMessage
 from wire.exchange_log import SIDES, ExchangeLog
 from wire.http_response import HttpResponse
 
@@ -12,6 +17,7 @@ from .control_call import ControlCall
 from .control_endpoint import Calls, forgotten
 from .exchange_filter import ExchangeFilter
 from .exchange_search import ExchangeSearch
+from .send_again import send_again
 from .timeline import MOST_BUCKETS, timeline
 
 _ONE = "exchanges/([0-9]{1,9})"
@@ -23,8 +29,9 @@ MOST_ENTRIES = 500
 class ExchangeCalls:
     """The list, and each exchange in the shapes for people and for programs."""
 
-    def __init__(self, log: ExchangeLog, view: MessageView) -> None:
+    def __init__(self, log: ExchangeLog, view: MessageView, namespaces: Namespaces) -> None:
         self._log, self._view = log, view
+        self._card = f"{{{namespaces.service}}}RMSIncidentIndexCard"
         self._search = ExchangeSearch(log)
         self.table: Calls = {
             ("GET", "exchanges"): self._list,
@@ -33,6 +40,8 @@ class ExchangeCalls:
             ("GET", "exchanges/timeline"): self._timeline,
             ("GET", _ONE): self._exchange,
             ("GET", _ONE + "/request"): self._request_body,
+            ("GET", _ONE + r"/incident\.xml"): self._incident,
+            ("POST", _ONE + "/again"): self._send_again,
             ("GET", _ONE + r"/(request|response)\.http"): self._raw,
         }
 
@@ -71,6 +80,28 @@ class ExchangeCalls:
     def _request_body(self, call: ControlCall) -> HttpResponse:
         body = self._log.request_body(int(call.parts[0]))
         return _UNKNOWN if body is None else HttpResponse.xml(body)
+
+    def _incident(self, call: ControlCall) -> HttpResponse:
+        """The first incident of a request as a file of its own."""
+        number = int(call.parts[0])
+        body = RawMessage(self._log.raw(number, "request") or b"").body
+        card = next(soap.parse(body).iter(self._card), None)
+        if card is None:
+            raise ValueError("The request holds no incident.")
+        etree.cleanup_namespaces(card)
+        etree.indent(card, "  ")
+        markup = etree.tostring(card, encoding="UTF-8", xml_declaration=True, with_tail=False)
+        return HttpResponse(200, markup + b"\n", "text/xml; charset=utf-8", headers=(
+            ("Content-Disposition", f'attachment; filename="incident-{number}.xml"'),))
+
+    def _send_again(self, call: ControlCall) -> HttpResponse:
+        raw = self._log.raw(int(call.parts[0]), "request")
+        if raw is None:
+            return _UNKNOWN
+        if call.request.server is None or not raw:
+            raise ValueError("There is no request to send again.")
+        send_again(call.request.server, raw)
+        return HttpResponse.json({"sent": len(raw)})
 
     def _raw(self, call: ControlCall) -> HttpResponse:
         number, side = call.parts

@@ -1,7 +1,12 @@
 // The incidents that the index holds, and one of them as a person wants to read it.
 import {byId, element, show} from "./dom.js";
 import {get} from "./control.js";
+import {tell, told} from "./address.js";
 import {List} from "./list.js";
+
+const TYPING_MILLISECONDS = 200;
+const PAGE = 100;
+const input = byId("card-filter");
 
 const caution = () => element("span", {class: "badge bad"}, "caution");
 
@@ -9,7 +14,40 @@ function amount(count, one, many) {
   return count ? `${count} ${count === 1 ? one : many}` : null;
 }
 
+/** The cards by their place, in pages that are fetched as they come into sight. */
+const source = {
+  count: 0,
+  pages: new Map(),
+  item: (place) => source.pages.get(Math.floor(place / PAGE))?.[place % PAGE],
+  keyAt: (place) => keyOf(source.item(place)) ?? `place ${place}`,
+  placeOf(key) {
+    for (const [page, cards] of source.pages) {
+      const at = Array.isArray(cards) ? cards.findIndex((card) => keyOf(card) === key) : -1;
+      if (at >= 0) return page * PAGE + at;
+    }
+    return -1;
+  },
+  async want(first, end) {
+    const missing = [];
+    for (let page = Math.floor(first / PAGE); page * PAGE < Math.min(end, source.count); page++) {
+      if (!source.pages.has(page)) missing.push(page);
+    }
+    for (const page of missing) source.pages.set(page, []);
+    for (const page of missing) await source.load(page, input.value);
+    if (missing.length) list.draw();
+  },
+  async load(page, filter) {
+    const {total, cards} = await get(`index?from=${page * PAGE}&count=${PAGE}&text=${encodeURIComponent(filter)}`);
+    if (filter !== input.value) return;
+    source.count = total;
+    source.pages.set(page, cards);
+  },
+};
+
+const keyOf = (card) => card ? JSON.stringify([card.ori, card.id]) : undefined;
+
 function row(card) {
+  if (!card) return [element("span", {class: "faint"}, "…")];
   const holds = [amount(card.persons, "person", "persons"), amount(card.vehicles, "vehicle", "vehicles"),
     amount(card.property, "item", "items")].filter(Boolean);
   return [
@@ -42,12 +80,54 @@ async function detail(key) {
   ];
 }
 
-export const list = new List("card", {key: (card) => JSON.stringify([card.ori, card.id]), row, open: detail});
+export const list = new List("card", {source, row, open: detail, onWindow: (first, end) => source.want(first, end)});
+let held = 0;
+let isStale = true;
 
-export async function refresh() {
-  const cards = await get("index");
-  list.show(cards);
-  byId("index-count").textContent = String(cards.length);
-  show(byId("no-cards"), !cards.length);
+// Only what is in sight is read, and only while it is.
+async function load() {
+  if (byId("panel-index").hidden) return;
+  isStale = false;
+  const first = Math.floor(list.window.places().first / PAGE);
+  const fresh = [...new Set([0, first])];
+  for (const page of source.pages.keys()) if (!fresh.includes(page)) source.pages.delete(page);
+  for (const page of fresh) await source.load(page, input.value);
+  list.draw();
+  byId("card-matches").textContent = input.value ? `${source.count.toLocaleString("en")} of ${held.toLocaleString("en")}` : "";
+  byId("no-cards").textContent = held ? "No incident holds this text." : "The index holds no incident.";
+  show(byId("no-cards"), !source.count);
   await list.refresh();
 }
+
+/** The index has changed, or may have. */
+export async function refresh({incidents}) {
+  held = incidents;
+  isStale = true;
+  byId("index-count").textContent = held.toLocaleString("en");
+  await load();
+}
+
+/** The view has come into sight. */
+export async function showUp() {
+  if (isStale) await load();
+  list.draw();
+}
+
+export function follow() {
+  if (told("incidents") !== input.value) {
+    input.value = told("incidents");
+    load();
+  }
+  list.follow();
+}
+
+let typing = 0;
+input.addEventListener("input", () => {
+  clearTimeout(typing);
+  typing = setTimeout(() => {
+    tell({incidents: input.value});
+    list.window.scroller.scrollTop = 0;
+    source.pages.clear();
+    load();
+  }, TYPING_MILLISECONDS);
+});

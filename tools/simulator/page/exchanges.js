@@ -1,121 +1,131 @@
-// The exchanges, latest first, and what went over the wire in one of them.
+// The exchanges, latest first: the list with its filter, and what is open of it.
 import {byId, element, show} from "./dom.js";
-import {get} from "./control.js";
+import {tell, told} from "./address.js";
+import {detail} from "./exchange_detail.js";
+import {ExchangeSource} from "./exchange_source.js";
+import {badges, clock, duration, nameOf, size, statusOf} from "./exchange_words.js";
 import {List} from "./list.js";
-import {coloured} from "./xml.js";
+import {Strip} from "./strip.js";
 
-const MOST_SHOWN = 500;
-const SERVICES = {submission: "Submission", search: "Search"};
-const CHECKS = {soap_action: "SOAPAction", content_type: "Content-Type", well_formed: "Well-formed XML",
-  envelope: "SOAP envelope", schema: "Schema", blocks: "Inquiry blocks"};
+const TYPING_MILLISECONDS = 200;
+const input = byId("exchange-filter");
+const strip = new Strip(byId("strip"), (range) => setFilter(withTime(input.value, range)));
+let total = 0;
+let latest = null;
+let typing = 0;
 
-const clock = (time) => time.slice(11, 19);
-const badge = (kind, text) => element("span", {class: `badge ${kind}`}, text);
+const source = new ExchangeSource(() => redraw());
 
-export function nameOf({method, path}) {
-  const [address, query = ""] = path.split("?");
-  const last = address.split("/").pop();
-  if (query.toLowerCase().startsWith("wsdl")) return `WSDL of ${last}`;
-  if (address.endsWith(".xsd")) return `Schema ${last}`;
-  if (method === "POST" && last in SERVICES) return SERVICES[last];
-  return `${method} ${path}`.trim() || "No HTTP";
+const sinceThen = (milliseconds) => milliseconds < 10 ? `${milliseconds} ms` : duration(milliseconds);
+
+function interval(exchange, place) {
+  const before = place + 1 < source.count ? source.item(place + 1) : null;
+  return before ? `+${sinceThen(Math.max(0, exchange.at - before.at))}` : "";
 }
 
-export function statusOf({status}) {
-  return status ? String(status) : "no answer";
-}
-
-function badges(exchange) {
-  const isGood = exchange.status >= 200 && exchange.status < 300;
-  return [
-    badge(isGood ? "good" : "bad", statusOf(exchange)),
-    exchange.valid === false ? badge("warn", "check failed") : null,
-    exchange.fault ? badge("fault", `fault: ${exchange.fault}`) : null,
-    exchange.note ? badge("bad", "broke off") : null,
-  ];
-}
-
-function row(exchange) {
+function row(exchange, place) {
+  if (!exchange) return [element("span", {class: "faint"}, `#${source.keyAt(place)} …`)];
   return [
     element("span", {class: "entry-title"}, `${nameOf(exchange)} `,
       element("span", {class: "faint"}, `#${exchange.number}`)),
-    element("time", {class: "faint", datetime: exchange.time}, clock(exchange.time)),
     element("span", {class: "entry-about"}, exchange.about),
     element("span", {class: "badges"}, ...badges(exchange)),
+    element("span", {class: "entry-size faint"}, size(exchange.request_bytes + exchange.response_bytes)),
+    element("span", {class: "entry-duration"}, duration(exchange.milliseconds)),
+    element("span", {class: "entry-interval faint"}, interval(exchange, place)),
+    element("time", {class: "entry-time faint", datetime: exchange.time}, clock(exchange)),
   ];
 }
 
-function checks(verdicts) {
-  const items = Object.entries(verdicts).map(([name, verdict]) => {
-    const kind = {ok: "good", "not reached": "faint"}[verdict] ?? "bad";
-    const mark = {good: "✓", faint: "–", bad: "✗"}[kind];
-    return element("li", {class: kind}, element("span", {class: "mark", "aria-hidden": "true"}, mark),
-      element("span", {}, element("strong", {}, CHECKS[name] ?? name), `: ${verdict}`));
-  });
-  return items.length ? [element("h4", {}, "Checks of the request"), element("ul", {class: "checks"}, ...items)] : [];
+export const list = new List("exchange", {
+  source, row, open: detail,
+  // One more, for the interval since the one before.
+  onWindow: (first, end) => source.want(first, end + 1),
+});
+
+function redraw() {
+  list.draw();
+  const count = source.count.toLocaleString("en");
+  const all = total.toLocaleString("en");
+  byId("exchanges-count").textContent = all;
+  const searching = source.isSearching ? " so far …" : "";
+  byId("exchange-matches").textContent = source.filter ? `${count} of ${all}${searching}` : "";
+  byId("no-exchanges").textContent = total ? "No exchange fits the filter." :
+    "Nothing has come in yet. Exchanges appear here by themselves.";
+  show(byId("no-exchanges"), !source.count && !source.isSearching);
+  byId("export-har").href = `/control/exchanges.har?filter=${encodeURIComponent(source.filter)}`;
 }
 
-function schema(objections) {
-  if (objections === null) return null;
-  if (!objections.length) return element("p", {class: "good"}, "✓ The schemas have no objection.");
-  return element("div", {class: "notice warn"},
-    element("p", {}, `The schemas object (${objections.length}):`),
-    element("ul", {}, ...objections.map((sentence) => element("li", {}, sentence))));
-}
-
-// The first one stands among the checks already.
-function furtherObjections(objections) {
-  return objections?.length > 1 ? schema(objections) : null;
-}
-
-function message(exchange, side) {
-  const view = exchange[side];
-  const title = side === "request" ? "Request" : "Response";
-  const file = `/control/exchanges/${exchange.number}/${side}.http`;
-  return element("section", {class: "message", "aria-label": title},
-    element("div", {class: "bar"},
-      element("h4", {}, title, " ", element("span", {class: "faint"}, `${view.bytes.toLocaleString("en")} bytes`)),
-      element("a", {href: file, download: true, "aria-label": `Raw bytes of the ${side}`}, "Raw bytes")),
-    ...view.notes.map((note) => element("p", {class: "notice warn"}, note)),
-    side === "request" ? furtherObjections(view.schema) : schema(view.schema),
-    view.head ? element("details", {}, element("summary", {}, view.head.split("\n")[0].trim()),
-      element("pre", {tabindex: "0", role: "region", "aria-label": `Headers of the ${side}`}, view.head)) : null,
-    view.body ? element("pre", {tabindex: "0", role: "region", "aria-label": `Body of the ${side}`},
-      ...(view.xml ? coloured(view.body) : [view.body])) : element("p", {class: "empty"}, "No body."));
-}
-
-async function detail(key) {
-  const exchange = await get(`exchanges/${key}`);
-  return [
-    element("h3", {id: "exchange-title"}, `${nameOf(exchange)} `,
-      element("span", {class: "faint"}, `#${exchange.number}`)),
-    element("p", {class: "badges"}, ...badges(exchange),
-      element("time", {class: "faint", datetime: exchange.time}, exchange.time.slice(0, 19).replace("T", " "))),
-    exchange.about ? element("p", {}, exchange.about) : null,
-    exchange.fault ? element("p", {class: "notice fault"}, `The fault “${exchange.fault}” was played here.`) : null,
-    exchange.note ? element("p", {class: "notice bad"}, exchange.note) : null,
-    ...checks(exchange.checks),
-    message(exchange, "request"),
-    message(exchange, "response"),
-  ];
-}
-
-export const list = new List("exchange", {key: (exchange) => String(exchange.number), row, open: detail});
-let latest = null;
-
-export async function refresh() {
-  const exchanges = (await get(`exchanges?last=${MOST_SHOWN}`)).reverse();
-  list.show(exchanges);
-  byId("exchanges-count").textContent = exchanges.length === MOST_SHOWN ? `${MOST_SHOWN}+` : String(exchanges.length);
-  show(byId("no-exchanges"), !exchanges.length);
-  tellNews(exchanges[0]);
-}
-
-// The first look is no news.
-function tellNews(exchange) {
-  if (latest !== null && exchange && exchange.number !== latest) {
-    const fault = exchange.fault ? `, fault ${exchange.fault}` : "";
-    byId("news").textContent = `Exchange ${exchange.number}: ${nameOf(exchange)}, ${statusOf(exchange)}${fault}`;
+async function apply(filter) {
+  const complaint = byId("filter-complaint");
+  try {
+    strip.show(filter);
+    await source.load(filter);
+    complaint.textContent = "";
+  } catch (error) {
+    complaint.textContent = error.message;
   }
-  latest = exchange?.number ?? 0;
+  show(complaint, complaint.textContent !== "");
+  input.setAttribute("aria-invalid", String(complaint.textContent !== ""));
+}
+
+export function setFilter(filter) {
+  input.value = filter;
+  tell({filter});
+  list.window.scroller.scrollTop = 0;
+  return apply(filter);
+}
+
+const withTime = (filter, range) => `${filter.replace(/(^|\s)-?time:\S*/g, "").trim()}${range ? ` time:${range}` : ""}`.trim();
+
+input.addEventListener("input", () => {
+  clearTimeout(typing);
+  typing = setTimeout(() => setFilter(input.value), TYPING_MILLISECONDS);
+});
+byId("clear-filter").addEventListener("click", () => {
+  setFilter("");
+  input.focus();
+});
+byId("filter-words").addEventListener("click", (event) => {
+  const word = event.target.closest("button")?.textContent;
+  if (word) setFilter(`${input.value} ${word}`.trim());
+});
+
+/** Everything anew. */
+export async function refresh({listed}) {
+  total = listed.count;
+  source.forget();
+  input.value = told("filter");
+  await apply(input.value);
+  // What has been forgotten meanwhile is not there to be looked at.
+  if (Number(list.opened) > listed.last) list.close(false);
+  list.follow();
+  latest = listed.last;
+}
+
+/** What the address says may have changed. */
+export function follow() {
+  if (told("filter") !== source.filter) apply(input.value = told("filter"));
+  list.follow();
+}
+
+/** What has just ended. */
+export async function news({exchanges, listed}) {
+  total = listed.count;
+  list.window.shift(await source.add(exchanges, listed.first));
+  redraw();
+  strip.renew();
+  await tellNews(listed.last);
+}
+
+// The first look is no news. Of many at once the latest is told.
+async function tellNews(number) {
+  if (number === latest) return;
+  latest = number;
+  await source.want(0, 1);
+  const exchange = source.entries.get(number);
+  if (!exchange) return;
+  const fault = exchange.fault ? `, fault ${exchange.fault}` : "";
+  byId("news").textContent =
+    `Exchange ${number}: ${nameOf(exchange)}, ${exchange.outcome}, ${statusOf(exchange)}${fault}`;
 }

@@ -14,16 +14,26 @@ function value(input, byDefault) {
 const hasOwnCount = (name) => "count" in (kinds.find(({kind}) => kind === name)?.parameters ?? {});
 
 function words(fault) {
-  const {when, target, kind, ...others} = fault;
+  const {when, target, kind, one_in: oneIn, agency, incident, user, hits, exchanges, ...others} = fault;
   const {count, ...rest} = others;
   const values = hasOwnCount(kind) ? others : rest;
   const given = Object.entries(values).filter(([, one]) => one !== null && one !== "");
+  const meant = Object.entries({agency, incident, user}).filter(([, one]) => one);
+  const often = oneIn ? `one in ${oneIn}` : when === "next" && count > 1 && !hasOwnCount(kind) ? `next ${count}` : when;
   return [
     element("strong", {}, kind), " ",
     element("span", {class: "badge"}, target === "any" ? "any request" : target), " ",
-    element("span", {class: "badge"}, when === "next" && count > 1 && !hasOwnCount(kind) ? `next ${count}` : when), " ",
+    element("span", {class: "badge"}, often), " ",
+    ...meant.flatMap(([name, one]) => [element("span", {class: "badge"}, `${name} ${one}`), " "]),
     element("span", {class: "faint"}, given.map(([name, one]) => `${name}: ${one}`).join(", ")),
   ];
+}
+
+// What it has hit: how often, and the latest exchanges to look at.
+function hitWords({hits, exchanges}) {
+  if (!hits) return [element("span", {class: "faint"}, " – has hit nothing yet")];
+  return [` – has hit ${hits} request${hits === 1 ? "" : "s"}: `, ...exchanges.flatMap((number, at) =>
+    [at ? ", " : "", element("a", {href: `#view=exchanges&exchange=${number}`}, `#${number}`)])];
 }
 
 function field(kind, name, byDefault) {
@@ -34,11 +44,22 @@ function field(kind, name, byDefault) {
       autocomplete: "off", spellcheck: "false", id: `fault-${kind}-${name}`}));
 }
 
+// For whom: what is left empty is left open.
+function concern() {
+  const entries = ["agency", "incident", "user"].map((name) => [name, byId(`fault-${name}`).value.trim()]);
+  return Object.fromEntries(entries.filter(([, text]) => text));
+}
+
+function occasions(kind) {
+  const when = options.elements.when.value;
+  if (when === "one in") return {when: "every", one_in: Number(byId("fault-one-in").value)};
+  return when === "next" && !hasOwnCount(kind) ? {when, count: Number(byId("fault-count").value)} : {when};
+}
+
 async function play(kind, form) {
-  const fault = {kind: kind.kind, when: options.elements.when.value};
+  const fault = {kind: kind.kind, ...occasions(kind.kind), ...concern()};
   const target = byId("fault-target").value;
   if (target && kind.targets.length > 1) fault.target = target;
-  if (fault.when === "next" && !hasOwnCount(kind.kind)) fault.count = Number(byId("fault-count").value);
   for (const [name, byDefault] of Object.entries(kind.parameters)) {
     fault[name] = value(form.elements[name], byDefault);
   }
@@ -56,7 +77,7 @@ function tell(output, isGood, ...answer) {
 function item(kind) {
   const output = element("output", {class: "said"});
   const form = element("form", {class: "kind", "aria-label": kind.kind},
-    element("h3", {}, kind.kind, " ",
+    element("h4", {}, kind.kind, " ",
       kind.targets.length === 1 ? element("span", {class: "badge"}, kind.targets[0]) : null),
     element("p", {}, kind.meaning),
     element("div", {class: "fields"}, ...Object.entries(kind.parameters).map(
@@ -69,14 +90,30 @@ function item(kind) {
   return element("li", {}, form);
 }
 
+function presetItem({name, meaning}) {
+  const output = element("output", {class: "said"});
+  const button = element("button", {onclick: () => order({preset: name, ...concern()}).then(
+    (faults) => tell(output, true, `Ordered: ${faults.length === 1 ? "one fault waits" : `${faults.length} faults wait`}.`),
+    (error) => tell(output, false, error.message))}, name);
+  return element("li", {class: "preset"}, button, element("p", {}, meaning), output);
+}
+
+function grouped(all, heading, made) {
+  return [...new Set(all.map(({group}) => group))].map((group) =>
+    element("section", {class: "group", "aria-label": group}, element(heading, {}, group),
+      element("ul", {class: "kinds"}, ...all.filter((one) => one.group === group).map(made))));
+}
+
 export async function prepare() {
+  const presets = await get("faults/presets");
   kinds = await get("faults/kinds");
-  byId("fault-kinds").replaceChildren(...kinds.map(item));
+  byId("fault-presets").replaceChildren(...grouped(presets, "h3", presetItem));
+  byId("fault-kinds").replaceChildren(...grouped(kinds, "h3", item));
 }
 
 export async function refresh() {
   const waiting = await get("faults");
-  fill(byId("fault-list"), ...waiting.map((fault) => element("li", {}, ...words(fault))));
+  fill(byId("fault-list"), ...waiting.map((fault) => element("li", {}, ...words(fault), ...hitWords(fault))));
   byId("faults-count").textContent = waiting.length ? String(waiting.length) : "";
   show(byId("no-faults"), !waiting.length);
 }
@@ -84,4 +121,5 @@ export async function refresh() {
 options.addEventListener("submit", (event) => event.preventDefault());
 options.addEventListener("change", () => {
   show(byId("fault-count").parentElement, options.elements.when.value === "next");
+  show(byId("fault-one-in").parentElement, options.elements.when.value === "one in");
 });

@@ -1,96 +1,96 @@
-// A list beside the details of one of its entries. One entry at a time can be reached by Tab.
+// A list beside the details of one of its entries.
 import {byId, element, fill, show} from "./dom.js";
-
-const keyOf = (entry) => entry.firstElementChild.dataset.key;
+import {tell, told} from "./address.js";
+import {WindowList} from "./window_list.js";
 
 export class List {
-  /** `row(item)` gives the entry's content, `key(item)` what tells it from others, `open(key)` its details. */
-  constructor(name, {key, row, open}) {
-    this.list = byId(`${name}-list`);
+  /** `source` has count, keyAt(place), placeOf(key) and item(place), which may not have come yet; `row(item, place)`
+      gives the entry's content, `open(key)` its details. */
+  constructor(name, {source, row, open, onWindow}) {
+    this.name = name;
     this.detail = byId(`${name}-detail`);
-    this.key = key;
+    this.source = source;
     this.row = row;
     this.openDetail = open;
     this.opened = null;
-    this.keys = [];
+    this.window = new WindowList(byId(`${name}-list`), {
+      count: () => source.count, keyAt: (place) => String(source.keyAt(place)), onWindow,
+      placeOf: (key) => source.placeOf(key), row: (place) => this.entry(place)});
   }
 
-  /** Leaves every entry that stays in its place, with the focus it may have. */
-  show(items) {
-    this.keys = items.map(this.key);
-    const before = new Map([...this.list.children].map((entry) => [keyOf(entry), entry]));
-    const entries = items.map((item) => {
-      const made = this.entry(item);
-      const known = before.get(keyOf(made));
-      return known?.isEqualNode(made) ? known : made;
-    });
-    for (const entry of before.values()) if (!entries.includes(entry)) entry.remove();
-    entries.forEach((entry, at) => {
-      if (this.list.children[at] !== entry) this.list.insertBefore(entry, this.list.children[at] ?? null);
-    });
-    if (this.opened !== null && !this.keys.includes(this.opened)) this.close();
+  draw() {
+    this.window.draw();
   }
 
-  entry(item) {
-    const key = this.key(item);
-    const isOpen = key === this.opened;
-    const button = element("button", {class: "entry", "data-key": key, "aria-expanded": String(isOpen),
-      "aria-controls": this.detail.id}, ...this.row(item));
+  entry(place) {
+    const key = String(this.source.keyAt(place));
+    const button = element("button", {class: "entry", "data-key": key, "aria-expanded": String(key === this.opened),
+      "aria-controls": this.detail.id}, ...this.row(this.source.item(place), place));
     button.addEventListener("click", () => this.open(key));
-    return element("li", {}, button);
+    return button;
   }
 
-  async open(key) {
+  async open(key, isStep = true) {
     this.opened = key;
-    this.mark();
-    await this.refresh();
-    if (this.opened !== key) return;
+    tell({[this.name]: key}, isStep);
+    this.draw();
+    if (!await this.refresh() || this.opened !== key) return;
     this.detail.focus({preventScroll: true});
+    this.detail.scrollTop = 0;
     const {top} = this.detail.getBoundingClientRect();
     if (top < 0 || top > innerHeight / 2) this.detail.scrollIntoView();
   }
 
-  /** Fetches what is open once more. */
-  async refresh() {
-    const key = this.opened;
-    if (key === null) return;
-    const [title, ...content] = await this.openDetail(key);
-    if (this.opened !== key) return;
-    const close = element("button", {class: "quiet", onclick: () => this.close()}, "Close");
-    fill(this.detail, element("div", {class: "bar"}, title, close), ...content);
-    this.showDetail(true);
+  /** Opens or closes what the address names. */
+  follow() {
+    const key = told(this.name) || null;
+    if (key === this.opened) return;
+    if (key) this.open(key, false);
+    else this.close(false);
   }
 
-  close() {
+  /** Fetches what is open once more; whether it is there. */
+  async refresh() {
+    const key = this.opened;
+    if (key === null) return false;
+    let content;
+    try {
+      content = await this.openDetail(key);
+    } catch (error) {
+      if (this.opened === key) this.close();
+      throw error;
+    }
+    if (this.opened !== key) return false;
+    const [title, ...rest] = content;
+    const close = element("button", {class: "quiet close", onclick: () => this.close()}, "Close");
+    fill(this.detail, element("div", {class: "bar"}, title, close), ...rest);
+    this.showDetail(true);
+    return true;
+  }
+
+  close(isStep = true) {
     const key = this.opened;
     const hadFocus = this.detail.contains(document.activeElement);
     this.opened = null;
-    this.mark();
+    tell({[this.name]: ""}, isStep);
     this.showDetail(false);
     this.detail.replaceChildren();
-    if (hadFocus) (this.buttonOf(key) ?? this.list.querySelector("button"))?.focus();
+    this.draw();
+    const place = key === null ? -1 : this.source.placeOf(key);
+    if (hadFocus && place >= 0) this.window.reveal(place)?.focus();
   }
 
   showDetail(wanted) {
     show(this.detail, wanted);
     this.detail.parentElement.classList.toggle("opened", wanted);
+    this.draw();
   }
 
   /** The entry after (1) or before (-1) the one that has the focus or is open. */
   step(by) {
-    const focused = document.activeElement?.closest?.(".entry")?.dataset.key ?? this.opened;
-    const at = this.keys.indexOf(focused);
-    const next = at < 0 ? 0 : Math.min(Math.max(at + by, 0), this.keys.length - 1);
-    this.buttonOf(this.keys[next])?.focus();
-  }
-
-  buttonOf(key) {
-    return [...this.list.querySelectorAll(".entry")].find((button) => button.dataset.key === key);
-  }
-
-  mark() {
-    for (const button of this.list.querySelectorAll(".entry")) {
-      button.setAttribute("aria-expanded", String(button.dataset.key === this.opened));
-    }
+    const key = document.activeElement?.closest?.(".entry")?.dataset.key ?? this.opened;
+    const at = key === null ? -1 : this.source.placeOf(key);
+    const next = at < 0 ? 0 : Math.min(Math.max(at + by, 0), this.source.count - 1);
+    if (this.source.count) this.window.reveal(next)?.focus({preventScroll: true});
   }
 }

@@ -1,16 +1,21 @@
 // Puts the views together and keeps them up to date.
-import {byId, show} from "./dom.js";
-import {forget, get} from "./control.js";
+import {byId, element, show} from "./dom.js";
+import {forget, get, post} from "./control.js";
+import {tell, told} from "./address.js";
+import {copy} from "./clipboard.js";
 import * as cards from "./cards.js";
 import * as exchanges from "./exchanges.js";
 import * as faults from "./faults.js";
 
-const RETRY_MILLISECONDS = 2000;
-const tabs = ["exchanges", "index", "faults"].map((name) => byId(`tab-${name}`));
+const RETRY_MILLISECONDS = 1000;
+// Between two pieces of news. Many at once are told in larger portions, for the server has better things to do.
+const [PAUSE, LONG_PAUSE, MANY] = [250, 1000, 40];
+const NAMES = ["exchanges", "index", "faults"];
+const tabs = NAMES.map((name) => byId(`tab-${name}`));
 const lists = {exchanges: exchanges.list, index: cards.list};
-let views = [];
+let isRecording = false;
 
-function choose(tab, withFocus = false) {
+function choose(tab, withFocus = false, isStep = true) {
   for (const one of tabs) {
     const isChosen = one === tab;
     one.setAttribute("aria-selected", String(isChosen));
@@ -18,9 +23,20 @@ function choose(tab, withFocus = false) {
     show(byId(one.getAttribute("aria-controls")), isChosen);
   }
   if (withFocus) tab.focus();
+  tell({view: chosen() === NAMES[0] ? "" : chosen()}, isStep);
+  if (chosen() === "index") attempt(cards.showUp);
+  else lists[chosen()]?.draw();
 }
 
 const chosen = () => tabs.find((tab) => tab.getAttribute("aria-selected") === "true").id.slice("tab-".length);
+
+/** What the address says. */
+function follow() {
+  const tab = tabs[Math.max(0, NAMES.indexOf(told("view")))];
+  if (tab.getAttribute("aria-selected") !== "true" && !tab.hidden) choose(tab, false, false);
+  exchanges.follow();
+  if (!isRecording) cards.follow();
+}
 
 function tellFailure(error) {
   byId("failure").textContent = error.message;
@@ -38,38 +54,64 @@ async function attempt(work) {
 
 function tellConnection(isLive) {
   const status = byId("connection");
-  const text = isLive ? "Live" : "Not running: trying again …";
+  const text = isLive ? "Live" : "Stopped";
   if (status.textContent !== text) status.textContent = text;
   status.classList.toggle("bad", !isLive);
 }
 
+function address(label, text) {
+  return element("div", {}, element("dt", {}, label), element("dd", {}, element("code", {}, text),
+    element("button", {class: "quiet small", "aria-label": `Copy the address for ${label.toLowerCase()}`,
+      onclick: () => attempt(() => copy(text))}, "Copy")));
+}
+
+function fact(label, text) {
+  return element("div", {}, element("dt", {}, label), element("dd", {}, text));
+}
+
 async function learnMode() {
-  const {far_side: farSide} = await get("status");
-  const isRecording = farSide !== null;
+  const {far_side: farSide, services, lejis_host: host, data, keep} = await get("status");
+  isRecording = farSide !== null;
   byId("mode").textContent = isRecording ? "recorder" : "simulator";
   byId("far-side").textContent =
     `Everything is passed on to ${farSide} and recorded. Recordings hold personal data.`;
   show(byId("far-side"), isRecording);
+  byId("about-server").replaceChildren(
+    address("Submissions", location.origin + services.submission), address("Searches", location.origin + services.search),
+    fact("LEJIS host", host), fact("Data", data), fact("Keeps", keep ? `the latest ${keep} exchanges` : "all exchanges"));
   for (const tab of tabs.slice(1)) show(tab, !isRecording);
-  if (isRecording) choose(tabs[0]);
+  if (isRecording) choose(tabs[0], false, false);
   else await faults.prepare();
-  views = isRecording ? [exchanges] : [exchanges, cards, faults];
 }
+
+async function learn(news) {
+  const all = news.what.includes("everything");
+  if (all) await learnMode();
+  if (all || news.what.includes("exchanges")) await exchanges.refresh(news);
+  else if (news.exchanges.length) await exchanges.news(news);
+  if (isRecording) return;
+  if (all || news.what.includes("index")) await cards.refresh(news);
+  if (all || news.what.includes("faults")) await faults.refresh();
+  if (all) follow();
+}
+
+const seconds = (milliseconds) => new Promise((resolve) => setTimeout(resolve, milliseconds));
 
 // Each answer comes when something has changed, or after a while; a simulator that has ended is asked again.
 async function watch() {
   let known = null;
   for (;;) {
     try {
-      const {changes} = await get(known === null ? "changes" : `changes?after=${known}`);
-      if (known === null) await learnMode();
-      if (changes !== known) await Promise.all(views.map((view) => view.refresh()));
-      known = changes;
+      const news = await get(known === null ? "changes" : `changes?after=${known}`);
+      const count = known === null ? 0 : news.changes - known;
+      await learn(news);
+      known = news.changes;
       tellConnection(true);
+      await seconds(count > MANY ? LONG_PAUSE : count ? PAUSE : 0);
     } catch {
       known = null;
       tellConnection(false);
-      await new Promise((resolve) => setTimeout(resolve, RETRY_MILLISECONDS));
+      await seconds(RETRY_MILLISECONDS);
     }
   }
 }
@@ -81,6 +123,7 @@ const SHORTCUTS = {
   j: () => lists[chosen()]?.step(1),
   k: () => lists[chosen()]?.step(-1),
   c: () => tabs[2].hidden || byId("clear-faults").click(),
+  "/": () => ({exchanges: byId("exchange-filter"), index: byId("card-filter")})[chosen()]?.focus(),
   Escape: () => lists[chosen()]?.close(),
 };
 
@@ -102,6 +145,8 @@ byId("tab-exchanges").parentElement.addEventListener("keydown", (event) => {
 });
 
 for (const tab of tabs) tab.addEventListener("click", () => choose(tab));
+addEventListener("popstate", follow);
+
 function forgetBy(button, what, question) {
   byId(button).addEventListener("click", () => {
     if (!question || confirm(question)) attempt(() => forget(what));
@@ -111,6 +156,15 @@ function forgetBy(button, what, question) {
 forgetBy("forget-exchanges", "exchanges", "Forget all exchanges? Their files are deleted.");
 forgetBy("forget-index", "index", "Forget all incidents?");
 forgetBy("clear-faults", "faults");
+
+byId("import-har").addEventListener("change", (event) => attempt(async () => {
+  const [file] = event.target.files;
+  if (!file) return;
+  const {imported} = await post("exchanges/import", file);
+  event.target.value = "";
+  byId("news").textContent = `Imported ${imported} exchanges.`;
+  await exchanges.setFilter("is:imported");
+}));
 
 // A detail that cannot be fetched, because it has just been forgotten.
 addEventListener("unhandledrejection", (event) => tellFailure(event.reason));

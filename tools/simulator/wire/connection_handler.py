@@ -108,7 +108,8 @@ class ConnectionHandler(BaseHTTPRequestHandler):
 
     def _request(self, body: bytes = b"") -> HttpRequest:
         return HttpRequest(self.command or "", self.path or "", self.rfile.take_head(),
-                           self.headers, body, self.server.scheme)
+                           self.headers, body, self.server.scheme,
+                           self.server.connect)
 
     def _is_chunked(self) -> bool:
         coding = self.headers.get("Transfer-Encoding")

@@ -6,6 +6,7 @@ import json
 import os
 import threading
 import time
+from collections import deque
 from collections.abc import Iterable
 from pathlib import Path
 from typing import IO, Any
@@ -32,7 +33,7 @@ class ExchangeLog:
         self._file: IO[bytes] | None = None
         self._forgotten = 0
         self._stale_lines = 0
-        self._listed = 0
+        self._numbers: deque[int] = deque()
         self._read()
         self._count = max((int(entry.name.partition("-")[0]) for entry in os.scandir(folder)
                            if entry.name.endswith("-request.http")), default=0)
@@ -42,13 +43,21 @@ class ExchangeLog:
     def _read(self) -> None:
         if not self._lines.exists():
             return
-        # Only whole lines: the last one may have been cut off by a full disk or a kill.
-        lines = self._lines.read_bytes().split(b"\n")
-        texts = [line.decode("utf-8", "replace") for line in lines[:-1] if line]
-        self.table.add(_listed(text) for text in texts)
-        ((self._listed,),) = self.table.rows("SELECT count(*) FROM exchange")
-        self._stale_lines = len(texts) - self._listed
-        if lines[-1]:
+        count, is_current = 0, True
+        with open(self._lines, "rb") as lines:
+            for line in lines:
+                text = line.decode("utf-8", "replace").rstrip("\n")
+                # The last line may have been cut off by a full disk or a kill.
+                is_whole, has_all = line.endswith(b"\n"), '"outcome"' in text
+                is_current = is_current and is_whole and has_all
+                if is_whole:
+                    count += 1
+                    entry = parsed(text)
+                    self.table.add([(entry, text if has_all else json.dumps(entry))])
+        rows = self.table.rows("SELECT number FROM exchange ORDER BY number")
+        self._numbers.extend(number for (number,) in rows)
+        self._stale_lines = count - len(self._numbers)
+        if not is_current:
             with self._lock:
                 self._write_anew()
 
@@ -80,23 +89,19 @@ class ExchangeLog:
                 self._file = open_private(self._lines, "ab", buffering=0)
             self._file.write(line.encode() + b"\n")
             self.table.add([(entry, line)])
-            self._listed += 1
+            self._numbers.append(entry["number"])
             self._drop_the_oldest()
             return True
 
     def _drop_the_oldest(self) -> None:
-        if self._keep is None or self._listed <= self._keep:
-            return
-        gone = self.table.rows("SELECT number FROM exchange ORDER BY number LIMIT ?",
-                               (self._listed - self._keep,))
-        for (number,) in gone:
+        while self._keep is not None and len(self._numbers) > self._keep:
+            number = self._numbers.popleft()
             for side in SIDES:
                 self._path(number, side).unlink(missing_ok=True)
-        self.table.remove_before(gone[-1][0] + 1)
-        self._listed -= len(gone)
-        self._stale_lines += len(gone)
+            self.table.remove(number)
+            self._stale_lines += 1
         # Now and then, so that it costs each exchange little.
-        if self._stale_lines > max(1000, self._keep):
+        if self._stale_lines > max(1000, len(self._numbers)):
             self._write_anew()
 
     def _write_anew(self) -> None:
@@ -113,7 +118,7 @@ class ExchangeLog:
         """The lowest and the highest number of the exchanges listed, and how many there are."""
         ((first, last),) = self.table.rows("SELECT (SELECT min(number) FROM exchange), "
                                            "(SELECT max(number) FROM exchange)")
-        return first or 1, last or 0, self._listed
+        return first or 1, last or 0, len(self._numbers)
 
     def lines(self, last: int | None = None) -> list[str]:
         """The summaries as JSON, oldest first; only the last ones when a number is given."""
@@ -172,7 +177,8 @@ class ExchangeLog:
             self._close_lines()
             self._lines.unlink(missing_ok=True)
             self.table.clear()
-            self._count = self._listed = self._stale_lines = 0
+            self._count = self._stale_lines = 0
+            self._numbers.clear()
             self._forgotten += 1
             return forgotten
 
@@ -236,12 +242,6 @@ class OpenExchange:
             "user": "",
             **more,
         }, self._age)
-
-
-def _listed(line: str) -> tuple[dict[str, Any], str]:
-    """What was completed is written as it is then."""
-    entry = parsed(line)
-    return entry, line if '"outcome"' in line else json.dumps(entry)
 
 
 def local_time(milliseconds: int) -> str:

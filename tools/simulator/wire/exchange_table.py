@@ -27,42 +27,64 @@ CREATE TABLE exchange (
 """
 # Apart, so that whoever asks for the rest does not have to leaf through it.
 _LINES = "CREATE TABLE line (number INTEGER PRIMARY KEY, text TEXT NOT NULL)"
+_MOST_WAITING = 1000
 _TABLES = ("exchange", "line")
 _INSERTION = f"INSERT OR REPLACE INTO exchange VALUES ({', '.join('?' * 12)})"
 _WORDS = ("kind", "outcome", "about", "method", "path", "fault", "note", "user", "imported")
 
 
 class ExchangeTable:
-    """One row an exchange. Any thread may call."""
+    """One row an exchange. Any thread may call.
+
+    What comes and goes waits until somebody asks: each statement gives the interpreter to another
+    thread, which those who submit would have to wait for.
+    """
 
     def __init__(self) -> None:
         self._lock = threading.Lock()
         self._database = sqlite3.connect(":memory:", check_same_thread=False, isolation_level=None)
         self._database.execute(_CREATION)
         self._database.execute(_LINES)
+        self._coming: list[tuple[dict[str, Any], str]] = []
+        self._going: list[tuple[int]] = []
 
     def add(self, entries: Iterable[tuple[dict[str, Any], str]]) -> None:
         """Takes entries, each with the line that is its text in the record."""
         with self._lock:
-            for entry, line in entries:
-                self._database.execute(_INSERTION, _row(entry))
-                self._database.execute("INSERT OR REPLACE INTO line VALUES (?, ?)",
-                                       (entry["number"], line))
+            for pair in entries:
+                self._coming.append(pair)
+                if len(self._coming) > _MOST_WAITING:
+                    self._settle()
 
     def rows(self, query: str, values: Iterable[Any] = ()) -> list[tuple]:
         """The answer to a query of the tables `exchange` and `line`."""
         with self._lock:
+            self._settle()
             return self._database.execute(query, tuple(values)).fetchall()
 
-    def remove_before(self, number: int) -> None:
-        """Drops every exchange with a lower number."""
-        for table in _TABLES:
-            self.rows(f"DELETE FROM {table} WHERE number < ?", (number,))
+    def remove(self, number: int) -> None:
+        """Drops one exchange."""
+        with self._lock:
+            self._going.append((number,))
+            if len(self._going) > _MOST_WAITING:
+                self._settle()
 
     def clear(self) -> None:
         """Drops all of them."""
         for table in _TABLES:
             self.rows(f"DELETE FROM {table}")
+
+    def _settle(self) -> None:
+        if not self._coming and not self._going:
+            return
+        self._database.execute("BEGIN")
+        self._database.executemany(_INSERTION, [_row(entry) for entry, _ in self._coming])
+        self._database.executemany("INSERT OR REPLACE INTO line VALUES (?, ?)",
+                                   [(entry["number"], line) for entry, line in self._coming])
+        for table in _TABLES:
+            self._database.executemany(f"DELETE FROM {table} WHERE number = ?", self._going)
+        self._database.execute("COMMIT")
+        self._coming, self._going = [], []
 
 
 def _row(entry: dict[str, Any]) -> tuple:

@@ -2,6 +2,8 @@
 
 from __future__ import annotations
 
+import socket
+from collections.abc import Callable
 from dataclasses import dataclass, field
 from email.message import Message
 from urllib.parse import parse_qs
@@ -17,6 +19,8 @@ class HttpRequest:
     headers: Message = field(default_factory=Message)
     body: bytes = b""
     scheme: str = "http"
+    # How to connect to the server that got it.
+    server: Callable[[], socket.socket] | None = None
 
     @property
     def path(self) -> str:

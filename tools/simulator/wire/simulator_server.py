@@ -17,6 +17,7 @@ from .connection_handler import ConnectionHandler
 from .delivery import Delivery
 from .http_request import HttpRequest
 from .http_response import HttpResponse
+from .own_connection import connect_to
 from .takeover import Takeover
 
 _LAST_ANSWERS_SECONDS = 1
@@ -70,6 +71,11 @@ class SimulatorServer(ThreadingHTTPServer):
         """Where clients find the server."""
         host = f"[{self.server_name}]" if ":" in self.server_name else self.server_name
         return f"{self.scheme}://{host}:{self.server_port}"
+
+    def connect(self) -> socket.socket:
+        """A connection to the server itself."""
+        host = {"0.0.0.0": "127.0.0.1", "::": "::1"}.get(self.server_name, self.server_name)
+        return connect_to(host, self.server_port, self.tls is not None)
 
     def wait(self, seconds: float) -> None:
         """Lets time pass, but not the server's end."""
