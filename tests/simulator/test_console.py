@@ -3,6 +3,7 @@
 import http.client
 import ipaddress
 import re
+import tempfile
 import threading
 import time
 import unittest
@@ -17,6 +18,7 @@ from endpoints.callers import Callers
 from endpoints.changes import Changes
 from faults.fault_kinds import FAULT_KINDS
 from lejis.namespaces import SEARCH_PATH, SUBMISSION_PATH
+from simulator import Simulator
 from wire.http_request import HttpRequest
 
 PAGE = Path(documents.__file__).resolve().parents[2] / "tools/simulator/page"
@@ -49,6 +51,16 @@ class CallersTest(unittest.TestCase):
                                ("192.168.2.7", False), ("fd00::7", True), ("127.0.0.1", True)):
             with self.subTest(peer=peer):
                 self.assertEqual(expected, self.admits(peer, "192.168.1.0/24", "fd00::/8"))
+
+    def test_services_are_for_the_same_callers(self) -> None:
+        with tempfile.TemporaryDirectory() as folder:
+            callers = Callers([ipaddress.ip_network("192.168.1.0/24")])
+            simulator = Simulator(Path(folder), documents.NAMES, lambda: None, callers=callers)
+            self.addCleanup(simulator.close)
+            request = HttpRequest("GET", SUBMISSION_PATH + "?wsdl", headers=headers(Host="x"))
+            for peer, expected in (("127.0.0.1", 200), ("::1", 200), ("192.168.1.7", 200), ("10.0.0.1", 403)):
+                with self.subTest(peer=peer):
+                    self.assertEqual(expected, simulator.answer(request, peer).status)
 
     def test_names_that_could_be_made_to_point_here(self) -> None:
         for host, expected in (("127.0.0.1:8080", True), ("127.0.0.1", True), ("localhost", True),

@@ -1,5 +1,6 @@
 """What comes over the wire when clients are careless, slow, broken or hostile."""
 
+import contextlib
 import http.client
 import socket
 import threading
@@ -90,6 +91,29 @@ class WireTest(SimulatorCase):
     def test_body_that_does_not_come(self) -> None:
         with mock.patch.object(ConnectionHandler, "timeout", 0.1):
             self.answered(408, POST + b"Content-Length: 10\r\n\r\nbody")
+
+    def test_a_client_that_takes_too_long_over_a_request(self) -> None:
+        with mock.patch.object(ConnectionHandler, "whole_request_seconds", 0.5), \
+                socket.create_connection(("127.0.0.1", self.port), timeout=10) as client:
+            client.sendall(b"POST /x HTTP/1.1\r\nContent-Length: 1000\r\n\r\n")
+            began = time.monotonic()
+            answer = b""
+            client.settimeout(0.1)
+            # Never silent for long.
+            while not answer and time.monotonic() - began < 5:
+                client.sendall(b"x")
+                with contextlib.suppress(TimeoutError):
+                    answer = client.recv(1000)
+            self.assertIn(b" 408 ", answer)
+            self.assertLess(time.monotonic() - began, 2)
+
+    def test_the_time_of_a_request_begins_with_its_first_byte(self) -> None:
+        with mock.patch.object(ConnectionHandler, "whole_request_seconds", 0.3), \
+                socket.create_connection(("127.0.0.1", self.port), timeout=10) as client:
+            for _ in range(2):
+                time.sleep(0.5)
+                client.sendall(b"GET /control/faults HTTP/1.1\r\n\r\n")
+                self.assertIn(b" 200 ", client.recv(1000))
 
     def test_head_that_does_not_come(self) -> None:
         with mock.patch.object(ConnectionHandler, "timeout", 0.1):

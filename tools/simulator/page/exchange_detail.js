@@ -54,7 +54,7 @@ async function copyBody(exchange) {
   return "Copied the body of the request as it was sent.";
 }
 
-async function copyCurl(exchange) {
+async function copyCommand(exchange) {
   await copy(curlCommand(exchange, await bodyOf(exchange), location.origin));
   return "Copied a curl command for a shell.";
 }
@@ -83,7 +83,7 @@ function actions(exchange, place) {
   const isWhole = exchange.method !== "";
   return element("div", {class: "actions", role: "group", "aria-label": "Actions"},
     action("Copy", () => copyBody(exchange), "The body of the request, as it was sent"),
-    isWhole ? action("As curl", () => copyCurl(exchange), "A curl command that sends the same request") : null,
+    isWhole ? action("As curl", () => copyCommand(exchange), "A curl command that sends the same request") : null,
     hasIncident ? element("a", {class: "button", download: true,
       href: `/control/exchanges/${exchange.number}/incident.xml`,
       title: "The incident as a file for lejis.exe"}, "As incident file") : null,

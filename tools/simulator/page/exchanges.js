@@ -59,8 +59,8 @@ function redraw() {
 async function apply(filter) {
   const complaint = byId("filter-complaint");
   try {
-    strip.show(filter);
     await source.load(filter);
+    strip.show(filter);
     complaint.textContent = "";
   } catch (error) {
     complaint.textContent = error.message;

@@ -86,8 +86,8 @@ async function learnMode() {
 
 async function learn(news) {
   const all = news.what.includes("everything");
-  if (all) await learnMode();
-  if (all || news.what.includes("exchanges")) await exchanges.refresh(news);
+  if (all) await Promise.all([learnMode(), exchanges.refresh(news)]);
+  else if (news.what.includes("exchanges")) await exchanges.refresh(news);
   else if (news.exchanges.length) await exchanges.news(news);
   if (isRecording) return;
   if (all || news.what.includes("index")) await cards.refresh(news);

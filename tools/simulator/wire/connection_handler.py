@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import io
 import socket
 import struct
 import time
@@ -14,6 +15,7 @@ from .chunked_body import read_chunked
 from .delivery import Delivery
 from .head_recorder import HeadRecorder
 from .http_request import HttpRequest
+from .patient_reader import PatientReader
 from .request_refused import RequestRefused
 from .takeover import Takeover
 
@@ -22,6 +24,7 @@ if TYPE_CHECKING:
 
 MAX_BODY_BYTES = 64 * 1024 * 1024
 SOCKET_TIMEOUT_SECONDS = 60
+WHOLE_REQUEST_SECONDS = 300
 _MAX_LINE_BYTES = 65536
 _DRAIN_SECONDS = 1
 
@@ -32,6 +35,7 @@ class ConnectionHandler(BaseHTTPRequestHandler):
     server: SimulatorServer
     protocol_version = "HTTP/1.1"
     timeout = SOCKET_TIMEOUT_SECONDS
+    whole_request_seconds = WHOLE_REQUEST_SECONDS
     disable_nagle_algorithm = True
 
     def setup(self) -> None:
@@ -41,7 +45,9 @@ class ConnectionHandler(BaseHTTPRequestHandler):
             self.request.settimeout(self.timeout)
             self.request = self.server.tls.wrap_socket(self.request, server_side=True)
         super().setup()
-        self.rfile = HeadRecorder(self.rfile)
+        self.rfile.close()
+        self._reader = PatientReader(self.connection, self.timeout, self.whole_request_seconds)
+        self.rfile = HeadRecorder(io.BufferedReader(self._reader))
 
     def handle_one_request(self) -> None:
         """Reads a request and sends its answer. A client that goes away is no error."""
@@ -67,6 +73,7 @@ class ConnectionHandler(BaseHTTPRequestHandler):
 
     def _read_request_line(self) -> bool:
         """False when the client has closed or sent nothing in time between two requests."""
+        self._reader.expect_request()
         self.command = self.path = ""
         self.headers = Message()
         self.raw_requestline = self.rfile.readline(_MAX_LINE_BYTES + 1)
