@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import os
 import socket
 import socketserver
 import ssl
@@ -46,6 +47,8 @@ class SimulatorServer(ThreadingHTTPServer):
     """Serves each connection on a thread of its own; none of them can hold up the end."""
 
     daemon_threads = True
+    # On Windows two programs could listen on one port then, and each would get some of the requests.
+    allow_reuse_address = os.name == "posix"
     request_queue_size = 128
 
     def __init__(self, host: str, port: int, application: Application,
