@@ -4,6 +4,7 @@ import json
 import tempfile
 import unittest
 from pathlib import Path
+from typing import Any
 from unittest import mock
 from urllib.parse import quote
 
@@ -13,6 +14,8 @@ from search_case import SEARCH_HEADERS
 from simulator_case import SimulatorCase
 
 from endpoints import exchange_search
+from endpoints.exchange_filter import ExchangeFilter
+from endpoints.timeline import timeline
 from lejis.namespaces import SEARCH_PATH, SUBMISSION_PATH
 from views.outcome import outcome_of
 from wire.exchange_log import ExchangeLog
@@ -22,7 +25,7 @@ from wire.http_request import HttpRequest
 class ListCase(SimulatorCase):
     """With an exchange of each kind."""
 
-    def search(self, **asked: str) -> None:
+    def search(self, **asked: Any) -> None:
         self.call("POST", SEARCH_PATH, inquiries.search(**asked), SEARCH_HEADERS)
 
     def fill(self) -> None:
@@ -68,6 +71,8 @@ class EntryTest(ListCase):
     def test_a_search_is_shown_as_it_was_asked(self) -> None:
         self.search(words="Main STREET")
         self.assertEqual("Main, STREET", self.last_exchange()["about"])
+        self.search(person={"j:PersonSurName": "McADAM"})
+        self.assertEqual("surname McADAM", self.last_exchange()["about"])
 
     def test_the_previous_exchange_of_the_same_incident(self) -> None:
         for number in ("a", "b", "a"):
@@ -172,6 +177,17 @@ class PagesTest(ListCase):
         line = self.control("GET", "exchanges/timeline?filter=kind:deletion")
         self.assertEqual([{"accepted": 1}], [one["outcomes"] for one in line["buckets"]])
         self.assertEqual([], self.control("GET", "exchanges/timeline?filter=kind:schema")["buckets"])
+
+    def test_a_timeline_has_a_step_that_people_expect(self) -> None:
+        for span, step in ((300, 10), (30_000, 1000), (3_600_000, 120_000), (10 * 86_400_000, 6 * 3_600_000)):
+            with self.subTest(span=span), tempfile.TemporaryDirectory() as folder:
+                log = ExchangeLog(Path(folder))
+                self.addCleanup(log.close)
+                for at in (1772366400000, 1772366400000 + span):
+                    log.record(HttpRequest(), b"", 200, {}, None, at=at)
+                line = timeline(log, ExchangeFilter(""), 50)
+                self.assertEqual((step, span // step + 1), (line["step"], line["count"]))
+                self.assertEqual([0, span // step], [bucket["at"] for bucket in line["buckets"]])
 
     def test_pages_of_the_index(self) -> None:
         for number in ("b", "a", "c"):

@@ -147,16 +147,19 @@ class DetailTest(PageCase):
     def test_differences_to_the_exchange_before(self):
         self.submit_plainly("2024-7", charge="Simple assault")
         self.submit_plainly("2024-8")
-        self.submit_plainly("2024-7", charge="Zonked out")
+        changed = documents.submission(documents.card("2024-7", charge="Zonked out"))
+        changed = changed.replace(b"2007-03-09</j:ActivityDate>", b"2007-03-08</j:ActivityDate>")
+        self.post(SUBMISSION_PATH, changed, SUBMISSION_HEADERS)
         self.opened(1)
         self.assertNotIn("Differences", self.texts(".actions button"))
         self.opened(3)
         self.button("Differences", ".actions").click()
         self.await_text(".differences h4", "#1")
         self.assertEqual([text.split("-", 1)[1].strip() for text in self.texts(".differences .before")], [
+            "<j:ActivityDate>2007-03-09</j:ActivityDate>",
             "<j:ChargeDescriptionText>Simple assault</j:ChargeDescriptionText>",
             "<lejis:submissionResponse>0 Accepted. Incidents: 1 added.</lejis:submissionResponse>"])
-        self.assertEqual(len(self.all(".differences .now")), 2)
+        self.assertEqual(len(self.all(".differences .now")), 3)
 
     def test_the_addresses_can_be_copied(self):
         self.click(".about summary")

@@ -12,8 +12,8 @@ def _start():
     try:
         import lxml.etree  # noqa: F401
     except ImportError:
-        sys.exit(_CANNOT_START + "this Python has no lxml; install it with 'apt install python3-lxml' "
-                 "on Debian, 'py -3 -m pip install lxml' on Windows.")
+        sys.exit(_CANNOT_START + "this Python has no lxml; install it with "
+                 "'apt install python3-lxml' on Debian, 'py -3 -m pip install lxml' on Windows.")
     import program
     return program.main()
 

@@ -11,7 +11,8 @@ _HOST = re.compile(r"([A-Za-z0-9._-]+|\[[0-9A-Fa-f:.]+\])(:[0-9]{1,5})?")
 
 
 def own_address(request: HttpRequest) -> str | None:
-    """'http://host:port' or the same with https, after the Host header; nothing when that is missing or no host."""
+    """'http://host:port', or the same with https, after the Host header; nothing when that is missing
+    or no host."""
     host = request.header("Host") or ""
     return f"{request.scheme}://{host}" if _HOST.fullmatch(host) else None
 

@@ -164,10 +164,14 @@ FAULT_KINDS: dict[str, FaultKind] = {
         meaning="This text as the submission's response, empty by default"),
     "soap-fault": FaultKind(_soap_fault, _SOAP_FAULT, meaning="A SOAP fault"),
     "http-status": FaultKind(_http_status, _HTTP_STATUS, meaning="That HTTP status and body"),
-    "slow": FaultKind(_slow, _SECONDS, honest=True, meaning="The right answer after a while", group="Time"),
-    "trickle": FaultKind(_trickle, _SECONDS, honest=True, meaning="The right answer bit by bit", group="Time"),
-    "truncated": FaultKind(_truncated, meaning="Half of the body, then a close", group="Connection"),
-    "truncated-headers": FaultKind(_truncated_headers, meaning="Half of the headers, then a close", group="Connection"),
+    "slow": FaultKind(
+        _slow, _SECONDS, honest=True, meaning="The right answer after a while", group="Time"),
+    "trickle": FaultKind(
+        _trickle, _SECONDS, honest=True, meaning="The right answer bit by bit", group="Time"),
+    "truncated": FaultKind(
+        _truncated, meaning="Half of the body, then a close", group="Connection"),
+    "truncated-headers": FaultKind(
+        _truncated_headers, meaning="Half of the headers, then a close", group="Connection"),
     "close": FaultKind(_close, meaning="No answer, but a close", group="Connection"),
     "reset": FaultKind(_reset, meaning="No answer, but a reset", group="Connection"),
     "not-xml": FaultKind(_not_xml, meaning="Status 200 with words that are no XML"),
@@ -179,16 +183,24 @@ FAULT_KINDS: dict[str, FaultKind] = {
     "doctype": FaultKind(
         _doctype, meaning="An answer whose text is an entity of its own DOCTYPE"),
     "count-without-cards": FaultKind(
-        _count_without_cards, _HITS, target="search", meaning="This count, and no cards", group="Search answers"),
-    "cards": FaultKind(_cards, _CARDS, target="search", meaning="This many invented cards", group="Search answers"),
+        _count_without_cards, _HITS, target="search", meaning="This count, and no cards",
+        group="Search answers"),
+    "cards": FaultKind(
+        _cards, _CARDS, target="search", meaning="This many invented cards",
+        group="Search answers"),
     "bad-card": FaultKind(
-        _bad_card, target="search", meaning="Three cards, the second without its identifiers", group="Search answers"),
+        _bad_card, target="search", meaning="Three cards, the second without its identifiers",
+        group="Search answers"),
     "deep-cards": FaultKind(
-        _deep_cards, target="search", meaning="Two cards, one level too deep", group="Search answers"),
-    "no-types": FaultKind(_no_types, target="wsdl", meaning="A WSDL without wsdl:types", group="WSDL"),
-    "no-include": FaultKind(_no_include, target="wsdl", meaning="A WSDL without xsd:include", group="WSDL"),
+        _deep_cards, target="search", meaning="Two cards, one level too deep",
+        group="Search answers"),
+    "no-types": FaultKind(
+        _no_types, target="wsdl", meaning="A WSDL without wsdl:types", group="WSDL"),
+    "no-include": FaultKind(
+        _no_include, target="wsdl", meaning="A WSDL without xsd:include", group="WSDL"),
     "https-include": FaultKind(
-        _https_include, target="wsdl", meaning="An include that begins with HTTPS://", group="WSDL"),
+        _https_include, target="wsdl", meaning="An include that begins with HTTPS://",
+        group="WSDL"),
     "wrong-schema": FaultKind(
         _wrong_schema, target="wsdl", meaning="A schema that nothing passes", group="WSDL"),
 }

@@ -15,6 +15,7 @@ export class ExchangeSource {
     this.asked = new Set();
     this.filter = "";
     this.search = 0;
+    this.missed = Infinity;
     this.isSearching = false;
   }
 
@@ -28,6 +29,7 @@ export class ExchangeSource {
     const search = ++this.search;
     this.filter = filter;
     this.isSearching = true;
+    this.missed = Infinity;
     let isFirst = true;
     for (let to = last; to >= 1;) {
       const {ranges, reached} = await this.matches(1, to);
@@ -39,6 +41,9 @@ export class ExchangeSource {
       this.isSearching = to >= 1;
       this.onChange();
     }
+    // What ended after the server had looked and before its answer came.
+    if (this.missed < Infinity) await this.addFitting(this.missed, last);
+    this.onChange();
   }
 
   matches(from, to) {
@@ -48,6 +53,7 @@ export class ExchangeSource {
   /** Takes in exchanges that have just ended; how many of them fit. */
   async add(ranges, lowest) {
     const before = this.count;
+    if (this.isSearching && ranges.length) this.missed = Math.min(this.missed, ranges[0][0]);
     if (this.filter && ranges.length) await this.addFitting(ranges[0][0], ranges.at(-1)[1]);
     else this.numbers.add(ranges);
     const added = this.count - before;
