@@ -1,6 +1,7 @@
 """What the program says when it starts, and why it cannot."""
 
 import contextlib
+import json
 import os
 import re
 import socket
@@ -56,6 +57,29 @@ class GreetingTest(StartCase):
         program = self.start("--host", "0.0.0.0")
         port = self.port_of(program)
         self.assertEqual(["Page", f"http://127.0.0.1:{port}/"], program.stdout.readline().split())
+
+
+class KeepTest(StartCase):
+    def ask(self, port: int, path: str, body: bytes | None = None) -> bytes:
+        request = urllib.request.Request(f"http://127.0.0.1:{port}{path}", body,
+                                         GOOD_HEADERS if body else {})
+        with urllib.request.urlopen(request, timeout=10) as answer:
+            return answer.read()
+
+    def test_the_latest_exchanges_are_kept_and_the_whole_index(self) -> None:
+        port = self.port_of(self.start("--keep", "2", "--data", str(self.folder / "data")))
+        for number in "abc":
+            self.ask(port, SUBMISSION_PATH, documents.submission(documents.card(number)))
+        exchanges = json.loads(self.ask(port, "/control/exchanges"))
+        self.assertEqual([2, 3], [entry["number"] for entry in exchanges])
+        index = json.loads(self.ask(port, "/control/index"))
+        self.assertEqual(["a", "b", "c"], [card["id"] for card in index])
+
+    def test_nothing_to_keep_is_no_number(self) -> None:
+        program = self.start("--keep", "0")
+        _, errors = program.communicate(timeout=20)
+        self.assertEqual(2, program.returncode)
+        self.assertIn("--keep", errors)
 
 
 class RefusalTest(StartCase):

@@ -9,7 +9,7 @@ import unittest
 from selenium.webdriver.common.action_chains import ActionChains
 from selenium.webdriver.common.keys import Keys
 
-from page_case import PageCase
+from page_case import NARROW, PageCase
 from lejis_case import PROJECT
 
 PROGRAM = PROJECT / "tools/simulator/lejis_simulator.py"
@@ -68,6 +68,23 @@ class FilterTest(PageCase):
         self.await_rows([4, 3, 2, 1])
         self.button("-outcome:accepted", ".more").click()
         self.await_rows([4])
+
+    def test_more_is_in_sight_beside_an_open_exchange_and_on_a_narrow_screen(self):
+        self.click("#exchange-list [data-key='1']")
+        self.await_text("#exchange-title", "2024-1")
+        self.click(".more summary")
+        self.check_in_sight(".more-content")
+        self.button("Close").click()
+        self.look(NARROW)
+        self.check_in_sight(".more-content")
+
+    def check_in_sight(self, selector):
+        self.assertTrue(self.find(selector).is_displayed())
+        left, right, width = self.browser.execute_script("""
+            const {left, right} = document.querySelector(arguments[0]).getBoundingClientRect();
+            return [left, right, innerWidth]""", selector)
+        self.assertGreaterEqual(left, 0)
+        self.assertLessEqual(right, width)
 
     def test_a_reload_a_link_and_back_lead_to_the_same(self):
         self.type("#exchange-filter", "kind:submission")
