@@ -9,7 +9,7 @@ import unittest
 from selenium.webdriver.common.action_chains import ActionChains
 from selenium.webdriver.common.keys import Keys
 
-from page_case import NARROW, PageCase
+from page_case import NARROW, SUBMISSION_HEADERS, SUBMISSION_PATH, PageCase, documents
 from lejis_case import PROJECT
 
 PROGRAM = PROJECT / "tools/simulator/lejis_simulator.py"
@@ -68,6 +68,30 @@ class FilterTest(PageCase):
         self.await_rows([4, 3, 2, 1])
         self.button("-outcome:accepted", ".more").click()
         self.await_rows([4])
+
+    def test_what_ends_between_a_look_and_its_answer_is_not_missed(self):
+        # The first answer was right when the server gave it, and comes after the news of another exchange.
+        found = self.browser.execute_async_script("""
+            const done = arguments[0];
+            const answers = ['{"ranges": [[1, 4]], "reached": 1}', '{"ranges": [[5, 5]], "reached": 5}'];
+            let release;
+            const held = new Promise((resolve) => { release = resolve; });
+            const real = window.fetch;
+            window.fetch = async () => {
+              const text = answers.shift();
+              if (answers.length) await held;
+              return new Response(text);
+            };
+            (async () => {
+              const {ExchangeSource} = await import("/page/exchange_source.js");
+              const source = new ExchangeSource(() => {});
+              const loading = source.load("");
+              await source.add([[5, 5]], 1);
+              release();
+              await loading;
+              return source.numbers.ranges;
+            })().then(done, (error) => done(String(error))).finally(() => { window.fetch = real; });""")
+        self.assertEqual(found, [[1, 5]])
 
     def test_more_is_in_sight_beside_an_open_exchange_and_on_a_narrow_screen(self):
         self.click("#exchange-list [data-key='1']")
@@ -132,6 +156,35 @@ class FilterTest(PageCase):
         self.press(Keys.ENTER)
         self.until(lambda: "time:" in self.find("#exchange-filter").get_attribute("value"), lambda: "a range")
         self.await_rows([5, 4, 3, 2, 1])
+
+
+class IndexTest(PageCase):
+    """More incidents than a page of them holds."""
+
+    def setUp(self):
+        super().setUp()
+        cards = [documents.card(f"2024-{number:03}", charge=f"Charge of {number:03}") for number in range(250)]
+        self.post(SUBMISSION_PATH, documents.submission(*cards), SUBMISSION_HEADERS)
+        self.click("#tab-index")
+        self.await_text("#card-list .entry", "2024-000")
+
+    def test_all_of_them_can_be_reached(self):
+        self.await_text("#index-count", "250")
+        self.browser.execute_script(
+            "const one = document.querySelector('#card-list').parentElement; one.scrollTop = one.scrollHeight")
+        self.await_text("#card-list .entry", "2024-249")
+        self.assertLess(len(self.all("#card-list .entry")), 100)
+        self.click("#card-list [data-key*='2024-249']")
+        self.await_text("#card-detail", "Charge of 249")
+
+    def test_they_are_filtered(self):
+        self.type("#card-filter", "2024-123 CHARGE")
+        self.await_text("#card-matches", "1 of 250")
+        self.await_count("#card-list .entry", 1)
+        self.assertIn("2024-123", self.texts("#card-list .entry")[0])
+        self.browser.refresh()
+        self.await_text("#card-matches", "1 of 250")
+        self.await_count("#card-list .entry", 1)
 
 
 class LongListTest(PageCase):
