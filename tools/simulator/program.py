@@ -143,4 +143,3 @@ def main(words: list[str] | None = None) -> int:
               file=sys.stderr)
         return 1
     return 0
-
