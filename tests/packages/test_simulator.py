@@ -85,13 +85,15 @@ class SimulatorPackageTest(unittest.TestCase):
         with zipfile.ZipFile(self.path) as archive:
             archive.extractall(folder)
         script, = folder.glob("*/simulator.cmd")
+        # What earlier tests installed or started may still be ending.
+        machine.stop()
         return subprocess.run([machine.RUNNER, "cmd", "/c", machine.windows_path(script), *arguments], text=True,
                               env={**os.environ, **environment}, stdin=subprocess.DEVNULL, capture_output=True,
                               timeout=machine.TIME_LIMIT, check=False)
 
     def test_its_script_says_what_to_install(self):
         run = self.run_script()
-        self.assertIn("needs Python 3.10 or later, and this machine has none", run.stdout)
+        self.assertIn("needs Python 3.10 or later, and this machine has none", run.stdout, run)
         self.assertEqual(run.returncode, 1)
 
     def test_its_script_starts_the_simulator_with_the_options_given(self):
