@@ -222,11 +222,11 @@ class RefusalTest(KitCase):
         self.keep(ARCHITECTURE)
         folder = {"x86": "syswow64", "x64": "system32"}[ARCHITECTURE]
         self.regsvr32 = rf"C:\windows\{folder}\regsvr32.exe"
-        self.library = machine.windows_path(self.kit / "bin" / ARCHITECTURE / "TVLejisCore.dll")
+        self.dll = machine.windows_path(self.kit / "bin" / ARCHITECTURE / "TVLejisCore.dll")
 
     def test_a_library_that_is_installed_is_left_alone(self):
-        self.addCleanup(machine.run, self.regsvr32, "/s", "/u", self.library)
-        self.expect(self.regsvr32, "/s", self.library)
+        self.addCleanup(machine.run, self.regsvr32, "/s", "/u", self.dll)
+        self.expect(self.regsvr32, "/s", self.dll)
         run = self.check()
         self.assertEqual(run.code, 2, run)
         self.assertFalse((self.kit / "report.json").exists())
