@@ -11,7 +11,7 @@ import zipfile
 from pathlib import Path
 
 import wine_machine as machine
-from package_case import PACKAGES, PROJECT
+from package_case import ARCHITECTURES, PACKAGES, PROJECT
 from test_content import content, project_version
 from test_pages import Page
 
@@ -79,34 +79,43 @@ class SimulatorPackageTest(unittest.TestCase):
         self.assertEqual([name for name in files if "__pycache__" in name], [])
 
     def run_script(self, *arguments, **environment):
-        """Under Wine's cmd, in a folder with a blank in its name; its output, and what Wine says of programs."""
+        """Under Wine's cmd, in a folder with a blank in its name."""
         folder = machine.DISK / "lejis simulator"
         self.addCleanup(shutil.rmtree, folder, ignore_errors=True)
         with zipfile.ZipFile(self.path) as archive:
             archive.extractall(folder)
         script, = folder.glob("*/simulator.cmd")
-        # What earlier tests installed or started may still be ending.
-        machine.stop()
+        machine.remove_separators_left()
         return subprocess.run([machine.RUNNER, "cmd", "/c", machine.windows_path(script), *arguments], text=True,
                               env={**os.environ, **environment}, stdin=subprocess.DEVNULL, capture_output=True,
                               timeout=machine.TIME_LIMIT, check=False)
 
-    def test_its_script_says_what_to_install(self):
+    def stand_in(self, name):
+        """A folder with what takes the place of Python, for WINEPATH."""
+        folder = machine.DISK / "stand-in"
+        folder.mkdir()
+        self.addCleanup(shutil.rmtree, folder)
+        shutil.copy(PROJECT / "build" / ARCHITECTURES[-1] / "tests" / "python_stand_in.exe", folder / name)
+        return machine.windows_path(folder)
+
+    def test_its_script_says_that_python_is_missing(self):
         run = self.run_script()
         self.assertIn("needs Python 3.10 or later, and this machine has none", run.stdout, run)
         self.assertEqual(run.returncode, 1)
 
+    def test_its_script_says_that_lxml_is_missing(self):
+        run = self.run_script(WINEPATH=self.stand_in("python.exe"), MISSING_MODULE="lxml")
+        self.assertIn("needs lxml, and this Python does not have it", run.stdout, run)
+        self.assertIn("    python -m pip install lxml\n", run.stdout)
+        self.assertEqual(run.returncode, 1)
+
     def test_its_script_starts_the_simulator_with_the_options_given(self):
-        """Wine's icacls takes the place of Python: it does nothing but say what it was started with."""
-        stand_in = machine.DISK / "stand-in"
-        stand_in.mkdir()
-        self.addCleanup(shutil.rmtree, stand_in)
-        shutil.copy(machine.DISK / "windows/system32/icacls.exe", stand_in / "py.exe")
-        run = self.run_script("--keep", "5", WINEPATH=machine.windows_path(stand_in), WINEDEBUG="fixme+icacls")
+        run = self.run_script("--keep", "5", WINEPATH=self.stand_in("py.exe"))
         self.assertEqual(run.returncode, 0, run)
-        started = re.findall(r'stub: "py" (.*)', run.stderr)
-        self.assertEqual(started[:2], ['"-3" "-c" "import sys"', '"-3" "-c" "import lxml.etree"'])
-        self.assertRegex(started[2], r'^"-3" "C:.*lejis_simulator\.py" "--port" "8080" "--stop-after" "86400" "--keep" "5"$')
+        version, program, *options = run.stdout.splitlines()
+        self.assertEqual(version, "-3")
+        self.assertRegex(program, r"^C:.*\\lejis_simulator\.py$")
+        self.assertEqual(options, ["--port", "8080", "--stop-after", "86400", "--keep", "5"])
 
     def test_no_link_of_its_page_leads_out_of_it(self):
         files = content(self.path)

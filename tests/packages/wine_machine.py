@@ -33,7 +33,8 @@ KEPT_BY_WINE = re.compile(
       | disk\ users/[^/]+/AppData/Local/Microsoft/Windows/INet(Cache|Cookies)/
       | user\.reg\ .*\\Internet\ Settings\]\ "ProxyEnable"=
       | disk\ windows/temp(/|$)""", re.VERBOSE)
-# It takes a folder out of the PATH, and leaves the separator.
+MACHINE_ENVIRONMENT = r"HKLM\System\CurrentControlSet\Control\Session Manager\Environment"
+# Wine's installer takes a folder out of the PATH, and leaves the separator.
 SEPARATORS_LEFT = re.compile(r'(Session Manager.*Environment\] "PATH"=.*?);+"$')
 
 
@@ -59,6 +60,12 @@ def stop():
     """Ends the prefix's programs, which writes its registry to the disk."""
     for option in ("--kill", "--wait"):
         subprocess.run(["wineserver", option], stdin=subprocess.DEVNULL, timeout=TIME_LIMIT, check=False)
+
+
+def remove_separators_left():
+    """From the machine's PATH. With two of them in a row Wine's cmd reports success for any program, and starts none."""
+    value = re.search(r"PATH +(REG\w+) +(.*)", run("reg", "query", MACHINE_ENVIRONMENT, "/v", "PATH").output)
+    run("reg", "add", MACHINE_ENVIRONMENT, "/v", "PATH", "/t", value[1], "/d", value[2].strip().rstrip(";"), "/f")
 
 
 def _registry(hive):
