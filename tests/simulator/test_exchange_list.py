@@ -13,7 +13,7 @@ import inquiries
 from search_case import SEARCH_HEADERS
 from simulator_case import SimulatorCase
 
-from endpoints import exchange_search
+from endpoints import exchange_calls, exchange_search
 from endpoints.exchange_filter import ExchangeFilter
 from endpoints.timeline import timeline
 from lejis.namespaces import SEARCH_PATH, SUBMISSION_PATH
@@ -163,6 +163,13 @@ class PagesTest(ListCase):
         self.assertEqual([1, 2, 5, 6, 7], [entry["number"] for entry in entries])
         for wrong in ("x", "1-", "1,,2", "1-2-3"):
             self.assertEqual(400, self.call("GET", f"/control/exchanges?numbers={wrong}")[0])
+
+    def test_a_page_has_a_limit(self) -> None:
+        for _ in range(3):
+            self.submit(documents.FULL)
+        with mock.patch.object(exchange_calls, "MOST_ENTRIES", 2):
+            entries = self.control("GET", "exchanges?numbers=1-1,2-3")
+        self.assertEqual([1, 2], [entry["number"] for entry in entries])
 
     def test_timeline(self) -> None:
         self.fill()

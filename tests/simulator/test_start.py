@@ -116,6 +116,15 @@ class RefusalTest(StartCase):
         self.assertIn(f"the index in '{index.parent}' cannot be read: ",
                       self.refusal("--data", str(index.parent)))
 
+    def test_a_record_with_a_line_that_describes_no_exchange(self) -> None:
+        lines = self.folder / "exchanges" / "exchanges.jsonl"
+        lines.parent.mkdir()
+        for line in ("no JSON", "[]", "7", "{}", '{"outcome": "accepted"}'):
+            with self.subTest(line=line):
+                lines.write_text(f"{line}\n", encoding="utf-8")
+                self.assertEqual(f"line 1 of '{lines}' does not describe an exchange.",
+                                 self.refusal("--data", str(self.folder)))
+
     def test_certificates_of_no_use(self) -> None:
         (self.folder / "x").write_text("x")
         self.assertIn("of no use", self.refusal("--tls", str(self.folder / "x"), str(self.folder / "x")))

@@ -45,15 +45,18 @@ class ExchangeLog:
             return
         count, is_current = 0, True
         with open(self._lines, "rb") as lines:
-            for line in lines:
+            for place, line in enumerate(lines, 1):
                 text = line.decode("utf-8", "replace").rstrip("\n")
                 # The last line may have been cut off by a full disk or a kill.
                 is_whole, has_all = line.endswith(b"\n"), '"outcome"' in text
                 is_current = is_current and is_whole and has_all
                 if is_whole:
                     count += 1
-                    entry = parsed(text)
-                    self.table.add([(entry, text if has_all else json.dumps(entry))])
+                    try:
+                        entry = parsed(text)
+                        self.table.add([(entry, text if has_all else json.dumps(entry))])
+                    except (KeyError, TypeError, ValueError) as error:
+                        raise ValueError(f"line {place} of '{self._lines}' does not describe an exchange.") from error
         rows = self.table.rows("SELECT number FROM exchange ORDER BY number")
         self._numbers.extend(number for (number,) in rows)
         self._stale_lines = count - len(self._numbers)

@@ -45,14 +45,14 @@ class ExchangeTable:
         self._database = sqlite3.connect(":memory:", check_same_thread=False, isolation_level=None)
         self._database.execute(_CREATION)
         self._database.execute(_LINES)
-        self._coming: list[tuple[dict[str, Any], str]] = []
+        self._coming: list[tuple[tuple, str]] = []
         self._going: list[tuple[int]] = []
 
     def add(self, entries: Iterable[tuple[dict[str, Any], str]]) -> None:
-        """Takes entries, each with the line that is its text in the record."""
+        """Takes entries, each with the line that is its text in the record. One that lacks a value raises an error."""
         with self._lock:
-            for pair in entries:
-                self._coming.append(pair)
+            for entry, line in entries:
+                self._coming.append((_row(entry), line))
                 if len(self._coming) > _MOST_WAITING:
                     self._settle()
 
@@ -78,9 +78,9 @@ class ExchangeTable:
         if not self._coming and not self._going:
             return
         self._database.execute("BEGIN")
-        self._database.executemany(_INSERTION, [_row(entry) for entry, _ in self._coming])
+        self._database.executemany(_INSERTION, [row for row, _ in self._coming])
         self._database.executemany("INSERT OR REPLACE INTO line VALUES (?, ?)",
-                                   [(entry["number"], line) for entry, line in self._coming])
+                                   [(row[0], line) for row, line in self._coming])
         for table in _TABLES:
             self._database.executemany(f"DELETE FROM {table} WHERE number = ?", self._going)
         self._database.execute("COMMIT")
