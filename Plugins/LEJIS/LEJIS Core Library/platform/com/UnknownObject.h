@@ -64,11 +64,11 @@ protected:
 
     // The object as this interface, without a new reference; null when it has none such.
     virtual void* Find(REFIID iid) {
-        void* found = nullptr;
-        ((iid == __uuidof(typename Implemented<Interfaces>::Interface) ? (found = static_cast<Interfaces*>(this), true)
-                                                                       : false) ||
-         ...);
-        if (!found && iid == __uuidof(IUnknown)) found = First();
+        void* found = iid == __uuidof(IUnknown) ? First() : nullptr;
+        const auto take = [&](REFIID own, void* base) {
+            if (!found && iid == own) found = base;
+        };
+        (take(__uuidof(typename Implemented<Interfaces>::Interface), static_cast<Interfaces*>(this)), ...);
         return found;
     }
 
