@@ -28,7 +28,7 @@ std::wstring Compact(const std::wstring& text) {
 
 std::wstring LargeAnswer(int incidents) {
     const msxml::Document document = msxml::CreateDocument();
-    const std::wstring card = Compact(msxml::Xml(TypicalIncident()->ToXmlElement(document)));
+    const std::wstring card = Compact(msxml::Xml(TypicalIncident()->Write(document)));
     std::wstring text = L"<soap:Envelope" + Declarations() + L"><soap:Body><lejis:LEJISIndexInquiryResponse>";
     for (int incident = 0; incident < incidents; ++incident) text += card;
     return text + L"<lejis:incidentcount>" + std::to_wstring(incidents) +

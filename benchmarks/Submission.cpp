@@ -20,15 +20,15 @@ using Incident = ComPtr<lejis::LejisIncidentIndexCard>;
 std::wstring RequestText(const Incident& incident) {
     const auto document = platform::Create<lejis::LejisSubmissionDocument>();
     document->Add(incident);
-    return msxml::Markup(lejis::WrapInEnvelope(msxml::Root(document->ToXmlDocument())));
+    return msxml::Markup(lejis::WrapInEnvelope(msxml::Root(document->ToDocument())));
 }
 
 Incident Formatted(const Incident& incident) {
-    return platform::Create<lejis::LejisIncidentFormatter>()->Format(*incident.Get());
+    return platform::Create<lejis::LejisIncidentFormatter>()->Shape(*incident.Get());
 }
 
 void Validate(const Incident& incident) {
-    platform::Create<lejis::LejisIncidentValidator>()->Validate(*incident.Get());
+    platform::Create<lejis::LejisIncidentValidator>()->FindErrors(*incident.Get());
 }
 
 // The calls of MSXML that make the request of the incident anew, and nothing else.

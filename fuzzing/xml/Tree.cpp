@@ -23,7 +23,7 @@ void ReadAttributes(const msxml::Node& node, Tree& tree) {
     ComPtr<IXMLDOMNamedNodeMap> attributes;
     if (node->get_attributes(attributes.GetAddressOf()) != S_OK) return;
     for (msxml::Node one; attributes->nextNode(one.ReleaseAndGetAddressOf()) == S_OK && one;) {
-        tree.attributes.emplace_back(NodeName(one), msxml::Text(one));
+        tree.attributes.emplace_back(NodeName(one), std::wstring(msxml::Text(one)));
     }
 }
 
@@ -32,7 +32,7 @@ Tree ReadNode(const msxml::Node& node) {
     DOMNodeType type = NODE_INVALID;
     Check(node->get_nodeType(&type));
     if (type != NODE_ELEMENT) {
-        tree.text = Escaped(msxml::Text(node));
+        tree.text = Escaped(std::wstring(msxml::Text(node)));
         return tree;
     }
     tree.name = NodeName(node);

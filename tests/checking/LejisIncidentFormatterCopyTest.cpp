@@ -44,17 +44,17 @@ Incident Clean() {
 
 std::wstring XmlOf(const Incident& incident) {
     BSTR text = nullptr;
-    EXPECT_OK(incident->ToXmlElement(support::NewDocument())->get_xml(&text));
+    EXPECT_OK(incident->Write(support::NewDocument())->get_xml(&text));
     return support::Take(text);
 }
 
 TEST(LejisIncidentFormatterCopy, CopiesACleanIncidentWithoutWarnings) {
     const Incident incident = Clean();
     const auto formatter = platform::Create<LejisIncidentFormatter>();
-    const Incident copy = formatter->Format(*incident.Get());
+    const Incident copy = formatter->Shape(*incident.Get());
     EXPECT_EQ(Warnings{}, Texts(*formatter->Warnings.Get()));
     EXPECT_NE(incident.Get(), copy.Get());
-    EXPECT_TRUE(support::SameXml(Reparsed(copy->ToXmlElement(support::NewDocument()).Get()).Get(), XmlOf(incident)));
+    EXPECT_TRUE(support::SameXml(Reparsed(copy->Write(support::NewDocument()).Get()).Get(), XmlOf(incident)));
 }
 
 TEST(LejisIncidentFormatterCopy, CopiesAsFarAsTheXmlFormCarries) {
@@ -63,7 +63,7 @@ TEST(LejisIncidentFormatterCopy, CopiesAsFarAsTheXmlFormCarries) {
     incident->PersonIndexCards->ItemsAs<LejisPersonIndexCard>()[0]->SetCaveatText(std::wstring(201, L'x'));
     incident->PersonIndexCards->ItemsAs<LejisPersonIndexCard>()[0]->CautionIndicator = true;
     const auto formatter = platform::Create<LejisIncidentFormatter>();
-    const Incident copy = formatter->Format(*incident.Get());
+    const Incident copy = formatter->Shape(*incident.Get());
     EXPECT_EQ(Warnings{}, Texts(*formatter->Warnings.Get()));
     EXPECT_EQ(L"", copy->PersonIndexCards->ItemsAs<LejisPersonIndexCard>()[0]->CaveatText());
     EXPECT_EQ(39151.0, copy->SubmittedDate->Date());
@@ -75,7 +75,7 @@ TEST(LejisIncidentFormatterCopy, KeepsBlanksInTheCopy) {
     incident->SetActivityID(L" 07-1234  ");
     incident->SetOrganizationName(L"   ");
     incident->PersonIndexCards->ItemsAs<LejisPersonIndexCard>()[0]->SetSurName(L" LEE ");
-    const Incident copy = platform::Create<LejisIncidentFormatter>()->Format(*incident.Get());
+    const Incident copy = platform::Create<LejisIncidentFormatter>()->Shape(*incident.Get());
     EXPECT_EQ(L" 07-1234  ", copy->ActivityID());
     EXPECT_EQ(L"   ", copy->OrganizationName());
     EXPECT_EQ(L" LEE ", copy->PersonIndexCards->ItemsAs<LejisPersonIndexCard>()[0]->SurName());
@@ -85,7 +85,7 @@ TEST(LejisIncidentFormatterCopy, CountsBlanksInTexts) {
     const Incident incident = Clean();
     incident->SetOrganizationName(std::wstring(76, L' '));
     const auto formatter = platform::Create<LejisIncidentFormatter>();
-    const Incident copy = formatter->Format(*incident.Get());
+    const Incident copy = formatter->Shape(*incident.Get());
     EXPECT_EQ(Warnings{L"Main record: Agency name '" + std::wstring(76, L' ') +
                        L"' was too long (76 characters) and was truncated to 75 characters."},
               Texts(*formatter->Warnings.Get()));
@@ -96,7 +96,7 @@ TEST(LejisIncidentFormatterCopy, WarnsOfAnOffenseCodeOfBlanks) {
     const Incident incident = Clean();
     incident->SetChargeNCICCode(L"    ");
     const auto formatter = platform::Create<LejisIncidentFormatter>();
-    EXPECT_EQ(L"", formatter->Format(*incident.Get())->ChargeNCICCode());
+    EXPECT_EQ(L"", formatter->Shape(*incident.Get())->ChargeNCICCode());
     EXPECT_EQ(Warnings{L"Main record: Charge NCIC code '    ' is not a valid NCIC offense code. Will submit a blank "
                        L"code instead."},
               Texts(*formatter->Warnings.Get()));

@@ -63,7 +63,7 @@ Incident AllWrong() {
 
 std::wstring XmlOf(const Incident& incident) {
     BSTR text = nullptr;
-    EXPECT_OK(incident->ToXmlElement(support::NewDocument())->get_xml(&text));
+    EXPECT_OK(incident->Write(support::NewDocument())->get_xml(&text));
     return support::Take(text);
 }
 
@@ -91,7 +91,7 @@ TEST(LejisIncidentFormatter, HasNoWarningsWhenNew) {
 
 TEST(LejisIncidentFormatter, AppliesItsRulesInTheirOrder) {
     const auto formatter = platform::Create<LejisIncidentFormatter>();
-    formatter->Format(*AllWrong().Get());
+    formatter->Shape(*AllWrong().Get());
     Warnings subjects = Texts(*formatter->Warnings.Get());
     std::transform(subjects.begin(), subjects.end(), subjects.begin(), Subject);
     const Warnings address = {L"Full street address '' was too long (300 ",
@@ -144,7 +144,7 @@ TEST(LejisIncidentFormatter, ShapesRecordsInTheOrderOfTheirCollections) {
         person->SetSexNCIC(L"m");
     }
     const auto formatter = platform::Create<LejisIncidentFormatter>();
-    formatter->Format(*incident.Get());
+    formatter->Shape(*incident.Get());
     Warnings labels;
     for (const std::wstring& warning : Texts(*formatter->Warnings.Get())) {
         labels.push_back(warning.substr(0, warning.find(L':')));
@@ -157,7 +157,7 @@ TEST(LejisIncidentFormatter, LeavesTheCallersIncidentAsItIs) {
     const Incident incident = AllWrong();
     const std::wstring before = XmlOf(incident);
     const auto person = incident->PersonIndexCards->ItemsAs<LejisPersonIndexCard>()[0];
-    platform::Create<LejisIncidentFormatter>()->Format(*incident.Get());
+    platform::Create<LejisIncidentFormatter>()->Shape(*incident.Get());
     EXPECT_EQ(before, XmlOf(incident));
     EXPECT_EQ(300u, incident->OrganizationName().size());
     EXPECT_EQ(300u, person->CaveatText().size());
@@ -195,7 +195,7 @@ TEST(LejisIncidentFormatter, RefusesForeignObjectsAmongTheCards) {
 
 TEST(LejisIncidentFormatter, EmptiesItsListForAnArgumentThatItRefuses) {
     const auto formatter = platform::Create<LejisIncidentFormatter>();
-    formatter->Format(*AllWrong().Get());
+    formatter->Shape(*AllWrong().Get());
     const auto before = formatter->Warnings;
     const size_t count = before->Count();
     ASSERT_NE(0u, count);

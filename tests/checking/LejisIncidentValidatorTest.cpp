@@ -104,10 +104,10 @@ TEST(LejisIncidentValidator, AcceptsAnyVehicleAnyPropertyAndAnyTextOfTheRest) {
 
 TEST(LejisIncidentValidator, BeginsANewListEachTime) {
     const auto validator = platform::Create<LejisIncidentValidator>();
-    validator->Validate(*platform::Create<LejisIncidentIndexCard>().Get());
+    validator->FindErrors(*platform::Create<LejisIncidentIndexCard>().Get());
     const auto before = validator->Errors;
     EXPECT_EQ(4u, before->Count());
-    EXPECT_FALSE(validator->Validate(*Clean().Get()));
+    EXPECT_FALSE(validator->FindErrors(*Clean().Get()));
     EXPECT_NE(before.Get(), validator->Errors.Get());
     EXPECT_EQ(0u, validator->Errors->Count());
     EXPECT_EQ(4u, before->Count());
@@ -138,7 +138,7 @@ TEST(LejisIncidentValidator, ChecksThePersonsBeforeAForeignObject) {
 
 TEST(LejisIncidentValidator, EmptiesItsListForAnArgumentThatItRefuses) {
     const auto validator = platform::Create<LejisIncidentValidator>();
-    validator->Validate(*platform::Create<LejisIncidentIndexCard>().Get());
+    validator->FindErrors(*platform::Create<LejisIncidentIndexCard>().Get());
     const auto before = validator->Errors;
     VARIANT_BOOL found = VARIANT_FALSE;
     EXPECT_TRUE(FailedWith(validator->Validate(nullptr, &found), support::kObjectRequired, L"Object required"));

@@ -51,7 +51,7 @@ inline Person AddPerson(const Incident& incident, const wchar_t* givenName = L"A
 
 inline Errors ErrorsOf(const Incident& incident) {
     const auto validator = platform::Create<LejisIncidentValidator>();
-    const bool found = validator->Validate(*incident.Get());
+    const bool found = validator->FindErrors(*incident.Get());
     EXPECT_EQ(found, validator->HasErrors());
     EXPECT_EQ(found, validator->Errors->Count() > 0);
     return support::Texts(*validator->Errors.Get());

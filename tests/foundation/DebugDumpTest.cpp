@@ -131,7 +131,7 @@ TEST_F(DebugDump, OfASubmissionHoldsRequestAndResponse) {
     const DebugFlag flag(L"Y");
     const support::ScriptedHttp http({.responseText = support::SubmissionResponse(L"0")});
     submission->URL = L"http://lejis-interface/submission";
-    submission->SubmitIncident(*support::CleanIncident().Get());
+    submission->Submit(*support::CleanIncident().Get());
     EXPECT_TRUE(folder.Holds(L"LejisSubmitRequest.xml"));
     EXPECT_TRUE(folder.Holds(L"LejisSubmitResponse.xml"));
 }
@@ -169,7 +169,7 @@ TEST_F(DebugDump, OfARequestIsMadeBeforeTheRequestIsCheckedAgainstTheSchemas) {
     EXPECT_TRUE(folder.Holds(L"LejisSearchRequest.xml"));
     submission->ValidateSchema = true;
     submission->URL = L"http://lejis-interface/submission";
-    EXPECT_THROW(submission->SubmitIncident(*support::CleanIncident().Get()), platform::ComError);
+    EXPECT_THROW(submission->Submit(*support::CleanIncident().Get()), platform::ComError);
     EXPECT_TRUE(folder.Holds(L"LejisSubmitRequest.xml"));
     for (const auto& request : http.requests) EXPECT_EQ(L"GET", request->Seen().method);
 }
@@ -177,7 +177,7 @@ TEST_F(DebugDump, OfARequestIsMadeBeforeTheRequestIsCheckedAgainstTheSchemas) {
 TEST_F(DebugDump, OfAnIncidentThatFailsValidationIsNotMade) {
     const DebugFlag flag(L"Y");
     const support::ScriptedHttp http;
-    EXPECT_THROW(submission->SubmitIncident(*platform::Create<LejisIncidentIndexCard>().Get()), platform::ComError);
+    EXPECT_THROW(submission->Submit(*platform::Create<LejisIncidentIndexCard>().Get()), platform::ComError);
     EXPECT_FALSE(folder.Holds(L"LejisSubmitRequest.xml"));
 }
 
@@ -186,7 +186,7 @@ TEST_F(DebugDump, ThatCannotBeWrittenEndsTheSubmissionBeforeItIsSent) {
     host.diagnosticsFolder = folder.Path() + L"\\missing";
     const support::ScriptedHttp http({.responseText = support::SubmissionResponse(L"0")});
     try {
-        submission->SubmitIncident(*support::CleanIncident().Get());
+        submission->Submit(*support::CleanIncident().Get());
         ADD_FAILURE() << "sent";
     } catch (const platform::ComError& error) {
         EXPECT_EQ(tvFatalError, error.Number());
@@ -203,7 +203,7 @@ TEST_F(DebugDump, OfAnAnswerThatCannotBeWrittenIsAnInternalErrorWithItsPath) {
     http.script.onSend = [&] { host.diagnosticsFolder = missing; };
     submission->URL = L"http://lejis-interface/submission";
     try {
-        submission->SubmitIncident(*support::CleanIncident().Get());
+        submission->Submit(*support::CleanIncident().Get());
         ADD_FAILURE() << "not noticed";
     } catch (const platform::ComError& error) {
         EXPECT_EQ(tvFatalError, error.Number());

@@ -30,8 +30,10 @@ msxml::Node OnlyAttribute(const msxml::Element& element) {
 
 TEST(OutputDocument, IsTheClientsOrEmpty) {
     const msxml::Document clients = support::NewDocument();
-    EXPECT_EQ(clients.Get(), OutputDocument(clients).Get().Get());
-    EXPECT_EQ(nullptr, msxml::Root(OutputDocument::Create()).Get());
+    const OutputDocument given(clients);
+    const OutputDocument own = OutputDocument::Create();
+    EXPECT_EQ(clients.Get(), given.Get().Get());
+    EXPECT_EQ(nullptr, msxml::Root(own).Get());
 }
 
 TEST(OutputDocument, MakesMeasuresOfBothKindsAgainAndAgain) {
@@ -55,20 +57,28 @@ TEST(OutputDocument, MakesMeasuresThatHaveNothingInCommon) {
     }
 }
 
+TEST(OutputDocument, KeepsNoViewOfAName) {
+    const OutputDocument document = OutputDocument::Create();
+    std::wstring name = L"j:PersonHeightMeasure";
+    document.CreateMeasure(name, L"j:personHeightUnitCode");
+    name = L"j:PersonWeightMeasure";
+    EXPECT_TRUE(SameXml(Reparsed(document.CreateMeasure(name, L"j:personWeightUnitCode").Get()).Get(), kWeight));
+}
+
 TEST(OutputDocument, TakesItsMeasuresIn) {
     const OutputDocument document = OutputDocument::Create();
     msxml::AppendRoot(document, Height(document));
     EXPECT_TRUE(SameXml(document.Get().Get(), kHeight));
     const msxml::Node attribute = OnlyAttribute(msxml::Root(document));
     ASSERT_NE(nullptr, attribute.Get());
-    EXPECT_EQ(Constants::kJxdmNamespace, msxml::NamespaceUri(attribute).View());
+    EXPECT_EQ(Constants::kJxdmNamespace, msxml::NamespaceUri(attribute));
 }
 
 TEST(OutputDocument, KeepsNoMeasureThatWasWritten) {
     const OutputDocument document = OutputDocument::Create();
     const msxml::Element height = Height(document);
     msxml::SetText(height, L"510");
-    EXPECT_EQ(L"", msxml::Text(Height(document)).View());
+    EXPECT_EQ(L"", msxml::Text(Height(document)));
 }
 
 }  // namespace

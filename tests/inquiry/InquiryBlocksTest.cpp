@@ -18,13 +18,13 @@ template <typename Block>
 bool IsNotEmptyWith(std::wstring Block::*field, const wchar_t* text) {
     const auto block = platform::Create<Block>();
     (*block.Get()).*field = text;
-    return block->NotEmpty();
+    return block->HasContent();
 }
 
 // Each text alone makes a block worth sending, blanks alone do not.
 template <typename Block>
 void ExpectEachTextCounts(std::initializer_list<std::wstring Block::*> fields) {
-    EXPECT_FALSE(platform::Create<Block>()->NotEmpty());
+    EXPECT_FALSE(platform::Create<Block>()->HasContent());
     for (std::wstring Block::*field : fields) {
         EXPECT_TRUE(IsNotEmptyWith(field, L" x"));
         EXPECT_FALSE(IsNotEmptyWith(field, L"  "));
@@ -37,13 +37,13 @@ TEST(VehicleInquiryArguments, IsEmptyUnlessATextOrItsYearIsThere) {
                                  &Block::LicensePlateState, &Block::VIN});
     const auto vehicle = platform::Create<Block>();
     vehicle->Year->Set(short{2004});
-    EXPECT_TRUE(vehicle->NotEmpty());
+    EXPECT_TRUE(vehicle->HasContent());
 }
 
 TEST(VehicleInquiryArguments, WritesItsFourTextsEvenWhenEmpty) {
     const auto vehicle = platform::Create<VehicleInquiryArguments>();
     vehicle->VIN = L"V";
-    EXPECT_TRUE(SameXml(vehicle->ToXmlElement(NewDocument()).Get(),
+    EXPECT_TRUE(SameXml(vehicle->Write(NewDocument()).Get(),
                         L"<inq:VehicleInquiryArguments><j:VehicleID><j:ID>V</j:ID></j:VehicleID><ext:VehicleMakeText/>"
                         L"<j:VehicleModelCodeText/><ext:VehicleStyleText/><j:VehicleColorPrimaryText/>"
                         L"</inq:VehicleInquiryArguments>"));
@@ -59,7 +59,7 @@ constexpr wchar_t kFullVehicle[] =
 
 TEST(VehicleInquiryArguments, ReadsAndWritesAllFieldsInTheirOrder) {
     const auto vehicle = platform::Create<VehicleInquiryArguments>();
-    vehicle->FromXmlElement(ParseElement(kFullVehicle));
+    vehicle->Read(ElementReader(ParseElement(kFullVehicle)));
     EXPECT_EQ(L"V", vehicle->VIN);
     EXPECT_EQ(L"ABC", vehicle->LicensePlate);
     EXPECT_EQ(L"PA", vehicle->LicensePlateState);
@@ -68,13 +68,13 @@ TEST(VehicleInquiryArguments, ReadsAndWritesAllFieldsInTheirOrder) {
     EXPECT_EQ(short{2004}, vehicle->Year->Number());
     EXPECT_EQ(L"PK", vehicle->Style);
     EXPECT_EQ(L"RED", vehicle->Color);
-    EXPECT_TRUE(SameXml(vehicle->ToXmlElement(NewDocument()).Get(), kFullVehicle));
+    EXPECT_TRUE(SameXml(vehicle->Write(NewDocument()).Get(), kFullVehicle));
 }
 
 TEST(VehicleInquiryArguments, WritesBothHalvesOfThePlateForEither) {
     const auto vehicle = platform::Create<VehicleInquiryArguments>();
     vehicle->LicensePlateState = L"PA";
-    EXPECT_TRUE(SameXml(vehicle->ToXmlElement(NewDocument()).Get(),
+    EXPECT_TRUE(SameXml(vehicle->Write(NewDocument()).Get(),
                         L"<inq:VehicleInquiryArguments><j:VehicleLicensePlateID><j:ID/>"
                         L"<j:IDJurisdictionCode.ncicLSTA>PA</j:IDJurisdictionCode.ncicLSTA></j:VehicleLicensePlateID>"
                         L"<ext:VehicleMakeText/><j:VehicleModelCodeText/><ext:VehicleStyleText/>"
@@ -84,9 +84,9 @@ TEST(VehicleInquiryArguments, WritesBothHalvesOfThePlateForEither) {
 TEST(VehicleInquiryArguments, ReadsAYearThatIsNoneAsNothing) {
     const auto vehicle = platform::Create<VehicleInquiryArguments>();
     vehicle->Year->Set(short{2004});
-    vehicle->FromXmlElement(
+    vehicle->Read(ElementReader(
         ParseElement(L"<inq:VehicleInquiryArguments><j:VehicleModelYearDate>new</j:VehicleModelYearDate></"
-                     L"inq:VehicleInquiryArguments>"));
+                     L"inq:VehicleInquiryArguments>")));
     EXPECT_EQ(std::nullopt, vehicle->Year->Number());
 }
 
@@ -98,7 +98,7 @@ TEST(PropertyInquiryArguments, IsEmptyUnlessATextIsThere) {
 TEST(PropertyInquiryArguments, WritesAllItHasOnceItIsWritten) {
     const auto property = platform::Create<PropertyInquiryArguments>();
     property->SerialNumber = L"S";
-    EXPECT_TRUE(SameXml(property->ToXmlElement(NewDocument()).Get(),
+    EXPECT_TRUE(SameXml(property->Write(NewDocument()).Get(),
                         L"<inq:PropertyInquiryArguments><j:PropertyCategoryText/><j:PropertyMakeName/>"
                         L"<j:PropertyModelName/><j:PropertySerialID><j:ID>S</j:ID></j:PropertySerialID>"
                         L"</inq:PropertyInquiryArguments>"));
@@ -111,12 +111,12 @@ constexpr wchar_t kFullProperty[] =
 
 TEST(PropertyInquiryArguments, ReadsAndWritesAllFieldsInTheirOrder) {
     const auto property = platform::Create<PropertyInquiryArguments>();
-    property->FromXmlElement(ParseElement(kFullProperty));
+    property->Read(ElementReader(ParseElement(kFullProperty)));
     EXPECT_EQ(L"TV", property->Category);
     EXPECT_EQ(L"SONY", property->Make);
     EXPECT_EQ(L"BRAVIA", property->Model);
     EXPECT_EQ(L"S", property->SerialNumber);
-    EXPECT_TRUE(SameXml(property->ToXmlElement(NewDocument()).Get(), kFullProperty));
+    EXPECT_TRUE(SameXml(property->Write(NewDocument()).Get(), kFullProperty));
 }
 
 TEST(LocationInquiryArguments, IsEmptyUnlessATextIsThere) {
@@ -126,10 +126,10 @@ TEST(LocationInquiryArguments, IsEmptyUnlessATextIsThere) {
 
 TEST(LocationInquiryArguments, WritesOnlyWhatIsThereBlanksIncluded) {
     const auto location = platform::Create<LocationInquiryArguments>();
-    EXPECT_TRUE(SameXml(location->ToXmlElement(NewDocument()).Get(), L"<inq:LocationInquiryArguments/>"));
+    EXPECT_TRUE(SameXml(location->Write(NewDocument()).Get(), L"<inq:LocationInquiryArguments/>"));
     location->City = L" ";
     location->ZIP = L"16501";
-    EXPECT_TRUE(SameXml(location->ToXmlElement(NewDocument()).Get(),
+    EXPECT_TRUE(SameXml(location->Write(NewDocument()).Get(),
                         L"<inq:LocationInquiryArguments><j:LocationCityName> </j:LocationCityName>"
                         L"<j:LocationPostalCodeID><j:ID>16501</j:ID></j:LocationPostalCodeID>"
                         L"</inq:LocationInquiryArguments>"));
@@ -143,28 +143,29 @@ constexpr wchar_t kFullLocation[] =
 
 TEST(LocationInquiryArguments, ReadsAndWritesAllFieldsInTheirOrder) {
     const auto location = platform::Create<LocationInquiryArguments>();
-    location->FromXmlElement(ParseElement(kFullLocation));
+    location->Read(ElementReader(ParseElement(kFullLocation)));
     EXPECT_EQ(L"1410 PEACH", location->StreetFullText);
     EXPECT_EQ(L"PEACH", location->StreetName);
     EXPECT_EQ(L"ERIE", location->City);
     EXPECT_EQ(L"PA", location->State);
     EXPECT_EQ(L"16501", location->ZIP);
-    EXPECT_TRUE(SameXml(location->ToXmlElement(NewDocument()).Get(), kFullLocation));
+    EXPECT_TRUE(SameXml(location->Write(NewDocument()).Get(), kFullLocation));
 }
 
 TEST(LejisAdHocInquiryArguments, CountsBlanks) {
     const auto words = platform::Create<LejisAdHocInquiryArguments>();
-    EXPECT_FALSE(words->NotEmpty());
+    EXPECT_FALSE(words->HasContent());
     words->QueryString = L" ";
-    EXPECT_TRUE(words->NotEmpty());
+    EXPECT_TRUE(words->HasContent());
 }
 
 TEST(LejisAdHocInquiryArguments, ReadsItsTextOrNothing) {
     const auto words = platform::Create<LejisAdHocInquiryArguments>();
-    words->FromXmlElement(ParseElement(
-        L"<lejis:AdHocInquiryArguments><lejis:queryString>blue car</lejis:queryString></lejis:AdHocInquiryArguments>"));
+    words->Read(
+        ElementReader(ParseElement(L"<lejis:AdHocInquiryArguments><lejis:queryString>blue "
+                                   L"car</lejis:queryString></lejis:AdHocInquiryArguments>")));
     EXPECT_EQ(L"blue car", words->QueryString);
-    words->FromXmlElement(ParseElement(L"<lejis:AdHocInquiryArguments/>"));
+    words->Read(ElementReader(ParseElement(L"<lejis:AdHocInquiryArguments/>")));
     EXPECT_EQ(L"", words->QueryString);
 }
 

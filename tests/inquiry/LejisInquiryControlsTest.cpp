@@ -20,24 +20,23 @@ std::wstring Block(const std::wstring& content) {
     return L"<lejis:InquiryControls>" + content + L"</lejis:InquiryControls>";
 }
 
-TEST(LejisInquiryControls, AreNeverEmpty) { EXPECT_TRUE(platform::Create<LejisInquiryControls>()->NotEmpty()); }
+TEST(LejisInquiryControls, AreNeverEmpty) { EXPECT_TRUE(platform::Create<LejisInquiryControls>()->HasContent()); }
 
 TEST(LejisInquiryControls, WriteTheirFlagAlways) {
     const auto controls = platform::Create<LejisInquiryControls>();
-    EXPECT_TRUE(SameXml(controls->ToXmlElement(NewDocument()).Get(), Block(L"<lejis:irrinfo>false</lejis:irrinfo>")));
+    EXPECT_TRUE(SameXml(controls->Write(NewDocument()).Get(), Block(L"<lejis:irrinfo>false</lejis:irrinfo>")));
     controls->IrrInfo = true;
-    EXPECT_TRUE(SameXml(controls->ToXmlElement(NewDocument()).Get(), Block(L"<lejis:irrinfo>true</lejis:irrinfo>")));
+    EXPECT_TRUE(SameXml(controls->Write(NewDocument()).Get(), Block(L"<lejis:irrinfo>true</lejis:irrinfo>")));
 }
 
 TEST(LejisInquiryControls, WriteALimitAboveZeroOnly) {
     const auto controls = platform::Create<LejisInquiryControls>();
     for (const long none : {0L, -5L}) {
         controls->MaxIncidents = none;
-        EXPECT_TRUE(
-            SameXml(controls->ToXmlElement(NewDocument()).Get(), Block(L"<lejis:irrinfo>false</lejis:irrinfo>")));
+        EXPECT_TRUE(SameXml(controls->Write(NewDocument()).Get(), Block(L"<lejis:irrinfo>false</lejis:irrinfo>")));
     }
     controls->MaxIncidents = 25;
-    EXPECT_TRUE(SameXml(controls->ToXmlElement(NewDocument()).Get(),
+    EXPECT_TRUE(SameXml(controls->Write(NewDocument()).Get(),
                         Block(L"<lejis:irrinfo>false</lejis:irrinfo><lejis:maxincidents>25</lejis:maxincidents>")));
 }
 
@@ -47,7 +46,7 @@ TEST(LejisInquiryControls, WriteEachExcludedAgencyAsItStands) {
     controls->ExcludedORIIDs->AddText(L"A");
     controls->ExcludedORIIDs->AddText(L"");
     EXPECT_OK(controls->ExcludedORIIDs->Add(_variant_t(12L)));
-    EXPECT_TRUE(SameXml(controls->ToXmlElement(NewDocument()).Get(),
+    EXPECT_TRUE(SameXml(controls->Write(NewDocument()).Get(),
                         Block(L"<lejis:irrinfo>false</lejis:irrinfo><lejis:excludedOriid>A</lejis:excludedOriid>"
                               L"<lejis:excludedOriid>A</lejis:excludedOriid><lejis:excludedOriid/>"
                               L"<lejis:excludedOriid>12</lejis:excludedOriid>")));
@@ -58,13 +57,13 @@ TEST(LejisInquiryControls, ReadEverythingButExactlyFalseAsTrue) {
     const std::wstring limit = L"<lejis:maxincidents>10</lejis:maxincidents>";
     for (const wchar_t* text : {L"FALSE", L"0", L"", L"true", L"no"}) {
         controls->IrrInfo = false;
-        controls->FromXmlElement(
-            ParseElement(Block(L"<lejis:irrinfo>" + std::wstring(text) + L"</lejis:irrinfo>" + limit)));
+        controls->Read(
+            ElementReader(ParseElement(Block(L"<lejis:irrinfo>" + std::wstring(text) + L"</lejis:irrinfo>" + limit))));
         EXPECT_TRUE(controls->IrrInfo) << support::Utf8(text);
     }
     for (const wchar_t* flag : {L"<lejis:irrinfo>false</lejis:irrinfo>", L""}) {
         controls->IrrInfo = true;
-        controls->FromXmlElement(ParseElement(Block(flag + limit)));
+        controls->Read(ElementReader(ParseElement(Block(flag + limit))));
         EXPECT_FALSE(controls->IrrInfo);
         EXPECT_EQ(10, controls->MaxIncidents);
     }
@@ -74,9 +73,9 @@ TEST(LejisInquiryControls, ReadReplacesTheAgencies) {
     const auto controls = platform::Create<LejisInquiryControls>();
     controls->ExcludedORIIDs->AddText(L"OLD");
     const ComPtr<Collection> before = controls->ExcludedORIIDs;
-    controls->FromXmlElement(
+    controls->Read(ElementReader(
         ParseElement(Block(L"<lejis:maxincidents>1</lejis:maxincidents><lejis:excludedOriid>B</lejis:excludedOriid>"
-                           L"<lejis:excludedOriid>A</lejis:excludedOriid>")));
+                           L"<lejis:excludedOriid>A</lejis:excludedOriid>"))));
     ASSERT_EQ(2u, controls->ExcludedORIIDs->Count());
     EXPECT_EQ(L"B", platform::ToText(controls->ExcludedORIIDs->Item(1)));
     EXPECT_EQ(L"A", platform::ToText(controls->ExcludedORIIDs->Item(2)));
@@ -89,7 +88,8 @@ TEST(LejisInquiryControls, ReadRaisesForALimitThatIsNoneAfterTheFlagIsSet) {
         controls->MaxIncidents = 7;
         controls->ExcludedORIIDs->AddText(L"KEPT");
         EXPECT_TRUE(support::Raises(DISP_E_TYPEMISMATCH, L"Type mismatch", [&] {
-            controls->FromXmlElement(ParseElement(Block(L"<lejis:irrinfo>true</lejis:irrinfo>" + std::wstring(limit))));
+            controls->Read(
+                ElementReader(ParseElement(Block(L"<lejis:irrinfo>true</lejis:irrinfo>" + std::wstring(limit)))));
         }));
         EXPECT_TRUE(controls->IrrInfo);
         EXPECT_EQ(7, controls->MaxIncidents);

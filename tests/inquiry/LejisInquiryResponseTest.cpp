@@ -30,7 +30,7 @@ std::wstring Counted(const std::wstring& count) { return L"<lejis:incidentcount>
 
 ComPtr<LejisInquiryResponse> Read(const std::wstring& content) {
     auto response = platform::Create<LejisInquiryResponse>();
-    response->FromXmlElement(ParseElement(Answer(content)));
+    response->Read(ParseElement(Answer(content)));
     return response;
 }
 
@@ -73,7 +73,7 @@ TEST(LejisInquiryResponse, RaisesForACountOutOfRange) {
 TEST(LejisInquiryResponse, ReplacesTheCardsOfAnEarlierRead) {
     const auto response = Read(AnsweredCard(L"1") + AnsweredCard(L"2"));
     const ComPtr<Collection> before = response->IncidentIndexCards;
-    response->FromXmlElement(ParseElement(Answer(AnsweredCard(L"3"))));
+    response->Read(ParseElement(Answer(AnsweredCard(L"3"))));
     EXPECT_EQ(1u, response->IncidentIndexCards->Count());
     EXPECT_EQ(2u, before->Count());
 }
@@ -85,8 +85,7 @@ TEST(LejisInquiryResponse, PassesOverCardsThatStandDeeper) {
 TEST(LejisInquiryResponse, KeepsTheCardsBeforeOneThatCannotBeRead) {
     const auto response = Read(Counted(L"7"));
     EXPECT_TRUE(support::Raises(support::kInvalidArgument, L"elem cannot be Nothing", [&] {
-        response->FromXmlElement(
-            ParseElement(Answer(AnsweredCard(L"1") + L"<lejis:RMSIncidentIndexCard/>" + Counted(L"2"))));
+        response->Read(ParseElement(Answer(AnsweredCard(L"1") + L"<lejis:RMSIncidentIndexCard/>" + Counted(L"2"))));
     }));
     EXPECT_EQ(1u, response->IncidentIndexCards->Count());
     EXPECT_EQ(7, response->IncidentCount);
@@ -101,10 +100,10 @@ TEST(LejisInquiryResponse, FindsTheAnswerAtAnyDepth) {
 
 TEST(LejisInquiryResponse, TakesTheFirstAnswerInDocumentOrder) {
     const auto response = platform::Create<LejisInquiryResponse>();
-    response->FromXmlBelow(
+    response->ReadBelow(
         support::Parse(L"<r><a>text<b>" + Answer(Counted(L"1")) + L"</b></a>" + Answer(Counted(L"2")) + L"</r>"));
     EXPECT_EQ(1, response->IncidentCount);
-    response->FromXmlBelow(ParseElement(Answer(Counted(L"3") + Answer(Counted(L"4")))));
+    response->ReadBelow(ParseElement(Answer(Counted(L"3") + Answer(Counted(L"4")))));
     EXPECT_EQ(4, response->IncidentCount);
 }
 
@@ -135,9 +134,9 @@ TEST(LejisInquiryResponse, LooksForItsAnswerAsDeepAsMsxmlParses) {
     const auto document = support::Parse(L"<r/>");
     support::NestIn(msxml::Root(document).Get(), msxml::kMaximumDepth);
     const auto response = platform::Create<LejisInquiryResponse>();
-    EXPECT_TRUE(support::Raises(support::kInvalidArgument, kTooDeep, [&] { response->FromXmlBelow(document); }));
+    EXPECT_TRUE(support::Raises(support::kInvalidArgument, kTooDeep, [&] { response->ReadBelow(document); }));
     EXPECT_TRUE(support::Raises(support::kObjectRequired, L"Object required",
-                                [&] { response->FromXmlBelow(support::Parse(support::Nested(250))); }));
+                                [&] { response->ReadBelow(support::Parse(support::Nested(250))); }));
 }
 
 TEST(LejisInquiryResponse, RaisesTheObjectErrorWithoutAnAnswer) {

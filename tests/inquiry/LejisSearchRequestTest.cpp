@@ -20,8 +20,8 @@ constexpr wchar_t kControlsAlone[] =
 
 TEST(LejisSearchRequest, WritesTheControlsAloneWhenNew) {
     const auto request = platform::Create<LejisSearchRequest>();
-    EXPECT_TRUE(SameXml(request->ToXmlElement(NewDocument()).Get(), kControlsAlone));
-    EXPECT_TRUE(SameXml(request->ToXmlDocument().Get(), kControlsAlone));
+    EXPECT_TRUE(SameXml(request->Write(NewDocument()).Get(), kControlsAlone));
+    EXPECT_TRUE(SameXml(request->ToDocument().Get(), kControlsAlone));
 }
 
 TEST(LejisSearchRequest, WritesItsBlocksInTheirOrder) {
@@ -32,7 +32,7 @@ TEST(LejisSearchRequest, WritesItsBlocksInTheirOrder) {
     request->LocationArguments->City = L"ERIE";
     request->personArguments->SurName = L"P";
     EXPECT_TRUE(SameXml(
-        request->ToXmlDocument().Get(),
+        request->ToDocument().Get(),
         L"<inq:LEJISIndexInquiry>"
         L"<inq:PersonInquiryArguments><j:PersonSurName>P</j:PersonSurName><j:PersonGivenName/><j:PersonMiddleName/>"
         L"</inq:PersonInquiryArguments>"
@@ -50,7 +50,7 @@ TEST(LejisSearchRequest, LeavesOutABlockOfBlanksButNotWordsOfBlanks) {
     const auto request = platform::Create<LejisSearchRequest>();
     request->LocationArguments->City = L" ";
     request->AdHocInquiryArguments->QueryString = L" ";
-    EXPECT_TRUE(SameXml(request->ToXmlDocument().Get(),
+    EXPECT_TRUE(SameXml(request->ToDocument().Get(),
                         L"<inq:LEJISIndexInquiry><lejis:AdHocInquiryArguments><lejis:queryString> </lejis:queryString>"
                         L"</lejis:AdHocInquiryArguments><lejis:InquiryControls><lejis:irrinfo>false</lejis:irrinfo>"
                         L"</lejis:InquiryControls></inq:LEJISIndexInquiry>"));
@@ -59,18 +59,18 @@ TEST(LejisSearchRequest, LeavesOutABlockOfBlanksButNotWordsOfBlanks) {
 TEST(LejisSearchRequest, BecomesTheRootOfTheDocumentOnce) {
     const auto request = platform::Create<LejisSearchRequest>();
     const auto document = NewDocument();
-    request->ToXmlElement(document);
+    request->Write(document);
     EXPECT_TRUE(support::Raises(E_FAIL, L"Only one top level element is allowed in an XML document.",
-                                [&] { request->ToXmlElement(document); }));
+                                [&] { request->Write(document); }));
 }
 
 TEST(LejisSearchRequest, ReadsOnlyTheBlocksThatAreThere) {
     const auto request = platform::Create<LejisSearchRequest>();
     request->personArguments->SurName = L"KEPT";
     request->VehicleArguments->VIN = L"OLD";
-    request->FromXmlElement(
+    request->Read(ElementReader(
         ParseElement(L"<inq:LEJISIndexInquiry><inq:VehicleInquiryArguments><j:VehicleID><j:ID>NEW</j:ID></j:VehicleID>"
-                     L"</inq:VehicleInquiryArguments></inq:LEJISIndexInquiry>"));
+                     L"</inq:VehicleInquiryArguments></inq:LEJISIndexInquiry>")));
     EXPECT_EQ(L"KEPT", request->personArguments->SurName);
     EXPECT_EQ(L"NEW", request->VehicleArguments->VIN);
 }
@@ -84,11 +84,11 @@ TEST(LejisSearchRequest, ReadsBackWhatItWrites) {
     request->AdHocInquiryArguments->QueryString = L"blue";
     request->InquiryControls->MaxIncidents = 25;
     const auto again = platform::Create<LejisSearchRequest>();
-    again->FromXmlElement(request->ToXmlElement(NewDocument()));
-    ComPtr<IXMLDOMDocument2> written = again->ToXmlDocument();
+    again->Read(ElementReader(request->Write(NewDocument())));
+    ComPtr<IXMLDOMDocument2> written = again->ToDocument();
     BSTR xml = nullptr;
     EXPECT_OK(written->get_xml(&xml));
-    EXPECT_TRUE(SameXml(request->ToXmlDocument().Get(), support::Take(xml)));
+    EXPECT_TRUE(SameXml(request->ToDocument().Get(), support::Take(xml)));
 }
 
 TEST(LejisSearchRequest, AnswersNoObjectWithThePlatformsObjectError) {

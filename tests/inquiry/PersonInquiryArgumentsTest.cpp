@@ -21,7 +21,7 @@ std::wstring Block(const std::wstring& content) {
 
 ComPtr<PersonInquiryArguments> Read(const std::wstring& content) {
     auto person = platform::Create<PersonInquiryArguments>();
-    person->FromXmlElement(ParseElement(Block(content)));
+    person->Read(ElementReader(ParseElement(Block(content))));
     return person;
 }
 
@@ -29,9 +29,9 @@ const std::wstring kEmptyNames = L"<j:PersonSurName/><j:PersonGivenName/><j:Pers
 
 TEST(PersonInquiryArguments, IsEmptyWhenNewAndWithBlanksAlone) {
     const auto person = platform::Create<PersonInquiryArguments>();
-    EXPECT_FALSE(person->NotEmpty());
+    EXPECT_FALSE(person->HasContent());
     person->SurName = L"  ";
-    EXPECT_FALSE(person->NotEmpty());
+    EXPECT_FALSE(person->HasContent());
 }
 
 TEST(PersonInquiryArguments, IsNotEmptyWithAnyOfItsTexts) {
@@ -42,25 +42,25 @@ TEST(PersonInquiryArguments, IsNotEmptyWithAnyOfItsTexts) {
           &PersonInquiryArguments::RaceNCIC}) {
         const auto person = platform::Create<PersonInquiryArguments>();
         (*person.Get()).*field = L" x ";
-        EXPECT_TRUE(person->NotEmpty());
+        EXPECT_TRUE(person->HasContent());
     }
 }
 
 TEST(PersonInquiryArguments, IsNotEmptyWithAnyOfItsHolders) {
     const auto born = platform::Create<PersonInquiryArguments>();
     born->BirthDate->Set(0.0);
-    EXPECT_TRUE(born->NotEmpty());
+    EXPECT_TRUE(born->HasContent());
     const auto tall = platform::Create<PersonInquiryArguments>();
     tall->Height->Set(short{0});
-    EXPECT_TRUE(tall->NotEmpty());
+    EXPECT_TRUE(tall->HasContent());
     const auto heavy = platform::Create<PersonInquiryArguments>();
     heavy->Weight->Set(short{0});
-    EXPECT_TRUE(heavy->NotEmpty());
+    EXPECT_TRUE(heavy->HasContent());
 }
 
 TEST(PersonInquiryArguments, WritesItsNamesEvenWhenEmpty) {
     const auto person = platform::Create<PersonInquiryArguments>();
-    EXPECT_TRUE(SameXml(person->ToXmlElement(NewDocument()).Get(), Block(kEmptyNames)));
+    EXPECT_TRUE(SameXml(person->Write(NewDocument()).Get(), Block(kEmptyNames)));
 }
 
 TEST(PersonInquiryArguments, WritesAllFieldsInTheirOrder) {
@@ -77,7 +77,7 @@ TEST(PersonInquiryArguments, WritesAllFieldsInTheirOrder) {
     person->Height->Set(short{511});
     person->Weight->Set(short{180});
     EXPECT_TRUE(
-        SameXml(support::Reparsed(person->ToXmlElement(NewDocument()).Get()).Get(),
+        SameXml(support::Reparsed(person->Write(NewDocument()).Get()).Get(),
                 Block(L"<j:PersonSurName>PUBLIC</j:PersonSurName><j:PersonGivenName>JOHN</j:PersonGivenName>"
                       L"<j:PersonMiddleName>Q</j:PersonMiddleName><j:PersonSSNID><j:ID>900123456</j:ID></j:PersonSSNID>"
                       L"<j:PersonDriverLicenseID><j:ID>123</j:ID>"
@@ -91,19 +91,19 @@ TEST(PersonInquiryArguments, WritesAllFieldsInTheirOrder) {
 TEST(PersonInquiryArguments, WritesEitherHalfOfTheLicence) {
     const auto state = platform::Create<PersonInquiryArguments>();
     state->DriversLicenseState = L"PA";
-    EXPECT_TRUE(SameXml(state->ToXmlElement(NewDocument()).Get(),
+    EXPECT_TRUE(SameXml(state->Write(NewDocument()).Get(),
                         Block(kEmptyNames + L"<j:PersonDriverLicenseID><j:IDJurisdictionCode.ncicLSTA>PA"
                                             L"</j:IDJurisdictionCode.ncicLSTA></j:PersonDriverLicenseID>")));
     const auto number = platform::Create<PersonInquiryArguments>();
     number->DriversLicense = L"123";
-    EXPECT_TRUE(SameXml(number->ToXmlElement(NewDocument()).Get(),
+    EXPECT_TRUE(SameXml(number->Write(NewDocument()).Get(),
                         Block(kEmptyNames + L"<j:PersonDriverLicenseID><j:ID>123</j:ID></j:PersonDriverLicenseID>")));
 }
 
 TEST(PersonInquiryArguments, WritesAFieldOfBlanksAsItStands) {
     const auto person = platform::Create<PersonInquiryArguments>();
     person->SSN = L" ";
-    EXPECT_TRUE(SameXml(person->ToXmlElement(NewDocument()).Get(),
+    EXPECT_TRUE(SameXml(person->Write(NewDocument()).Get(),
                         Block(kEmptyNames + L"<j:PersonSSNID><j:ID> </j:ID></j:PersonSSNID>")));
 }
 
@@ -133,8 +133,8 @@ TEST(PersonInquiryArguments, ReadingEmptiesWhatIsMissing) {
     const auto person = Read(
         L"<j:PersonSurName>PUBLIC</j:PersonSurName><j:PersonWeightMeasure>180"
         L"</j:PersonWeightMeasure><j:PersonBirthDate>1970-02-28</j:PersonBirthDate>");
-    person->FromXmlElement(ParseElement(Block(L"")));
-    EXPECT_FALSE(person->NotEmpty());
+    person->Read(ElementReader(ParseElement(Block(L""))));
+    EXPECT_FALSE(person->HasContent());
 }
 
 TEST(PersonInquiryArguments, ReadsBadDatesAndNumbersAsNothing) {

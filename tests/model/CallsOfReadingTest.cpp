@@ -40,7 +40,7 @@ template <typename Card>
 int CallsToRead(const ComPtr<Card>& card, const wchar_t* xml) {
     int calls = 0;
     const support::Element element = support::ParseElement(xml);
-    card->FromXmlElement(msxml::Element(platform::Create<support::CountingElement>(element.Get(), calls).Get()));
+    card->Read(ElementReader(msxml::Element(platform::Create<support::CountingElement>(element.Get(), calls).Get())));
     return calls;
 }
 

@@ -38,7 +38,9 @@ inline const std::wstring kFullCard = CompleteWith(
     L"<card:RMSVehicleIndexCards><ext:VehicleMakeText>FORD</ext:VehicleMakeText></card:RMSVehicleIndexCards>"
     L"<card:RMSPersonIndexCards><j:PersonSurName>SECOND</j:PersonSurName></card:RMSPersonIndexCards>");
 
-inline void ReadInto(const Card& card, const std::wstring& xml) { card->FromXmlElement(support::ParseElement(xml)); }
+inline void ReadInto(const Card& card, const std::wstring& xml) {
+    card->Read(ElementReader(support::ParseElement(xml)));
+}
 
 inline Card Read(const std::wstring& xml) {
     auto card = platform::Create<LejisIncidentIndexCard>();

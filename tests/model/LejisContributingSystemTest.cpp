@@ -57,7 +57,7 @@ TEST(LejisContributingSystem, IsNotChangedByItsClients) {
 
 TEST(LejisContributingSystem, WritesItsTextsInTheirOrder) {
     const auto system = platform::Create<LejisContributingSystem>();
-    EXPECT_TRUE(SameXml(system->ToXmlElement(NewDocument()).Get(),
+    EXPECT_TRUE(SameXml(system->Write(NewDocument()).Get(),
                         L"<lejis:ContributingSystem><ext:companyName>Talvex</ext:companyName>"
                         L"<ext:systemName>TalvexSuite</ext:systemName><ext:systemVersion>" +
                             VersionInResource() + L"</ext:systemVersion></lejis:ContributingSystem>"));
@@ -72,18 +72,18 @@ TEST(LejisContributingSystem, ReadsItsTextsAndWritesThemBack) {
     EXPECT_EQ(L"Maker", system->CompanyName);
     EXPECT_EQ(L"System", system->SystemName);
     EXPECT_EQ(L"9.8.7", system->SystemVersion);
-    EXPECT_TRUE(SameXml(system->ToXmlElement(NewDocument()).Get(), kXml));
+    EXPECT_TRUE(SameXml(system->Write(NewDocument()).Get(), kXml));
 }
 
 TEST(LejisContributingSystem, EmptiesTextsThatTheElementLacksAndWritesThemEmpty) {
     const auto system = platform::Create<LejisContributingSystem>();
-    system->FromXmlElement(
-        ParseElement(L"<lejis:ContributingSystem><ext:systemName>Other</ext:systemName>"
-                     L"<j:companyName>x</j:companyName></lejis:ContributingSystem>"));
+    system->Read(
+        ElementReader(ParseElement(L"<lejis:ContributingSystem><ext:systemName>Other</ext:systemName>"
+                                   L"<j:companyName>x</j:companyName></lejis:ContributingSystem>")));
     EXPECT_EQ(L"", system->CompanyName);
     EXPECT_EQ(L"Other", system->SystemName);
     EXPECT_EQ(L"", system->SystemVersion);
-    EXPECT_TRUE(SameXml(system->ToXmlElement(NewDocument()).Get(),
+    EXPECT_TRUE(SameXml(system->Write(NewDocument()).Get(),
                         L"<lejis:ContributingSystem><ext:companyName/><ext:systemName>Other</ext:systemName>"
                         L"<ext:systemVersion/></lejis:ContributingSystem>"));
 }

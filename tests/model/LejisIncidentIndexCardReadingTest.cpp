@@ -45,9 +45,9 @@ TEST(LejisIncidentIndexCardReading, ReadsBackWhatWasWritten) {
     const Card written = Read(kFullCard);
     const auto document = NewDocument();
     const auto read = platform::Create<LejisIncidentIndexCard>();
-    const auto element = written->ToXmlElement(document);
-    read->FromXmlElement(element);
-    const auto again = read->ToXmlElement(NewDocument());
+    const auto element = written->Write(document);
+    read->Read(ElementReader(element));
+    const auto again = read->Write(NewDocument());
     BSTR text = nullptr;
     ASSERT_OK(element->get_xml(&text));
     // The declarations are the element's own, so its text stands alone.
@@ -111,7 +111,7 @@ TEST(LejisIncidentIndexCardReading, TakesTheCautionOfItsCardsForItsOwn) {
     EXPECT_FALSE(written->CautionIndicator);
     const auto document = NewDocument();
     const auto read = platform::Create<LejisIncidentIndexCard>();
-    read->FromXmlElement(written->ToXmlElement(document));
+    read->Read(ElementReader(written->Write(document)));
     EXPECT_TRUE(read->CautionIndicator);
 }
 

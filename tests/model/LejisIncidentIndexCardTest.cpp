@@ -71,16 +71,16 @@ TEST(LejisIncidentIndexCard, HasCautionWhenItOrAnyOfItsCardsIsFlagged) {
                            &Add<LejisPersonIndexCard>(card->PersonIndexCards)->CautionIndicator,
                            &Add<LejisPropertyIndexCard>(card->PropertyIndexCards)->CautionIndicator,
                            &Add<LejisVehicleIndexCard>(card->VehicleIndexCards)->CautionIndicator};
-    EXPECT_FALSE(card->HasCaution());
+    EXPECT_FALSE(card->NeedsCaution());
     for (bool* flag : flags) {
         *flag = true;
-        EXPECT_TRUE(card->HasCaution()) << flag - flags[0];
+        EXPECT_TRUE(card->NeedsCaution()) << flag - flags[0];
         VARIANT_BOOL caution = VARIANT_FALSE;
         EXPECT_OK(card->HasCaution(&caution));
         EXPECT_EQ(VARIANT_TRUE, caution);
         *flag = false;
     }
-    EXPECT_FALSE(card->HasCaution());
+    EXPECT_FALSE(card->NeedsCaution());
     EXPECT_EQ(E_POINTER, card->HasCaution(nullptr));
 }
 

@@ -35,7 +35,7 @@ std::wstring CardWith(const std::wstring& dates, const std::wstring& charges, co
 testing::AssertionResult Writes(const Card& card, const std::wstring& xml) {
     const auto document = NewDocument();
     EXPECT_OK(document->put_preserveWhiteSpace(VARIANT_TRUE));
-    return SameXml(card->ToXmlElement(document).Get(), xml);
+    return SameXml(card->Write(document).Get(), xml);
 }
 
 template <typename Part>
@@ -105,10 +105,10 @@ TEST(LejisIncidentIndexCardWriting, WritesPersonsThenVehiclesThenProperty) {
     Add<LejisVehicleIndexCard>(card->VehicleIndexCards)->SetMake(L"FORD");
     Add<LejisPersonIndexCard>(card->PersonIndexCards)->SetSurName(L"FIRST");
     Add<LejisPersonIndexCard>(card->PersonIndexCards)->SetSurName(L"SECOND");
-    const auto element = card->ToXmlElement(NewDocument());
+    const auto element = card->Write(NewDocument());
     std::wstring order;
     for (const auto& child : msxml::ChildElements(element)) {
-        const std::wstring name(msxml::LocalName(child).View());
+        const std::wstring name(msxml::LocalName(child));
         if (name.ends_with(L"IndexCards")) order += name + L"(" + std::wstring(msxml::Text(child)) + L") ";
     }
     EXPECT_EQ(

@@ -65,7 +65,7 @@ std::wstring FullCardWithBirthDate(const std::wstring& birthDate) {
 
 Card Read(const std::wstring& xml) {
     auto card = platform::Create<LejisPersonIndexCard>();
-    card->FromXmlElement(ParseElement(xml));
+    card->Read(ElementReader(ParseElement(xml)));
     return card;
 }
 
@@ -107,7 +107,7 @@ TEST(LejisPersonIndexCardReading, ReadsBackWhatWasWrittenButTheCaveat) {
     const Card written = Read(FullCardWithBirthDate(L"1970-01-31"));
     written->SetCaveatText(L"CALL FIRST");
     const auto read = platform::Create<LejisPersonIndexCard>();
-    read->FromXmlElement(written->ToXmlElement(document));
+    read->Read(ElementReader(written->Write(document)));
     for (const wchar_t* name : kTexts) {
         if (name == std::wstring(L"CaveatText")) continue;
         EXPECT_EQ(support::TextMember(written->Dispatch(), name), support::TextMember(read->Dispatch(), name));
@@ -127,7 +127,7 @@ TEST(LejisPersonIndexCardReading, BeginsFromAResetCard) {
     const auto birthDateBefore = card->BirthDate;
     const auto heightBefore = card->Height;
     const auto weightBefore = card->Weight;
-    card->FromXmlElement(ParseElement(L"<card:RMSPersonIndexCards/>"));
+    card->Read(ElementReader(ParseElement(L"<card:RMSPersonIndexCards/>")));
     support::ExpectEmptyTexts(card->Dispatch(), kTexts);
     EXPECT_FALSE(card->CautionIndicator);
     EXPECT_EQ(std::nullopt, birthDateBefore->Date());
@@ -145,7 +145,7 @@ TEST(LejisPersonIndexCardReading, FailsForABadBirthDateAndKeepsWhatItReadBefore)
     for (const wchar_t* text : {L"", L"hello", L"1970-02-30"}) {
         const Card card = Read(FullCardWithBirthDate(L"1970-01-31"));
         EXPECT_TRUE(Raises(support::kInvalidArgument, L"Not a valid date.", [&] {
-            card->FromXmlElement(ParseElement(FullCardWithBirthDate(text)));
+            card->Read(ElementReader(ParseElement(FullCardWithBirthDate(text))));
         })) << support::Utf8(text);
         ExpectIdentity(card);
         EXPECT_EQ(std::nullopt, card->BirthDate->Date());

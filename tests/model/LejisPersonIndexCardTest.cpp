@@ -34,7 +34,18 @@ std::wstring CardWith(const std::wstring& children) {
 testing::AssertionResult Writes(const Card& card, const std::wstring& xml) {
     const auto document = NewDocument();
     EXPECT_OK(document->put_preserveWhiteSpace(VARIANT_TRUE));
-    return SameXml(Reparsed(card->ToXmlElement(document).Get()).Get(), xml);
+    return SameXml(Reparsed(card->Write(document).Get()).Get(), xml);
+}
+
+TEST(LejisPersonIndexCard, GivesTextsThatOutliveIt) {
+    auto card = platform::Create<LejisPersonIndexCard>();
+    card->SetSurName(L"PUBLIC");
+    const auto surName = card->SurName();
+    // Longer than the room that the card has.
+    card->SetGivenName(std::wstring(2000, L'X'));
+    EXPECT_EQ(L"PUBLIC", surName);
+    card = nullptr;
+    EXPECT_EQ(L"PUBLIC", surName);
 }
 
 TEST(LejisPersonIndexCard, HasItsMembersInTheirOrder) {
@@ -180,7 +191,7 @@ TEST(LejisPersonIndexCard, WritesBlanksAsContent) {
 TEST(LejisPersonIndexCard, IsNotChangedByWriting) {
     const auto card = platform::Create<LejisPersonIndexCard>();
     card->SetSurName(L"  LEE ");
-    card->ToXmlElement(NewDocument());
+    card->Write(NewDocument());
     EXPECT_EQ(L"  LEE ", card->SurName());
     EXPECT_TRUE(Writes(card, std::wstring(L"<card:RMSPersonIndexCards>") + kOrganization +
                                  L"<j:PersonSurName>  LEE </j:PersonSurName>" + kResidence + kFlag +

@@ -37,14 +37,14 @@ using Card = Microsoft::WRL::ComPtr<LejisPropertyIndexCard>;
 
 Card Read(const std::wstring& xml) {
     auto card = platform::Create<LejisPropertyIndexCard>();
-    card->FromXmlElement(ParseElement(xml));
+    card->Read(ElementReader(ParseElement(xml)));
     return card;
 }
 
 testing::AssertionResult Writes(const Card& card, const std::wstring& xml) {
     const auto document = NewDocument();
     EXPECT_OK(document->put_preserveWhiteSpace(VARIANT_TRUE));
-    return SameXml(card->ToXmlElement(document).Get(), xml);
+    return SameXml(card->Write(document).Get(), xml);
 }
 
 void ExpectEmpty(const Card& card) {
@@ -112,7 +112,7 @@ TEST(LejisPropertyIndexCard, ReadsAllFields) {
 
 TEST(LejisPropertyIndexCard, ClearsWhatTheElementLacks) {
     const Card card = Read(kFullCard);
-    card->FromXmlElement(ParseElement(L"<card:RMSPropertyIndexCards/>"));
+    card->Read(ElementReader(ParseElement(L"<card:RMSPropertyIndexCards/>")));
     ExpectEmpty(card);
 }
 

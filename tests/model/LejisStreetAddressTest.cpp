@@ -48,14 +48,14 @@ std::wstring StreetOf(const std::wstring& children) {
 
 Address Read(const std::wstring& xml) {
     auto address = platform::Create<LejisStreetAddress>();
-    address->FromXmlElement(ParseElement(xml));
+    address->Read(ElementReader(ParseElement(xml)));
     return address;
 }
 
 testing::AssertionResult Writes(const Address& address, const std::wstring& xml) {
     const auto document = NewDocument();
     EXPECT_OK(document->put_preserveWhiteSpace(VARIANT_TRUE));
-    return SameXml(address->ToXmlElement(document).Get(), xml);
+    return SameXml(address->Write(document).Get(), xml);
 }
 
 void ExpectEmpty(const Address& address) {
@@ -152,14 +152,14 @@ TEST(LejisStreetAddress, ReadsTheCityWithoutAStreet) {
 TEST(LejisStreetAddress, IsEmptyAfterAnElementWithoutAddress) {
     const Address address = Read(Within(kFullAddress));
     const auto numberBefore = address->StreetNumber;
-    address->FromXmlElement(ParseElement(L"<j:Residence><j:Other/></j:Residence>"));
+    address->Read(ElementReader(ParseElement(L"<j:Residence><j:Other/></j:Residence>")));
     ExpectEmpty(address);
     EXPECT_EQ(numberBefore.Get(), address->StreetNumber.Get());
 }
 
 TEST(LejisStreetAddress, ClearsWhatTheElementLacks) {
     const Address address = Read(Within(kFullAddress));
-    address->FromXmlElement(ParseElement(Within(L"<j:LocationAddress><j:LocationStreet/></j:LocationAddress>")));
+    address->Read(ElementReader(ParseElement(Within(L"<j:LocationAddress><j:LocationStreet/></j:LocationAddress>"))));
     ExpectEmpty(address);
 }
 
@@ -184,7 +184,7 @@ TEST(LejisStreetAddress, FailsForAHouseNumberTooGreatAndKeepsWhatItReadBefore) {
     const auto element =
         ParseElement(StreetOf(L"<j:StreetFullText>NEW</j:StreetFullText><j:StreetNumberText>2147483648"
                               L"</j:StreetNumberText><j:StreetName>NEW</j:StreetName>"));
-    EXPECT_TRUE(Raises(DISP_E_OVERFLOW, L"Overflow", [&] { address->FromXmlElement(element); }));
+    EXPECT_TRUE(Raises(DISP_E_OVERFLOW, L"Overflow", [&] { address->Read(ElementReader(element)); }));
     EXPECT_EQ(L"NEW", address->StreetFullText());
     EXPECT_EQ(std::nullopt, address->StreetNumber->Number());
     EXPECT_EQ(L"", address->StreetName());

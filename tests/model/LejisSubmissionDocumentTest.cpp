@@ -24,7 +24,7 @@ constexpr wchar_t kSystem[] =
 
 ComPtr<LejisSubmissionDocument> NewSubmission() {
     auto submission = platform::Create<LejisSubmissionDocument>();
-    submission->ContributingSystem->FromXmlElement(support::ParseElement(kSystem));
+    submission->ContributingSystem->Read(ElementReader(support::ParseElement(kSystem)));
     return submission;
 }
 
@@ -62,7 +62,7 @@ TEST(LejisSubmissionDocument, HandsOutItsOwnParts) {
 }
 
 TEST(LejisSubmissionDocument, WritesTheSystemAloneWithoutIncidents) {
-    EXPECT_TRUE(SameXml(NewSubmission()->ToXmlDocument().Get(),
+    EXPECT_TRUE(SameXml(NewSubmission()->ToDocument().Get(),
                         std::wstring(L"<lejis:SubmitRmsIndex>") + kSystem + L"</lejis:SubmitRmsIndex>"));
 }
 
@@ -70,12 +70,12 @@ TEST(LejisSubmissionDocument, WritesIncidentsInTheirOrderBeforeTheSystem) {
     const auto submission = NewSubmission();
     AddIncident(submission, L"FIRST");
     AddIncident(submission, L"SECOND");
-    const auto children = msxml::ChildElements(msxml::Root(submission->ToXmlDocument()));
+    const auto children = msxml::ChildElements(msxml::Root(submission->ToDocument()));
     ASSERT_EQ(3u, children.size());
-    EXPECT_EQ(L"RMSIncidentIndexCard", msxml::LocalName(children[0]).View());
-    EXPECT_EQ(L"http://lejis.example/lejis/jxdm/1.0/service", msxml::NamespaceUri(children[0]).View());
-    EXPECT_TRUE(msxml::Text(children[0]).View().starts_with(L"FIRST"));
-    EXPECT_TRUE(msxml::Text(children[1]).View().starts_with(L"SECOND"));
+    EXPECT_EQ(L"RMSIncidentIndexCard", msxml::LocalName(children[0]));
+    EXPECT_EQ(L"http://lejis.example/lejis/jxdm/1.0/service", msxml::NamespaceUri(children[0]));
+    EXPECT_TRUE(std::wstring(msxml::Text(children[0])).starts_with(L"FIRST"));
+    EXPECT_TRUE(std::wstring(msxml::Text(children[1])).starts_with(L"SECOND"));
     EXPECT_TRUE(SameXml(children[2].Get(), kSystem));
 }
 
@@ -113,7 +113,7 @@ TEST(LejisSubmissionDocument, MakesANewDocumentEachTime) {
 }
 
 TEST(LejisSubmissionDocument, WritesNothingButTheRootIntoItsDocument) {
-    const msxml::Document document = NewSubmission()->ToXmlDocument();
+    const msxml::Document document = NewSubmission()->ToDocument();
     VARIANT_BOOL async = VARIANT_TRUE;
     EXPECT_OK(document->get_async(&async));
     EXPECT_EQ(VARIANT_FALSE, async);
@@ -143,7 +143,7 @@ TEST(LejisSubmissionDocument, AppendsEachCardBeforeItAsksForTheNext) {
                            L"Type mismatch"));
     const auto children = msxml::ChildElements(msxml::Root(document));
     ASSERT_EQ(1u, children.size());
-    EXPECT_TRUE(msxml::Text(children[0]).View().starts_with(L"FIRST"));
+    EXPECT_TRUE(std::wstring(msxml::Text(children[0])).starts_with(L"FIRST"));
 }
 
 TEST(LejisSubmissionDocument, NeedsADocumentToWriteTo) {

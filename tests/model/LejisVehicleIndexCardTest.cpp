@@ -41,7 +41,7 @@ using Card = Microsoft::WRL::ComPtr<LejisVehicleIndexCard>;
 
 Card Read(const std::wstring& xml) {
     auto card = platform::Create<LejisVehicleIndexCard>();
-    card->FromXmlElement(ParseElement(xml));
+    card->Read(ElementReader(ParseElement(xml)));
     return card;
 }
 
@@ -52,7 +52,7 @@ Card ReadWith(const std::wstring& children) {
 testing::AssertionResult Writes(const Card& card, const std::wstring& xml) {
     const auto document = NewDocument();
     EXPECT_OK(document->put_preserveWhiteSpace(VARIANT_TRUE));
-    return SameXml(card->ToXmlElement(document).Get(), xml);
+    return SameXml(card->Write(document).Get(), xml);
 }
 
 TEST(LejisVehicleIndexCard, HasItsMembersInTheirOrder) {
@@ -126,7 +126,7 @@ TEST(LejisVehicleIndexCard, ReadsAllFields) {
 TEST(LejisVehicleIndexCard, ClearsWhatTheElementLacks) {
     const Card card = Read(kFullCard);
     const auto yearBefore = card->Year;
-    card->FromXmlElement(ParseElement(L"<card:RMSVehicleIndexCards/>"));
+    card->Read(ElementReader(ParseElement(L"<card:RMSVehicleIndexCards/>")));
     support::ExpectEmptyTexts(card->Dispatch(), kTexts);
     EXPECT_FALSE(card->CautionIndicator);
     EXPECT_EQ(std::nullopt, card->Year->Number());

@@ -27,8 +27,8 @@ ComPtr<LejisIncidentIndexCard> IncidentWithMeasures() {
 
 void FormatAndWrite(const LejisIncidentIndexCard& incident) {
     const auto document = platform::Create<LejisSubmissionDocument>();
-    document->Add(platform::Create<LejisIncidentFormatter>()->Format(incident));
-    EXPECT_NE(L"", msxml::Markup(WrapInEnvelope(msxml::Root(document->ToXmlDocument()))));
+    document->Add(platform::Create<LejisIncidentFormatter>()->Shape(incident));
+    EXPECT_NE(L"", msxml::Markup(WrapInEnvelope(msxml::Root(document->ToDocument()))));
 }
 
 size_t BytesInUse() {

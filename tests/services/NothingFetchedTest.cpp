@@ -64,7 +64,7 @@ TEST_F(NothingFetched, WhenTextIsLoaded) {
         msxml::LoadXml(msxml::CreateDocument(), text);
         const auto envelope = platform::Create<SOAPEnvelope>();
         EXPECT_EQ(S_OK, envelope->put_Body(platform::ToBstr(text)));
-        envelope->BodyXml();
+        envelope->BodyDocument();
     }
 }
 

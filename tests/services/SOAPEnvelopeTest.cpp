@@ -21,7 +21,7 @@ namespace {
 
 ComPtr<SOAPEnvelope> Read(const std::wstring& xml) {
     auto envelope = platform::Create<SOAPEnvelope>();
-    envelope->FromXmlDocument(Parse(xml));
+    envelope->ReadDocument(Parse(xml));
     return envelope;
 }
 
@@ -33,44 +33,44 @@ TEST(SOAPEnvelope, IsEmptyWhenNew) {
 
 TEST(SOAPEnvelope, ReadsAFault) {
     const auto envelope = Read(support::SoapFault(L"soap:Server", L"x"));
-    EXPECT_TRUE(envelope->IsFault());
-    EXPECT_EQ(L"soap:Server", envelope->FaultCode());
-    EXPECT_EQ(L"x", envelope->FaultMessage());
+    EXPECT_TRUE(envelope->HasFault());
+    EXPECT_EQ(L"soap:Server", envelope->CodeOfFault());
+    EXPECT_EQ(L"x", envelope->TextOfFault());
 }
 
 TEST(SOAPEnvelope, ReadsAFaultWithoutItsTexts) {
     for (const wchar_t* content : {L"", L"<soap:faultcode>a</soap:faultcode><soap:faultstring>b</soap:faultstring>",
                                    L"<detail><faultcode>a</faultcode><faultstring>b</faultstring></detail>"}) {
         const auto envelope = Read(support::Soap(std::wstring(L"<soap:Fault>") + content + L"</soap:Fault>"));
-        EXPECT_TRUE(envelope->IsFault());
-        EXPECT_EQ(L"", envelope->FaultCode());
-        EXPECT_EQ(L"", envelope->FaultMessage());
+        EXPECT_TRUE(envelope->HasFault());
+        EXPECT_EQ(L"", envelope->CodeOfFault());
+        EXPECT_EQ(L"", envelope->TextOfFault());
     }
 }
 
 TEST(SOAPEnvelope, ReadsABodyWithoutFault) {
     const auto envelope = Read(support::Soap(L"<x><soap:Fault/></x>"));
-    EXPECT_FALSE(envelope->IsFault());
-    EXPECT_EQ(L"", envelope->FaultCode());
-    EXPECT_EQ(L"", envelope->FaultMessage());
+    EXPECT_FALSE(envelope->HasFault());
+    EXPECT_EQ(L"", envelope->CodeOfFault());
+    EXPECT_EQ(L"", envelope->TextOfFault());
 }
 
 TEST(SOAPEnvelope, BodyIsTheMarkupOfTheBodyElementWithItsDeclarations) {
     const auto envelope = Read(L"<soap:Envelope><soap:Header/><soap:Body><j:x>1</j:x></soap:Body></soap:Envelope>");
     EXPECT_TRUE(envelope->Body().starts_with(L"<soap:Body"));
-    EXPECT_TRUE(SameXml(envelope->BodyXml().Get(), L"<soap:Body><j:x>1</j:x></soap:Body>"));
+    EXPECT_TRUE(SameXml(envelope->BodyDocument().Get(), L"<soap:Body><j:x>1</j:x></soap:Body>"));
 }
 
 TEST(SOAPEnvelope, BodyXmlIsANewDocumentEachTime) {
     const auto envelope = Read(support::Soap(L"<x/>"));
-    EXPECT_NE(envelope->BodyXml().Get(), envelope->BodyXml().Get());
+    EXPECT_NE(envelope->BodyDocument().Get(), envelope->BodyDocument().Get());
 }
 
 TEST(SOAPEnvelope, BodyXmlAnswersQueriesWithTheLibrarysPrefixes) {
     const auto envelope = Read(support::SubmissionResponse(L"0"));
     ComPtr<IXMLDOMNode> found;
-    EXPECT_OK(envelope->BodyXml()->selectSingleNode(support::Bstr(L"soap:Body/lejis:submissionResponse"),
-                                                    found.GetAddressOf()));
+    EXPECT_OK(envelope->BodyDocument()->selectSingleNode(support::Bstr(L"soap:Body/lejis:submissionResponse"),
+                                                         found.GetAddressOf()));
     EXPECT_NE(nullptr, found);
 }
 
@@ -79,18 +79,18 @@ TEST(SOAPEnvelope, BodyXmlHasNoRootWhenTheBodyDoesNotParse) {
     for (const wchar_t* body : {L"", L"no xml", L"<a>", L"<!DOCTYPE a><a/>"}) {
         envelope->put_Body(support::Bstr(body));
         ComPtr<IXMLDOMElement> root;
-        EXPECT_OK(envelope->BodyXml()->get_documentElement(root.GetAddressOf()));
+        EXPECT_OK(envelope->BodyDocument()->get_documentElement(root.GetAddressOf()));
         EXPECT_EQ(nullptr, root) << body;
-        EXPECT_TRUE(Raises(kObjectRequired, L"Object required", [&] { envelope->IsFault(); }));
-        EXPECT_TRUE(Raises(kObjectRequired, L"Object required", [&] { envelope->FaultMessage(); }));
-        EXPECT_TRUE(Raises(kObjectRequired, L"Object required", [&] { envelope->FaultCode(); }));
+        EXPECT_TRUE(Raises(kObjectRequired, L"Object required", [&] { envelope->HasFault(); }));
+        EXPECT_TRUE(Raises(kObjectRequired, L"Object required", [&] { envelope->TextOfFault(); }));
+        EXPECT_TRUE(Raises(kObjectRequired, L"Object required", [&] { envelope->CodeOfFault(); }));
     }
 }
 
 TEST(SOAPEnvelope, ABodyThatAClientSetsReplacesTheOneThatWasRead) {
     const auto envelope = Read(support::SoapFault(L"a", L"b"));
     envelope->put_Body(support::Bstr(L"<soap:Body xmlns:soap='http://schemas.xmlsoap.org/soap/envelope/'/>"));
-    EXPECT_FALSE(envelope->IsFault());
+    EXPECT_FALSE(envelope->HasFault());
 }
 
 TEST(SOAPEnvelope, ReadingAnEnvelopeWithoutBodyLeavesItEmpty) {
@@ -98,25 +98,25 @@ TEST(SOAPEnvelope, ReadingAnEnvelopeWithoutBodyLeavesItEmpty) {
     const auto set = platform::Create<SOAPEnvelope>();
     EXPECT_OK(set->put_Body(support::Bstr(L"<x/>")));
     for (const auto& envelope : {read, set}) {
-        envelope->FromXmlDocument(Parse(L"<soap:Envelope/>"));
+        envelope->ReadDocument(Parse(L"<soap:Envelope/>"));
         EXPECT_EQ(L"", envelope->Body());
-        EXPECT_TRUE(Raises(kObjectRequired, L"Object required", [&] { envelope->IsFault(); }));
+        EXPECT_TRUE(Raises(kObjectRequired, L"Object required", [&] { envelope->HasFault(); }));
     }
 }
 
 TEST(SOAPEnvelope, DoesNotReadTheHeaderBack) {
     const auto envelope = platform::Create<SOAPEnvelope>();
     envelope->Username = L"u";
-    envelope->FromXmlDocument(Parse(support::Soap(L"<x/>")));
+    envelope->ReadDocument(Parse(support::Soap(L"<x/>")));
     EXPECT_EQ(L"", envelope->Username);
 }
 
 TEST(SOAPEnvelope, RefusesADocumentThatIsNoEnvelope) {
     const auto envelope = platform::Create<SOAPEnvelope>();
     for (const wchar_t* xml : {L"<html/>", L"<Envelope/>", L"<x><soap:Envelope/></x>"}) {
-        EXPECT_TRUE(Raises(kObjectRequired, L"Object required", [&] { envelope->FromXmlDocument(Parse(xml)); })) << xml;
+        EXPECT_TRUE(Raises(kObjectRequired, L"Object required", [&] { envelope->ReadDocument(Parse(xml)); })) << xml;
     }
-    EXPECT_TRUE(Raises(kObjectRequired, L"Object required", [&] { envelope->FromXmlDocument(NewDocument()); }));
+    EXPECT_TRUE(Raises(kObjectRequired, L"Object required", [&] { envelope->ReadDocument(NewDocument()); }));
 }
 
 // What a client has read, by the document or by its root, and how it goes on to change what it handed in.
@@ -153,10 +153,10 @@ class ClientsDocument : public testing::TestWithParam<Change> {
 protected:
     static void ExpectWhatWasRead(SOAPEnvelope& envelope, const std::wstring& body) {
         EXPECT_EQ(body, envelope.Body());
-        EXPECT_TRUE(envelope.IsFault());
-        EXPECT_EQ(L"soap:Server", envelope.FaultCode());
-        EXPECT_EQ(L"x", envelope.FaultMessage());
-        EXPECT_TRUE(SameXml(envelope.BodyXml().Get(),
+        EXPECT_TRUE(envelope.HasFault());
+        EXPECT_EQ(L"soap:Server", envelope.CodeOfFault());
+        EXPECT_EQ(L"x", envelope.TextOfFault());
+        EXPECT_TRUE(SameXml(envelope.BodyDocument().Get(),
                             L"<soap:Body><soap:Fault><faultcode>soap:Server</faultcode><faultstring>x</faultstring>"
                             L"</soap:Fault></soap:Body>"));
     }
@@ -182,8 +182,8 @@ TEST_P(ClientsDocument, MayChangeWhenItsRootHasBeenRead) {
 TEST_P(ClientsDocument, MayChangeBeforeAnythingIsAskedOfTheEnvelope) {
     EXPECT_OK(envelope->FromXmlDocument(static_cast<IDispatch*>(document.Get())));
     GetParam().make(document);
-    EXPECT_EQ(L"x", envelope->FaultMessage());
-    EXPECT_TRUE(envelope->IsFault());
+    EXPECT_EQ(L"x", envelope->TextOfFault());
+    EXPECT_TRUE(envelope->HasFault());
 }
 
 INSTANTIATE_TEST_SUITE_P(Changes, ClientsDocument, testing::ValuesIn(kChanges),
@@ -195,20 +195,20 @@ TEST(SOAPEnvelope, ReadsWhiteSpaceAsItsOwnBodyXmlDoesWhateverTheClientsDocumentK
     ASSERT_TRUE(msxml::LoadXml(document, support::SoapFault(L"a", L"  x  ")));
     const auto envelope = platform::Create<SOAPEnvelope>();
     EXPECT_OK(envelope->FromXmlDocument(static_cast<IDispatch*>(document.Get())));
-    const msxml::Node inBodyXml = msxml::SelectNode(envelope->BodyXml(), L"soap:Body/soap:Fault/faultstring");
-    EXPECT_EQ(std::wstring(msxml::Text(inBodyXml)), envelope->FaultMessage());
+    const msxml::Node inBodyXml = msxml::SelectNode(envelope->BodyDocument(), L"soap:Body/soap:Fault/faultstring");
+    EXPECT_EQ(std::wstring(msxml::Text(inBodyXml)), envelope->TextOfFault());
 }
 
 TEST(SOAPEnvelope, WritesNoHeaderWithoutUsername) {
     const auto envelope = platform::Create<SOAPEnvelope>();
-    EXPECT_TRUE(SameXml(envelope->ToXmlElement(NewDocument()).Get(),
-                        L"<soap:Envelope><soap:Body></soap:Body></soap:Envelope>"));
+    EXPECT_TRUE(
+        SameXml(envelope->Write(NewDocument()).Get(), L"<soap:Envelope><soap:Body></soap:Body></soap:Envelope>"));
 }
 
 TEST(SOAPEnvelope, WritesTheUsernameIntoTheSecurityHeader) {
     const auto envelope = platform::Create<SOAPEnvelope>();
     envelope->Username = L"u";
-    EXPECT_TRUE(SameXml(envelope->ToXmlElement(NewDocument()).Get(),
+    EXPECT_TRUE(SameXml(envelope->Write(NewDocument()).Get(),
                         L"<soap:Envelope><soap:Header><wsse:Security><wsse:UsernameToken>"
                         L"<wsse:Username>u</wsse:Username></wsse:UsernameToken></wsse:Security></soap:Header>"
                         L"<soap:Body></soap:Body></soap:Envelope>"));
@@ -217,7 +217,7 @@ TEST(SOAPEnvelope, WritesTheUsernameIntoTheSecurityHeader) {
 TEST(SOAPEnvelope, WritesMarkupInItsBodyEscaped) {
     const auto envelope = platform::Create<SOAPEnvelope>();
     envelope->put_Body(support::Bstr(L"<a/>"));
-    EXPECT_TRUE(SameXml(envelope->ToXmlElement(NewDocument()).Get(),
+    EXPECT_TRUE(SameXml(envelope->Write(NewDocument()).Get(),
                         L"<soap:Envelope><soap:Body>&lt;a/&gt;</soap:Body></soap:Envelope>"));
 }
 

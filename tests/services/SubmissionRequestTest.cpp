@@ -31,7 +31,7 @@ protected:
     SubmissionRequest() { service->URL = L"http://lejis-interface/submission"; }
 
     const Sent& Submitted(const LejisIncidentIndexCard& incident) {
-        service->SubmitIncident(incident);
+        service->Submit(incident);
         return http.Last().Seen();
     }
 
@@ -82,21 +82,21 @@ TEST_F(SubmissionRequest, IsTheEnvelopeAsText) {
 }
 
 TEST_F(SubmissionRequest, OfADeletionHoldsNothingButTheIdentifiersAndTheSubmittedDate) {
-    service->DeleteIncident(*FullIncident().Get());
+    service->Withdraw(*FullIncident().Get());
     EXPECT_TRUE(support::SameXml(support::Parse(http.Last().Seen().body).Get(), ExpectedRequest()));
 }
 
 TEST_F(SubmissionRequest, OfADeletionIsNeitherShapedNorChecked) {
     const auto incident = platform::Create<LejisIncidentIndexCard>();
     incident->SetOrganizationName(std::wstring(80, L'A'));
-    service->DeleteIncident(*incident.Get());
+    service->Withdraw(*incident.Get());
     EXPECT_NE(std::wstring::npos, http.Last().Seen().body.find(std::wstring(80, L'A')));
 }
 
 TEST_F(SubmissionRequest, HoldsTheShapedCopyAndTheCallersCardStaysAsItIs) {
     const auto incident = CleanIncident();
     incident->SetOrganizationName(std::wstring(76, L'A'));
-    const auto warnings = service->SubmitIncident(*incident.Get());
+    const auto warnings = service->Submit(*incident.Get());
     EXPECT_EQ(std::wstring::npos, http.Last().Seen().body.find(std::wstring(76, L'A')));
     EXPECT_NE(std::wstring::npos, http.Last().Seen().body.find(std::wstring(75, L'A')));
     EXPECT_EQ(1u, warnings->Count());
@@ -104,14 +104,14 @@ TEST_F(SubmissionRequest, HoldsTheShapedCopyAndTheCallersCardStaysAsItIs) {
 }
 
 TEST_F(SubmissionRequest, OfACleanIncidentHasNoWarnings) {
-    EXPECT_EQ(0u, service->SubmitIncident(*CleanIncident().Get())->Count());
+    EXPECT_EQ(0u, service->Submit(*CleanIncident().Get())->Count());
 }
 
 TEST_F(SubmissionRequest, IsNotMadeForAnIncidentThatFailsValidation) {
     const auto incident = CleanIncident();
     incident->SetActivityID(L"");
     incident->SetOrganizationORI(L"PA");
-    EXPECT_TRUE(support::Raises(tvFatalError, L"ID is required.", [&] { service->SubmitIncident(*incident.Get()); }));
+    EXPECT_TRUE(support::Raises(tvFatalError, L"ID is required.", [&] { service->Submit(*incident.Get()); }));
     EXPECT_TRUE(http.requests.empty());
 }
 
@@ -121,10 +121,8 @@ TEST_F(SubmissionRequest, IsNotSentToAnAddressThatIsNone) {
             service->URL = url;
             service->ValidateSchema = validates;
             const std::wstring told = L"Invalid URL '" + url + L"'";
-            EXPECT_TRUE(
-                support::Raises(tvTransientError, told, [&] { service->SubmitIncident(*CleanIncident().Get()); }));
-            EXPECT_TRUE(
-                support::Raises(tvTransientError, told, [&] { service->DeleteIncident(*CleanIncident().Get()); }));
+            EXPECT_TRUE(support::Raises(tvTransientError, told, [&] { service->Submit(*CleanIncident().Get()); }));
+            EXPECT_TRUE(support::Raises(tvTransientError, told, [&] { service->Withdraw(*CleanIncident().Get()); }));
             EXPECT_EQ(0, http.Last().Seen().sends);
         }
     }
@@ -136,7 +134,7 @@ TEST_F(SubmissionRequest, IsNotSentWhenTheWsdlOfItsServiceCannotBeFetched) {
     EXPECT_TRUE(support::Raises(tvFatalError,
                                 L"Internal error -2147220735: Error in DoSubmit (line 3): There is no such service. "
                                 L"(Line 1)",
-                                [&] { service->SubmitIncident(*CleanIncident().Get()); }));
+                                [&] { service->Submit(*CleanIncident().Get()); }));
     ASSERT_EQ(1u, http.requests.size());
     EXPECT_EQ(L"http://lejis-interface/submission?wsdl", http.Last().Seen().url);
 }
@@ -144,13 +142,13 @@ TEST_F(SubmissionRequest, IsNotSentWhenTheWsdlOfItsServiceCannotBeFetched) {
 TEST_F(SubmissionRequest, IsWaitedForWithOneYieldAfterEachLookThatFindsItIncomplete) {
     support::TestHost host;
     http.script.readyStates = {1, 2, 3, 3, 4};
-    service->SubmitIncident(*CleanIncident().Get());
+    service->Submit(*CleanIncident().Get());
     EXPECT_EQ(4, host.yields);
 }
 
 TEST_F(SubmissionRequest, ThatIsCompleteAtOnceNeedsNoYield) {
     support::TestHost host;
-    service->SubmitIncident(*CleanIncident().Get());
+    service->Submit(*CleanIncident().Get());
     EXPECT_EQ(0, host.yields);
 }
 
@@ -161,10 +159,10 @@ TEST_F(SubmissionRequest, IsGivenUpWhenTheHostsYieldRaises) {
     EXPECT_TRUE(support::Raises(tvFatalError,
                                 L"Internal error -2147212766: Error in DoSubmit (line 8): The user has cancelled. "
                                 L"(Line 1)",
-                                [&] { service->SubmitIncident(*CleanIncident().Get()); }));
+                                [&] { service->Submit(*CleanIncident().Get()); }));
     host.onYield = [] {};
     http.script.readyStates = {4};
-    EXPECT_NO_THROW(service->SubmitIncident(*CleanIncident().Get()));
+    EXPECT_NO_THROW(service->Submit(*CleanIncident().Get()));
 }
 
 TEST_F(SubmissionRequest, PassesASubmissionErrorOfTheHostOnWithItsNumberAndSource) {
@@ -173,7 +171,7 @@ TEST_F(SubmissionRequest, PassesASubmissionErrorOfTheHostOnWithItsNumberAndSourc
     for (const long number : {long{tvTransientError}, long{tvFatalError}}) {
         host.onYield = [number] { throw platform::ComError(number, L"Not now.", L"TalvexSuite"); };
         try {
-            service->SubmitIncident(*CleanIncident().Get());
+            service->Submit(*CleanIncident().Get());
             ADD_FAILURE() << "not raised";
         } catch (const platform::ComError& error) {
             EXPECT_EQ(number, error.Number());
@@ -192,10 +190,10 @@ TEST_F(SubmissionRequest, LosesItsAnswerToASubmissionMadeWhileItWaits) {
         http.script.readyStates = {4};
         http.script.responseText = support::SubmissionResponse(L"7 of the second");
         EXPECT_TRUE(support::Raises(tvTransientError, L"Unexpected error returned from LEJIS: 7 of the second",
-                                    [&] { service->SubmitIncident(*CleanIncident().Get()); }));
+                                    [&] { service->Submit(*CleanIncident().Get()); }));
     };
     EXPECT_TRUE(support::Raises(tvTransientError, L"Unexpected error returned from LEJIS: 7 of the second",
-                                [&] { service->SubmitIncident(*CleanIncident().Get()); }));
+                                [&] { service->Submit(*CleanIncident().Get()); }));
     EXPECT_EQ(2u, http.requests.size());
 }
 
@@ -206,10 +204,10 @@ TEST_F(SubmissionRequest, LivesUntilItIsSentAlsoWhenASubmissionMadeMeanwhileRepl
         support::ScriptedRequest& first = http.Last();
         first.AddRef();
         http.requests.clear();
-        service->SubmitIncident(*CleanIncident().Get());
+        service->Submit(*CleanIncident().Get());
         EXPECT_EQ(1u, first.Release());
     };
-    EXPECT_NO_THROW(service->SubmitIncident(*CleanIncident().Get()));
+    EXPECT_NO_THROW(service->Submit(*CleanIncident().Get()));
     EXPECT_EQ(2, sends);
 }
 
@@ -218,7 +216,7 @@ TEST_F(SubmissionRequest, TakesNoTimeLimitFromTheTimeout) {
     http.script.readyStates = std::vector<long>(50, 1);
     http.script.readyStates.push_back(4);
     service->Timeout = 1;
-    EXPECT_NO_THROW(service->SubmitIncident(*CleanIncident().Get()));
+    EXPECT_NO_THROW(service->Submit(*CleanIncident().Get()));
     EXPECT_EQ(50, host.yields);
     EXPECT_EQ(1, service->Timeout);
 }

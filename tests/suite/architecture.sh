@@ -62,11 +62,12 @@ run_python_rings() {
   run_unittest end-to-end backlog "$project/tests/backlog/run.sh"
 }
 
-# What needs the files that are shipped, without counters in them.
+# What needs the files that are shipped, or the options that they are compiled with, without counters.
 run_rings_of_files() {
   # The samples, and the pages of docs/ that are made with the library.
   run_unittest client samples "$simulator" "$project/tests/samples/run.sh"
   run_unittest binaries headers "$project/tests/binaries/run.sh"
+  run_unittest unit compiling "$project/tests/compiling/run.sh"
   run_unittest fuzzing fuzzing "$project/tests/fuzzing/run.sh"
 }
 

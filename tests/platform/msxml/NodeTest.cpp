@@ -37,15 +37,15 @@ std::wstring Reloaded(const std::wstring& text) {
     const Document loaded = NewDocument();
     EXPECT_OK(loaded->put_preserveWhiteSpace(VARIANT_TRUE));
     EXPECT_TRUE(LoadXml(loaded, Xml(element)));
-    return Text(Root(loaded));
+    return std::wstring(Text(Root(loaded)));
 }
 
 TEST(Node, CreatesElementsWithPrefixAndNamespace) {
     const Document document = NewDocument();
     const Element element = CreateElement(document, L"p:name", L"urn:p");
     EXPECT_EQ(L"p:name", QualifiedName(element));
-    EXPECT_EQ(L"name", LocalName(element).View());
-    EXPECT_EQ(L"urn:p", NamespaceUri(element).View());
+    EXPECT_EQ(L"name", LocalName(element));
+    EXPECT_EQ(L"urn:p", NamespaceUri(element));
     EXPECT_EQ(nullptr, Root(document).Get());
 }
 
@@ -131,9 +131,9 @@ TEST(Node, ListsElementChildrenAlone) {
     const Element root = ParseElement(L"<r>text<a><deeper/></a><!-- b --><?c d?><![CDATA[e]]><j:f/> </r>");
     const std::vector<Element> children = ChildElements(root);
     ASSERT_EQ(2u, children.size());
-    EXPECT_EQ(L"a", LocalName(children[0]).View());
-    EXPECT_EQ(L"f", LocalName(children[1]).View());
-    EXPECT_EQ(L"http://www.it.ojp.gov/jxdm/3.0.3", NamespaceUri(children[1]).View());
+    EXPECT_EQ(L"a", LocalName(children[0]));
+    EXPECT_EQ(L"f", LocalName(children[1]));
+    EXPECT_EQ(L"http://www.it.ojp.gov/jxdm/3.0.3", NamespaceUri(children[1]));
     EXPECT_TRUE(ChildElements(ParseElement(L"<r/>")).empty());
 }
 

@@ -33,7 +33,7 @@ msxml::Element Parse(const std::string& content) {
 std::vector<std::wstring> TextsOf(const msxml::Element& root, const wchar_t* xpath) {
     std::vector<std::wstring> texts;
     for (const msxml::Node& node : msxml::SelectNodes(root, xpath)) {
-        texts.push_back(msxml::Text(node));
+        texts.emplace_back(msxml::Text(node));
         if (texts.back().empty()) texts.pop_back();
     }
     return texts;
@@ -43,8 +43,8 @@ std::vector<std::wstring> TextsOf(const msxml::Element& root, const wchar_t* xpa
 
 std::optional<ServiceDescription> ReadDescription(const std::string& content) {
     const msxml::Element root = Parse(content);
-    if (!root || msxml::LocalName(root).View() != L"definitions") return {};
-    if (msxml::NamespaceUri(root).View() != kWsdlNamespace) return {};
+    if (!root || msxml::LocalName(root) != L"definitions") return {};
+    if (msxml::NamespaceUri(root) != kWsdlNamespace) return {};
     // A binding to SOAP names its action in an element of SOAP 1.1's or 1.2's namespace.
     return ServiceDescription{
         TextsOf(root, L"//wsdl:operation/@name"),

@@ -1,6 +1,7 @@
 #include "checking/LejisIncidentFormatter.h"
 
 #include "checking/FormattingRules.h"
+#include "foundation/ElementReader.h"
 #include "foundation/OutputDocument.h"
 #include "platform/com/Inside.h"
 #include "platform/ComError.h"
@@ -15,7 +16,7 @@ ComPtr<LejisIncidentIndexCard> CopyOf(const LejisIncidentIndexCard& incident) {
     const OutputDocument document = OutputDocument::Create();
     platform::Check(document.Get()->put_preserveWhiteSpace(VARIANT_TRUE));
     auto copy = platform::Create<LejisIncidentIndexCard>();
-    copy->FromXmlElement(incident.ToXmlElement(document));
+    copy->Read(ElementReader(incident.Write(document)));
     return copy;
 }
 
@@ -33,7 +34,7 @@ STDMETHODIMP LejisIncidentFormatter::Format(ILejisIncidentIndexCard* incident, I
     });
 }
 
-ComPtr<LejisIncidentIndexCard> LejisIncidentFormatter::Format(const LejisIncidentIndexCard& incident) {
+ComPtr<LejisIncidentIndexCard> LejisIncidentFormatter::Shape(const LejisIncidentIndexCard& incident) {
     StartList();
     return ShapedCopy(incident);
 }

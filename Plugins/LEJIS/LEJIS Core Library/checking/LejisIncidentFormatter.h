@@ -15,9 +15,9 @@ class LejisIncidentFormatter final : public platform::ComObject<::LejisIncidentF
 public:
     OBJECT_PROPERTY(Collection, Warnings)
     STDMETHODIMP get_HasWarnings(VARIANT_BOOL* result) override;
-    STDMETHODIMP Format(ILejisIncidentIndexCard* incident, ILejisIncidentIndexCard** result) override;
+    [[nodiscard]] STDMETHODIMP Format(ILejisIncidentIndexCard* incident, ILejisIncidentIndexCard** result) override;
 
-    Microsoft::WRL::ComPtr<LejisIncidentIndexCard> Format(const LejisIncidentIndexCard& incident);
+    Microsoft::WRL::ComPtr<LejisIncidentIndexCard> Shape(const LejisIncidentIndexCard& incident);
 
 private:
     void StartList() { Warnings = platform::Create<Collection>(); }

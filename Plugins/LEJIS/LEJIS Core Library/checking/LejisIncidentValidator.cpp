@@ -33,7 +33,7 @@ STDMETHODIMP LejisIncidentValidator::Validate(ILejisIncidentIndexCard* incident,
     });
 }
 
-bool LejisIncidentValidator::Validate(const LejisIncidentIndexCard& incident) {
+bool LejisIncidentValidator::FindErrors(const LejisIncidentIndexCard& incident) {
     StartList();
     return Check(incident);
 }

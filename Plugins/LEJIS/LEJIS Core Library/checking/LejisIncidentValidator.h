@@ -16,12 +16,12 @@ class LejisIncidentValidator final : public platform::ComObject<::LejisIncidentV
 public:
     OBJECT_PROPERTY(Collection, Errors)
     STDMETHODIMP get_HasErrors(VARIANT_BOOL* result) override;
-    STDMETHODIMP Validate(ILejisIncidentIndexCard* incident, VARIANT_BOOL* result) override;
+    [[nodiscard]] STDMETHODIMP Validate(ILejisIncidentIndexCard* incident, VARIANT_BOOL* result) override;
 
     bool HasErrors() const { return Errors->Count() > 0; }
 
     // True when errors were found. This sense is deliberate, clients depend on it.
-    bool Validate(const LejisIncidentIndexCard& incident);
+    bool FindErrors(const LejisIncidentIndexCard& incident);
 
 private:
     void StartList() { Errors = platform::Create<Collection>(); }

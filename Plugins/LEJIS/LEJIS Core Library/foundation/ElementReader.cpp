@@ -50,13 +50,13 @@ std::optional<std::wstring_view> ElementReader::TextIfAny(const ElementPath& pat
     return tree_->TextOf(*found);
 }
 
-std::optional<ElementReader> ElementReader::Child(const ElementPath& path) const {
+std::optional<ElementReader> ElementReader::Child(const ElementPath& path) const& {
     const auto found = Find(*tree_, number_, path.Steps());
     if (!found) return std::nullopt;
     return ElementReader(tree_, *found);
 }
 
-std::vector<ElementReader> ElementReader::Children(const ElementName& name) const {
+std::vector<ElementReader> ElementReader::Children(const ElementName& name) const& {
     std::vector<ElementReader> found;
     NamedChildren children(*tree_, number_, name);
     while (const auto child = children.Next()) found.push_back(ElementReader(tree_, *child));

@@ -18,10 +18,11 @@ namespace lejis {
 class ElementReader {
 public:
     // Takes all of the element from MSXML; the readers of its children share that.
-    ElementReader(const msxml::Element& element);
+    explicit ElementReader(const msxml::Element& element);
 
-    // The text of what the path selects, or an empty text. An empty element has an empty text too. Valid as long as
-    // there is a reader of the same tree.
+    // A temporary reader gives neither texts nor readers: the texts last as long as there is a reader of the same tree.
+
+    // The text of what the path selects, or an empty text. An empty element has an empty text too.
     std::wstring_view Text(const ElementPath& path) const&;
     std::wstring_view Text(const ElementPath& path) const&& = delete;
     // The same, telling an empty element from a missing one.
@@ -29,11 +30,14 @@ public:
     std::optional<std::wstring_view> TextIfAny(const ElementPath& path) const&& = delete;
 
     // The first element that the path selects, and all children of a name; none when there is none.
-    std::optional<ElementReader> Child(const ElementPath& path) const;
-    std::vector<ElementReader> Children(const ElementName& name) const;
+    std::optional<ElementReader> Child(const ElementPath& path) const&;
+    std::optional<ElementReader> Child(const ElementPath& path) const&& = delete;
+    std::vector<ElementReader> Children(const ElementName& name) const&;
+    std::vector<ElementReader> Children(const ElementName& name) const&& = delete;
 
     // The text of the element itself.
-    std::wstring_view Text() const { return tree_->TextOf(number_); }
+    std::wstring_view Text() const& { return tree_->TextOf(number_); }
+    std::wstring_view Text() const&& = delete;
 
 private:
     ElementReader(const std::shared_ptr<const ElementTree>& tree, size_t number) : tree_(tree), number_(number) {}

@@ -58,7 +58,8 @@ void ElementTree::Add(const Node& node, const ElementName& name, int depth) {
         elements_[number].parent = static_cast<uint32_t>(parents_.size());
         parents_.push_back(node);
     } else {
-        SetText(number, msxml::Text(node));
+        const platform::OutText whole = msxml::Text(node);
+        SetText(number, whole);
     }
     elements_[number].end = static_cast<uint32_t>(elements_.size());
 }
@@ -68,7 +69,8 @@ bool ElementTree::AddSiblings(Node first, int depth) {
     for (Node node = std::move(first); node; node = msxml::NextSibling(node)) {
         // No node but an element has one.
         if (const auto namespaceNumber = NamespaceOf(node)) {
-            Add(node, {*namespaceNumber, msxml::LocalName(node)}, depth);
+            const platform::OutText localName = msxml::LocalName(node);
+            Add(node, {*namespaceNumber, localName}, depth);
             areElements = true;
         } else {
             areElements = areElements || IsElement(node);

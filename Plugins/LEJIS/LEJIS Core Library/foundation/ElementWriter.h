@@ -32,8 +32,10 @@ public:
     void Child(const msxml::Element& child);
     void Child(const ElementWriter& child) { Child(child.Element()); }
 
-    const OutputDocument& Document() const { return document_; }
-    const msxml::Element& Element() const { return element_; }
+    const OutputDocument& Document() const& { return document_; }
+    const OutputDocument& Document() const&& = delete;
+    const msxml::Element& Element() const& { return element_; }
+    const msxml::Element& Element() const&& = delete;
 
 private:
     OutputDocument document_;

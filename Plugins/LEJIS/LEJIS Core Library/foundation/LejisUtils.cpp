@@ -12,7 +12,9 @@ namespace lejis::LejisUtils {
 _variant_t GetChildText(const msxml::Element& element, const std::wstring& xpath, const _variant_t& otherwise) {
     RequireElement(element);
     const msxml::Node found = msxml::SelectNode(element, xpath);
-    return found ? _variant_t(platform::ToBstr(msxml::Text(found))) : otherwise;
+    if (!found) return otherwise;
+    const platform::OutText text = msxml::Text(found);
+    return _variant_t(platform::ToBstr(text));
 }
 
 void RequireElement(const msxml::Element& element) {

@@ -37,7 +37,7 @@ msxml::Element OutputDocument::CreateMeasure(std::wstring_view name, std::wstrin
     for (const Pattern& pattern : *patterns_) {
         if (pattern.name == name) return msxml::Copy(pattern.element);
     }
-    patterns_->push_back({name, ParsedMeasure(name, unitAttribute)});
+    patterns_->push_back({std::wstring(name), ParsedMeasure(name, unitAttribute)});
     return msxml::Copy(patterns_->back().element);
 }
 

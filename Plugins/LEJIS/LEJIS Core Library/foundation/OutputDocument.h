@@ -4,6 +4,7 @@
 #include "platform/msxml/MsXml.h"
 
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -17,8 +18,10 @@ public:
     // A new and empty one of this library's own. It takes in copies of what has been parsed elsewhere.
     static OutputDocument Create();
 
-    operator const msxml::Document&() const { return document_; }
-    const msxml::Document& Get() const { return document_; }
+    operator const msxml::Document&() const& { return document_; }
+    operator const msxml::Document&() const&& = delete;
+    const msxml::Document& Get() const& { return document_; }
+    const msxml::Document& Get() const&& = delete;
 
     // A new, unattached element in the GJXDM namespace, with an attribute there which says that its value is in the
     // NCIC unit. An element has one such attribute, always the same.
@@ -26,7 +29,7 @@ public:
 
 private:
     struct Pattern {
-        std::wstring_view name;
+        std::wstring name;
         msxml::Element element;
     };
 

@@ -1,12 +1,11 @@
-// What every block of a search shows its clients: it hands on to the block's own NotEmpty, ToXmlElement,
-// FromXmlElement.
+// What every block of a search shows its clients, and what that hands on to: HasContent, Write and Read.
 #pragma once
 
 #include "model/XmlMethods.h"
 
-#define BLOCK_METHODS()                                    \
-    STDMETHODIMP NotEmpty(VARIANT_BOOL* result) override { \
-        return Guard(result, [&] { return NotEmpty(); });  \
-    }                                                      \
-    bool NotEmpty() const;                                 \
+#define BLOCK_METHODS()                                                  \
+    [[nodiscard]] STDMETHODIMP NotEmpty(VARIANT_BOOL* result) override { \
+        return Guard(result, [&] { return HasContent(); });              \
+    }                                                                    \
+    bool HasContent() const;                                             \
     XML_METHODS()

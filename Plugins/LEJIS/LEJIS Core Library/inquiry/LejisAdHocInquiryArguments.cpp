@@ -6,16 +6,14 @@
 namespace lejis {
 
 // Blanks count here, unlike in the other blocks.
-bool LejisAdHocInquiryArguments::NotEmpty() const { return !QueryString.empty(); }
+bool LejisAdHocInquiryArguments::HasContent() const { return !QueryString.empty(); }
 
-msxml::Element LejisAdHocInquiryArguments::ToXmlElement(const OutputDocument& document) const {
+msxml::Element LejisAdHocInquiryArguments::Write(const OutputDocument& document) const {
     ElementWriter query(document, L"lejis:AdHocInquiryArguments");
     query.Text(L"lejis:queryString", QueryString);
     return query.Element();
 }
 
-void LejisAdHocInquiryArguments::FromXmlElement(const ElementReader& words) {
-    QueryString = words.Text(L"lejis:queryString");
-}
+void LejisAdHocInquiryArguments::Read(const ElementReader& words) { QueryString = words.Text(L"lejis:queryString"); }
 
 }  // namespace lejis

@@ -8,9 +8,9 @@
 namespace lejis {
 
 // The controls are part of every search.
-bool LejisInquiryControls::NotEmpty() const { return true; }
+bool LejisInquiryControls::HasContent() const { return true; }
 
-msxml::Element LejisInquiryControls::ToXmlElement(const OutputDocument& document) const {
+msxml::Element LejisInquiryControls::Write(const OutputDocument& document) const {
     ElementWriter controls(document, L"lejis:InquiryControls");
     controls.Boolean(L"lejis:irrinfo", IrrInfo);
     if (MaxIncidents > 0) controls.Text(L"lejis:maxincidents", std::to_wstring(MaxIncidents));
@@ -20,7 +20,7 @@ msxml::Element LejisInquiryControls::ToXmlElement(const OutputDocument& document
     return controls.Element();
 }
 
-void LejisInquiryControls::FromXmlElement(const ElementReader& controls) {
+void LejisInquiryControls::Read(const ElementReader& controls) {
     // Exactly "false" is false; every other text, "FALSE" and "0" among them, is true on purpose.
     const auto irrInfo = controls.TextIfAny(L"lejis:irrinfo");
     IrrInfo = irrInfo && irrInfo != L"false";

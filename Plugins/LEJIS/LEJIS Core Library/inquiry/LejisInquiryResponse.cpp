@@ -1,6 +1,7 @@
 #include "inquiry/LejisInquiryResponse.h"
 
 #include "foundation/ElementName.h"
+#include "foundation/ElementReader.h"
 #include "platform/Conversions.h"
 #include "platform/msxml/Depth.h"
 #include "platform/msxml/Node.h"
@@ -39,7 +40,7 @@ STDMETHODIMP LejisInquiryResponse::FromXmlElement(IDispatch* elem) {
     return Guard([&] {
         const msxml::Element element = msxml::ElementToRead(elem);
         LejisUtils::SetSelectionNamespaces(msxml::OwnerDocument(element));
-        FromXmlElement(element);
+        Read(element);
     });
 }
 
@@ -47,18 +48,18 @@ STDMETHODIMP LejisInquiryResponse::FromXmlDocument(IDispatch* doc) {
     return Guard([&] {
         const msxml::Document document = msxml::DocumentToRead(doc);
         LejisUtils::SetSelectionNamespaces(document);
-        FromXmlBelow(document);
+        ReadBelow(document);
     });
 }
 
-void LejisInquiryResponse::FromXmlElement(const msxml::Element& element) {
+void LejisInquiryResponse::Read(const msxml::Element& element) {
     IncidentIndexCards = platform::Create<Collection>();
     std::optional<platform::OutText> count;
     // One after the other: a large answer would be too much to take at once.
     for (msxml::Node child = msxml::FirstChild(element); child; child = msxml::NextSibling(child)) {
         if (IsNamed(child, L"lejis:RMSIncidentIndexCard")) {
             const auto card = platform::Create<LejisIncidentIndexCard>();
-            card->FromXmlElement(msxml::AsElement(child));
+            card->Read(ElementReader(msxml::AsElement(child)));
             IncidentIndexCards->AddObject(card->Dispatch());
         } else if (!count && IsNamed(child, L"lejis:incidentcount")) {
             msxml::RequireBoundedDepth(child);
@@ -68,10 +69,10 @@ void LejisInquiryResponse::FromXmlElement(const msxml::Element& element) {
     IncidentCount = Count(count ? count->View() : std::wstring_view());
 }
 
-void LejisInquiryResponse::FromXmlBelow(const msxml::Node& node) {
+void LejisInquiryResponse::ReadBelow(const msxml::Node& node) {
     const msxml::Node answer = FindAnswer(node);
     if (!answer) throw platform::ObjectRequired();
-    FromXmlElement(msxml::AsElement(answer));
+    Read(msxml::AsElement(answer));
 }
 
 }  // namespace lejis

@@ -15,15 +15,15 @@ class LejisInquiryResponse final : public platform::ComObject<::LejisInquiryResp
 public:
     OBJECT_PROPERTY(Collection, IncidentIndexCards)
     STDMETHODIMP get_IncidentCount(long* result) override;
-    STDMETHODIMP FromXmlElement(IDispatch* elem) override;
-    STDMETHODIMP FromXmlDocument(IDispatch* doc) override;
+    [[nodiscard]] STDMETHODIMP FromXmlElement(IDispatch* elem) override;
+    [[nodiscard]] STDMETHODIMP FromXmlDocument(IDispatch* doc) override;
 
     long IncidentCount = 0;
 
     // A card that cannot be read raises; those before it stay, and the count keeps its old value.
-    void FromXmlElement(const msxml::Element& element);
+    void Read(const msxml::Element& element);
     // Reads the first answer at any depth of the node. Raises the object error when there is none.
-    void FromXmlBelow(const msxml::Node& node);
+    void ReadBelow(const msxml::Node& node);
 };
 
 }  // namespace lejis

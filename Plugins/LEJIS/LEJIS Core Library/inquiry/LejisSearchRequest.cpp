@@ -9,58 +9,58 @@ namespace lejis {
 namespace {
 
 template <typename Block>
-void Write(ElementWriter& inquiry, const Block& block) {
-    if (block->NotEmpty()) inquiry.Child(block->ToXmlElement(inquiry.Document()));
+void WriteBlock(ElementWriter& inquiry, const Block& block) {
+    if (block->HasContent()) inquiry.Child(block->Write(inquiry.Document()));
 }
 
 template <typename Block>
-void Read(const ElementReader& inquiry, const ElementPath& name, const Block& block) {
-    if (const auto element = inquiry.Child(name)) block->FromXmlElement(*element);
+void ReadBlock(const ElementReader& inquiry, const ElementPath& name, const Block& block) {
+    if (const auto element = inquiry.Child(name)) block->Read(*element);
 }
 
 }  // namespace
 
 STDMETHODIMP LejisSearchRequest::ToXmlElement(IDispatch* doc, IDispatch** result) {
-    return Guard(result, [&] { return msxml::ToClient(ToXmlElement(msxml::DocumentFrom(doc))); });
+    return Guard(result, [&] { return msxml::ToClient(Write(msxml::DocumentFrom(doc))); });
 }
 
 STDMETHODIMP LejisSearchRequest::ToXmlDocument(IDispatch** result) {
-    return Guard(result, [&] { return msxml::ToClient(ToXmlDocument()); });
+    return Guard(result, [&] { return msxml::ToClient(ToDocument()); });
 }
 
 STDMETHODIMP LejisSearchRequest::FromXmlElement(IDispatch* elem) {
     return Guard([&] {
         const msxml::Element element = msxml::ElementToRead(elem);
         LejisUtils::SetSelectionNamespaces(msxml::OwnerDocument(element));
-        FromXmlElement(element);
+        Read(ElementReader(element));
     });
 }
 
-msxml::Element LejisSearchRequest::ToXmlElement(const OutputDocument& document) const {
+msxml::Element LejisSearchRequest::Write(const OutputDocument& document) const {
     ElementWriter inquiry(document, L"inq:LEJISIndexInquiry");
     msxml::AppendRoot(document, inquiry.Element());
-    Write(inquiry, personArguments);
-    Write(inquiry, LocationArguments);
-    Write(inquiry, PropertyArguments);
-    Write(inquiry, VehicleArguments);
-    Write(inquiry, AdHocInquiryArguments);
-    Write(inquiry, InquiryControls);
+    WriteBlock(inquiry, personArguments);
+    WriteBlock(inquiry, LocationArguments);
+    WriteBlock(inquiry, PropertyArguments);
+    WriteBlock(inquiry, VehicleArguments);
+    WriteBlock(inquiry, AdHocInquiryArguments);
+    WriteBlock(inquiry, InquiryControls);
     return inquiry.Element();
 }
 
-msxml::Document LejisSearchRequest::ToXmlDocument() const {
+msxml::Document LejisSearchRequest::ToDocument() const {
     const OutputDocument document = OutputDocument::Create();
-    ToXmlElement(document);
-    return document;
+    Write(document);
+    return document.Get();
 }
 
-void LejisSearchRequest::FromXmlElement(const ElementReader& inquiry) {
-    Read(inquiry, L"inq:PersonInquiryArguments", personArguments);
-    Read(inquiry, L"inq:LocationInquiryArguments", LocationArguments);
-    Read(inquiry, L"inq:PropertyInquiryArguments", PropertyArguments);
-    Read(inquiry, L"inq:VehicleInquiryArguments", VehicleArguments);
-    Read(inquiry, L"lejis:AdHocInquiryArguments", AdHocInquiryArguments);
-    Read(inquiry, L"lejis:InquiryControls", InquiryControls);
+void LejisSearchRequest::Read(const ElementReader& inquiry) {
+    ReadBlock(inquiry, L"inq:PersonInquiryArguments", personArguments);
+    ReadBlock(inquiry, L"inq:LocationInquiryArguments", LocationArguments);
+    ReadBlock(inquiry, L"inq:PropertyInquiryArguments", PropertyArguments);
+    ReadBlock(inquiry, L"inq:VehicleInquiryArguments", VehicleArguments);
+    ReadBlock(inquiry, L"lejis:AdHocInquiryArguments", AdHocInquiryArguments);
+    ReadBlock(inquiry, L"lejis:InquiryControls", InquiryControls);
 }
 
 }  // namespace lejis

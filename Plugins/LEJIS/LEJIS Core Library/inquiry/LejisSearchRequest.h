@@ -22,15 +22,15 @@ public:
     OBJECT_PROPERTY(VehicleInquiryArguments, VehicleArguments)
     OBJECT_PROPERTY(LejisAdHocInquiryArguments, AdHocInquiryArguments)
     OBJECT_PROPERTY(LejisInquiryControls, InquiryControls)
-    STDMETHODIMP ToXmlElement(IDispatch* doc, IDispatch** result) override;
-    STDMETHODIMP ToXmlDocument(IDispatch** result) override;
-    STDMETHODIMP FromXmlElement(IDispatch* elem) override;
+    [[nodiscard]] STDMETHODIMP ToXmlElement(IDispatch* doc, IDispatch** result) override;
+    [[nodiscard]] STDMETHODIMP ToXmlDocument(IDispatch** result) override;
+    [[nodiscard]] STDMETHODIMP FromXmlElement(IDispatch* elem) override;
 
     // Becomes the root of the document. Raises when that has a root.
-    msxml::Element ToXmlElement(const OutputDocument& document) const;
-    msxml::Document ToXmlDocument() const;
+    msxml::Element Write(const OutputDocument& document) const;
+    msxml::Document ToDocument() const;
     // A block whose element is missing stays as it is.
-    void FromXmlElement(const ElementReader& element);
+    void Read(const ElementReader& element);
 };
 
 }  // namespace lejis

@@ -6,11 +6,11 @@
 
 namespace lejis {
 
-bool LocationInquiryArguments::NotEmpty() const {
+bool LocationInquiryArguments::HasContent() const {
     return AnyNotBlank({&StreetFullText, &StreetName, &City, &State, &ZIP});
 }
 
-msxml::Element LocationInquiryArguments::ToXmlElement(const OutputDocument& document) const {
+msxml::Element LocationInquiryArguments::Write(const OutputDocument& document) const {
     ElementWriter location(document, L"inq:LocationInquiryArguments");
     location.OptionalText(L"j:StreetFullText", StreetFullText);
     location.OptionalText(L"j:StreetName", StreetName);
@@ -20,7 +20,7 @@ msxml::Element LocationInquiryArguments::ToXmlElement(const OutputDocument& docu
     return location.Element();
 }
 
-void LocationInquiryArguments::FromXmlElement(const ElementReader& location) {
+void LocationInquiryArguments::Read(const ElementReader& location) {
     StreetFullText = location.Text(L"j:StreetFullText");
     StreetName = location.Text(L"j:StreetName");
     City = location.Text(L"j:LocationCityName");

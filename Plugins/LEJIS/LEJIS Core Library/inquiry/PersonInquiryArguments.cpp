@@ -10,14 +10,14 @@
 
 namespace lejis {
 
-bool PersonInquiryArguments::NotEmpty() const {
+bool PersonInquiryArguments::HasContent() const {
     return AnyNotBlank(
                {&GivenName, &MiddleName, &SurName, &SSN, &DriversLicense, &DriversLicenseState, &SexNCIC, &RaceNCIC}) ||
            BirthDate->Date() || Height->Number() || Weight->Number();
 }
 
 // Blanks do not make the block worth sending, but are written where another field does.
-msxml::Element PersonInquiryArguments::ToXmlElement(const OutputDocument& document) const {
+msxml::Element PersonInquiryArguments::Write(const OutputDocument& document) const {
     ElementWriter person(document, L"inq:PersonInquiryArguments");
     person.Text(L"j:PersonSurName", SurName);
     person.Text(L"j:PersonGivenName", GivenName);
@@ -38,7 +38,7 @@ msxml::Element PersonInquiryArguments::ToXmlElement(const OutputDocument& docume
     return person.Element();
 }
 
-void PersonInquiryArguments::FromXmlElement(const ElementReader& person) {
+void PersonInquiryArguments::Read(const ElementReader& person) {
     SurName = person.Text(L"j:PersonSurName");
     GivenName = person.Text(L"j:PersonGivenName");
     MiddleName = person.Text(L"j:PersonMiddleName");

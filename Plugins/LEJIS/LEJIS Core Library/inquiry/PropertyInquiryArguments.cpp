@@ -6,10 +6,10 @@
 
 namespace lejis {
 
-bool PropertyInquiryArguments::NotEmpty() const { return AnyNotBlank({&Category, &Make, &Model, &SerialNumber}); }
+bool PropertyInquiryArguments::HasContent() const { return AnyNotBlank({&Category, &Make, &Model, &SerialNumber}); }
 
 // Unlike the other blocks this one writes all it has, empty texts too.
-msxml::Element PropertyInquiryArguments::ToXmlElement(const OutputDocument& document) const {
+msxml::Element PropertyInquiryArguments::Write(const OutputDocument& document) const {
     ElementWriter property(document, L"inq:PropertyInquiryArguments");
     property.Text(L"j:PropertyCategoryText", Category);
     property.Text(L"j:PropertyMakeName", Make);
@@ -18,7 +18,7 @@ msxml::Element PropertyInquiryArguments::ToXmlElement(const OutputDocument& docu
     return property.Element();
 }
 
-void PropertyInquiryArguments::FromXmlElement(const ElementReader& property) {
+void PropertyInquiryArguments::Read(const ElementReader& property) {
     Category = property.Text(L"j:PropertyCategoryText");
     Make = property.Text(L"j:PropertyMakeName");
     Model = property.Text(L"j:PropertyModelName");

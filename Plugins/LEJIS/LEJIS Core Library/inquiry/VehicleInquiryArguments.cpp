@@ -9,11 +9,11 @@
 
 namespace lejis {
 
-bool VehicleInquiryArguments::NotEmpty() const {
+bool VehicleInquiryArguments::HasContent() const {
     return AnyNotBlank({&Make, &Model, &Style, &Color, &LicensePlate, &LicensePlateState, &VIN}) || Year->Number();
 }
 
-msxml::Element VehicleInquiryArguments::ToXmlElement(const OutputDocument& document) const {
+msxml::Element VehicleInquiryArguments::Write(const OutputDocument& document) const {
     ElementWriter vehicle(document, L"inq:VehicleInquiryArguments");
     vehicle.OptionalId(L"j:VehicleID", VIN);
     // Either half will do for a search, and both elements are written then.
@@ -30,7 +30,7 @@ msxml::Element VehicleInquiryArguments::ToXmlElement(const OutputDocument& docum
     return vehicle.Element();
 }
 
-void VehicleInquiryArguments::FromXmlElement(const ElementReader& vehicle) {
+void VehicleInquiryArguments::Read(const ElementReader& vehicle) {
     VIN = vehicle.Text(L"j:VehicleID/j:ID");
     LicensePlate = vehicle.Text(L"j:VehicleLicensePlateID/j:ID");
     LicensePlateState = vehicle.Text(L"j:VehicleLicensePlateID/j:IDJurisdictionCode.ncicLSTA");

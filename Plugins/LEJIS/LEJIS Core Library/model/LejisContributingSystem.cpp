@@ -18,7 +18,7 @@ std::wstring LibraryVersion() {
 LejisContributingSystem::LejisContributingSystem()
     : CompanyName(L"Talvex"), SystemName(L"TalvexSuite"), SystemVersion(LibraryVersion()) {}
 
-msxml::Element LejisContributingSystem::ToXmlElement(const OutputDocument& document) const {
+msxml::Element LejisContributingSystem::Write(const OutputDocument& document) const {
     // The names begin in lower case, unlike the GJXDM names around them.
     ElementWriter system(document, L"lejis:ContributingSystem");
     system.Text(L"ext:companyName", CompanyName);
@@ -27,7 +27,7 @@ msxml::Element LejisContributingSystem::ToXmlElement(const OutputDocument& docum
     return system.Element();
 }
 
-void LejisContributingSystem::FromXmlElement(const ElementReader& system) {
+void LejisContributingSystem::Read(const ElementReader& system) {
     CompanyName = system.Text(L"ext:companyName");
     SystemName = system.Text(L"ext:systemName");
     SystemVersion = system.Text(L"ext:systemVersion");

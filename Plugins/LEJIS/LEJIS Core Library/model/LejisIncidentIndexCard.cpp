@@ -12,7 +12,7 @@ namespace {
 
 template <typename Card>
 void WriteCards(ElementWriter& incident, const Collection& cards) {
-    for (const auto& card : cards.ItemsAs<Card>()) incident.Child(card->ToXmlElement(incident.Document()));
+    for (const auto& card : cards.ItemsAs<Card>()) incident.Child(card->Write(incident.Document()));
 }
 
 ElementReader RequiredChild(const ElementReader& element, const ElementPath& name) {
@@ -27,7 +27,7 @@ Microsoft::WRL::ComPtr<Collection> ReadCardsOf(const std::vector<ElementReader>&
     for (const ElementReader& element : elements) {
         const auto card = platform::Create<Card>();
         try {
-            card->FromXmlElement(element);
+            card->Read(element);
         } catch (const platform::ComError&) {
             // Deliberate: a card that cannot be read to its end is kept as far as it could be read.
         }
@@ -47,14 +47,14 @@ bool AnyHasCaution(const Collection& cards) {
 
 }  // namespace
 
-msxml::Element LejisIncidentIndexCard::ToXmlElement(const OutputDocument& document) const {
+msxml::Element LejisIncidentIndexCard::Write(const OutputDocument& document) const {
     ElementWriter identifiers(document, L"card:LejisIndexUid");
     identifiers.Id(L"j:OrganizationORIID", OrganizationORI());
     identifiers.Id(L"j:ActivityID", ActivityID());
     ElementWriter submitter(document, L"j:SubmissionSubmitter.Organization");
     submitter.Text(L"j:OrganizationName", OrganizationName());
     ElementWriter location(document, L"j:IncidentLocation");
-    location.Child(Location->ToXmlElement(document));
+    location.Child(Location->Write(document));
 
     ElementWriter incident(document, L"lejis:RMSIncidentIndexCard");
     incident.Child(identifiers);
@@ -67,7 +67,7 @@ msxml::Element LejisIncidentIndexCard::ToXmlElement(const OutputDocument& docume
     incident.OptionalText(L"j:ChargeNCICCode", ChargeNCICCode());
     incident.OptionalText(L"j:ChargeDescriptionText", ChargeDescriptionText());
     // Not the incident's own flag alone: the index shows the caution of any card at the incident.
-    incident.Boolean(L"ext:CautionIndicatorFlag", HasCaution());
+    incident.Boolean(L"ext:CautionIndicatorFlag", NeedsCaution());
     // Vehicles are written before property and read after it; both orders are deliberate.
     WriteCards<LejisPersonIndexCard>(incident, *PersonIndexCards.Get());
     WriteCards<LejisVehicleIndexCard>(incident, *VehicleIndexCards.Get());
@@ -75,10 +75,10 @@ msxml::Element LejisIncidentIndexCard::ToXmlElement(const OutputDocument& docume
     return incident.Element();
 }
 
-void LejisIncidentIndexCard::FromXmlElement(const ElementReader& incident) {
+void LejisIncidentIndexCard::Read(const ElementReader& incident) {
     ReadIdentifiers(incident);
     ReadActivityDateTime(incident);
-    if (const auto location = incident.Child(L"j:IncidentLocation")) Location->FromXmlElement(*location);
+    if (const auto location = incident.Child(L"j:IncidentLocation")) Location->Read(*location);
     SetChargeNCICCode(incident.Text(L"j:ChargeNCICCode"));
     SetChargeDescriptionText(incident.Text(L"j:ChargeDescriptionText"));
     SetCaveatText(incident.Text(L"j:CaveatText"));
@@ -88,10 +88,10 @@ void LejisIncidentIndexCard::FromXmlElement(const ElementReader& incident) {
 }
 
 STDMETHODIMP LejisIncidentIndexCard::HasCaution(VARIANT_BOOL* result) {
-    return Guard(result, [&] { return HasCaution(); });
+    return Guard(result, [&] { return NeedsCaution(); });
 }
 
-bool LejisIncidentIndexCard::HasCaution() const {
+bool LejisIncidentIndexCard::NeedsCaution() const {
     return CautionIndicator || AnyHasCaution<LejisPersonIndexCard>(*PersonIndexCards.Get()) ||
            AnyHasCaution<LejisPropertyIndexCard>(*PropertyIndexCards.Get()) ||
            AnyHasCaution<LejisVehicleIndexCard>(*VehicleIndexCards.Get());

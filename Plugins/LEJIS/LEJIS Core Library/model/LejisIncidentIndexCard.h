@@ -40,8 +40,8 @@ public:
     OBJECT_PROPERTY(Collection, PropertyIndexCards)
     XML_METHODS()
 
-    STDMETHODIMP HasCaution(VARIANT_BOOL* result) override;
-    bool HasCaution() const;
+    [[nodiscard]] STDMETHODIMP HasCaution(VARIANT_BOOL* result) override;
+    bool NeedsCaution() const;
 
 private:
     void ReadIdentifiers(const ElementReader& incident);

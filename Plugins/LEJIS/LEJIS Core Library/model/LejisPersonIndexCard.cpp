@@ -9,11 +9,11 @@
 
 namespace lejis {
 
-msxml::Element LejisPersonIndexCard::ToXmlElement(const OutputDocument& document) const {
+msxml::Element LejisPersonIndexCard::Write(const OutputDocument& document) const {
     ElementWriter organization(document, L"j:IncidentJurisdictionalOrganization");
     organization.Text(L"j:OrganizationName", OrganizationName());
     ElementWriter residence(document, L"j:Residence");
-    residence.Child(address->ToXmlElement(document));
+    residence.Child(address->Write(document));
 
     ElementWriter card(document, L"card:RMSPersonIndexCards");
     card.Child(organization);
@@ -38,13 +38,13 @@ msxml::Element LejisPersonIndexCard::ToXmlElement(const OutputDocument& document
     return card.Element();
 }
 
-void LejisPersonIndexCard::FromXmlElement(const ElementReader& card) {
+void LejisPersonIndexCard::Read(const ElementReader& card) {
     Reset();
     SetOrganizationName(card.Text(L"j:IncidentJurisdictionalOrganization/j:OrganizationName"));
     SetSurName(card.Text(L"j:PersonSurName"));
     SetMiddleName(card.Text(L"j:PersonMiddleName"));
     SetGivenName(card.Text(L"j:PersonGivenName"));
-    if (const auto residence = card.Child(L"j:Residence")) address->FromXmlElement(*residence);
+    if (const auto residence = card.Child(L"j:Residence")) address->Read(*residence);
     SetSSN(card.Text(L"j:PersonSSNID/j:ID"));
     SetDriversLicense(card.Text(L"j:PersonDriverLicenseID/j:ID"));
     SetDriversLicenseState(card.Text(L"j:PersonDriverLicenseID/j:IDJurisdictionCode.ncicLSTA"));

@@ -10,7 +10,7 @@ STDMETHODIMP LejisPropertyIndexCard::LoadDefaults() {
     return Guard([&] { Reset(); });
 }
 
-msxml::Element LejisPropertyIndexCard::ToXmlElement(const OutputDocument& document) const {
+msxml::Element LejisPropertyIndexCard::Write(const OutputDocument& document) const {
     ElementWriter card(document, L"card:RMSPropertyIndexCards");
     card.OptionalText(L"j:PropertyCategoryCode.nibrsPropertyCategory", NibrsCategoryCode());
     card.OptionalText(L"j:PropertyTypeText", Category());
@@ -22,7 +22,7 @@ msxml::Element LejisPropertyIndexCard::ToXmlElement(const OutputDocument& docume
     return card.Element();
 }
 
-void LejisPropertyIndexCard::FromXmlElement(const ElementReader& card) {
+void LejisPropertyIndexCard::Read(const ElementReader& card) {
     Reset();
     SetNibrsCategoryCode(card.Text(L"j:PropertyCategoryCode.nibrsPropertyCategory"));
     SetCategory(card.Text(L"j:PropertyTypeText"));

@@ -8,7 +8,7 @@
 
 namespace lejis {
 
-msxml::Element LejisStreetAddress::ToXmlElement(const OutputDocument& document) const {
+msxml::Element LejisStreetAddress::Write(const OutputDocument& document) const {
     ElementWriter address(document, L"j:LocationAddress");
     address.Child(StreetElement(document));
     address.Text(L"j:LocationCityName", City());
@@ -31,7 +31,7 @@ msxml::Element LejisStreetAddress::StreetElement(const OutputDocument& document)
     return street.Element();
 }
 
-void LejisStreetAddress::FromXmlElement(const ElementReader& element) {
+void LejisStreetAddress::Read(const ElementReader& element) {
     Reset();
     const auto address = element.Child(L"j:LocationAddress");
     if (!address) return;

@@ -7,30 +7,30 @@
 namespace lejis {
 
 STDMETHODIMP LejisSubmissionDocument::ToXmlElement(IDispatch* doc, IDispatch** result) {
-    return Guard(result, [&] { return msxml::ToClient(ToXmlElement(msxml::DocumentFrom(doc))); });
+    return Guard(result, [&] { return msxml::ToClient(Write(msxml::DocumentFrom(doc))); });
 }
 
 STDMETHODIMP LejisSubmissionDocument::ToXmlDocument(IDispatch** result) {
-    return Guard(result, [&] { return msxml::ToClient(ToXmlDocument()); });
+    return Guard(result, [&] { return msxml::ToClient(ToDocument()); });
 }
 
 void LejisSubmissionDocument::Add(const Microsoft::WRL::ComPtr<LejisIncidentIndexCard>& incident) {
     IncidentIndexCards->AddObject(incident->Dispatch());
 }
 
-msxml::Element LejisSubmissionDocument::ToXmlElement(const OutputDocument& document) const {
+msxml::Element LejisSubmissionDocument::Write(const OutputDocument& document) const {
     ElementWriter submission(document, L"lejis:SubmitRmsIndex");
     msxml::AppendRoot(document, submission.Element());
     IncidentIndexCards->ForEach<LejisIncidentIndexCard>(
-        [&](const auto& incident) { submission.Child(incident.ToXmlElement(document)); });
-    submission.Child(ContributingSystem->ToXmlElement(document));
+        [&](const auto& incident) { submission.Child(incident.Write(document)); });
+    submission.Child(ContributingSystem->Write(document));
     return submission.Element();
 }
 
-msxml::Document LejisSubmissionDocument::ToXmlDocument() const {
+msxml::Document LejisSubmissionDocument::ToDocument() const {
     const OutputDocument document = OutputDocument::Create();
-    ToXmlElement(document);
-    return document;
+    Write(document);
+    return document.Get();
 }
 
 }  // namespace lejis

@@ -15,14 +15,14 @@ class LejisSubmissionDocument final : public platform::ComObject<::LejisSubmissi
 public:
     OBJECT_PROPERTY(Collection, IncidentIndexCards)
     OBJECT_PROPERTY(LejisContributingSystem, ContributingSystem)
-    STDMETHODIMP ToXmlElement(IDispatch* doc, IDispatch** result) override;
-    STDMETHODIMP ToXmlDocument(IDispatch** result) override;
+    [[nodiscard]] STDMETHODIMP ToXmlElement(IDispatch* doc, IDispatch** result) override;
+    [[nodiscard]] STDMETHODIMP ToXmlDocument(IDispatch** result) override;
 
     void Add(const Microsoft::WRL::ComPtr<LejisIncidentIndexCard>& incident);
 
     // Becomes the root of the document. Raises when that has a root.
-    msxml::Element ToXmlElement(const OutputDocument& document) const;
-    msxml::Document ToXmlDocument() const;
+    msxml::Element Write(const OutputDocument& document) const;
+    msxml::Document ToDocument() const;
 };
 
 }  // namespace lejis

@@ -8,7 +8,7 @@
 
 namespace lejis {
 
-msxml::Element LejisVehicleIndexCard::ToXmlElement(const OutputDocument& document) const {
+msxml::Element LejisVehicleIndexCard::Write(const OutputDocument& document) const {
     // Make and style are of the LEJIS extension, the rest is GJXDM.
     ElementWriter card(document, L"card:RMSVehicleIndexCards");
     card.OptionalText(L"ext:VehicleMakeText", Make());
@@ -24,7 +24,7 @@ msxml::Element LejisVehicleIndexCard::ToXmlElement(const OutputDocument& documen
     return card.Element();
 }
 
-void LejisVehicleIndexCard::FromXmlElement(const ElementReader& card) {
+void LejisVehicleIndexCard::Read(const ElementReader& card) {
     Reset();
     SetMake(card.Text(L"ext:VehicleMakeText"));
     SetModel(card.Text(L"j:VehicleModelCodeText"));

@@ -1,4 +1,5 @@
-// The two methods by which a card meets its clients: they hand on to the card's own ToXmlElement and FromXmlElement.
+// The two methods by which a card meets its clients, and the two that they hand on to: Write and Read. The names differ
+// on purpose: a call inside never takes the client's method, whose result says whether it failed.
 #pragma once
 
 #include "foundation/ElementReader.h"
@@ -6,12 +7,12 @@
 #include "foundation/OutputDocument.h"
 #include "platform/msxml/Document.h"
 
-#define XML_METHODS()                                                                                  \
-    STDMETHODIMP ToXmlElement(IDispatch* doc, IDispatch** result) override {                           \
-        return Guard(result, [&] { return msxml::ToClient(ToXmlElement(msxml::DocumentFrom(doc))); }); \
-    }                                                                                                  \
-    STDMETHODIMP FromXmlElement(IDispatch* elem) override {                                            \
-        return Guard([&] { FromXmlElement(LejisUtils::ElementToRead(elem)); });                        \
-    }                                                                                                  \
-    msxml::Element ToXmlElement(const OutputDocument& document) const;                                 \
-    void FromXmlElement(const ElementReader& element);
+#define XML_METHODS()                                                                           \
+    [[nodiscard]] STDMETHODIMP ToXmlElement(IDispatch* doc, IDispatch** result) override {      \
+        return Guard(result, [&] { return msxml::ToClient(Write(msxml::DocumentFrom(doc))); }); \
+    }                                                                                           \
+    [[nodiscard]] STDMETHODIMP FromXmlElement(IDispatch* elem) override {                       \
+        return Guard([&] { Read(ElementReader(LejisUtils::ElementToRead(elem))); });            \
+    }                                                                                           \
+    msxml::Element Write(const OutputDocument& document) const;                                 \
+    void Read(const ElementReader& element);

@@ -22,14 +22,17 @@ public:
     BSTR* Receive() { return &text_; }
 
     // A null text is no text.
-    std::wstring_view View() const {
+    std::wstring_view View() const& {
         if (!text_) return {};
         // A BSTR's length in bytes stands before it; SysStringLen would be a call for each of a hundred thousand texts.
         return {text_, reinterpret_cast<const DWORD*>(text_)[-1] / sizeof(wchar_t)};
     }
 
-    operator std::wstring_view() const { return View(); }
-    operator std::wstring() const { return std::wstring(View()); }
+    // Not of a temporary text, whose characters would end before the view.
+    std::wstring_view View() const&& = delete;
+
+    operator std::wstring_view() const& { return View(); }
+    operator std::wstring_view() const&& = delete;
     friend bool operator==(const OutText& one, std::wstring_view other) { return one.View() == other; }
     friend bool operator==(const OutText& one, const OutText& other) { return one.View() == other.View(); }
 

@@ -53,7 +53,7 @@ STDMETHODIMP LejisSearchWebService::Search(ILejisSearchRequest* request) {
 }
 
 void LejisSearchWebService::Send(const LejisSearchRequest& request) {
-    const msxml::Document envelope = WrapInSearchEnvelope(msxml::Root(request.ToXmlDocument()), Username);
+    const msxml::Document envelope = WrapInSearchEnvelope(msxml::Root(request.ToDocument()), Username);
     LejisUtils::SaveDebugDocument(envelope, L"LejisSearchRequest.xml");
     if (ValidateSchema) SchemaUtils::ValidateSchemaFromWSDL(envelope, URL + L"?wsdl");
     Post(envelope);
@@ -120,9 +120,9 @@ void LejisSearchWebService::RaiseFound() {
     if (!answer) return;
     LejisUtils::SaveDebugDocument(answer, L"LejisSearchResponse.xml");
     const auto envelope = platform::Create<SOAPEnvelope>();
-    envelope->FromXmlDocument(answer);
+    envelope->ReadDocument(answer);
     const auto response = platform::Create<LejisInquiryResponse>();
-    response->FromXmlBelow(envelope->BodyElement());
+    response->ReadBelow(envelope->BodyElement());
     if (response->IncidentCount != 0 && response->IncidentIndexCards->Count() == 0) {
         return FireReason(kServiceError, kTooBroad);
     }
@@ -135,8 +135,8 @@ void LejisSearchWebService::RaiseServiceError() {
     if (!answer) throw platform::ObjectRequired();
     if (msxml::Root(answer)) {
         const auto envelope = platform::Create<SOAPEnvelope>();
-        envelope->FromXmlDocument(answer);
-        if (envelope->IsFault()) return FireReason(kServiceError, envelope->FaultMessage());
+        envelope->ReadDocument(answer);
+        if (envelope->HasFault()) return FireReason(kServiceError, envelope->TextOfFault());
     }
     FireReason(kServiceError, kUnexpectedResponse);
 }

@@ -20,25 +20,25 @@ using platform::ComError;
 namespace lejis {
 
 STDMETHODIMP LejisSubmissionWebService::SubmitIncident(ILejisIncidentIndexCard* incident, ICollection** result) {
-    return Guard(result, [&] { return SubmitIncident(*platform::Inside<LejisIncidentIndexCard>(incident).Get()); });
+    return Guard(result, [&] { return Submit(*platform::Inside<LejisIncidentIndexCard>(incident).Get()); });
 }
 
 STDMETHODIMP LejisSubmissionWebService::DeleteIncident(ILejisIncidentIndexCard* incident) {
-    return Guard([&] { DeleteIncident(*platform::Inside<LejisIncidentIndexCard>(incident).Get()); });
+    return Guard([&] { Withdraw(*platform::Inside<LejisIncidentIndexCard>(incident).Get()); });
 }
 
-ComPtr<Collection> LejisSubmissionWebService::SubmitIncident(const LejisIncidentIndexCard& incident) {
+ComPtr<Collection> LejisSubmissionWebService::Submit(const LejisIncidentIndexCard& incident) {
     const auto formatter = platform::Create<LejisIncidentFormatter>();
-    const auto copy = formatter->Format(incident);
+    const auto copy = formatter->Shape(incident);
     const auto validator = platform::Create<LejisIncidentValidator>();
-    if (validator->Validate(*copy.Get())) throw FatalError(platform::ToText(validator->Errors->Item(1)));
+    if (validator->FindErrors(*copy.Get())) throw FatalError(platform::ToText(validator->Errors->Item(1)));
     const auto document = platform::Create<LejisSubmissionDocument>();
     document->Add(copy);
-    Submit(*document.Get());
+    SendAndJudge(*document.Get());
     return formatter->Warnings;
 }
 
-void LejisSubmissionWebService::DeleteIncident(const LejisIncidentIndexCard& incident) {
+void LejisSubmissionWebService::Withdraw(const LejisIncidentIndexCard& incident) {
     const auto bare = platform::Create<LejisIncidentIndexCard>();
     bare->SetActivityID(incident.ActivityID());
     bare->SetOrganizationName(incident.OrganizationName());
@@ -46,10 +46,10 @@ void LejisSubmissionWebService::DeleteIncident(const LejisIncidentIndexCard& inc
     bare->SubmittedDate->Set(incident.SubmittedDate->Date());
     const auto document = platform::Create<LejisSubmissionDocument>();
     document->Add(bare);
-    Submit(*document.Get());
+    SendAndJudge(*document.Get());
 }
 
-void LejisSubmissionWebService::Submit(const LejisSubmissionDocument& document) {
+void LejisSubmissionWebService::SendAndJudge(const LejisSubmissionDocument& document) {
     int step = 1;
     try {
         DoSubmit(document, false);
@@ -64,7 +64,7 @@ void LejisSubmissionWebService::DoSubmit(const LejisSubmissionDocument& document
     int step = 1;
     platform::HttpRequest request;
     try {
-        const msxml::Document envelope = WrapInEnvelope(msxml::Root(document.ToXmlDocument()));
+        const msxml::Document envelope = WrapInEnvelope(msxml::Root(document.ToDocument()));
         step = 2;
         LejisUtils::SaveDebugDocument(envelope, L"LejisSubmitRequest.xml");
         step = 3;

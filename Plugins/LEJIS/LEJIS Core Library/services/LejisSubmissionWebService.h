@@ -20,15 +20,15 @@ public:
     TEXT_PROPERTY(URL)
     // Kept for the client and applied nowhere: the request has no time-outs, and the wait for it has no end of its own.
     LONG_PROPERTY(Timeout)
-    STDMETHODIMP SubmitIncident(ILejisIncidentIndexCard* incident, ICollection** result) override;
-    STDMETHODIMP DeleteIncident(ILejisIncidentIndexCard* incident) override;
+    [[nodiscard]] STDMETHODIMP SubmitIncident(ILejisIncidentIndexCard* incident, ICollection** result) override;
+    [[nodiscard]] STDMETHODIMP DeleteIncident(ILejisIncidentIndexCard* incident) override;
     STDMETHODIMP OnReadyStateChange() override;
     STDMETHODIMP Run() override { return IRunnable_Run(); }
 
     // Shapes, checks and sends the incident; returns the warnings.
-    Microsoft::WRL::ComPtr<Collection> SubmitIncident(const LejisIncidentIndexCard& incident);
+    Microsoft::WRL::ComPtr<Collection> Submit(const LejisIncidentIndexCard& incident);
     // Sends the incident's identifiers alone, which withdraws it.
-    void DeleteIncident(const LejisIncidentIndexCard& incident);
+    void Withdraw(const LejisIncidentIndexCard& incident);
 
     // Sends without waiting. Every outcome, failures of the sending included, is an event.
     void SubmitAsync(const LejisSubmissionDocument& document);
@@ -36,7 +36,7 @@ public:
 private:
     STDMETHODIMP IRunnable_Run();
 
-    void Submit(const LejisSubmissionDocument& document);
+    void SendAndJudge(const LejisSubmissionDocument& document);
     void DoSubmit(const LejisSubmissionDocument& document, bool asynchronous);
     void RaiseOutcome();
     void RaiseServiceError();

@@ -67,8 +67,8 @@ void LejisSubmissionWebService::RaiseServiceError() {
     if (!msxml::Root(response)) return FireReason(kServiceError, kUnexpectedResponse);
     LejisUtils::SaveDebugDocument(response, L"LejisSubmitResponse.xml");
     const auto envelope = platform::Create<SOAPEnvelope>();
-    envelope->FromXmlDocument(response);
-    FireReason(kServiceError, envelope->IsFault() ? envelope->FaultMessage() : L"Unknown error");
+    envelope->ReadDocument(response);
+    FireReason(kServiceError, envelope->HasFault() ? envelope->TextOfFault() : L"Unknown error");
 }
 
 void LejisSubmissionWebService::FireReason(DISPID event, const std::wstring& reasonMessage) {

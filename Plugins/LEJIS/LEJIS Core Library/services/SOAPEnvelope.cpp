@@ -23,28 +23,28 @@ STDMETHODIMP SOAPEnvelope::put_Body(BSTR newValue) {
 }
 
 STDMETHODIMP SOAPEnvelope::IsFault(VARIANT_BOOL* result) {
-    return Guard(result, [&] { return IsFault(); });
+    return Guard(result, [&] { return HasFault(); });
 }
 
 STDMETHODIMP SOAPEnvelope::FaultMessage(BSTR* result) {
-    return Guard(result, [&] { return FaultMessage(); });
+    return Guard(result, [&] { return TextOfFault(); });
 }
 
 STDMETHODIMP SOAPEnvelope::FaultCode(BSTR* result) {
-    return Guard(result, [&] { return FaultCode(); });
+    return Guard(result, [&] { return CodeOfFault(); });
 }
 
 STDMETHODIMP SOAPEnvelope::BodyXml(IDispatch** result) {
-    return Guard(result, [&] { return msxml::ToClient(BodyXml()); });
+    return Guard(result, [&] { return msxml::ToClient(BodyDocument()); });
 }
 
 STDMETHODIMP SOAPEnvelope::ToXmlElement(IDispatch* doc, IDispatch** result) {
-    return Guard(result, [&] { return msxml::ToClient(ToXmlElement(msxml::DocumentFrom(doc))); });
+    return Guard(result, [&] { return msxml::ToClient(Write(msxml::DocumentFrom(doc))); });
 }
 
 STDMETHODIMP SOAPEnvelope::FromXmlElement(IDispatch* elem) {
     return Guard([&] {
-        FromXmlElement(msxml::ElementToRead(elem));
+        Read(msxml::ElementToRead(elem));
         TakeBodyText();
     });
 }
@@ -53,7 +53,7 @@ STDMETHODIMP SOAPEnvelope::FromXmlDocument(IDispatch* doc) {
     return Guard([&] {
         const msxml::Document document = msxml::DocumentToRead(doc);
         msxml::RequireBoundedDepth(document);
-        FromXmlDocument(document);
+        ReadDocument(document);
         TakeBodyText();
     });
 }
@@ -65,18 +65,18 @@ void SOAPEnvelope::TakeBodyText() {
 
 std::wstring SOAPEnvelope::Body() const { return readBody_ ? msxml::Markup(readBody_) : bodyText_; }
 
-bool SOAPEnvelope::IsFault() const { return msxml::SelectNode(BodyElement(), L"soap:Fault") != nullptr; }
+bool SOAPEnvelope::HasFault() const { return msxml::SelectNode(BodyElement(), L"soap:Fault") != nullptr; }
 
-std::wstring SOAPEnvelope::FaultMessage() const { return FaultText(L"soap:Fault/faultstring"); }
+std::wstring SOAPEnvelope::TextOfFault() const { return FaultText(L"soap:Fault/faultstring"); }
 
-std::wstring SOAPEnvelope::FaultCode() const { return FaultText(L"soap:Fault/faultcode"); }
+std::wstring SOAPEnvelope::CodeOfFault() const { return FaultText(L"soap:Fault/faultcode"); }
 
 std::wstring SOAPEnvelope::FaultText(const wchar_t* path) const {
     const msxml::Node found = msxml::SelectNode(BodyElement(), path);
     return found ? std::wstring(msxml::Text(found)) : std::wstring();
 }
 
-msxml::Document SOAPEnvelope::BodyXml() const {
+msxml::Document SOAPEnvelope::BodyDocument() const {
     msxml::Document document = msxml::CreateDocument();
     LejisUtils::SetSelectionNamespaces(document);
     // A body that does not parse leaves the document without a root.
@@ -85,12 +85,12 @@ msxml::Document SOAPEnvelope::BodyXml() const {
 }
 
 msxml::Element SOAPEnvelope::BodyElement() const {
-    msxml::Element body = readBody_ ? readBody_ : msxml::Root(BodyXml());
+    msxml::Element body = readBody_ ? readBody_ : msxml::Root(BodyDocument());
     if (!body) throw platform::ObjectRequired();
     return body;
 }
 
-msxml::Element SOAPEnvelope::ToXmlElement(const msxml::Document& document) const {
+msxml::Element SOAPEnvelope::Write(const msxml::Document& document) const {
     ElementWriter envelope(document, L"soap:Envelope");
     if (!Username.empty()) {
         ElementWriter token(document, L"wsse:UsernameToken");
@@ -106,7 +106,7 @@ msxml::Element SOAPEnvelope::ToXmlElement(const msxml::Document& document) const
     return envelope.Element();
 }
 
-void SOAPEnvelope::FromXmlElement(const msxml::Element& element) {
+void SOAPEnvelope::Read(const msxml::Element& element) {
     LejisUtils::SetSelectionNamespaces(msxml::OwnerDocument(element));
     Username.clear();
     bodyText_.clear();
@@ -114,14 +114,14 @@ void SOAPEnvelope::FromXmlElement(const msxml::Element& element) {
     if (const msxml::Node body = msxml::SelectNode(element, L"soap:Body")) platform::Check(body.As(&readBody_));
 }
 
-void SOAPEnvelope::FromXmlDocument(const msxml::Document& document) {
+void SOAPEnvelope::ReadDocument(const msxml::Document& document) {
     if (msxml::HasDoctype(document)) throw platform::ObjectRequired();
     LejisUtils::SetSelectionNamespaces(document);
     const msxml::Node envelope = msxml::SelectNode(document, L"soap:Envelope");
     if (!envelope) throw platform::ObjectRequired();
     msxml::Element element;
     platform::Check(envelope.As(&element));
-    FromXmlElement(element);
+    Read(element);
 }
 
 }  // namespace lejis

@@ -19,24 +19,24 @@ public:
     TEXT_PROPERTY(Username)
     STDMETHODIMP get_Body(BSTR* result) override;
     STDMETHODIMP put_Body(BSTR newValue) override;
-    STDMETHODIMP IsFault(VARIANT_BOOL* result) override;
-    STDMETHODIMP FaultMessage(BSTR* result) override;
-    STDMETHODIMP FaultCode(BSTR* result) override;
-    STDMETHODIMP BodyXml(IDispatch** result) override;
-    STDMETHODIMP ToXmlElement(IDispatch* doc, IDispatch** result) override;
-    STDMETHODIMP FromXmlElement(IDispatch* elem) override;
-    STDMETHODIMP FromXmlDocument(IDispatch* doc) override;
+    [[nodiscard]] STDMETHODIMP IsFault(VARIANT_BOOL* result) override;
+    [[nodiscard]] STDMETHODIMP FaultMessage(BSTR* result) override;
+    [[nodiscard]] STDMETHODIMP FaultCode(BSTR* result) override;
+    [[nodiscard]] STDMETHODIMP BodyXml(IDispatch** result) override;
+    [[nodiscard]] STDMETHODIMP ToXmlElement(IDispatch* doc, IDispatch** result) override;
+    [[nodiscard]] STDMETHODIMP FromXmlElement(IDispatch* elem) override;
+    [[nodiscard]] STDMETHODIMP FromXmlDocument(IDispatch* doc) override;
 
     std::wstring Body() const;
-    bool IsFault() const;
-    std::wstring FaultMessage() const;
-    std::wstring FaultCode() const;
-    msxml::Document BodyXml() const;
+    bool HasFault() const;
+    std::wstring TextOfFault() const;
+    std::wstring CodeOfFault() const;
+    msxml::Document BodyDocument() const;
 
-    msxml::Element ToXmlElement(const msxml::Document& document) const;
-    void FromXmlElement(const msxml::Element& element);
+    msxml::Element Write(const msxml::Document& document) const;
+    void Read(const msxml::Element& element);
     // Raises for a document whose root is no soap:Envelope, and for one with a DOCTYPE.
-    void FromXmlDocument(const msxml::Document& document);
+    void ReadDocument(const msxml::Document& document);
 
     // The soap:Body element, for reading; raises when there is none.
     msxml::Element BodyElement() const;

@@ -79,7 +79,7 @@ msxml::SchemaCache SchemasOf(const msxml::Document& wsdl) {
         const std::wstring target = TargetNamespace(schema);
         const msxml::Node location = msxml::SelectNode(schema, L"xsd:include/@schemaLocation");
         if (!location) Raise(L"A schema of the WSDL includes no schema document.");
-        schemas.Add(target, OverPlainHttp(msxml::Text(location)));
+        schemas.Add(target, OverPlainHttp(std::wstring(msxml::Text(location))));
     }
     return schemas;
 }

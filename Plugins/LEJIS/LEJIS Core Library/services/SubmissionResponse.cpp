@@ -23,7 +23,7 @@ constexpr short kCoreOffline = 100;
 bool IsSoapResponse(const msxml::Document& response) {
     try {
         if (!response) return false;
-        platform::Create<SOAPEnvelope>()->FromXmlDocument(response);
+        platform::Create<SOAPEnvelope>()->ReadDocument(response);
         return true;
     } catch (const ComError&) {
         return false;
@@ -47,14 +47,14 @@ void RequireSoap(const HttpRequest& request, long status) {
 }
 
 [[noreturn]] void RaiseFault(const SOAPEnvelope& envelope) {
-    if (envelope.IsFault()) throw FatalError(envelope.FaultMessage());
+    if (envelope.HasFault()) throw FatalError(envelope.TextOfFault());
     throw TransientError(kUnexpectedResponse);
 }
 
 std::wstring ResponseText(const SOAPEnvelope& envelope) {
     const msxml::Node response = msxml::SelectNode(envelope.BodyElement(), L"lejis:submissionResponse");
     if (!response) throw TransientError(L"The server did not return a submissionResponse code.");
-    return msxml::Text(response);
+    return std::wstring(msxml::Text(response));
 }
 
 void RequireAccepted(const std::wstring& text) {
@@ -82,7 +82,7 @@ void ProcessResponse(const HttpRequest& request) {
         step = 4;
         const auto envelope = platform::Create<SOAPEnvelope>();
         LejisUtils::SaveDebugDocument(request.ResponseXml(), L"LejisSubmitResponse.xml");
-        envelope->FromXmlDocument(request.ResponseXml());
+        envelope->ReadDocument(request.ResponseXml());
         step = 5;
         if (status != kOk) RaiseFault(*envelope.Get());
         step = 6;

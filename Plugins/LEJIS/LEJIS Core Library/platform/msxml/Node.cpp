@@ -115,7 +115,7 @@ std::vector<Element> ChildElements(const Node& node) {
 
 platform::OutText LocalName(const Node& node) { return Get(node, &IXMLDOMNode::get_baseName); }
 platform::OutText NamespaceUri(const Node& node) { return Get(node, &IXMLDOMNode::get_namespaceURI); }
-std::wstring Xml(const Node& node) { return Get(node, &IXMLDOMNode::get_xml); }
+std::wstring Xml(const Node& node) { return std::wstring(Get(node, &IXMLDOMNode::get_xml)); }
 
 Document OwnerDocument(const Node& node) {
     ComPtr<IXMLDOMDocument> owner;

@@ -47,7 +47,7 @@ std::optional<std::wstring> SchemaCache::FindFaultInBody(const Document& documen
     Check(document.As(&validator));
     for (const Element& part : ChildElements(Root(document))) {
         for (const Element& payload : ChildElements(part)) {
-            if (!Contains(std::wstring(NamespaceUri(payload).View()))) continue;
+            if (!Contains(std::wstring(NamespaceUri(payload)))) continue;
             ComPtr<IXMLDOMParseError> error;
             if (validator->validateNode(payload.Get(), error.GetAddressOf()) != S_FALSE || !error) continue;
             const ParseError fault = Read(error.Get());
