@@ -13,8 +13,8 @@
 #include <deque>
 
 using Microsoft::WRL::ComPtr;
-using platform::AttributesOf;
 using platform::Check;
+using platform::TypeAttributes;
 
 namespace fuzzing {
 namespace {
@@ -35,7 +35,7 @@ ComPtr<ITypeInfo> Referred(ITypeInfo* information, HREFTYPE reference) {
 std::pair<VARTYPE, GUID> Innermost(ITypeInfo* information, const TYPEDESC& type) {
     if (type.vt == VT_PTR) return Innermost(information, *type.lptdesc);
     if (type.vt != VT_USERDEFINED) return {type.vt, GUID_NULL};
-    return {static_cast<VARTYPE>(VT_DISPATCH), AttributesOf(Referred(information, type.hreftype).Get()).guid};
+    return {static_cast<VARTYPE>(VT_DISPATCH), TypeAttributes(Referred(information, type.hreftype).Get())->guid};
 }
 
 Parameter ToParameter(ITypeInfo* information, const ELEMDESC& element) {
@@ -63,7 +63,7 @@ std::vector<Member> MembersOf(ITypeInfo* dispatch) {
     Check(dispatch->GetRefTypeOfImplType(static_cast<UINT>(-1), &reference));
     const ComPtr<ITypeInfo> table = Referred(dispatch, reference);
     std::vector<Member> members;
-    for (UINT index = 0; index < AttributesOf(table.Get()).cFuncs; ++index) {
+    for (UINT index = 0; index < TypeAttributes(table.Get())->cFuncs; ++index) {
         FUNCDESC* function = nullptr;
         Check(table->GetFuncDesc(index, &function));
         members.push_back(ToMember(table.Get(), *function));
@@ -79,11 +79,11 @@ public:
         for (UINT index = 0; index < library->GetTypeInfoCount(); ++index) {
             ComPtr<ITypeInfo> information;
             Check(library->GetTypeInfo(index, information.GetAddressOf()));
-            const TYPEATTR attributes = AttributesOf(information.Get());
-            if (attributes.typekind == TKIND_DISPATCH && (attributes.wTypeFlags & TYPEFLAG_FDUAL)) {
-                interfaces.push_back({NameOf(information.Get()), attributes.guid, MembersOf(information.Get())});
+            const TypeAttributes attributes(information.Get());
+            if (attributes->typekind == TKIND_DISPATCH && (attributes->wTypeFlags & TYPEFLAG_FDUAL)) {
+                interfaces.push_back({NameOf(information.Get()), attributes->guid, MembersOf(information.Get())});
             }
-            if (attributes.typekind == TKIND_COCLASS) AddClass(information.Get(), attributes);
+            if (attributes->typekind == TKIND_COCLASS) AddClass(information.Get(), attributes);
         }
     }
 
@@ -98,17 +98,17 @@ public:
 
 private:
     // The library declares each interface before the classes that have it.
-    void AddClass(ITypeInfo* information, const TYPEATTR& attributes) {
+    void AddClass(ITypeInfo* information, const TypeAttributes& attributes) {
         PublicClass added{
-            NameOf(information), attributes.guid, (attributes.wTypeFlags & TYPEFLAG_FCANCREATE) != 0, false, {}};
-        for (UINT index = 0; index < attributes.cImplTypes; ++index) {
+            NameOf(information), attributes->guid, (attributes->wTypeFlags & TYPEFLAG_FCANCREATE) != 0, false, {}};
+        for (UINT index = 0; index < attributes->cImplTypes; ++index) {
             HREFTYPE reference = 0;
             INT flags = 0;
             Check(information->GetRefTypeOfImplType(index, &reference));
             Check(information->GetImplTypeFlags(index, &flags));
             if (flags & IMPLTYPEFLAG_FSOURCE) {
                 added.hasEvents = true;
-            } else if (const auto* found = Find(AttributesOf(Referred(information, reference).Get()).guid)) {
+            } else if (const auto* found = Find(TypeAttributes(Referred(information, reference).Get())->guid)) {
                 added.interfaces.push_back(found);
             }
         }
@@ -137,7 +137,7 @@ const PublicClass* ClassOf(IUnknown* object) {
     ComPtr<ITypeInfo> information;
     if (!object || FAILED(object->QueryInterface(IID_PPV_ARGS(provider.GetAddressOf())))) return nullptr;
     if (FAILED(provider->GetClassInfo(information.GetAddressOf()))) return nullptr;
-    const GUID id = AttributesOf(information.Get()).guid;
+    const GUID id = TypeAttributes(information.Get())->guid;
     const auto& classes = PublicClasses();
     const auto found = std::ranges::find_if(classes, [&](const auto& one) { return one.id == id; });
     return found == classes.end() ? nullptr : &*found;

@@ -30,8 +30,8 @@ std::vector<ClassEntry> CreatableClasses(const std::wstring& file) {
     for (UINT index = 0; index < library->GetTypeInfoCount(); ++index) {
         ComPtr<ITypeInfo> information;
         platform::Check(library->GetTypeInfo(index, &information));
-        const TYPEATTR type = platform::AttributesOf(information.Get());
-        if (IsCreatable(type)) classes.push_back({type.guid, NameOf(information.Get())});
+        const platform::TypeAttributes type(information.Get());
+        if (IsCreatable(*type)) classes.push_back({type->guid, NameOf(information.Get())});
     }
     return classes;
 }

@@ -41,12 +41,12 @@ std::vector<RegisteredClass> CreatableClasses(ITypeLib* library) {
     for (UINT index = 0; index < library->GetTypeInfoCount(); ++index) {
         ComPtr<ITypeInfo> information;
         Check(library->GetTypeInfo(index, information.GetAddressOf()));
-        const TYPEATTR type = AttributesOf(information.Get());
-        if (type.typekind != TKIND_COCLASS || !(type.wTypeFlags & TYPEFLAG_FCANCREATE)) continue;
+        const TypeAttributes type(information.Get());
+        if (type->typekind != TKIND_COCLASS || !(type->wTypeFlags & TYPEFLAG_FCANCREATE)) continue;
         BSTR name = nullptr;
         BSTR description = nullptr;
         Check(information->GetDocumentation(MEMBERID_NIL, &name, &description, nullptr, nullptr));
-        classes.push_back({type.guid, TakeText(name), TakeText(description)});
+        classes.push_back({type->guid, TakeText(name), TakeText(description)});
     }
     return classes;
 }

@@ -16,17 +16,14 @@ bool IsDefaultEvents(ITypeInfo* classInformation, UINT index) {
 
 }  // namespace
 
-TYPEATTR AttributesOf(ITypeInfo* information) {
-    TYPEATTR* attributes = nullptr;
-    Check(information->GetTypeAttr(&attributes));
-    const TYPEATTR copy = *attributes;
-    information->ReleaseTypeAttr(attributes);
-    return copy;
+TypeAttributes::TypeAttributes(ITypeInfo* information) : information_(information) {
+    Check(information->GetTypeAttr(&attributes_));
 }
 
 ComPtr<ITypeInfo> DefaultEventsOf(ITypeInfo* classInformation) {
     ComPtr<ITypeInfo> events;
-    for (UINT index = 0; index < AttributesOf(classInformation).cImplTypes; ++index) {
+    const TypeAttributes type(classInformation);
+    for (UINT index = 0; index < type->cImplTypes; ++index) {
         if (!IsDefaultEvents(classInformation, index)) continue;
         HREFTYPE reference = 0;
         Check(classInformation->GetRefTypeOfImplType(index, &reference));

@@ -7,8 +7,21 @@
 
 namespace platform {
 
-// The attributes that are plain values; the pointers in them lead nowhere any more.
-TYPEATTR AttributesOf(ITypeInfo* information);
+// The attributes of a type, given back at the end.
+class TypeAttributes {
+public:
+    explicit TypeAttributes(ITypeInfo* information);
+    ~TypeAttributes() { information_->ReleaseTypeAttr(attributes_); }
+    TypeAttributes(const TypeAttributes&) = delete;
+    TypeAttributes& operator=(const TypeAttributes&) = delete;
+
+    const TYPEATTR& operator*() const { return *attributes_; }
+    const TYPEATTR* operator->() const { return attributes_; }
+
+private:
+    const Microsoft::WRL::ComPtr<ITypeInfo> information_;
+    TYPEATTR* attributes_ = nullptr;
+};
 
 // The events that a class raises by default; null for a class without events.
 Microsoft::WRL::ComPtr<ITypeInfo> DefaultEventsOf(ITypeInfo* classInformation);

@@ -47,7 +47,7 @@ std::wstring ProgIdOf(REFCLSID classId) { return LibraryName() + L'.' + ClassNam
 
 GUID DefaultEventsOf(REFCLSID classId) {
     const ComPtr<ITypeInfo> events = DefaultEventsOf(TypeInfoOf(classId).Get());
-    return events ? AttributesOf(events.Get()).guid : GUID_NULL;
+    return events ? TypeAttributes(events.Get())->guid : GUID_NULL;
 }
 
 }  // namespace platform

@@ -73,12 +73,12 @@ private:
 
     std::optional<ElapsedEvent> In(const ComPtr<ITypeInfo>& events) const {
         if (!events) return std::nullopt;
-        const TYPEATTR type = AttributesOf(events.Get());
+        const TypeAttributes type(events.Get());
         wchar_t name[] = L"Elapsed";
         LPOLESTR names = name;
         DISPID number = DISPID_UNKNOWN;
-        if (!IsHeardByNumber(type) || FAILED(events->GetIDsOfNames(&names, 1, &number))) return std::nullopt;
-        return At(type.guid, number);
+        if (!IsHeardByNumber(*type) || FAILED(events->GetIDsOfNames(&names, 1, &number))) return std::nullopt;
+        return At(type->guid, number);
     }
 
     std::optional<ElapsedEvent> At(REFIID events, DISPID number) const {
