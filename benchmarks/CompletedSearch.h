@@ -20,8 +20,8 @@ public:
     void Complete();
 
 private:
-    Microsoft::WRL::ComPtr<lejis::LejisSearchWebService> service_;
-    Microsoft::WRL::ComPtr<lejis::LejisSearchRequest> request_;
+    platform::Ref<lejis::LejisSearchWebService> service_;
+    platform::Ref<lejis::LejisSearchRequest> request_;
     Microsoft::WRL::ComPtr<EventCounter> counter_;
     Microsoft::WRL::ComPtr<IConnectionPoint> events_;
     msxml::Document answer_;

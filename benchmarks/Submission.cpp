@@ -15,7 +15,7 @@ using Microsoft::WRL::ComPtr;
 namespace benchmarks {
 namespace {
 
-using Incident = ComPtr<lejis::LejisIncidentIndexCard>;
+using Incident = platform::Ref<lejis::LejisIncidentIndexCard>;
 
 std::wstring RequestText(const Incident& incident) {
     const auto document = platform::Create<lejis::LejisSubmissionDocument>();
@@ -24,12 +24,10 @@ std::wstring RequestText(const Incident& incident) {
 }
 
 Incident Formatted(const Incident& incident) {
-    return platform::Create<lejis::LejisIncidentFormatter>()->Shape(*incident.Get());
+    return platform::Create<lejis::LejisIncidentFormatter>()->Shape(*incident);
 }
 
-void Validate(const Incident& incident) {
-    platform::Create<lejis::LejisIncidentValidator>()->FindErrors(*incident.Get());
-}
+void Validate(const Incident& incident) { platform::Create<lejis::LejisIncidentValidator>()->FindErrors(*incident); }
 
 // The calls of MSXML that make the request of the incident anew, and nothing else.
 BareTree BareRequest(const Incident& incident) {

@@ -18,7 +18,7 @@ void Fill(lejis::LejisStreetAddress& address) {
     address.SetZIP(L"16501");
 }
 
-ComPtr<lejis::LejisPersonIndexCard> Person(const wchar_t* involvement) {
+platform::Ref<lejis::LejisPersonIndexCard> Person(const wchar_t* involvement) {
     auto person = platform::Create<lejis::LejisPersonIndexCard>();
     person->SetOrganizationName(L"ERIE CITY POLICE");
     person->SetGivenName(L"JOHN");
@@ -35,11 +35,11 @@ ComPtr<lejis::LejisPersonIndexCard> Person(const wchar_t* involvement) {
     person->BirthDate->Set(platform::ParseDate(L"1970-02-28"));
     person->Height->Set(short{510});
     person->Weight->Set(short{180});
-    Fill(*person->address.Get());
+    Fill(*person->address);
     return person;
 }
 
-ComPtr<lejis::LejisVehicleIndexCard> Vehicle() {
+platform::Ref<lejis::LejisVehicleIndexCard> Vehicle() {
     auto vehicle = platform::Create<lejis::LejisVehicleIndexCard>();
     vehicle->SetMake(L"FORD");
     vehicle->SetModel(L"F150");
@@ -52,7 +52,7 @@ ComPtr<lejis::LejisVehicleIndexCard> Vehicle() {
     return vehicle;
 }
 
-ComPtr<lejis::LejisPropertyIndexCard> Item() {
+platform::Ref<lejis::LejisPropertyIndexCard> Item() {
     auto item = platform::Create<lejis::LejisPropertyIndexCard>();
     item->SetNibrsCategoryCode(L"26");
     item->SetCategory(L"RADIO/TV/VCR");
@@ -64,7 +64,7 @@ ComPtr<lejis::LejisPropertyIndexCard> Item() {
 
 }  // namespace
 
-ComPtr<lejis::LejisIncidentIndexCard> TypicalIncident() {
+platform::Ref<lejis::LejisIncidentIndexCard> TypicalIncident() {
     auto incident = platform::Create<lejis::LejisIncidentIndexCard>();
     incident->SetOrganizationName(L"ERIE CITY POLICE");
     incident->SetOrganizationORI(L"PA0250100");
@@ -74,7 +74,7 @@ ComPtr<lejis::LejisIncidentIndexCard> TypicalIncident() {
     incident->SetChargeDescriptionText(L"BURGLARY OF A RESIDENCE");
     incident->SubmittedDate->Set(platform::ParseDate(L"2007-03-09"));
     incident->ActivityDateTime->Set(platform::ParseDate(L"2007-03-08 23:15:00"));
-    Fill(*incident->Location.Get());
+    Fill(*incident->Location);
     incident->PersonIndexCards->AddObject(Person(L"VICTIM")->Dispatch());
     incident->PersonIndexCards->AddObject(Person(L"SUSPECT")->Dispatch());
     incident->VehicleIndexCards->AddObject(Vehicle()->Dispatch());
@@ -82,7 +82,7 @@ ComPtr<lejis::LejisIncidentIndexCard> TypicalIncident() {
     return incident;
 }
 
-ComPtr<lejis::LejisIncidentIndexCard> IncidentWithPersons(int persons) {
+platform::Ref<lejis::LejisIncidentIndexCard> IncidentWithPersons(int persons) {
     auto incident = TypicalIncident();
     while (incident->PersonIndexCards->Count() < static_cast<size_t>(persons)) {
         incident->PersonIndexCards->AddObject(Person(L"WITNESS")->Dispatch());

@@ -105,9 +105,9 @@ void EnvelopeKeepsItsTexts(Case& one) {
     msxml::LoadXml(document, one.Pick(answers));
     const auto envelope = platform::Create<lejis::SOAPEnvelope>();
     static_cast<ISOAPEnvelope*>(envelope.Get())->FromXmlDocument(document.Get());
-    const std::wstring before = TextsOf(*envelope.Get());
+    const std::wstring before = TextsOf(*envelope);
     for (uint32_t changes = 1 + one.Below(3); changes > 0; --changes) Change(document, one);
-    Promise(TextsOf(*envelope.Get()) == before, "an envelope changes with its client's document");
+    Promise(TextsOf(*envelope) == before, "an envelope changes with its client's document");
 }
 
 void FutureRunsRepeatedWork(Case& one, World& world) {

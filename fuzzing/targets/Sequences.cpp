@@ -152,7 +152,7 @@ private:
         if (!submission_) MakeServices();
         const auto service = platform::Inside<lejis::LejisSubmissionWebService>(submission_.Get());
         const auto document = platform::Create<lejis::LejisSubmissionDocument>();
-        service->SubmitAsync(*document.Get());
+        service->SubmitAsync(*document);
     }
 
     void DropSearch() { search_.Reset(); }

@@ -21,7 +21,7 @@ public:
 
 private:
     void* Find(REFIID iid) override {
-        return iid == __uuidof(IDispatch) ? static_cast<IDispatch*>(this) : EarlyBound::Find(iid);
+        return iid == __uuidof(IDispatch) ? static_cast<IDispatch*>(this) : UnknownObject::Find(iid);
     }
 
     const HRESULT result_;

@@ -12,10 +12,10 @@ using Warnings = std::vector<std::wstring>;
 
 // An incident with one card of each kind, and its warnings.
 struct Records {
-    Microsoft::WRL::ComPtr<LejisIncidentIndexCard> incident = platform::Create<LejisIncidentIndexCard>();
-    Microsoft::WRL::ComPtr<LejisPersonIndexCard> person = platform::Create<LejisPersonIndexCard>();
-    Microsoft::WRL::ComPtr<LejisPropertyIndexCard> property = platform::Create<LejisPropertyIndexCard>();
-    Microsoft::WRL::ComPtr<LejisVehicleIndexCard> vehicle = platform::Create<LejisVehicleIndexCard>();
+    platform::Ref<LejisIncidentIndexCard> incident = platform::Create<LejisIncidentIndexCard>();
+    platform::Ref<LejisPersonIndexCard> person = platform::Create<LejisPersonIndexCard>();
+    platform::Ref<LejisPropertyIndexCard> property = platform::Create<LejisPropertyIndexCard>();
+    platform::Ref<LejisVehicleIndexCard> vehicle = platform::Create<LejisVehicleIndexCard>();
 
     Records() {
         incident->PersonIndexCards->AddObject(person->Dispatch());
@@ -27,8 +27,8 @@ struct Records {
 
     Warnings Apply() {
         const auto warnings = platform::Create<Collection>();
-        FormattingRules(*warnings.Get()).Apply(*incident.Get());
-        return support::Texts(*warnings.Get());
+        FormattingRules(*warnings).Apply(*incident);
+        return support::Texts(*warnings);
     }
 };
 

@@ -13,10 +13,10 @@ using Microsoft::WRL::ComPtr;
 using support::Reparsed;
 using support::Texts;
 using Warnings = std::vector<std::wstring>;
-using Incident = ComPtr<LejisIncidentIndexCard>;
+using Incident = platform::Ref<LejisIncidentIndexCard>;
 
 template <typename Card>
-ComPtr<Card> Add(const ComPtr<Collection>& cards) {
+platform::Ref<Card> Add(const platform::Ref<Collection>& cards) {
     auto card = platform::Create<Card>();
     cards->AddObject(card->Dispatch());
     return card;
@@ -51,8 +51,8 @@ std::wstring XmlOf(const Incident& incident) {
 TEST(LejisIncidentFormatterCopy, CopiesACleanIncidentWithoutWarnings) {
     const Incident incident = Clean();
     const auto formatter = platform::Create<LejisIncidentFormatter>();
-    const Incident copy = formatter->Shape(*incident.Get());
-    EXPECT_EQ(Warnings{}, Texts(*formatter->Warnings.Get()));
+    const Incident copy = formatter->Shape(*incident);
+    EXPECT_EQ(Warnings{}, Texts(*formatter->Warnings));
     EXPECT_NE(incident.Get(), copy.Get());
     EXPECT_TRUE(support::SameXml(Reparsed(copy->Write(support::NewDocument()).Get()).Get(), XmlOf(incident)));
 }
@@ -63,8 +63,8 @@ TEST(LejisIncidentFormatterCopy, CopiesAsFarAsTheXmlFormCarries) {
     incident->PersonIndexCards->ItemsAs<LejisPersonIndexCard>()[0]->SetCaveatText(std::wstring(201, L'x'));
     incident->PersonIndexCards->ItemsAs<LejisPersonIndexCard>()[0]->CautionIndicator = true;
     const auto formatter = platform::Create<LejisIncidentFormatter>();
-    const Incident copy = formatter->Shape(*incident.Get());
-    EXPECT_EQ(Warnings{}, Texts(*formatter->Warnings.Get()));
+    const Incident copy = formatter->Shape(*incident);
+    EXPECT_EQ(Warnings{}, Texts(*formatter->Warnings));
     EXPECT_EQ(L"", copy->PersonIndexCards->ItemsAs<LejisPersonIndexCard>()[0]->CaveatText());
     EXPECT_EQ(39151.0, copy->SubmittedDate->Date());
     EXPECT_TRUE(copy->CautionIndicator);
@@ -75,7 +75,7 @@ TEST(LejisIncidentFormatterCopy, KeepsBlanksInTheCopy) {
     incident->SetActivityID(L" 07-1234  ");
     incident->SetOrganizationName(L"   ");
     incident->PersonIndexCards->ItemsAs<LejisPersonIndexCard>()[0]->SetSurName(L" LEE ");
-    const Incident copy = platform::Create<LejisIncidentFormatter>()->Shape(*incident.Get());
+    const Incident copy = platform::Create<LejisIncidentFormatter>()->Shape(*incident);
     EXPECT_EQ(L" 07-1234  ", copy->ActivityID());
     EXPECT_EQ(L"   ", copy->OrganizationName());
     EXPECT_EQ(L" LEE ", copy->PersonIndexCards->ItemsAs<LejisPersonIndexCard>()[0]->SurName());
@@ -85,10 +85,10 @@ TEST(LejisIncidentFormatterCopy, CountsBlanksInTexts) {
     const Incident incident = Clean();
     incident->SetOrganizationName(std::wstring(76, L' '));
     const auto formatter = platform::Create<LejisIncidentFormatter>();
-    const Incident copy = formatter->Shape(*incident.Get());
+    const Incident copy = formatter->Shape(*incident);
     EXPECT_EQ(Warnings{L"Main record: Agency name '" + std::wstring(76, L' ') +
                        L"' was too long (76 characters) and was truncated to 75 characters."},
-              Texts(*formatter->Warnings.Get()));
+              Texts(*formatter->Warnings));
     EXPECT_EQ(std::wstring(75, L' '), copy->OrganizationName());
 }
 
@@ -96,10 +96,10 @@ TEST(LejisIncidentFormatterCopy, WarnsOfAnOffenseCodeOfBlanks) {
     const Incident incident = Clean();
     incident->SetChargeNCICCode(L"    ");
     const auto formatter = platform::Create<LejisIncidentFormatter>();
-    EXPECT_EQ(L"", formatter->Shape(*incident.Get())->ChargeNCICCode());
+    EXPECT_EQ(L"", formatter->Shape(*incident)->ChargeNCICCode());
     EXPECT_EQ(Warnings{L"Main record: Charge NCIC code '    ' is not a valid NCIC offense code. Will submit a blank "
                        L"code instead."},
-              Texts(*formatter->Warnings.Get()));
+              Texts(*formatter->Warnings));
 }
 
 }  // namespace

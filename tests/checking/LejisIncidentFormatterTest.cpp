@@ -17,13 +17,13 @@ using Microsoft::WRL::ComPtr;
 using support::FailedWith;
 using support::Texts;
 using Warnings = std::vector<std::wstring>;
-using Incident = ComPtr<LejisIncidentIndexCard>;
+using Incident = platform::Ref<LejisIncidentIndexCard>;
 
 // What too long texts are made of; no warning uses it.
 constexpr wchar_t kFiller = L'#';
 
 template <typename Card>
-ComPtr<Card> Add(const ComPtr<Collection>& cards) {
+platform::Ref<Card> Add(const platform::Ref<Collection>& cards) {
     auto card = platform::Create<Card>();
     cards->AddObject(card->Dispatch());
     return card;
@@ -91,8 +91,8 @@ TEST(LejisIncidentFormatter, HasNoWarningsWhenNew) {
 
 TEST(LejisIncidentFormatter, AppliesItsRulesInTheirOrder) {
     const auto formatter = platform::Create<LejisIncidentFormatter>();
-    formatter->Shape(*AllWrong().Get());
-    Warnings subjects = Texts(*formatter->Warnings.Get());
+    formatter->Shape(*AllWrong());
+    Warnings subjects = Texts(*formatter->Warnings);
     std::transform(subjects.begin(), subjects.end(), subjects.begin(), Subject);
     const Warnings address = {L"Full street address '' was too long (300 ",
                               L"Street address number '1234567' was too long (7 ",
@@ -144,9 +144,9 @@ TEST(LejisIncidentFormatter, ShapesRecordsInTheOrderOfTheirCollections) {
         person->SetSexNCIC(L"m");
     }
     const auto formatter = platform::Create<LejisIncidentFormatter>();
-    formatter->Shape(*incident.Get());
+    formatter->Shape(*incident);
     Warnings labels;
-    for (const std::wstring& warning : Texts(*formatter->Warnings.Get())) {
+    for (const std::wstring& warning : Texts(*formatter->Warnings)) {
         labels.push_back(warning.substr(0, warning.find(L':')));
     }
     EXPECT_EQ((Warnings{L" FIRST", L" SECOND", L"FIRST", L"SECOND", L"Vehicle  FIRST   ", L"Vehicle  SECOND   "}),
@@ -157,7 +157,7 @@ TEST(LejisIncidentFormatter, LeavesTheCallersIncidentAsItIs) {
     const Incident incident = AllWrong();
     const std::wstring before = XmlOf(incident);
     const auto person = incident->PersonIndexCards->ItemsAs<LejisPersonIndexCard>()[0];
-    platform::Create<LejisIncidentFormatter>()->Shape(*incident.Get());
+    platform::Create<LejisIncidentFormatter>()->Shape(*incident);
     EXPECT_EQ(before, XmlOf(incident));
     EXPECT_EQ(300u, incident->OrganizationName().size());
     EXPECT_EQ(300u, person->CaveatText().size());
@@ -180,12 +180,12 @@ TEST(LejisIncidentFormatter, BeginsANewListEachTime) {
 }
 
 TEST(LejisIncidentFormatter, RefusesForeignObjectsAmongTheCards) {
-    using Cards = ComPtr<Collection> LejisIncidentIndexCard::*;
+    using Cards = platform::Ref<Collection> LejisIncidentIndexCard::*;
     const auto formatter = platform::Create<LejisIncidentFormatter>();
     for (const Cards cards : {&LejisIncidentIndexCard::PersonIndexCards, &LejisIncidentIndexCard::VehicleIndexCards,
                               &LejisIncidentIndexCard::PropertyIndexCards}) {
         const auto incident = platform::Create<LejisIncidentIndexCard>();
-        ((*incident.Get()).*cards)->AddObject(platform::Create<LejisStreetAddress>()->Dispatch());
+        ((*incident).*cards)->AddObject(platform::Create<LejisStreetAddress>()->Dispatch());
         ComPtr<ILejisIncidentIndexCard> copy;
         EXPECT_TRUE(
             FailedWith(formatter->Format(incident.Get(), copy.GetAddressOf()), DISP_E_TYPEMISMATCH, L"Type mismatch"));
@@ -195,7 +195,7 @@ TEST(LejisIncidentFormatter, RefusesForeignObjectsAmongTheCards) {
 
 TEST(LejisIncidentFormatter, EmptiesItsListForAnArgumentThatItRefuses) {
     const auto formatter = platform::Create<LejisIncidentFormatter>();
-    formatter->Shape(*AllWrong().Get());
+    formatter->Shape(*AllWrong());
     const auto before = formatter->Warnings;
     const size_t count = before->Count();
     ASSERT_NE(0u, count);

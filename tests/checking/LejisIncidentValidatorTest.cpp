@@ -104,22 +104,22 @@ TEST(LejisIncidentValidator, AcceptsAnyVehicleAnyPropertyAndAnyTextOfTheRest) {
 
 TEST(LejisIncidentValidator, BeginsANewListEachTime) {
     const auto validator = platform::Create<LejisIncidentValidator>();
-    validator->FindErrors(*platform::Create<LejisIncidentIndexCard>().Get());
+    validator->FindErrors(*platform::Create<LejisIncidentIndexCard>());
     const auto before = validator->Errors;
     EXPECT_EQ(4u, before->Count());
-    EXPECT_FALSE(validator->FindErrors(*Clean().Get()));
+    EXPECT_FALSE(validator->FindErrors(*Clean()));
     EXPECT_NE(before.Get(), validator->Errors.Get());
     EXPECT_EQ(0u, validator->Errors->Count());
     EXPECT_EQ(4u, before->Count());
 }
 
 TEST(LejisIncidentValidator, RefusesForeignObjectsAmongTheCards) {
-    using Cards = ComPtr<Collection> LejisIncidentIndexCard::*;
+    using Cards = platform::Ref<Collection> LejisIncidentIndexCard::*;
     const auto validator = platform::Create<LejisIncidentValidator>();
     for (const Cards cards : {&LejisIncidentIndexCard::PersonIndexCards, &LejisIncidentIndexCard::VehicleIndexCards,
                               &LejisIncidentIndexCard::PropertyIndexCards}) {
         const Incident incident = Clean();
-        ((*incident.Get()).*cards)->AddObject(platform::Create<LejisStreetAddress>()->Dispatch());
+        ((*incident).*cards)->AddObject(platform::Create<LejisStreetAddress>()->Dispatch());
         VARIANT_BOOL found = VARIANT_FALSE;
         EXPECT_TRUE(FailedWith(validator->Validate(incident.Get(), &found), DISP_E_TYPEMISMATCH, L"Type mismatch"));
     }
@@ -133,12 +133,12 @@ TEST(LejisIncidentValidator, ChecksThePersonsBeforeAForeignObject) {
     AddPerson(incident, L"BOB")->SetSSN(L"3");
     VARIANT_BOOL found = VARIANT_FALSE;
     EXPECT_TRUE(FailedWith(validator->Validate(incident.Get(), &found), DISP_E_TYPEMISMATCH, L"Type mismatch"));
-    EXPECT_EQ((Errors{std::wstring(L"ANN LEE (Witness): '3") + kSsnWrong}), support::Texts(*validator->Errors.Get()));
+    EXPECT_EQ((Errors{std::wstring(L"ANN LEE (Witness): '3") + kSsnWrong}), support::Texts(*validator->Errors));
 }
 
 TEST(LejisIncidentValidator, EmptiesItsListForAnArgumentThatItRefuses) {
     const auto validator = platform::Create<LejisIncidentValidator>();
-    validator->FindErrors(*platform::Create<LejisIncidentIndexCard>().Get());
+    validator->FindErrors(*platform::Create<LejisIncidentIndexCard>());
     const auto before = validator->Errors;
     VARIANT_BOOL found = VARIANT_FALSE;
     EXPECT_TRUE(FailedWith(validator->Validate(nullptr, &found), support::kObjectRequired, L"Object required"));

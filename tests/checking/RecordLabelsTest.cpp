@@ -28,7 +28,7 @@ TEST(RecordLabels, NameAPerson) {
         person->SetMiddleName(row.middle);
         person->SetSurName(row.surname);
         person->SetInvolvement(row.involvement);
-        EXPECT_EQ(row.label, LabelOf(*person.Get()));
+        EXPECT_EQ(row.label, LabelOf(*person));
     }
 }
 
@@ -53,17 +53,17 @@ TEST(RecordLabels, NameAnItemOfProperty) {
         property->SetMake(row.make);
         property->SetModel(row.model);
         property->SetSerialID(row.serial);
-        EXPECT_EQ(row.label, LabelOf(*property.Get()));
+        EXPECT_EQ(row.label, LabelOf(*property));
     }
 }
 
 TEST(RecordLabels, NameAVehicleWithTwoBlanksAtTheEnd) {
     const auto vehicle = platform::Create<LejisVehicleIndexCard>();
-    EXPECT_EQ(L"Vehicle     ", LabelOf(*vehicle.Get()));
+    EXPECT_EQ(L"Vehicle     ", LabelOf(*vehicle));
     vehicle->SetColor(L"RED");
     vehicle->SetMake(L"FORD");
     vehicle->SetModel(L"F150");
-    EXPECT_EQ(L"Vehicle RED FORD F150  ", LabelOf(*vehicle.Get()));
+    EXPECT_EQ(L"Vehicle RED FORD F150  ", LabelOf(*vehicle));
 }
 
 TEST(RecordLabels, StandBeforeTheMessage) {

@@ -28,8 +28,8 @@ inline constexpr wchar_t kZipWrong[] =
 inline constexpr wchar_t kSsnWrong[] =
     L"' is not a valid SSN. SSN's submitted to LEJIS must be 9 digits long, or left blank.";
 
-using Incident = Microsoft::WRL::ComPtr<LejisIncidentIndexCard>;
-using Person = Microsoft::WRL::ComPtr<LejisPersonIndexCard>;
+using Incident = platform::Ref<LejisIncidentIndexCard>;
+using Person = platform::Ref<LejisPersonIndexCard>;
 
 // An incident in which nothing is wrong.
 inline Incident Clean() {
@@ -51,10 +51,10 @@ inline Person AddPerson(const Incident& incident, const wchar_t* givenName = L"A
 
 inline Errors ErrorsOf(const Incident& incident) {
     const auto validator = platform::Create<LejisIncidentValidator>();
-    const bool found = validator->FindErrors(*incident.Get());
+    const bool found = validator->FindErrors(*incident);
     EXPECT_EQ(found, validator->HasErrors());
     EXPECT_EQ(found, validator->Errors->Count() > 0);
-    return support::Texts(*validator->Errors.Get());
+    return support::Texts(*validator->Errors);
 }
 
 }  // namespace lejis::validator_case

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "client/Client.h"
+#include "support/EmptyDispatch.h"
 
 #include <functional>
 #include <utility>
@@ -10,7 +11,7 @@ namespace client {
 
 // Identity, lifetime and an IDispatch that knows nothing. `Interface` derives from IDispatch.
 template <typename Interface>
-class ClientObject : public Interface {
+class ClientObject : public support::EmptyDispatch<Interface> {
 public:
     ClientObject() = default;
     virtual ~ClientObject() = default;
@@ -29,16 +30,6 @@ public:
         const ULONG left = --references_;
         if (left == 0) delete this;
         return left;
-    }
-
-    STDMETHODIMP GetTypeInfoCount(UINT* count) override {
-        *count = 0;
-        return S_OK;
-    }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return DISP_E_UNKNOWNNAME; }
-    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
-        return DISP_E_MEMBERNOTFOUND;
     }
 
 private:

@@ -78,6 +78,13 @@ ROWS = (
     Row("the element of a writer that has ended",
         'const auto& written = ElementWriter(target, L"j:ID").Element(); Use(written);',
         'const ElementWriter writer(target, L"j:ID"); const auto& written = writer.Element(); Use(written);', DELETED),
+    Row("a reference to nothing",
+        "const platform::Ref<LejisPersonIndexCard> person(nullptr); Use(person);",
+        "const platform::Ref<LejisPersonIndexCard> person(card); Use(person);", "no matching function"),
+    Row("a reference that ends with nothing in it",
+        "platform::Ref<LejisPersonIndexCard> person(card); person = nullptr;",
+        "platform::Ref<LejisPersonIndexCard> person(card); person = platform::Create<LejisPersonIndexCard>();",
+        "no match for|cannot convert"),
 )
 
 PROLOGUE = """
@@ -88,6 +95,7 @@ PROLOGUE = """
 #include "model/LejisPersonIndexCard.h"
 #include "platform/msxml/LeafText.h"
 #include "platform/msxml/Node.h"
+#include "platform/com/Ref.h"
 #include "platform/OutText.h"
 #include "services/LejisSubmissionWebService.h"
 

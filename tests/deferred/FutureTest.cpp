@@ -122,7 +122,7 @@ TEST(Future, StopsTheHostsTimerBeforeItRuns) {
 TEST(Future, StopsTheHostsTimerWhenItIsReleasedAndHearsNoLateTick) {
     const support::TestHost host;
     const auto runnable = platform::Create<RecordingRunnable>();
-    auto future = platform::Create<Future>();
+    Microsoft::WRL::ComPtr<Future> future = platform::Create<Future>();
     future->Schedule(runnable.Get(), nullptr);
     future.Reset();
     EXPECT_FALSE(host.timers[0]->enabled);
@@ -134,7 +134,7 @@ TEST(Future, StopsTheHostsTimerWhenItIsReleasedAndHearsNoLateTick) {
 TEST(Future, HoldsItsWorkUntilTheWorkEnds) {
     const support::TestHost host;
     const auto future = platform::Create<Future>();
-    auto runnable = platform::Create<RecordingRunnable>();
+    Microsoft::WRL::ComPtr<RecordingRunnable> runnable = platform::Create<RecordingRunnable>();
     IRunnable* const running = runnable.Get();
     unsigned long held = 0;
     runnable->onRun = [&] {
@@ -148,7 +148,7 @@ TEST(Future, HoldsItsWorkUntilTheWorkEnds) {
 
 TEST(Future, LivesUntilItsTickEndsWhenItsWorkLetsGoOfIt) {
     const support::TestHost host;
-    auto future = platform::Create<Future>();
+    Microsoft::WRL::ComPtr<Future> future = platform::Create<Future>();
     const auto runnable = platform::Create<RecordingRunnable>();
     std::ptrdiff_t living = 0;
     runnable->onRun = [&] {
@@ -192,7 +192,7 @@ TEST(Future, LetsItsWorkRepeatItself) {
     EXPECT_TRUE(PumpUntil([&] { return observer->completed.size() == 3; }));
     PumpFor(250);
     EXPECT_EQ(3, runnable->runs);
-    EXPECT_EQ(1u, HoldersOf(*runnable.Get())) << "work that holds its future would never end";
+    EXPECT_EQ(1u, HoldersOf(*runnable)) << "work that holds its future would never end";
 }
 
 TEST(Future, RunsWorkThatFailingWorkGaveIt) {
@@ -275,18 +275,18 @@ TEST(FutureManager, GoesOnTrackingAFutureWhoseRunnableFails) {
     manager->RunLater(runnable.Get());
     host.timers[0]->Tick();
     EXPECT_EQ(1u, manager->PendingCount());
-    EXPECT_EQ(2u, HoldersOf(*runnable.Get()));
+    EXPECT_EQ(2u, HoldersOf(*runnable));
 }
 
 TEST(FutureManager, EndsWithItsFuturesWhoseRunnableFailed) {
     const auto runnable = platform::Create<RecordingRunnable>();
     runnable->result = E_FAIL;
-    auto manager = platform::Create<FutureManager>();
+    Microsoft::WRL::ComPtr<FutureManager> manager = platform::Create<FutureManager>();
     manager->RunLater(runnable.Get());
     ASSERT_TRUE(PumpUntil([&] { return runnable->runs > 0; }));
-    EXPECT_EQ(2u, HoldersOf(*runnable.Get()));
+    EXPECT_EQ(2u, HoldersOf(*runnable));
     manager.Reset();
-    EXPECT_EQ(1u, HoldersOf(*runnable.Get()));
+    EXPECT_EQ(1u, HoldersOf(*runnable));
 }
 
 // Something else that a thread keeps.

@@ -1,6 +1,8 @@
 // A client's sink for the search service's events.
 #pragma once
 
+#include "support/EmptyDispatch.h"
+
 #include <ocidl.h>
 #include <TVLejisCore.h>
 #include <wrl/client.h>
@@ -12,7 +14,7 @@ namespace end_to_end {
 
 // Keeps each event as "Name" or "Name: message", and the incidents of the last SearchCompleted. Lives on the test's
 // stack; connected from its beginning to its end.
-class SearchSink final : public IDispatch {
+class SearchSink final : public support::EmptyDispatch<IDispatch> {
 public:
     explicit SearchSink(ILejisSearchWebService* service);
     ~SearchSink();
@@ -30,9 +32,6 @@ public:
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
     STDMETHODIMP_(ULONG) AddRef() override { return 2; }
     STDMETHODIMP_(ULONG) Release() override { return 1; }
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
     STDMETHODIMP Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*, UINT*) override;
 
 private:

@@ -32,8 +32,8 @@ TEST(DateText, WritesDateAndTimeOfDay) {
     for (const Case& row : kCases) {
         const auto holder = platform::Create<NullableDate>();
         holder->Set(platform::ParseDate(row.given));
-        EXPECT_EQ(row.date, FormatNullableDate(*holder.Get())) << support::Utf8(row.given);
-        EXPECT_EQ(row.time, FormatNullableTime(*holder.Get())) << support::Utf8(row.given);
+        EXPECT_EQ(row.date, FormatNullableDate(*holder)) << support::Utf8(row.given);
+        EXPECT_EQ(row.time, FormatNullableTime(*holder)) << support::Utf8(row.given);
     }
 }
 
@@ -44,7 +44,7 @@ TEST(DateText, WritesEverySecondOfAnHour) {
         holder->Set(39150 + (14 * 3600 + second) / 86400.0);
         wchar_t expected[16];
         swprintf(expected, ARRAYSIZE(expected), L"14:%02d:%02d", second / 60, second % 60);
-        ASSERT_EQ(expected, FormatNullableTime(*holder.Get()));
+        ASSERT_EQ(expected, FormatNullableTime(*holder));
     }
 }
 

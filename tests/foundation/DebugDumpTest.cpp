@@ -55,9 +55,9 @@ protected:
 
     support::TestHost host;
     support::TemporaryFolder folder;
-    const Microsoft::WRL::ComPtr<LejisSearchWebService> search = platform::Create<LejisSearchWebService>();
-    const Microsoft::WRL::ComPtr<LejisSubmissionWebService> submission = platform::Create<LejisSubmissionWebService>();
-    const Microsoft::WRL::ComPtr<support::EventLog> log = support::EventLog::ForSearches();
+    const platform::Ref<LejisSearchWebService> search = platform::Create<LejisSearchWebService>();
+    const platform::Ref<LejisSubmissionWebService> submission = platform::Create<LejisSubmissionWebService>();
+    const platform::Ref<support::EventLog> log = support::EventLog::ForSearches();
 };
 
 TEST_F(DebugDump, IsWrittenWhenTheFlagIsExactlyY) {
@@ -131,7 +131,7 @@ TEST_F(DebugDump, OfASubmissionHoldsRequestAndResponse) {
     const DebugFlag flag(L"Y");
     const support::ScriptedHttp http({.responseText = support::SubmissionResponse(L"0")});
     submission->URL = L"http://lejis-interface/submission";
-    submission->Submit(*support::CleanIncident().Get());
+    submission->Submit(*support::CleanIncident());
     EXPECT_TRUE(folder.Holds(L"LejisSubmitRequest.xml"));
     EXPECT_TRUE(folder.Holds(L"LejisSubmitResponse.xml"));
 }
@@ -143,7 +143,7 @@ TEST_F(DebugDump, OfASubmissionThatNobodyWaitsForHoldsAnAnswerThatIsNoSuccess) {
     submission->URL = L"http://lejis-interface/submission";
     for (const long status : {200L, 500L}) {
         const support::ScriptedHttp http({.status = status, .responseText = support::SoapFault(L"a", L"b")});
-        submission->SubmitAsync(*document.Get());
+        submission->SubmitAsync(*document);
         EXPECT_TRUE(folder.Holds(L"LejisSubmitRequest.xml"));
         Answer(http);
         EXPECT_EQ(status == 500, folder.Holds(L"LejisSubmitResponse.xml"));
@@ -169,7 +169,7 @@ TEST_F(DebugDump, OfARequestIsMadeBeforeTheRequestIsCheckedAgainstTheSchemas) {
     EXPECT_TRUE(folder.Holds(L"LejisSearchRequest.xml"));
     submission->ValidateSchema = true;
     submission->URL = L"http://lejis-interface/submission";
-    EXPECT_THROW(submission->Submit(*support::CleanIncident().Get()), platform::ComError);
+    EXPECT_THROW(submission->Submit(*support::CleanIncident()), platform::ComError);
     EXPECT_TRUE(folder.Holds(L"LejisSubmitRequest.xml"));
     for (const auto& request : http.requests) EXPECT_EQ(L"GET", request->Seen().method);
 }
@@ -177,7 +177,7 @@ TEST_F(DebugDump, OfARequestIsMadeBeforeTheRequestIsCheckedAgainstTheSchemas) {
 TEST_F(DebugDump, OfAnIncidentThatFailsValidationIsNotMade) {
     const DebugFlag flag(L"Y");
     const support::ScriptedHttp http;
-    EXPECT_THROW(submission->Submit(*platform::Create<LejisIncidentIndexCard>().Get()), platform::ComError);
+    EXPECT_THROW(submission->Submit(*platform::Create<LejisIncidentIndexCard>()), platform::ComError);
     EXPECT_FALSE(folder.Holds(L"LejisSubmitRequest.xml"));
 }
 
@@ -186,7 +186,7 @@ TEST_F(DebugDump, ThatCannotBeWrittenEndsTheSubmissionBeforeItIsSent) {
     host.diagnosticsFolder = folder.Path() + L"\\missing";
     const support::ScriptedHttp http({.responseText = support::SubmissionResponse(L"0")});
     try {
-        submission->Submit(*support::CleanIncident().Get());
+        submission->Submit(*support::CleanIncident());
         ADD_FAILURE() << "sent";
     } catch (const platform::ComError& error) {
         EXPECT_EQ(tvFatalError, error.Number());
@@ -203,7 +203,7 @@ TEST_F(DebugDump, OfAnAnswerThatCannotBeWrittenIsAnInternalErrorWithItsPath) {
     http.script.onSend = [&] { host.diagnosticsFolder = missing; };
     submission->URL = L"http://lejis-interface/submission";
     try {
-        submission->Submit(*support::CleanIncident().Get());
+        submission->Submit(*support::CleanIncident());
         ADD_FAILURE() << "not noticed";
     } catch (const platform::ComError& error) {
         EXPECT_EQ(tvFatalError, error.Number());

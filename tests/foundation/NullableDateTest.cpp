@@ -15,7 +15,7 @@ using support::FailedWith;
 
 constexpr DATE kNinthOfMarch = 39150;
 
-_variant_t ValueOf(const Microsoft::WRL::ComPtr<NullableDate>& holder) {
+_variant_t ValueOf(const platform::Ref<NullableDate>& holder) {
     _variant_t value(7L);
     EXPECT_OK(holder->get_Value(&value));
     return value;
@@ -24,8 +24,8 @@ _variant_t ValueOf(const Microsoft::WRL::ComPtr<NullableDate>& holder) {
 TEST(NullableDate, IsNullWhenNew) {
     const auto holder = platform::Create<NullableDate>();
     EXPECT_EQ(support::Null(), ValueOf(holder));
-    EXPECT_EQ(L"", FormatNullableDate(*holder.Get()));
-    EXPECT_EQ(L"", FormatNullableTime(*holder.Get()));
+    EXPECT_EQ(L"", FormatNullableDate(*holder));
+    EXPECT_EQ(L"", FormatNullableTime(*holder));
     EXPECT_EQ(E_POINTER, holder->get_Value(nullptr));
 }
 
@@ -39,8 +39,8 @@ TEST(NullableDate, ReadsTextsThatAreDates) {
     const auto holder = platform::Create<NullableDate>();
     EXPECT_OK(holder->put_Value(_variant_t(L"2007-03-09")));
     EXPECT_EQ(_variant_t(kNinthOfMarch, VT_DATE), ValueOf(holder));
-    EXPECT_EQ(L"2007-03-09", FormatNullableDate(*holder.Get()));
-    EXPECT_EQ(L"00:00:00", FormatNullableTime(*holder.Get()));
+    EXPECT_EQ(L"2007-03-09", FormatNullableDate(*holder));
+    EXPECT_EQ(L"00:00:00", FormatNullableTime(*holder));
     EXPECT_OK(holder->put_Value(_variant_t(L"2007-03-09 06:00:00")));
     EXPECT_EQ(_variant_t(kNinthOfMarch + 0.25, VT_DATE), ValueOf(holder));
     EXPECT_OK(holder->put_Value(_variant_t(L"12:00:00")));

@@ -19,7 +19,7 @@ protected:
     static constexpr Number kSmallest = std::numeric_limits<Number>::min();
     static constexpr Number kGreatest = std::numeric_limits<Number>::max();
 
-    Microsoft::WRL::ComPtr<Holder> holder_ = platform::Create<Holder>();
+    platform::Ref<Holder> holder_ = platform::Create<Holder>();
 };
 
 using Holders = testing::Types<NullableInteger, NullableLong>;
@@ -76,10 +76,10 @@ TYPED_TEST(NullableNumbers, HaveValueAsTheirDefaultMember) {
 }
 
 TYPED_TEST(NullableNumbers, AreWrittenInDecimalDigits) {
-    EXPECT_EQ(L"", NumberText(*this->holder_.Get()));
+    EXPECT_EQ(L"", NumberText(*this->holder_));
     for (const auto number : {TestFixture::kSmallest, typename TestFixture::Number{0}, TestFixture::kGreatest}) {
         this->holder_->Set(number);
-        EXPECT_EQ(std::to_wstring(number), NumberText(*this->holder_.Get()));
+        EXPECT_EQ(std::to_wstring(number), NumberText(*this->holder_));
     }
 }
 

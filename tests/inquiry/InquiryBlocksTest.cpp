@@ -17,7 +17,7 @@ namespace {
 template <typename Block>
 bool IsNotEmptyWith(std::wstring Block::*field, const wchar_t* text) {
     const auto block = platform::Create<Block>();
-    (*block.Get()).*field = text;
+    (*block).*field = text;
     return block->HasContent();
 }
 

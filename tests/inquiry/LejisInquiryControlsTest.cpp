@@ -72,7 +72,7 @@ TEST(LejisInquiryControls, ReadEverythingButExactlyFalseAsTrue) {
 TEST(LejisInquiryControls, ReadReplacesTheAgencies) {
     const auto controls = platform::Create<LejisInquiryControls>();
     controls->ExcludedORIIDs->AddText(L"OLD");
-    const ComPtr<Collection> before = controls->ExcludedORIIDs;
+    const platform::Ref<Collection> before = controls->ExcludedORIIDs;
     controls->Read(ElementReader(
         ParseElement(Block(L"<lejis:maxincidents>1</lejis:maxincidents><lejis:excludedOriid>B</lejis:excludedOriid>"
                            L"<lejis:excludedOriid>A</lejis:excludedOriid>"))));

@@ -28,7 +28,7 @@ std::wstring Answer(const std::wstring& content) {
 
 std::wstring Counted(const std::wstring& count) { return L"<lejis:incidentcount>" + count + L"</lejis:incidentcount>"; }
 
-ComPtr<LejisInquiryResponse> Read(const std::wstring& content) {
+platform::Ref<LejisInquiryResponse> Read(const std::wstring& content) {
     auto response = platform::Create<LejisInquiryResponse>();
     response->Read(ParseElement(Answer(content)));
     return response;
@@ -72,7 +72,7 @@ TEST(LejisInquiryResponse, RaisesForACountOutOfRange) {
 
 TEST(LejisInquiryResponse, ReplacesTheCardsOfAnEarlierRead) {
     const auto response = Read(AnsweredCard(L"1") + AnsweredCard(L"2"));
-    const ComPtr<Collection> before = response->IncidentIndexCards;
+    const platform::Ref<Collection> before = response->IncidentIndexCards;
     response->Read(ParseElement(Answer(AnsweredCard(L"3"))));
     EXPECT_EQ(1u, response->IncidentIndexCards->Count());
     EXPECT_EQ(2u, before->Count());

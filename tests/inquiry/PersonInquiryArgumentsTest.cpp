@@ -19,7 +19,7 @@ std::wstring Block(const std::wstring& content) {
     return L"<inq:PersonInquiryArguments>" + content + L"</inq:PersonInquiryArguments>";
 }
 
-ComPtr<PersonInquiryArguments> Read(const std::wstring& content) {
+platform::Ref<PersonInquiryArguments> Read(const std::wstring& content) {
     auto person = platform::Create<PersonInquiryArguments>();
     person->Read(ElementReader(ParseElement(Block(content))));
     return person;
@@ -41,7 +41,7 @@ TEST(PersonInquiryArguments, IsNotEmptyWithAnyOfItsTexts) {
           &PersonInquiryArguments::DriversLicenseState, &PersonInquiryArguments::SexNCIC,
           &PersonInquiryArguments::RaceNCIC}) {
         const auto person = platform::Create<PersonInquiryArguments>();
-        (*person.Get()).*field = L" x ";
+        (*person).*field = L" x ";
         EXPECT_TRUE(person->HasContent());
     }
 }

@@ -37,7 +37,7 @@ constexpr wchar_t kPerson[] =
 constexpr int kElementsOfPerson = 37;
 
 template <typename Card>
-int CallsToRead(const ComPtr<Card>& card, const wchar_t* xml) {
+int CallsToRead(const platform::Ref<Card>& card, const wchar_t* xml) {
     int calls = 0;
     const support::Element element = support::ParseElement(xml);
     card->Read(ElementReader(msxml::Element(platform::Create<support::CountingElement>(element.Get(), calls).Get())));

@@ -9,7 +9,7 @@
 
 namespace lejis::incident_elements {
 
-using Card = Microsoft::WRL::ComPtr<LejisIncidentIndexCard>;
+using Card = platform::Ref<LejisIncidentIndexCard>;
 
 inline constexpr wchar_t kIdentifiers[] =
     L"<card:LejisIndexUid><j:OrganizationORIID><j:ID>PA0250100</j:ID></j:OrganizationORIID>"
@@ -49,7 +49,7 @@ inline Card Read(const std::wstring& xml) {
 }
 
 inline std::wstring ActivityOf(const Card& card) {
-    return FormatNullableDate(*card->ActivityDateTime.Get()) + L" " + FormatNullableTime(*card->ActivityDateTime.Get());
+    return FormatNullableDate(*card->ActivityDateTime) + L" " + FormatNullableTime(*card->ActivityDateTime);
 }
 
 inline auto PersonsOf(const Card& card) { return card->PersonIndexCards->ItemsAs<LejisPersonIndexCard>(); }

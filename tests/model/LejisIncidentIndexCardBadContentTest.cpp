@@ -23,7 +23,7 @@ TEST(LejisIncidentIndexCardBadContent, FailsWithoutIdentifiersAndChangesNothing)
     }));
     EXPECT_EQ(L"PA0250100", card->OrganizationORI());
     EXPECT_EQ(L"07-1234", card->ActivityID());
-    EXPECT_EQ(L"2007-03-10", FormatNullableDate(*card->SubmittedDate.Get()));
+    EXPECT_EQ(L"2007-03-10", FormatNullableDate(*card->SubmittedDate));
     EXPECT_EQ(L"ERIE PD", card->OrganizationName());
     EXPECT_EQ(L"caveat", card->CaveatText());
     EXPECT_EQ(2u, card->PersonIndexCards->Count());
@@ -39,7 +39,7 @@ TEST(LejisIncidentIndexCardBadContent, FailsWithoutSubmitterAndKeepsWhatItReadBe
     }));
     EXPECT_EQ(L"", card->OrganizationORI());
     EXPECT_EQ(L"NEW", card->ActivityID());
-    EXPECT_EQ(L"2008-01-01", FormatNullableDate(*card->SubmittedDate.Get()));
+    EXPECT_EQ(L"2008-01-01", FormatNullableDate(*card->SubmittedDate));
     EXPECT_EQ(L"ERIE PD", card->OrganizationName());
     EXPECT_EQ(L"2007-03-09 14:05:00", ActivityOf(card));
     EXPECT_EQ(L"caveat", card->CaveatText());

@@ -21,7 +21,7 @@ TEST(LejisIncidentIndexCardReading, FillsAllFields) {
     EXPECT_EQ(L"PA0250100", card->OrganizationORI());
     EXPECT_EQ(L"07-1234", card->ActivityID());
     EXPECT_EQ(L"ERIE PD", card->OrganizationName());
-    EXPECT_EQ(L"2007-03-10", FormatNullableDate(*card->SubmittedDate.Get()));
+    EXPECT_EQ(L"2007-03-10", FormatNullableDate(*card->SubmittedDate));
     EXPECT_EQ(L"2007-03-09 14:05:00", ActivityOf(card));
     EXPECT_EQ(L"ERIE", card->Location->City());
     EXPECT_EQ(L"caveat", card->CaveatText());

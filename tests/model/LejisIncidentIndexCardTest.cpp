@@ -18,7 +18,7 @@ const support::Names kTexts = {L"OrganizationName", L"OrganizationORI", L"Activi
                                L"CaveatText",       L"ChargeNCICCode",  L"ChargeDescriptionText"};
 
 template <typename Part>
-Microsoft::WRL::ComPtr<Part> Add(const Microsoft::WRL::ComPtr<Collection>& cards) {
+platform::Ref<Part> Add(const platform::Ref<Collection>& cards) {
     auto part = platform::Create<Part>();
     cards->AddObject(part->Dispatch());
     return part;
@@ -85,11 +85,11 @@ TEST(LejisIncidentIndexCard, HasCautionWhenItOrAnyOfItsCardsIsFlagged) {
 }
 
 TEST(LejisIncidentIndexCard, RefusesForeignObjectsAmongItsCards) {
-    using Cards = Microsoft::WRL::ComPtr<Collection> LejisIncidentIndexCard::*;
+    using Cards = platform::Ref<Collection> LejisIncidentIndexCard::*;
     for (const Cards cards : {&LejisIncidentIndexCard::PersonIndexCards, &LejisIncidentIndexCard::VehicleIndexCards,
                               &LejisIncidentIndexCard::PropertyIndexCards}) {
         const auto card = platform::Create<LejisIncidentIndexCard>();
-        ((*card.Get()).*cards)->AddObject(platform::Create<LejisStreetAddress>()->Dispatch());
+        ((*card).*cards)->AddObject(platform::Create<LejisStreetAddress>()->Dispatch());
         Microsoft::WRL::ComPtr<IDispatch> element;
         VARIANT_BOOL caution = VARIANT_TRUE;
         EXPECT_TRUE(FailedWith(card->ToXmlElement(NewDocument().Get(), element.GetAddressOf()), DISP_E_TYPEMISMATCH,

@@ -12,7 +12,7 @@ namespace {
 using support::NewDocument;
 using support::SameXml;
 
-using Card = Microsoft::WRL::ComPtr<LejisIncidentIndexCard>;
+using Card = platform::Ref<LejisIncidentIndexCard>;
 
 constexpr wchar_t kLocation[] =
     L"<j:IncidentLocation><j:LocationAddress><j:LocationStreet><j:StreetFullText/><j:StreetNumberText/>"
@@ -39,7 +39,7 @@ testing::AssertionResult Writes(const Card& card, const std::wstring& xml) {
 }
 
 template <typename Part>
-Microsoft::WRL::ComPtr<Part> Add(const Microsoft::WRL::ComPtr<Collection>& cards) {
+platform::Ref<Part> Add(const platform::Ref<Collection>& cards) {
     auto part = platform::Create<Part>();
     cards->AddObject(part->Dispatch());
     return part;

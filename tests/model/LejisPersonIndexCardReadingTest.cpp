@@ -15,7 +15,7 @@ namespace {
 using support::ParseElement;
 using support::Raises;
 
-using Card = Microsoft::WRL::ComPtr<LejisPersonIndexCard>;
+using Card = platform::Ref<LejisPersonIndexCard>;
 
 const support::Names kTexts = {L"OrganizationName",
                                L"GivenName",
@@ -88,7 +88,7 @@ void ExpectIdentity(const Card& card) {
 TEST(LejisPersonIndexCardReading, FillsAllFieldsButTheCaveat) {
     const Card card = Read(FullCardWithBirthDate(L"1970-01-31"));
     ExpectIdentity(card);
-    EXPECT_EQ(L"1970-01-31", FormatNullableDate(*card->BirthDate.Get()));
+    EXPECT_EQ(L"1970-01-31", FormatNullableDate(*card->BirthDate));
     EXPECT_EQ(L"M", card->SexNCIC());
     EXPECT_EQ(L"W", card->RaceNCIC());
     EXPECT_EQ(short{510}, card->Height->Number());

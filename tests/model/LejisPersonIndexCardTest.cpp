@@ -15,7 +15,7 @@ using support::NewDocument;
 using support::Reparsed;
 using support::SameXml;
 
-using Card = Microsoft::WRL::ComPtr<LejisPersonIndexCard>;
+using Card = platform::Ref<LejisPersonIndexCard>;
 
 constexpr wchar_t kOrganization[] =
     L"<j:IncidentJurisdictionalOrganization><j:OrganizationName/></j:IncidentJurisdictionalOrganization>";
@@ -38,7 +38,7 @@ testing::AssertionResult Writes(const Card& card, const std::wstring& xml) {
 }
 
 TEST(LejisPersonIndexCard, GivesTextsThatOutliveIt) {
-    auto card = platform::Create<LejisPersonIndexCard>();
+    Microsoft::WRL::ComPtr<LejisPersonIndexCard> card = platform::Create<LejisPersonIndexCard>();
     card->SetSurName(L"PUBLIC");
     const auto surName = card->SurName();
     // Longer than the room that the card has.

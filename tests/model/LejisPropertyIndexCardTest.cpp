@@ -33,7 +33,7 @@ constexpr wchar_t kEmptyCard[] =
     L"<card:RMSPropertyIndexCards><ext:CautionIndicatorFlag>false</ext:CautionIndicatorFlag>"
     L"</card:RMSPropertyIndexCards>";
 
-using Card = Microsoft::WRL::ComPtr<LejisPropertyIndexCard>;
+using Card = platform::Ref<LejisPropertyIndexCard>;
 
 Card Read(const std::wstring& xml) {
     auto card = platform::Create<LejisPropertyIndexCard>();

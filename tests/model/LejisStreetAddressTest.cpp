@@ -37,7 +37,7 @@ constexpr wchar_t kFullAddress[] =
     L"<j:LocationStateCode.ncicLSTA>PA</j:LocationStateCode.ncicLSTA>"
     L"<j:LocationPostalCodeID><j:ID>16501</j:ID></j:LocationPostalCodeID></j:LocationAddress>";
 
-using Address = Microsoft::WRL::ComPtr<LejisStreetAddress>;
+using Address = platform::Ref<LejisStreetAddress>;
 
 std::wstring Within(const std::wstring& content) { return L"<j:Residence>" + content + L"</j:Residence>"; }
 

@@ -22,13 +22,14 @@ constexpr wchar_t kSystem[] =
     L"<lejis:ContributingSystem><ext:companyName>Talvex</ext:companyName><ext:systemName>TalvexSuite</ext:systemName>"
     L"<ext:systemVersion>3.1.27</ext:systemVersion></lejis:ContributingSystem>";
 
-ComPtr<LejisSubmissionDocument> NewSubmission() {
+platform::Ref<LejisSubmissionDocument> NewSubmission() {
     auto submission = platform::Create<LejisSubmissionDocument>();
     submission->ContributingSystem->Read(ElementReader(support::ParseElement(kSystem)));
     return submission;
 }
 
-ComPtr<LejisIncidentIndexCard> AddIncident(const ComPtr<LejisSubmissionDocument>& submission, const wchar_t* id) {
+platform::Ref<LejisIncidentIndexCard> AddIncident(const platform::Ref<LejisSubmissionDocument>& submission,
+                                                  const wchar_t* id) {
     auto incident = platform::Create<LejisIncidentIndexCard>();
     incident->SetActivityID(id);
     submission->Add(incident);

@@ -37,7 +37,7 @@ constexpr wchar_t kEmptyCard[] =
     L"<card:RMSVehicleIndexCards><ext:CautionIndicatorFlag>false</ext:CautionIndicatorFlag>"
     L"</card:RMSVehicleIndexCards>";
 
-using Card = Microsoft::WRL::ComPtr<LejisVehicleIndexCard>;
+using Card = platform::Ref<LejisVehicleIndexCard>;
 
 Card Read(const std::wstring& xml) {
     auto card = platform::Create<LejisVehicleIndexCard>();

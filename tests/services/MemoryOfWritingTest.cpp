@@ -16,7 +16,7 @@ namespace {
 
 using Microsoft::WRL::ComPtr;
 
-ComPtr<LejisIncidentIndexCard> IncidentWithMeasures() {
+platform::Ref<LejisIncidentIndexCard> IncidentWithMeasures() {
     auto person = platform::Create<LejisPersonIndexCard>();
     person->Height->Set(short{510});
     person->Weight->Set(short{180});
@@ -50,9 +50,9 @@ TEST(MemoryOfWriting, IsGivenBack) {
     // Wine 10 lists small blocks by the group, so that one block more can count thousands of bytes.
     const size_t times = support::WineVersion() >= 10 ? 16'000 : 100;
     const auto incident = IncidentWithMeasures();
-    for (size_t time = 0; time < times; ++time) FormatAndWrite(*incident.Get());
+    for (size_t time = 0; time < times; ++time) FormatAndWrite(*incident);
     const size_t before = BytesInUse();
-    for (size_t time = 0; time < times; ++time) FormatAndWrite(*incident.Get());
+    for (size_t time = 0; time < times; ++time) FormatAndWrite(*incident);
     // A little for what goes on beside; one namespace is eighty bytes.
     EXPECT_LT(BytesInUse(), before + 20 * times);
 }

@@ -19,7 +19,7 @@ using support::SameXml;
 namespace lejis {
 namespace {
 
-ComPtr<SOAPEnvelope> Read(const std::wstring& xml) {
+platform::Ref<SOAPEnvelope> Read(const std::wstring& xml) {
     auto envelope = platform::Create<SOAPEnvelope>();
     envelope->ReadDocument(Parse(xml));
     return envelope;
@@ -162,20 +162,20 @@ protected:
     }
 
     const support::Document document = Parse(support::SoapFault(L"soap:Server", L"x"));
-    const ComPtr<SOAPEnvelope> envelope = platform::Create<SOAPEnvelope>();
+    const platform::Ref<SOAPEnvelope> envelope = platform::Create<SOAPEnvelope>();
 };
 
 TEST_P(ClientsDocument, MayChangeWhenItHasBeenRead) {
     EXPECT_OK(envelope->FromXmlDocument(static_cast<IDispatch*>(document.Get())));
     const std::wstring body = envelope->Body();
     GetParam().make(document);
-    ExpectWhatWasRead(*envelope.Get(), body);
+    ExpectWhatWasRead(*envelope, body);
 }
 
 TEST_P(ClientsDocument, MayChangeWhenItsRootHasBeenRead) {
     EXPECT_OK(envelope->FromXmlElement(static_cast<IDispatch*>(msxml::Root(document).Get())));
     GetParam().make(document);
-    ExpectWhatWasRead(*envelope.Get(), envelope->Body());
+    ExpectWhatWasRead(*envelope, envelope->Body());
     EXPECT_TRUE(envelope->Body().starts_with(L"<soap:Body"));
 }
 

@@ -72,7 +72,7 @@ protected:
 
     support::PlayedWindows windows;
     ScriptedHttp http{GetParam().synchronous};
-    ComPtr<LejisSubmissionWebService> service = platform::Create<LejisSubmissionWebService>();
+    platform::Ref<LejisSubmissionWebService> service = platform::Create<LejisSubmissionWebService>();
 };
 
 TEST_P(ScriptedFault, IsToldToWhoeverWaits) {

@@ -227,7 +227,7 @@ TEST(SearchEventsOfAStricterPlatform, ComeToAHandlerThatIsCalledWithoutParameter
 
 TEST(SearchEventsOfAStricterPlatform, PartTheServiceFromARequestThatKeepsItsHandler) {
     ScriptedHttp http({.responseText = InquiryResponse(AnsweredCard(L"1")), .clearHandlerResult = E_FAIL});
-    auto service = platform::Create<LejisSearchWebService>();
+    Microsoft::WRL::ComPtr<LejisSearchWebService> service = platform::Create<LejisSearchWebService>();
     service->URL = kUrl;
     const auto log = EventLog::ForSearches();
     log->ConnectTo(service->Dispatch());

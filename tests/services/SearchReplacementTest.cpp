@@ -69,8 +69,8 @@ protected:
     }
 
     ScriptedHttp http{{.responseText = InquiryResponse(AnsweredCard(L"2007-1"))}};
-    ComPtr<LejisSearchRequest> request = platform::Create<LejisSearchRequest>();
-    ComPtr<LejisSearchWebService> service = platform::Create<LejisSearchWebService>();
+    platform::Ref<LejisSearchRequest> request = platform::Create<LejisSearchRequest>();
+    platform::Ref<LejisSearchWebService> service = platform::Create<LejisSearchWebService>();
     ComPtr<EventLog> log = EventLog::ForSearches();
 };
 

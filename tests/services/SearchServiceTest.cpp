@@ -37,7 +37,7 @@ protected:
     }
 
     ScriptedHttp http{{.responseText = InquiryResponse(AnsweredCard(L"2007-1"))}};
-    ComPtr<LejisSearchRequest> request = platform::Create<LejisSearchRequest>();
+    platform::Ref<LejisSearchRequest> request = platform::Create<LejisSearchRequest>();
     ComPtr<LejisSearchWebService> service = platform::Create<LejisSearchWebService>();
     ComPtr<EventLog> log = EventLog::ForSearches();
 };

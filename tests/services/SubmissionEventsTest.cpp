@@ -58,7 +58,7 @@ constexpr wchar_t kUrl[] = L"http://lejis-interface/submission";
 
 class SubmissionEvents : public testing::TestWithParam<EventRow> {};
 
-ComPtr<LejisSubmissionDocument> Document() {
+platform::Ref<LejisSubmissionDocument> Document() {
     auto document = platform::Create<LejisSubmissionDocument>();
     document->Add(support::CleanIncident());
     return document;
@@ -71,7 +71,7 @@ TEST_P(SubmissionEvents, AreAsDocumented) {
     service->URL = kUrl;
     const auto log = EventLog::ForSubmissions();
     log->ConnectTo(service->Dispatch());
-    service->SubmitAsync(*Document().Get());
+    service->SubmitAsync(*Document());
     EXPECT_TRUE(http.Last().Seen().asynchronous);
     for (int state = 0; state < 3; ++state) http.Last().Advance();
     EXPECT_TRUE(log->events.empty()) << "nothing is raised inside of the request's callback";
@@ -109,7 +109,7 @@ TEST_P(SubmissionSendingFailure, IsAnEventAtOnce) {
     service->URL = kUrl;
     const auto log = EventLog::ForSubmissions();
     log->ConnectTo(service->Dispatch());
-    service->SubmitAsync(*Document().Get());
+    service->SubmitAsync(*Document());
     EXPECT_EQ(std::vector<std::wstring>{GetParam().event}, log->events);
     EXPECT_FALSE(http.Last().HasHandler()) << "the request and the service no longer hold each other";
 }
@@ -124,7 +124,7 @@ protected:
         log->ConnectTo(service->Dispatch());
     }
 
-    void Submit() { service->SubmitAsync(*Document().Get()); }
+    void Submit() { service->SubmitAsync(*Document()); }
 
     ScriptedHttp http{{.responseText = support::SubmissionResponse(L"0")}};
     ComPtr<LejisSubmissionWebService> service = platform::Create<LejisSubmissionWebService>();

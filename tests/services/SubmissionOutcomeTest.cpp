@@ -154,7 +154,7 @@ TEST_P(SubmissionOutcome, IsAsDocumented) {
     const ScriptedHttp http(GetParam().script);
     const auto service = platform::Create<LejisSubmissionWebService>();
     service->URL = kUrl;
-    const auto submit = [&] { service->Submit(*CleanIncident().Get()); };
+    const auto submit = [&] { service->Submit(*CleanIncident()); };
     if (GetParam().number == 0) {
         EXPECT_NO_THROW(submit());
     } else {
@@ -167,7 +167,7 @@ TEST_P(SubmissionOutcome, IsTheSameForADeletion) {
     const ScriptedHttp http(GetParam().script);
     const auto service = platform::Create<LejisSubmissionWebService>();
     service->URL = kUrl;
-    const auto withdraw = [&] { service->Withdraw(*CleanIncident().Get()); };
+    const auto withdraw = [&] { service->Withdraw(*CleanIncident()); };
     if (GetParam().number == 0) {
         EXPECT_NO_THROW(withdraw());
     } else {
@@ -182,10 +182,9 @@ TEST(SubmissionService, SucceedsAfterAFailure) {
     ScriptedHttp http(Answered(503, L""));
     const auto service = platform::Create<LejisSubmissionWebService>();
     service->URL = kUrl;
-    EXPECT_TRUE(
-        support::Raises(tvTransientError, PartiallyOffline(503), [&] { service->Submit(*CleanIncident().Get()); }));
+    EXPECT_TRUE(support::Raises(tvTransientError, PartiallyOffline(503), [&] { service->Submit(*CleanIncident()); }));
     http.script = Accepted(L"0");
-    EXPECT_NO_THROW(service->Submit(*CleanIncident().Get()));
+    EXPECT_NO_THROW(service->Submit(*CleanIncident()));
 }
 
 }  // namespace

@@ -60,7 +60,7 @@ std::wstring ExpectedRequest() {
 }
 
 TEST_F(SubmissionRequest, IsPostedToTheUrlAndWaitedFor) {
-    const Sent& sent = Submitted(*CleanIncident().Get());
+    const Sent& sent = Submitted(*CleanIncident());
     EXPECT_EQ(L"POST", sent.method);
     EXPECT_EQ(L"http://lejis-interface/submission", sent.url);
     EXPECT_FALSE(sent.asynchronous);
@@ -71,47 +71,45 @@ TEST_F(SubmissionRequest, IsPostedToTheUrlAndWaitedFor) {
 TEST_F(SubmissionRequest, CarriesTheTwoHeadersInTheirOrder) {
     const Headers expected = {{L"SOAPAction", L"http://lejis.example/lejis/jxdm/1.0/service/submitRmsIndex"},
                               {L"Content-Type", L"text/xml;charset=utf-8"}};
-    EXPECT_EQ(expected, Submitted(*CleanIncident().Get()).headers);
+    EXPECT_EQ(expected, Submitted(*CleanIncident()).headers);
 }
 
 TEST_F(SubmissionRequest, IsTheEnvelopeAsText) {
-    const Sent& sent = Submitted(*CleanIncident().Get());
+    const Sent& sent = Submitted(*CleanIncident());
     ASSERT_TRUE(sent.bodyIsText);
     EXPECT_TRUE(sent.body.starts_with(L"<soap:Envelope ")) << "no declaration stands before the envelope";
     EXPECT_TRUE(support::SameXml(support::Parse(sent.body).Get(), ExpectedRequest()));
 }
 
 TEST_F(SubmissionRequest, OfADeletionHoldsNothingButTheIdentifiersAndTheSubmittedDate) {
-    service->Withdraw(*FullIncident().Get());
+    service->Withdraw(*FullIncident());
     EXPECT_TRUE(support::SameXml(support::Parse(http.Last().Seen().body).Get(), ExpectedRequest()));
 }
 
 TEST_F(SubmissionRequest, OfADeletionIsNeitherShapedNorChecked) {
     const auto incident = platform::Create<LejisIncidentIndexCard>();
     incident->SetOrganizationName(std::wstring(80, L'A'));
-    service->Withdraw(*incident.Get());
+    service->Withdraw(*incident);
     EXPECT_NE(std::wstring::npos, http.Last().Seen().body.find(std::wstring(80, L'A')));
 }
 
 TEST_F(SubmissionRequest, HoldsTheShapedCopyAndTheCallersCardStaysAsItIs) {
     const auto incident = CleanIncident();
     incident->SetOrganizationName(std::wstring(76, L'A'));
-    const auto warnings = service->Submit(*incident.Get());
+    const auto warnings = service->Submit(*incident);
     EXPECT_EQ(std::wstring::npos, http.Last().Seen().body.find(std::wstring(76, L'A')));
     EXPECT_NE(std::wstring::npos, http.Last().Seen().body.find(std::wstring(75, L'A')));
     EXPECT_EQ(1u, warnings->Count());
     EXPECT_EQ(76u, incident->OrganizationName().size());
 }
 
-TEST_F(SubmissionRequest, OfACleanIncidentHasNoWarnings) {
-    EXPECT_EQ(0u, service->Submit(*CleanIncident().Get())->Count());
-}
+TEST_F(SubmissionRequest, OfACleanIncidentHasNoWarnings) { EXPECT_EQ(0u, service->Submit(*CleanIncident())->Count()); }
 
 TEST_F(SubmissionRequest, IsNotMadeForAnIncidentThatFailsValidation) {
     const auto incident = CleanIncident();
     incident->SetActivityID(L"");
     incident->SetOrganizationORI(L"PA");
-    EXPECT_TRUE(support::Raises(tvFatalError, L"ID is required.", [&] { service->Submit(*incident.Get()); }));
+    EXPECT_TRUE(support::Raises(tvFatalError, L"ID is required.", [&] { service->Submit(*incident); }));
     EXPECT_TRUE(http.requests.empty());
 }
 
@@ -121,8 +119,8 @@ TEST_F(SubmissionRequest, IsNotSentToAnAddressThatIsNone) {
             service->URL = url;
             service->ValidateSchema = validates;
             const std::wstring told = L"Invalid URL '" + url + L"'";
-            EXPECT_TRUE(support::Raises(tvTransientError, told, [&] { service->Submit(*CleanIncident().Get()); }));
-            EXPECT_TRUE(support::Raises(tvTransientError, told, [&] { service->Withdraw(*CleanIncident().Get()); }));
+            EXPECT_TRUE(support::Raises(tvTransientError, told, [&] { service->Submit(*CleanIncident()); }));
+            EXPECT_TRUE(support::Raises(tvTransientError, told, [&] { service->Withdraw(*CleanIncident()); }));
             EXPECT_EQ(0, http.Last().Seen().sends);
         }
     }
@@ -134,7 +132,7 @@ TEST_F(SubmissionRequest, IsNotSentWhenTheWsdlOfItsServiceCannotBeFetched) {
     EXPECT_TRUE(support::Raises(tvFatalError,
                                 L"Internal error -2147220735: Error in DoSubmit (line 3): There is no such service. "
                                 L"(Line 1)",
-                                [&] { service->Submit(*CleanIncident().Get()); }));
+                                [&] { service->Submit(*CleanIncident()); }));
     ASSERT_EQ(1u, http.requests.size());
     EXPECT_EQ(L"http://lejis-interface/submission?wsdl", http.Last().Seen().url);
 }
@@ -142,13 +140,13 @@ TEST_F(SubmissionRequest, IsNotSentWhenTheWsdlOfItsServiceCannotBeFetched) {
 TEST_F(SubmissionRequest, IsWaitedForWithOneYieldAfterEachLookThatFindsItIncomplete) {
     support::TestHost host;
     http.script.readyStates = {1, 2, 3, 3, 4};
-    service->Submit(*CleanIncident().Get());
+    service->Submit(*CleanIncident());
     EXPECT_EQ(4, host.yields);
 }
 
 TEST_F(SubmissionRequest, ThatIsCompleteAtOnceNeedsNoYield) {
     support::TestHost host;
-    service->Submit(*CleanIncident().Get());
+    service->Submit(*CleanIncident());
     EXPECT_EQ(0, host.yields);
 }
 
@@ -159,10 +157,10 @@ TEST_F(SubmissionRequest, IsGivenUpWhenTheHostsYieldRaises) {
     EXPECT_TRUE(support::Raises(tvFatalError,
                                 L"Internal error -2147212766: Error in DoSubmit (line 8): The user has cancelled. "
                                 L"(Line 1)",
-                                [&] { service->Submit(*CleanIncident().Get()); }));
+                                [&] { service->Submit(*CleanIncident()); }));
     host.onYield = [] {};
     http.script.readyStates = {4};
-    EXPECT_NO_THROW(service->Submit(*CleanIncident().Get()));
+    EXPECT_NO_THROW(service->Submit(*CleanIncident()));
 }
 
 TEST_F(SubmissionRequest, PassesASubmissionErrorOfTheHostOnWithItsNumberAndSource) {
@@ -171,7 +169,7 @@ TEST_F(SubmissionRequest, PassesASubmissionErrorOfTheHostOnWithItsNumberAndSourc
     for (const long number : {long{tvTransientError}, long{tvFatalError}}) {
         host.onYield = [number] { throw platform::ComError(number, L"Not now.", L"TalvexSuite"); };
         try {
-            service->Submit(*CleanIncident().Get());
+            service->Submit(*CleanIncident());
             ADD_FAILURE() << "not raised";
         } catch (const platform::ComError& error) {
             EXPECT_EQ(number, error.Number());
@@ -190,10 +188,10 @@ TEST_F(SubmissionRequest, LosesItsAnswerToASubmissionMadeWhileItWaits) {
         http.script.readyStates = {4};
         http.script.responseText = support::SubmissionResponse(L"7 of the second");
         EXPECT_TRUE(support::Raises(tvTransientError, L"Unexpected error returned from LEJIS: 7 of the second",
-                                    [&] { service->Submit(*CleanIncident().Get()); }));
+                                    [&] { service->Submit(*CleanIncident()); }));
     };
     EXPECT_TRUE(support::Raises(tvTransientError, L"Unexpected error returned from LEJIS: 7 of the second",
-                                [&] { service->Submit(*CleanIncident().Get()); }));
+                                [&] { service->Submit(*CleanIncident()); }));
     EXPECT_EQ(2u, http.requests.size());
 }
 
@@ -204,10 +202,10 @@ TEST_F(SubmissionRequest, LivesUntilItIsSentAlsoWhenASubmissionMadeMeanwhileRepl
         support::ScriptedRequest& first = http.Last();
         first.AddRef();
         http.requests.clear();
-        service->Submit(*CleanIncident().Get());
+        service->Submit(*CleanIncident());
         EXPECT_EQ(1u, first.Release());
     };
-    EXPECT_NO_THROW(service->Submit(*CleanIncident().Get()));
+    EXPECT_NO_THROW(service->Submit(*CleanIncident()));
     EXPECT_EQ(2, sends);
 }
 
@@ -216,7 +214,7 @@ TEST_F(SubmissionRequest, TakesNoTimeLimitFromTheTimeout) {
     http.script.readyStates = std::vector<long>(50, 1);
     http.script.readyStates.push_back(4);
     service->Timeout = 1;
-    EXPECT_NO_THROW(service->Submit(*CleanIncident().Get()));
+    EXPECT_NO_THROW(service->Submit(*CleanIncident()));
     EXPECT_EQ(50, host.yields);
     EXPECT_EQ(1, service->Timeout);
 }

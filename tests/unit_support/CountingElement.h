@@ -1,6 +1,7 @@
 // An element, or what hangs below it, that counts the calls which a reader makes.
 #pragma once
 
+#include "platform/com/Results.h"
 #include "unit_support/SilentNode.h"
 
 #include <msxml6.h>
@@ -42,7 +43,8 @@ private:
     HRESULT Wrapped(HRESULT (STDMETHODCALLTYPE Node::*getter)(Node**), Node** result) {
         Microsoft::WRL::ComPtr<Node> found;
         const HRESULT outcome = Counted(getter, found.GetAddressOf());
-        *result = found ? platform::Create<CountingElement>(found.Get(), calls_).Detach() : nullptr;
+        *result = nullptr;
+        if (found) platform::Return(result, platform::Create<CountingElement>(found.Get(), calls_));
         return outcome;
     }
 

@@ -1,21 +1,21 @@
 #pragma once
 
 #include "platform/com/UnknownObject.h"
-
-#include <oaidl.h>
+#include "support/EmptyDispatch.h"
 
 namespace support {
 
-// The dispatch half of an interface that is called early bound alone.
+// An object with one interface, which is called early bound, or by number alone.
 template <typename Interface>
-class EarlyBound : public platform::UnknownObject<Interface> {
-public:
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
-        return E_NOTIMPL;
-    }
-};
+using EarlyBound = platform::UnknownObject<EmptyDispatch<Interface>>;
 
 }  // namespace support
+
+namespace platform {
+
+template <typename Dual>
+struct Implemented<support::EmptyDispatch<Dual>> {
+    using Interface = Dual;
+};
+
+}  // namespace platform

@@ -23,12 +23,12 @@ std::wstring Described(const VARIANT& argument) {
 
 EventLog::EventLog(std::vector<std::wstring> names) : names_(std::move(names)) {}
 
-ComPtr<EventLog> EventLog::ForSubmissions() {
+platform::Ref<EventLog> EventLog::ForSubmissions() {
     return platform::Create<EventLog>(std::vector<std::wstring>{L"SubmissionCompleted", L"ConfigurationError",
                                                                 L"NetworkError", L"ValidationError", L"ServiceError"});
 }
 
-ComPtr<EventLog> EventLog::ForSearches() {
+platform::Ref<EventLog> EventLog::ForSearches() {
     return platform::Create<EventLog>(std::vector<std::wstring>{
         L"SearchCompleted", L"SearchFailed", L"ConfigurationError", L"NetworkError", L"ServiceError"});
 }

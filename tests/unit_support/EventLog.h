@@ -1,7 +1,7 @@
 // A client's sink that keeps each event as "Name", "Name: message" or, for cards found, "Name: n cards".
 #pragma once
 
-#include "platform/com/UnknownObject.h"
+#include "platform/com/EventSink.h"
 
 #include <ocidl.h>
 #include <wrl/client.h>
@@ -12,13 +12,13 @@
 
 namespace support {
 
-class EventLog final : public platform::UnknownObject<IDispatch> {
+class EventLog final : public platform::EventSink<> {
 public:
     // The names of the events, by their numbers, from 1.
     explicit EventLog(std::vector<std::wstring> names);
 
-    static Microsoft::WRL::ComPtr<EventLog> ForSubmissions();
-    static Microsoft::WRL::ComPtr<EventLog> ForSearches();
+    static platform::Ref<EventLog> ForSubmissions();
+    static platform::Ref<EventLog> ForSearches();
 
     // Connects the log to the default events of the service.
     void ConnectTo(IDispatch* service);
@@ -28,9 +28,6 @@ public:
     std::vector<std::wstring> events;
     std::function<void()> onEvent = [] {};
 
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
     STDMETHODIMP Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*, UINT*) override;
 
 private:

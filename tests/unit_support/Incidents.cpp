@@ -6,7 +6,7 @@ using Microsoft::WRL::ComPtr;
 
 namespace support {
 
-ComPtr<lejis::LejisIncidentIndexCard> CleanIncident() {
+platform::Ref<lejis::LejisIncidentIndexCard> CleanIncident() {
     auto incident = platform::Create<lejis::LejisIncidentIndexCard>();
     incident->SetOrganizationName(L"ERIE CITY POLICE");
     incident->SetOrganizationORI(L"PA0250100");
@@ -15,7 +15,7 @@ ComPtr<lejis::LejisIncidentIndexCard> CleanIncident() {
     return incident;
 }
 
-ComPtr<lejis::LejisIncidentIndexCard> FullIncident() {
+platform::Ref<lejis::LejisIncidentIndexCard> FullIncident() {
     auto incident = CleanIncident();
     incident->SetChargeNCICCode(L"2299");
     incident->ActivityDateTime->Set(platform::ParseDate(L"2007-03-08 23:15:00"));

@@ -8,9 +8,9 @@
 namespace support {
 
 // One that the validator passes and the formatter leaves alone.
-Microsoft::WRL::ComPtr<lejis::LejisIncidentIndexCard> CleanIncident();
+platform::Ref<lejis::LejisIncidentIndexCard> CleanIncident();
 
 // The same with persons, a vehicle and property, a charge and a location.
-Microsoft::WRL::ComPtr<lejis::LejisIncidentIndexCard> FullIncident();
+platform::Ref<lejis::LejisIncidentIndexCard> FullIncident();
 
 }  // namespace support

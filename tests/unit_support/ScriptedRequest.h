@@ -1,8 +1,9 @@
 // A request that plays what a test scripts: what the platform under the tests cannot be brought to do over a socket.
 #pragma once
 
-#include "platform/com/UnknownObject.h"
+#include "platform/com/Ref.h"
 #include "platform/http/HttpRequest.h"
+#include "unit_support/EarlyBound.h"
 
 #include <msxml6.h>
 #include <wrl/client.h>
@@ -67,11 +68,11 @@ public:
     Script script;
 
     // The requests made so far, the last one at the end.
-    std::vector<Microsoft::WRL::ComPtr<ScriptedRequest>> requests;
-    ScriptedRequest& Last() const { return *requests.back().Get(); }
+    std::vector<platform::Ref<ScriptedRequest>> requests;
+    ScriptedRequest& Last() const { return *requests.back(); }
 };
 
-class ScriptedRequest final : public platform::UnknownObject<IXMLHTTPRequest> {
+class ScriptedRequest final : public EarlyBound<IXMLHTTPRequest> {
 public:
     explicit ScriptedRequest(Script script) : script_(std::move(script)) {}
 
@@ -99,13 +100,6 @@ public:
     STDMETHODIMP get_responseStream(VARIANT* stream) override;
     STDMETHODIMP get_readyState(long* state) override;
     STDMETHODIMP put_onreadystatechange(IDispatch* handler) override;
-
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
-        return E_NOTIMPL;
-    }
 
 private:
     const Script script_;

@@ -30,7 +30,7 @@ private:
     std::function<void()> onEnd_;
 };
 
-ComPtr<Collection> CollectionOf(std::initializer_list<const wchar_t*> texts) {
+platform::Ref<Collection> CollectionOf(std::initializer_list<const wchar_t*> texts) {
     auto collection = Create<Collection>();
     for (const wchar_t* text : texts) collection->AddText(text);
     return collection;
@@ -64,13 +64,13 @@ TEST(Collection, SaysWhichItemIsMissing) {
     EXPECT_TRUE(FailedWith(collection->get_Item(0, &item), kBadIndex, L"There is no item 0: the collection holds 2."));
     EXPECT_TRUE(FailedWith(collection->get_Item(3, &item), kBadIndex, L"There is no item 3: the collection holds 2."));
     EXPECT_TRUE(FailedWith(collection->Remove(-1), kBadIndex, L"There is no item -1: the collection holds 2."));
-    EXPECT_EQ((std::vector<std::wstring>{L"a", L"b"}), Texts(*collection.Get()));
+    EXPECT_EQ((std::vector<std::wstring>{L"a", L"b"}), Texts(*collection));
 }
 
 TEST(Collection, RemovesAnItemAndMovesTheOthersUp) {
     const auto collection = CollectionOf({L"a", L"b", L"c"});
     EXPECT_OK(collection->Remove(2));
-    EXPECT_EQ((std::vector<std::wstring>{L"a", L"c"}), Texts(*collection.Get()));
+    EXPECT_EQ((std::vector<std::wstring>{L"a", L"c"}), Texts(*collection));
 }
 
 TEST(Collection, IsWholeAgainWhenARemovedItemDies) {
@@ -80,7 +80,7 @@ TEST(Collection, IsWholeAgainWhenARemovedItemDies) {
     collection->AddText(L"stays");
     EXPECT_OK(collection->Remove(1));
     EXPECT_EQ(1u, countAtEnd);
-    EXPECT_EQ((std::vector<std::wstring>{L"stays"}), Texts(*collection.Get()));
+    EXPECT_EQ((std::vector<std::wstring>{L"stays"}), Texts(*collection));
 }
 
 TEST(Collection, KeepsTheValueOfWhatIsPassedByReference) {
@@ -91,7 +91,7 @@ TEST(Collection, KeepsTheValueOfWhatIsPassedByReference) {
     V_VARIANTREF(&reference) = &text;
     EXPECT_OK(collection->Add(reference));
     text = L"after";
-    EXPECT_EQ((std::vector<std::wstring>{L"before"}), Texts(*collection.Get()));
+    EXPECT_EQ((std::vector<std::wstring>{L"before"}), Texts(*collection));
 }
 
 TEST(Collection, HandsOutTheObjectsThemselves) {
@@ -157,7 +157,7 @@ TEST(Collection, IsReadByClientsThroughItsMembers) {
     EXPECT_EQ(_variant_t(2L), GetMember(collection->Dispatch(), L"Count"));
     CallMember(collection->Dispatch(), L"Remove", {1L});
     CallMember(collection->Dispatch(), L"Add", {L"c"});
-    EXPECT_EQ((std::vector<std::wstring>{L"b", L"c"}), Texts(*collection.Get()));
+    EXPECT_EQ((std::vector<std::wstring>{L"b", L"c"}), Texts(*collection));
 }
 
 TEST(Collection, HasItemAsItsDefaultMember) {

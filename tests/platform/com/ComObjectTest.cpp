@@ -57,7 +57,7 @@ TEST(ComObject, RefusesInterfacesThatItLacks) {
 
 TEST(ComObject, KeepsTheModuleInUseWhileItLives) {
     ASSERT_FALSE(module::InUse());
-    auto card = Create<LejisVehicleIndexCard>();
+    Microsoft::WRL::ComPtr<LejisVehicleIndexCard> card = Create<LejisVehicleIndexCard>();
     EXPECT_TRUE(module::InUse());
     card.Reset();
     EXPECT_FALSE(module::InUse());
@@ -80,7 +80,7 @@ TEST(ComObject, KeepsTheErrorObjectWhileAClientAsksForIt) {
 }
 
 TEST(ComObject, OutlivesItsClientWhileItsClassInformationIsHeld) {
-    auto card = Create<LejisVehicleIndexCard>();
+    Microsoft::WRL::ComPtr<LejisVehicleIndexCard> card = Create<LejisVehicleIndexCard>();
     const auto information = As<IProvideClassInfo2>(card.Get());
     card.Reset();
     ComPtr<ILejisVehicleIndexCard> again;
@@ -166,7 +166,7 @@ TEST(ComObject, TakesNoParametersForNoArguments) {
 }
 
 // The call of a member that takes one argument, with these parameters.
-HRESULT InvokeReader(const ComPtr<LejisVehicleIndexCard>& card, DISPPARAMS parameters) {
+HRESULT InvokeReader(const platform::Ref<LejisVehicleIndexCard>& card, DISPPARAMS parameters) {
     DISPID reader = 0;
     EXPECT_OK(NumberOf(card->Dispatch(), L"FromXmlElement", &reader));
     return card->Invoke(reader, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr);

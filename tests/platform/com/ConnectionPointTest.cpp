@@ -1,5 +1,6 @@
 #include "platform/com/ConnectionPoint.h"
 
+#include "platform/com/EventSink.h"
 #include "platform/com/UnknownObject.h"
 #include "support/ComCheck.h"
 
@@ -34,15 +35,12 @@ public:
 };
 
 // A plain automation object that is told of the events.
-class Sink : public UnknownObject<IDispatch> {
+class Sink : public EventSink<> {
 public:
     using Handler = std::function<HRESULT(const DISPPARAMS&)>;
 
     explicit Sink(Handler handler = [](const DISPPARAMS&) { return S_OK; }) : handler_(std::move(handler)) {}
 
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
     STDMETHODIMP Invoke(DISPID event, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*,
                         UINT*) override {
         if (event != kEvent) return DISP_E_MEMBERNOTFOUND;
@@ -78,8 +76,8 @@ TEST(ConnectionPoint, TellsAllSinksInTheOrderOfTheirConnecting) {
     std::wstring order;
     const auto first = Create<Sink>([&](const DISPPARAMS&) { return order += L"1", S_OK; });
     const auto second = Create<Sink>([&](const DISPPARAMS&) { return order += L"2", S_OK; });
-    const DWORD firstCookie = Connect(*source.Get(), first.Get());
-    EXPECT_NE(firstCookie, Connect(*source.Get(), second.Get()));
+    const DWORD firstCookie = Connect(*source, first.Get());
+    EXPECT_NE(firstCookie, Connect(*source, second.Get()));
     source->point.Fire(kEvent, {});
     source->point.Fire(kEvent, {});
     EXPECT_EQ(L"1212", order);
@@ -94,7 +92,7 @@ TEST(ConnectionPoint, PassesArgumentsLastOneFirst) {
         EXPECT_EQ(_variant_t(2L), _variant_t(parameters.rgvarg[0]));
         return S_OK;
     });
-    Connect(*source.Get(), sink.Get());
+    Connect(*source, sink.Get());
     source->point.Fire(kEvent, {L"first", 2L});
     EXPECT_EQ(1, sink->told);
 }
@@ -103,8 +101,8 @@ TEST(ConnectionPoint, TellsTheOthersWhenASinkLacksTheEventOrFails) {
     const auto source = Create<Source>();
     const auto failing = Create<Sink>([](const DISPPARAMS&) { return E_UNEXPECTED; });
     const auto last = Create<Sink>();
-    Connect(*source.Get(), failing.Get());
-    Connect(*source.Get(), last.Get());
+    Connect(*source, failing.Get());
+    Connect(*source, last.Get());
     source->point.Fire(kEvent + 1, {});
     EXPECT_EQ(0, last->told);
     source->point.Fire(kEvent, {});
@@ -115,7 +113,7 @@ TEST(ConnectionPoint, TellsTheOthersWhenASinkLacksTheEventOrFails) {
 TEST(ConnectionPoint, TellsASinkNoMoreOnceItIsDisconnected) {
     const auto source = Create<Source>();
     const auto sink = Create<Sink>();
-    const DWORD cookie = Connect(*source.Get(), sink.Get());
+    const DWORD cookie = Connect(*source, sink.Get());
     EXPECT_EQ(S_OK, source->point.Unadvise(cookie));
     EXPECT_EQ(CONNECT_E_NOCONNECTION, source->point.Unadvise(cookie));
     source->point.Fire(kEvent, {});
@@ -127,8 +125,8 @@ TEST(ConnectionPoint, BearsASinkThatDisconnectsDuringTheEvent) {
     DWORD cookie = 0;
     const auto leaving = Create<Sink>([&](const DISPPARAMS&) { return source->point.Unadvise(cookie); });
     const auto last = Create<Sink>();
-    cookie = Connect(*source.Get(), leaving.Get());
-    Connect(*source.Get(), last.Get());
+    cookie = Connect(*source, leaving.Get());
+    Connect(*source, last.Get());
     source->point.Fire(kEvent, {});
     source->point.Fire(kEvent, {});
     EXPECT_EQ(1, leaving->told);
@@ -139,10 +137,10 @@ TEST(ConnectionPoint, TellsASinkThatConnectsDuringTheEventOnlyOfTheNext) {
     const auto source = Create<Source>();
     const auto late = Create<Sink>();
     const auto first = Create<Sink>([&](const DISPPARAMS&) {
-        if (late->told == 0) Connect(*source.Get(), late.Get());
+        if (late->told == 0) Connect(*source, late.Get());
         return S_OK;
     });
-    const DWORD cookie = Connect(*source.Get(), first.Get());
+    const DWORD cookie = Connect(*source, first.Get());
     source->point.Fire(kEvent, {});
     EXPECT_EQ(0, late->told);
     EXPECT_OK(source->point.Unadvise(cookie));
@@ -151,7 +149,7 @@ TEST(ConnectionPoint, TellsASinkThatConnectsDuringTheEventOnlyOfTheNext) {
 }
 
 TEST(ConnectionPoint, KeepsItsSourceAliveUntilAllSinksAreTold) {
-    auto source = Create<Source>();
+    Microsoft::WRL::ComPtr<Source> source = Create<Source>();
     ConnectionPoint& point = source->point;
     const std::shared_ptr<bool> ended = source->ended;
     const auto releasing = Create<Sink>([&](const DISPPARAMS&) { return source.Reset(), S_OK; });
@@ -168,7 +166,7 @@ TEST(ConnectionPoint, KeepsItsSourceAliveUntilAllSinksAreTold) {
 TEST(ConnectionPoint, TakesSinksOfTheEventsOwnInterfaceAndRefusesOthers) {
     const auto source = Create<Source>();
     const auto own = Create<OwnSink>();
-    Connect(*source.Get(), own.Get());
+    Connect(*source, own.Get());
     source->point.Fire(kEvent, {});
     EXPECT_EQ(1, own->told);
     DWORD cookie = 99;
@@ -196,10 +194,10 @@ TEST(ConnectionPoint, KnowsItsEventsAndItsContainer) {
 TEST(ConnectionPoint, ListsItsConnectionsOfTheMoment) {
     const auto source = Create<Source>();
     const auto sink = Create<Sink>();
-    const DWORD cookie = Connect(*source.Get(), sink.Get());
+    const DWORD cookie = Connect(*source, sink.Get());
     ComPtr<IEnumConnections> connections;
     ASSERT_OK(source->point.EnumConnections(connections.GetAddressOf()));
-    Connect(*source.Get(), sink.Get());
+    Connect(*source, sink.Get());
     CONNECTDATA data[2] = {};
     ULONG fetched = 0;
     EXPECT_EQ(S_FALSE, connections->Next(2, data, &fetched));

@@ -13,13 +13,13 @@ namespace {
 using Microsoft::WRL::ComPtr;
 using Walk = ComPtr<IEnumVARIANT>;
 
-ComPtr<Collection> Letters() {
+platform::Ref<Collection> Letters() {
     auto collection = Create<Collection>();
     for (const wchar_t* text : {L"a", L"b", L"c"}) collection->AddText(text);
     return collection;
 }
 
-Walk WalkOf(const ComPtr<Collection>& collection) {
+Walk WalkOf(const platform::Ref<Collection>& collection) {
     ComPtr<IUnknown> object;
     EXPECT_OK(collection->get__NewEnum(object.GetAddressOf()));
     Walk walk;

@@ -22,9 +22,9 @@ Names Living() {
 
 TEST(Living, NamesEachObjectUntilItsEnd) {
     const Names before = Living();
-    auto vehicle = Create<lejis::LejisVehicleIndexCard>();
-    auto first = Create<Collection>();
-    auto second = Create<Collection>();
+    Microsoft::WRL::ComPtr<lejis::LejisVehicleIndexCard> vehicle = Create<lejis::LejisVehicleIndexCard>();
+    Microsoft::WRL::ComPtr<Collection> first = Create<Collection>();
+    Microsoft::WRL::ComPtr<Collection> second = Create<Collection>();
     Names expected = before;
     expected.insert(expected.end(), {"lejis::LejisVehicleIndexCard", "platform::Collection", "platform::Collection"});
     Names now = Living();

@@ -167,7 +167,7 @@ TEST_F(HttpRequestTest, CallsItsHandlerWhetherOrNotItGetsParameters) {
 TEST_F(HttpRequestTest, LetsGoOfItsHandlerAlsoWhenMsxmlRefusesTo) {
     for (const HRESULT refusal : {S_OK, E_FAIL}) {
         http.script = {.clearHandlerResult = refusal};
-        auto handler = Create<Handler>(handlers);
+        Microsoft::WRL::ComPtr<Handler> handler = Create<Handler>(handlers);
         HttpRequest request = Posted(handler);
         handler.Reset();
         EXPECT_EQ(1, handlers);

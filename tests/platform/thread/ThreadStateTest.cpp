@@ -67,8 +67,8 @@ TEST(ThreadState, IsNotReleasedWhenItsThreadEnds) {
 TEST(ThreadState, ReleasesItsPartsWhenTheLastObjectGoes) {
     InNewThread([] {
         Part& part = ThisThreads<Part>();
-        auto first = Create<Object>();
-        auto second = Create<Object>();
+        Microsoft::WRL::ComPtr<Object> first = Create<Object>();
+        Microsoft::WRL::ComPtr<Object> second = Create<Object>();
         first.Reset();
         EXPECT_EQ(0, part.releases);
         second.Reset();
@@ -103,7 +103,7 @@ TEST(ThreadState, BearsThatAReleaseMakesObjectsAndParts) {
 TEST(ThreadState, LeavesOtherThreadsAloneWhenTheirObjectEndsHere) {
     InNewThread([] {
         Part& part = ThisThreads<Part>();
-        auto object = Create<Object>();
+        Microsoft::WRL::ComPtr<Object> object = Create<Object>();
         InNewThread([&] {
             OtherPart& own = ThisThreads<OtherPart>();
             object.Reset();

@@ -22,22 +22,22 @@ std::wstring LengthOf(std::wstring_view text) { return std::to_wstring(text.size
 
 void FormattingRules::Apply(LejisIncidentIndexCard& incident) {
     ApplyShared(kMainRecordLabel, incident);
-    Apply(kMainRecordLabel, *incident.Location.Get());
-    for (const auto& person : incident.PersonIndexCards->ItemsAs<LejisPersonIndexCard>()) Apply(*person.Get());
-    for (const auto& item : incident.PropertyIndexCards->ItemsAs<LejisPropertyIndexCard>()) Apply(*item.Get());
-    for (const auto& vehicle : incident.VehicleIndexCards->ItemsAs<LejisVehicleIndexCard>()) Apply(*vehicle.Get());
+    Apply(kMainRecordLabel, *incident.Location);
+    for (const auto& person : incident.PersonIndexCards->ItemsAs<LejisPersonIndexCard>()) Apply(*person);
+    for (const auto& item : incident.PropertyIndexCards->ItemsAs<LejisPropertyIndexCard>()) Apply(*item);
+    for (const auto& vehicle : incident.VehicleIndexCards->ItemsAs<LejisVehicleIndexCard>()) Apply(*vehicle);
 }
 
 void FormattingRules::Apply(LejisPersonIndexCard& person) {
     // Made once: the rules below may change what it is made of.
     const std::wstring label = LabelOf(person);
-    Apply(label, *person.address.Get());
+    Apply(label, *person.address);
     person.SetGivenName(TruncatedName(label, L"First name", person.GivenName()));
     person.SetMiddleName(TruncatedName(label, L"Middle name", person.MiddleName()));
     person.SetSurName(TruncatedName(label, L"Last name", person.SurName()));
     person.SetRaceNCIC(CodeOrUnknown(label, L"race", L"Race", L"ABIUW", person.RaceNCIC()));
     person.SetSexNCIC(CodeOrUnknown(label, L"sex", L"Sex", L"MFU", person.SexNCIC()));
-    DropWeight(label, *person.Weight.Get());
+    DropWeight(label, *person.Weight);
     ApplyShared(label, person);
     // Only warned of, not shortened: the validator then refuses it.
     if (const auto message = CautionCaveatMessage(person)) Warn(label, *message);
@@ -52,7 +52,7 @@ void FormattingRules::Apply(LejisPropertyIndexCard& property) {
 
 void FormattingRules::Apply(LejisVehicleIndexCard& vehicle) {
     const std::wstring label = LabelOf(vehicle);
-    DropYear(label, *vehicle.Year.Get());
+    DropYear(label, *vehicle.Year);
     // Shorter than a property's model, and the make has no limit; both are LEJIS's own.
     vehicle.SetModel(Truncated(label, L"Model", vehicle.Model(), 30));
     vehicle.SetColor(Truncated(label, L"Color", vehicle.Color(), 30));
@@ -60,7 +60,7 @@ void FormattingRules::Apply(LejisVehicleIndexCard& vehicle) {
 
 void FormattingRules::Apply(const std::wstring& label, LejisStreetAddress& address) {
     address.SetStreetFullText(Truncated(label, L"Full street address", address.StreetFullText(), 45));
-    DropLongStreetNumber(label, *address.StreetNumber.Get());
+    DropLongStreetNumber(label, *address.StreetNumber);
     address.SetStreetName(Truncated(label, L"Street name", address.StreetName(), 30));
     address.SetStreetExtension(Truncated(label, L"Street extension", address.StreetExtension(), 10));
     address.SetStreetType(Truncated(label, L"Street type", address.StreetType(), 10));

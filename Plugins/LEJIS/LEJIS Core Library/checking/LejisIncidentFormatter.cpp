@@ -12,7 +12,7 @@ namespace lejis {
 namespace {
 
 // The copy holds what the card's XML form carries, blanks at the ends of texts included.
-ComPtr<LejisIncidentIndexCard> CopyOf(const LejisIncidentIndexCard& incident) {
+platform::Ref<LejisIncidentIndexCard> CopyOf(const LejisIncidentIndexCard& incident) {
     const OutputDocument document = OutputDocument::Create();
     platform::Check(document.Get()->put_preserveWhiteSpace(VARIANT_TRUE));
     auto copy = platform::Create<LejisIncidentIndexCard>();
@@ -30,18 +30,18 @@ STDMETHODIMP LejisIncidentFormatter::Format(ILejisIncidentIndexCard* incident, I
     return Guard(result, [&] {
         // Before the argument is looked at: one that is refused leaves no warnings of an earlier call.
         StartList();
-        return ShapedCopy(*platform::Inside<LejisIncidentIndexCard>(incident).Get());
+        return ShapedCopy(*platform::Inside<LejisIncidentIndexCard>(incident));
     });
 }
 
-ComPtr<LejisIncidentIndexCard> LejisIncidentFormatter::Shape(const LejisIncidentIndexCard& incident) {
+platform::Ref<LejisIncidentIndexCard> LejisIncidentFormatter::Shape(const LejisIncidentIndexCard& incident) {
     StartList();
     return ShapedCopy(incident);
 }
 
-ComPtr<LejisIncidentIndexCard> LejisIncidentFormatter::ShapedCopy(const LejisIncidentIndexCard& incident) {
+platform::Ref<LejisIncidentIndexCard> LejisIncidentFormatter::ShapedCopy(const LejisIncidentIndexCard& incident) {
     auto copy = CopyOf(incident);
-    FormattingRules(*Warnings.Get()).Apply(*copy.Get());
+    FormattingRules(*Warnings).Apply(*copy);
     return copy;
 }
 

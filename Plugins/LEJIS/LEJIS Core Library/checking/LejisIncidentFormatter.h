@@ -17,11 +17,11 @@ public:
     STDMETHODIMP get_HasWarnings(VARIANT_BOOL* result) override;
     [[nodiscard]] STDMETHODIMP Format(ILejisIncidentIndexCard* incident, ILejisIncidentIndexCard** result) override;
 
-    Microsoft::WRL::ComPtr<LejisIncidentIndexCard> Shape(const LejisIncidentIndexCard& incident);
+    platform::Ref<LejisIncidentIndexCard> Shape(const LejisIncidentIndexCard& incident);
 
 private:
     void StartList() { Warnings = platform::Create<Collection>(); }
-    Microsoft::WRL::ComPtr<LejisIncidentIndexCard> ShapedCopy(const LejisIncidentIndexCard& incident);
+    platform::Ref<LejisIncidentIndexCard> ShapedCopy(const LejisIncidentIndexCard& incident);
 };
 
 }  // namespace lejis

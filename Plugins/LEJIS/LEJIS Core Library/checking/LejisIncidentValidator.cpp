@@ -29,7 +29,7 @@ STDMETHODIMP LejisIncidentValidator::Validate(ILejisIncidentIndexCard* incident,
     return Guard(result, [&] {
         // Before the argument is looked at: one that is refused leaves no errors of an earlier call.
         StartList();
-        return Check(*platform::Inside<LejisIncidentIndexCard>(incident).Get());
+        return Check(*platform::Inside<LejisIncidentIndexCard>(incident));
     });
 }
 
@@ -41,7 +41,7 @@ bool LejisIncidentValidator::FindErrors(const LejisIncidentIndexCard& incident) 
 bool LejisIncidentValidator::Check(const LejisIncidentIndexCard& incident) {
     CheckIdentifiers(incident);
     // Organization name, caveat, charge description and charge code are accepted as they are, here and for persons.
-    CheckAddress(kMainRecordLabel, *incident.Location.Get());
+    CheckAddress(kMainRecordLabel, *incident.Location);
     // In their order: what is found at the persons before an object of another class is listed when that is refused.
     incident.PersonIndexCards->ForEach<LejisPersonIndexCard>([this](const auto& person) { CheckPerson(person); });
     // Every property and vehicle card is accepted; an object of another class is not.
@@ -77,7 +77,7 @@ void LejisIncidentValidator::CheckAddress(const std::wstring& label, const Lejis
 
 void LejisIncidentValidator::CheckPerson(const LejisPersonIndexCard& person) {
     const std::wstring label = LabelOf(person);
-    CheckAddress(label, *person.address.Get());
+    CheckAddress(label, *person.address);
     if (!IsEmptyOrHasLength(person.SSN(), kSsnLength)) {
         AddLabelledError(label, platform::Join({L"'", person.SSN(),
                                                 L"' is not a valid SSN. SSN's submitted to LEJIS must be 9 digits "

@@ -10,7 +10,7 @@ namespace lejis {
 
 FutureManager& SharedManager::Get() {
     if (!manager_) {
-        manager_ = platform::Create<FutureManager>().Detach();
+        manager_ = Microsoft::WRL::ComPtr<FutureManager>(platform::Create<FutureManager>()).Detach();
         platform::living::Leave(manager_);
         platform::module::Release();
         platform::thread::UncountObject();

@@ -14,11 +14,11 @@ auto HolderOf(DATE date) {
 }  // namespace
 
 STDMETHODIMP LejisCommon::LejisFormatDate(DATE theDate, BSTR* result) {
-    return Guard(result, [&] { return FormatNullableDate(*HolderOf(theDate).Get()); });
+    return Guard(result, [&] { return FormatNullableDate(*HolderOf(theDate)); });
 }
 
 STDMETHODIMP LejisCommon::LejisFormatTime(DATE theDate, BSTR* result) {
-    return Guard(result, [&] { return FormatNullableTime(*HolderOf(theDate).Get()); });
+    return Guard(result, [&] { return FormatNullableTime(*HolderOf(theDate)); });
 }
 
 }  // namespace lejis

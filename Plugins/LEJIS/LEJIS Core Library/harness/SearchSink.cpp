@@ -13,12 +13,6 @@ std::wstring TextAt(const DISPPARAMS& parameters, UINT fromEnd) {
 
 }  // namespace
 
-STDMETHODIMP SearchSink::GetTypeInfoCount(UINT* count) {
-    if (!count) return E_POINTER;
-    *count = 0;
-    return S_OK;
-}
-
 STDMETHODIMP SearchSink::Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*, UINT*) {
     return platform::Guard(GUID_NULL, [&] {
         switch (event) {

@@ -30,11 +30,11 @@ msxml::Element PersonInquiryArguments::Write(const OutputDocument& document) con
         licence.OptionalText(L"j:IDJurisdictionCode.ncicLSTA", DriversLicenseState);
         person.Child(licence);
     }
-    person.OptionalText(L"j:PersonBirthDate", FormatNullableDate(*BirthDate.Get()));
+    person.OptionalText(L"j:PersonBirthDate", FormatNullableDate(*BirthDate));
     person.OptionalText(L"j:PersonSexCode", SexNCIC);
     person.OptionalText(L"j:PersonRaceCode", RaceNCIC);
-    person.OptionalMeasure(L"j:PersonHeightMeasure", NumberText(*Height.Get()), L"j:personHeightUnitCode");
-    person.OptionalMeasure(L"j:PersonWeightMeasure", NumberText(*Weight.Get()), L"j:personWeightUnitCode");
+    person.OptionalMeasure(L"j:PersonHeightMeasure", NumberText(*Height), L"j:personHeightUnitCode");
+    person.OptionalMeasure(L"j:PersonWeightMeasure", NumberText(*Weight), L"j:personWeightUnitCode");
     return person.Element();
 }
 
@@ -48,8 +48,8 @@ void PersonInquiryArguments::Read(const ElementReader& person) {
     BirthDate->Set(platform::ParseDate(person.Text(L"j:PersonBirthDate")));
     SexNCIC = person.Text(L"j:PersonSexCode");
     RaceNCIC = person.Text(L"j:PersonRaceCode");
-    ReadNumber(person.Text(L"j:PersonWeightMeasure"), *Weight.Get());
-    ReadNumber(person.Text(L"j:PersonHeightMeasure"), *Height.Get());
+    ReadNumber(person.Text(L"j:PersonWeightMeasure"), *Weight);
+    ReadNumber(person.Text(L"j:PersonHeightMeasure"), *Height);
 }
 
 }  // namespace lejis

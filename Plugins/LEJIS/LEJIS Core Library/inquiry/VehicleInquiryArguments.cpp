@@ -24,7 +24,7 @@ msxml::Element VehicleInquiryArguments::Write(const OutputDocument& document) co
     // Make and style are of the LEJIS extension, the rest is GJXDM.
     vehicle.Text(L"ext:VehicleMakeText", Make);
     vehicle.Text(L"j:VehicleModelCodeText", Model);
-    vehicle.OptionalText(L"j:VehicleModelYearDate", NumberText(*Year.Get()));
+    vehicle.OptionalText(L"j:VehicleModelYearDate", NumberText(*Year));
     vehicle.Text(L"ext:VehicleStyleText", Style);
     vehicle.Text(L"j:VehicleColorPrimaryText", Color);
     return vehicle.Element();
@@ -36,7 +36,7 @@ void VehicleInquiryArguments::Read(const ElementReader& vehicle) {
     LicensePlateState = vehicle.Text(L"j:VehicleLicensePlateID/j:IDJurisdictionCode.ncicLSTA");
     Make = vehicle.Text(L"ext:VehicleMakeText");
     Model = vehicle.Text(L"j:VehicleModelCodeText");
-    ReadNumber(vehicle.Text(L"j:VehicleModelYearDate"), *Year.Get());
+    ReadNumber(vehicle.Text(L"j:VehicleModelYearDate"), *Year);
     Style = vehicle.Text(L"ext:VehicleStyleText");
     Color = vehicle.Text(L"j:VehicleColorPrimaryText");
 }

@@ -22,7 +22,7 @@ ElementReader RequiredChild(const ElementReader& element, const ElementPath& nam
 }
 
 template <typename Card>
-Microsoft::WRL::ComPtr<Collection> ReadCardsOf(const std::vector<ElementReader>& elements) {
+platform::Ref<Collection> ReadCardsOf(const std::vector<ElementReader>& elements) {
     auto cards = platform::Create<Collection>();
     for (const ElementReader& element : elements) {
         const auto card = platform::Create<Card>();
@@ -58,10 +58,10 @@ msxml::Element LejisIncidentIndexCard::Write(const OutputDocument& document) con
 
     ElementWriter incident(document, L"lejis:RMSIncidentIndexCard");
     incident.Child(identifiers);
-    incident.Text(L"j:SubmissionSubmittedDate", FormatNullableDate(*SubmittedDate.Get()));
+    incident.Text(L"j:SubmissionSubmittedDate", FormatNullableDate(*SubmittedDate));
     incident.Child(submitter);
-    incident.OptionalText(L"j:ActivityDate", FormatNullableDate(*ActivityDateTime.Get()));
-    incident.OptionalText(L"j:ActivityTime", FormatNullableTime(*ActivityDateTime.Get()));
+    incident.OptionalText(L"j:ActivityDate", FormatNullableDate(*ActivityDateTime));
+    incident.OptionalText(L"j:ActivityTime", FormatNullableTime(*ActivityDateTime));
     incident.Child(location);
     incident.Text(L"j:CaveatText", CaveatText());
     incident.OptionalText(L"j:ChargeNCICCode", ChargeNCICCode());
@@ -69,9 +69,9 @@ msxml::Element LejisIncidentIndexCard::Write(const OutputDocument& document) con
     // Not the incident's own flag alone: the index shows the caution of any card at the incident.
     incident.Boolean(L"ext:CautionIndicatorFlag", NeedsCaution());
     // Vehicles are written before property and read after it; both orders are deliberate.
-    WriteCards<LejisPersonIndexCard>(incident, *PersonIndexCards.Get());
-    WriteCards<LejisVehicleIndexCard>(incident, *VehicleIndexCards.Get());
-    WriteCards<LejisPropertyIndexCard>(incident, *PropertyIndexCards.Get());
+    WriteCards<LejisPersonIndexCard>(incident, *PersonIndexCards);
+    WriteCards<LejisVehicleIndexCard>(incident, *VehicleIndexCards);
+    WriteCards<LejisPropertyIndexCard>(incident, *PropertyIndexCards);
     return incident.Element();
 }
 
@@ -92,9 +92,9 @@ STDMETHODIMP LejisIncidentIndexCard::HasCaution(VARIANT_BOOL* result) {
 }
 
 bool LejisIncidentIndexCard::NeedsCaution() const {
-    return CautionIndicator || AnyHasCaution<LejisPersonIndexCard>(*PersonIndexCards.Get()) ||
-           AnyHasCaution<LejisPropertyIndexCard>(*PropertyIndexCards.Get()) ||
-           AnyHasCaution<LejisVehicleIndexCard>(*VehicleIndexCards.Get());
+    return CautionIndicator || AnyHasCaution<LejisPersonIndexCard>(*PersonIndexCards) ||
+           AnyHasCaution<LejisPropertyIndexCard>(*PropertyIndexCards) ||
+           AnyHasCaution<LejisVehicleIndexCard>(*VehicleIndexCards);
 }
 
 void LejisIncidentIndexCard::ReadIdentifiers(const ElementReader& incident) {

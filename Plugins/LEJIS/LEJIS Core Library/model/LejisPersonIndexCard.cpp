@@ -23,10 +23,10 @@ msxml::Element LejisPersonIndexCard::Write(const OutputDocument& document) const
     card.Child(residence);
     card.OptionalId(L"j:PersonSSNID", SSN());
     card.OptionalJurisdictionId(L"j:PersonDriverLicenseID", DriversLicense(), DriversLicenseState());
-    card.OptionalText(L"j:PersonBirthDate", FormatNullableDate(*BirthDate.Get()));
+    card.OptionalText(L"j:PersonBirthDate", FormatNullableDate(*BirthDate));
     card.OptionalText(L"j:PersonSexCode", SexNCIC());
-    card.OptionalMeasure(L"j:PersonHeightMeasure", NumberText(*Height.Get()), L"j:personHeightUnitCode");
-    card.OptionalMeasure(L"j:PersonWeightMeasure", NumberText(*Weight.Get()), L"j:personWeightUnitCode");
+    card.OptionalMeasure(L"j:PersonHeightMeasure", NumberText(*Height), L"j:personHeightUnitCode");
+    card.OptionalMeasure(L"j:PersonWeightMeasure", NumberText(*Weight), L"j:personWeightUnitCode");
     card.OptionalText(L"j:PersonRaceCode", RaceNCIC());
     card.OptionalText(L"j:ChargeNCICCode", ChargeNCICCode());
     card.OptionalText(L"j:ChargeDescriptionText", ChargeDescriptionText());
@@ -52,8 +52,8 @@ void LejisPersonIndexCard::Read(const ElementReader& card) {
     if (const auto date = card.TextIfAny(L"j:PersonBirthDate")) BirthDate->Assign(_variant_t(platform::ToBstr(*date)));
     SetSexNCIC(card.Text(L"j:PersonSexCode"));
     SetRaceNCIC(card.Text(L"j:PersonRaceCode"));
-    ReadMeasure(card.Text(L"j:PersonHeightMeasure"), *Height.Get());
-    ReadMeasure(card.Text(L"j:PersonWeightMeasure"), *Weight.Get());
+    ReadMeasure(card.Text(L"j:PersonHeightMeasure"), *Height);
+    ReadMeasure(card.Text(L"j:PersonWeightMeasure"), *Weight);
     SetChargeNCICCode(card.Text(L"j:ChargeNCICCode"));
     SetChargeDescriptionText(card.Text(L"j:ChargeDescriptionText"));
     SetSubjectCautionInformationCode(card.Text(L"j:SubjectCautionInformationCode"));

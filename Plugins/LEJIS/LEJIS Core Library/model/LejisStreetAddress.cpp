@@ -21,7 +21,7 @@ msxml::Element LejisStreetAddress::Write(const OutputDocument& document) const {
 msxml::Element LejisStreetAddress::StreetElement(const OutputDocument& document) const {
     ElementWriter street(document, L"j:LocationStreet");
     street.Text(L"j:StreetFullText", StreetFullText());
-    street.Text(L"j:StreetNumberText", NumberText(*StreetNumber.Get()));
+    street.Text(L"j:StreetNumberText", NumberText(*StreetNumber));
     // The one direction is always written as the direction before the name, and none behind it.
     street.Text(L"j:StreetPredirectionalText", StreetDirection());
     street.Text(L"j:StreetName", StreetName());

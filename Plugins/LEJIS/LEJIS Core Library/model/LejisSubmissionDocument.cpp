@@ -14,7 +14,7 @@ STDMETHODIMP LejisSubmissionDocument::ToXmlDocument(IDispatch** result) {
     return Guard(result, [&] { return msxml::ToClient(ToDocument()); });
 }
 
-void LejisSubmissionDocument::Add(const Microsoft::WRL::ComPtr<LejisIncidentIndexCard>& incident) {
+void LejisSubmissionDocument::Add(const platform::Ref<LejisIncidentIndexCard>& incident) {
     IncidentIndexCards->AddObject(incident->Dispatch());
 }
 

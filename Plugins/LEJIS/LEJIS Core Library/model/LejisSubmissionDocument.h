@@ -18,7 +18,7 @@ public:
     [[nodiscard]] STDMETHODIMP ToXmlElement(IDispatch* doc, IDispatch** result) override;
     [[nodiscard]] STDMETHODIMP ToXmlDocument(IDispatch** result) override;
 
-    void Add(const Microsoft::WRL::ComPtr<LejisIncidentIndexCard>& incident);
+    void Add(const platform::Ref<LejisIncidentIndexCard>& incident);
 
     // Becomes the root of the document. Raises when that has a root.
     msxml::Element Write(const OutputDocument& document) const;

@@ -15,7 +15,7 @@ msxml::Element LejisVehicleIndexCard::Write(const OutputDocument& document) cons
     card.OptionalText(L"j:VehicleModelCodeText", Model());
     card.OptionalId(L"j:VehicleID", VIN());
     // The year number alone, although the name says date.
-    card.OptionalText(L"j:VehicleModelYearDate", NumberText(*Year.Get()));
+    card.OptionalText(L"j:VehicleModelYearDate", NumberText(*Year));
     card.OptionalText(L"ext:VehicleStyleText", Style());
     card.OptionalText(L"j:VehicleColorPrimaryText", Color());
     card.OptionalJurisdictionId(L"j:VehicleLicensePlateID", LicensePlate(), LicensePlateState());

@@ -44,7 +44,7 @@ STDMETHODIMP LejisSearchWebService::get_results(ICollection** result) {
 STDMETHODIMP LejisSearchWebService::Search(ILejisSearchRequest* request) {
     return Guard([&] {
         try {
-            Send(*platform::Inside<LejisSearchRequest>(request).Get());
+            Send(*platform::Inside<LejisSearchRequest>(request));
         } catch (...) {
             const SendingFailure failure = ToSendingFailure(platform::CaughtError(), URL);
             FireReason(failure.isNetworkError ? kNetworkError : kConfigurationError, failure.message);

@@ -20,21 +20,21 @@ using platform::ComError;
 namespace lejis {
 
 STDMETHODIMP LejisSubmissionWebService::SubmitIncident(ILejisIncidentIndexCard* incident, ICollection** result) {
-    return Guard(result, [&] { return Submit(*platform::Inside<LejisIncidentIndexCard>(incident).Get()); });
+    return Guard(result, [&] { return Submit(*platform::Inside<LejisIncidentIndexCard>(incident)); });
 }
 
 STDMETHODIMP LejisSubmissionWebService::DeleteIncident(ILejisIncidentIndexCard* incident) {
-    return Guard([&] { Withdraw(*platform::Inside<LejisIncidentIndexCard>(incident).Get()); });
+    return Guard([&] { Withdraw(*platform::Inside<LejisIncidentIndexCard>(incident)); });
 }
 
-ComPtr<Collection> LejisSubmissionWebService::Submit(const LejisIncidentIndexCard& incident) {
+platform::Ref<Collection> LejisSubmissionWebService::Submit(const LejisIncidentIndexCard& incident) {
     const auto formatter = platform::Create<LejisIncidentFormatter>();
     const auto copy = formatter->Shape(incident);
     const auto validator = platform::Create<LejisIncidentValidator>();
-    if (validator->FindErrors(*copy.Get())) throw FatalError(platform::ToText(validator->Errors->Item(1)));
+    if (validator->FindErrors(*copy)) throw FatalError(platform::ToText(validator->Errors->Item(1)));
     const auto document = platform::Create<LejisSubmissionDocument>();
     document->Add(copy);
-    SendAndJudge(*document.Get());
+    SendAndJudge(*document);
     return formatter->Warnings;
 }
 
@@ -46,7 +46,7 @@ void LejisSubmissionWebService::Withdraw(const LejisIncidentIndexCard& incident)
     bare->SubmittedDate->Set(incident.SubmittedDate->Date());
     const auto document = platform::Create<LejisSubmissionDocument>();
     document->Add(bare);
-    SendAndJudge(*document.Get());
+    SendAndJudge(*document);
 }
 
 void LejisSubmissionWebService::SendAndJudge(const LejisSubmissionDocument& document) {

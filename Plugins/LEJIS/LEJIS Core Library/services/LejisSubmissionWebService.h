@@ -26,7 +26,7 @@ public:
     STDMETHODIMP Run() override { return IRunnable_Run(); }
 
     // Shapes, checks and sends the incident; returns the warnings.
-    Microsoft::WRL::ComPtr<Collection> Submit(const LejisIncidentIndexCard& incident);
+    platform::Ref<Collection> Submit(const LejisIncidentIndexCard& incident);
     // Sends the incident's identifiers alone, which withdraws it.
     void Withdraw(const LejisIncidentIndexCard& incident);
 

@@ -84,9 +84,9 @@ void ProcessResponse(const HttpRequest& request) {
         LejisUtils::SaveDebugDocument(request.ResponseXml(), L"LejisSubmitResponse.xml");
         envelope->ReadDocument(request.ResponseXml());
         step = 5;
-        if (status != kOk) RaiseFault(*envelope.Get());
+        if (status != kOk) RaiseFault(*envelope);
         step = 6;
-        const std::wstring text = ResponseText(*envelope.Get());
+        const std::wstring text = ResponseText(*envelope);
         step = 7;
         RequireAccepted(text);
     } catch (...) {

@@ -29,7 +29,7 @@ public:
 
     // An item as object of a class of this library. Raises the type mismatch when it is something else.
     template <typename Class>
-    Microsoft::WRL::ComPtr<Class> ItemAs(long index) const {
+    Ref<Class> ItemAs(long index) const {
         return Inside<Class>(ObjectIn(Item(index)));
     }
 
@@ -37,13 +37,13 @@ public:
     template <typename Class, typename Visit>
     void ForEach(const Visit& visit) const {
         // By number: what is visited may change the collection.
-        for (long index = 1; index <= static_cast<long>(Count()); ++index) visit(*ItemAs<Class>(index).Get());
+        for (long index = 1; index <= static_cast<long>(Count()); ++index) visit(*ItemAs<Class>(index));
     }
 
     // All items at this moment, in the same way.
     template <typename Class>
-    std::vector<Microsoft::WRL::ComPtr<Class>> ItemsAs() const {
-        std::vector<Microsoft::WRL::ComPtr<Class>> objects;
+    std::vector<Ref<Class>> ItemsAs() const {
+        std::vector<Ref<Class>> objects;
         objects.reserve(items_.size());
         for (const _variant_t& item : items_) objects.push_back(Inside<Class>(ObjectIn(item)));
         return objects;

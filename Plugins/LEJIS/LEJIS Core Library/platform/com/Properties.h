@@ -69,6 +69,6 @@ HRESULT ReturnObject(const Microsoft::WRL::ComPtr<Class>& object, Interface** re
     }
 
 // An object that belongs to this one, made with it; clients fill it in place.
-#define OBJECT_PROPERTY(Class, Name)                                \
-    Microsoft::WRL::ComPtr<Class> Name = platform::Create<Class>(); \
-    STDMETHODIMP get_##Name(I##Class** result) override { return platform::ReturnObject(Name, result); }
+#define OBJECT_PROPERTY(Class, Name)                       \
+    platform::Ref<Class> Name = platform::Create<Class>(); \
+    STDMETHODIMP get_##Name(I##Class** result) override { return platform::ReturnObject<Class>(Name, result); }

@@ -1,6 +1,7 @@
 // How values of the inside become results of COM methods.
 #pragma once
 
+#include "platform/com/Ref.h"
 #include "platform/Text.h"
 
 #include <comutil.h>
@@ -20,6 +21,11 @@ inline void Return(VARIANT* result, _variant_t value) { *result = value.Detach()
 template <typename Interface, typename Object>
 void Return(Interface** result, Microsoft::WRL::ComPtr<Object> object) {
     *result = object.Detach();
+}
+
+template <typename Interface, typename Object>
+void Return(Interface** result, const Ref<Object>& object) {
+    *result = Microsoft::WRL::ComPtr<Object>(object).Detach();
 }
 
 }  // namespace platform

@@ -3,6 +3,7 @@
 
 #include "platform/com/Living.h"
 #include "platform/com/Module.h"
+#include "platform/com/Ref.h"
 #include "platform/thread/ThreadState.h"
 
 #include <unknwn.h>
@@ -82,8 +83,8 @@ private:
 
 // A new object of a COM class of this library.
 template <typename Class, typename... Arguments>
-Microsoft::WRL::ComPtr<Class> Create(Arguments&&... arguments) {
-    return Microsoft::WRL::ComPtr<Class>(new Class(std::forward<Arguments>(arguments)...));
+Ref<Class> Create(Arguments&&... arguments) {
+    return Ref<Class>(*new Class(std::forward<Arguments>(arguments)...));
 }
 
 }  // namespace platform

@@ -9,12 +9,6 @@ namespace platform::host {
 TimerSink::TimerSink(REFIID source, DISPID event, std::function<void()> elapsed)
     : source_(source), event_(event), elapsed_(std::move(elapsed)) {}
 
-STDMETHODIMP TimerSink::GetTypeInfoCount(UINT* count) {
-    if (!count) return E_POINTER;
-    *count = 0;
-    return S_OK;
-}
-
 STDMETHODIMP TimerSink::Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) {
     if (event != event_ || !elapsed_) return S_OK;
     // A copy: the work may end this sink.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/com/UnknownObject.h"
+#include "platform/com/EventSink.h"
 
 #include <oaidl.h>
 
@@ -9,16 +9,13 @@
 namespace platform::host {
 
 // Hears one event of a timer, by its number in the events interface `source`.
-class TimerSink final : public UnknownObject<IDispatch> {
+class TimerSink final : public EventSink<> {
 public:
     TimerSink(REFIID source, DISPID event, std::function<void()> elapsed);
 
     // The timer may outlive its owner by a tick that is on its way.
     void Disconnect() { elapsed_ = nullptr; }
 
-    STDMETHODIMP GetTypeInfoCount(UINT* count) override;
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return DISP_E_UNKNOWNNAME; }
     STDMETHODIMP Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override;
 
 protected:

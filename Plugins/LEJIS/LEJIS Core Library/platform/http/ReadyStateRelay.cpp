@@ -2,12 +2,6 @@
 
 namespace platform {
 
-STDMETHODIMP ReadyStateRelay::GetTypeInfoCount(UINT* count) {
-    if (!count) return E_POINTER;
-    *count = 0;
-    return S_OK;
-}
-
 // Whatever the arguments are: a request has nothing else to say than that its state has changed.
 STDMETHODIMP ReadyStateRelay::Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) {
     const Handler handler = *handler_;

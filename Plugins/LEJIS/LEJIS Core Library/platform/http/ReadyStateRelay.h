@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/com/UnknownObject.h"
+#include "platform/com/EventSink.h"
 
 #include <oaidl.h>
 #include <wrl/client.h>
@@ -12,7 +12,7 @@ namespace platform {
 // What a request gets as the handler of its ready states. It passes each call on to the handler behind it, until that
 // is taken away. So a request that does not let go of what it was given, and one that calls it in a way of its own,
 // harm nobody.
-class ReadyStateRelay final : public UnknownObject<IDispatch> {
+class ReadyStateRelay final : public EventSink<> {
 public:
     using Handler = Microsoft::WRL::ComPtr<IDispatch>;
 
@@ -20,9 +20,6 @@ public:
     // The handler lives no longer than the request that was to call it.
     ~ReadyStateRelay() override { handler_->Reset(); }
 
-    STDMETHODIMP GetTypeInfoCount(UINT* count) override;
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return DISP_E_UNKNOWNNAME; }
     STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override;
 
 private:
