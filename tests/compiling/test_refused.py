@@ -17,6 +17,7 @@ MODEL = "tests/foundation/ElementReaderTest.cpp"
 
 DELETED = "use of deleted function"
 DROPPED = "ignoring return value"
+NO_CONSTANT = "is not a constant expression"
 
 
 class Row(NamedTuple):
@@ -78,6 +79,18 @@ ROWS = (
     Row("the element of a writer that has ended",
         'const auto& written = ElementWriter(target, L"j:ID").Element(); Use(written);',
         'const ElementWriter writer(target, L"j:ID"); const auto& written = writer.Element(); Use(written);', DELETED),
+    Row("an element to be written with a prefix that is not known",
+        'const ElementWriter writer(target, L"xsd:ID"); Use(writer);',
+        'const ElementWriter writer(target, L"j:ID"); Use(writer);', NO_CONSTANT),
+    Row("a child to be written without a prefix",
+        'ElementWriter writer(target, L"j:ID"); writer.Text(L"ID", L"1");',
+        'ElementWriter writer(target, L"j:ID"); writer.Text(L"j:ID", L"1");', NO_CONSTANT),
+    Row("an element to be written whose name may end before it",
+        'std::wstring name = L"j:ID"; const ElementWriter writer(target, name); Use(writer);',
+        'const ElementWriter writer(target, L"j:ID"); Use(writer);', "no matching function"),
+    Row("a path to be read with a prefix that is not known",
+        'const ElementReader reader(element); Use(reader.Text(L"j:ID/xsd:ID"));',
+        'const ElementReader reader(element); Use(reader.Text(L"j:ID/j:ID"));', NO_CONSTANT),
     Row("a reference to nothing",
         "const platform::Ref<LejisPersonIndexCard> person(nullptr); Use(person);",
         "const platform::Ref<LejisPersonIndexCard> person(card); Use(person);", "no matching function"),

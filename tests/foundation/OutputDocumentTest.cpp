@@ -57,14 +57,6 @@ TEST(OutputDocument, MakesMeasuresThatHaveNothingInCommon) {
     }
 }
 
-TEST(OutputDocument, KeepsNoViewOfAName) {
-    const OutputDocument document = OutputDocument::Create();
-    std::wstring name = L"j:PersonHeightMeasure";
-    document.CreateMeasure(name, L"j:personHeightUnitCode");
-    name = L"j:PersonWeightMeasure";
-    EXPECT_TRUE(SameXml(Reparsed(document.CreateMeasure(name, L"j:personWeightUnitCode").Get()).Get(), kWeight));
-}
-
 TEST(OutputDocument, TakesItsMeasuresIn) {
     const OutputDocument document = OutputDocument::Create();
     msxml::AppendRoot(document, Height(document));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "foundation/OutputDocument.h"
+#include "foundation/QualifiedName.h"
 #include "platform/msxml/MsXml.h"
 
 #include <string_view>
@@ -10,23 +11,25 @@ namespace lejis {
 
 class ElementWriter {
 public:
-    // A new, unattached element. The namespace of each name is that of its prefix in Constants.
-    ElementWriter(const OutputDocument& document, std::wstring_view qualifiedName);
+    // A new, unattached element.
+    ElementWriter(const OutputDocument& document, const QualifiedName& name);
 
     // A text child, written even when its text is empty.
-    void Text(std::wstring_view name, std::wstring_view value);
+    void Text(const QualifiedName& name, std::wstring_view value);
     // A text child, left out when its text is empty; blanks are a text.
-    void OptionalText(std::wstring_view name, std::wstring_view value);
-    void Boolean(std::wstring_view name, bool flag);
+    void OptionalText(const QualifiedName& name, std::wstring_view value);
+    void Boolean(const QualifiedName& name, bool flag);
 
     // A child that holds j:ID.
-    void Id(std::wstring_view name, std::wstring_view identifier);
-    void OptionalId(std::wstring_view name, std::wstring_view identifier);
-    // A child that holds j:ID and the code of the state that gave it; left out unless both are there.
-    void OptionalJurisdictionId(std::wstring_view name, std::wstring_view identifier, std::wstring_view state);
+    void Id(const QualifiedName& name, std::wstring_view identifier);
+    void OptionalId(const QualifiedName& name, std::wstring_view identifier);
+    // A child that holds j:ID and the code of the state that gave it; the optional one is left out unless both are
+    // there.
+    void JurisdictionId(const QualifiedName& name, std::wstring_view identifier, std::wstring_view state);
+    void OptionalJurisdictionId(const QualifiedName& name, std::wstring_view identifier, std::wstring_view state);
 
     // A text child, left out when empty, whose value is in the NCIC unit, which the attribute says.
-    void OptionalMeasure(std::wstring_view name, std::wstring_view value, std::wstring_view unitAttribute);
+    void OptionalMeasure(const QualifiedName& name, std::wstring_view value, const QualifiedName& unitAttribute);
 
     // A child built elsewhere, or by another writer.
     void Child(const msxml::Element& child);

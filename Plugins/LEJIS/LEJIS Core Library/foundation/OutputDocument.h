@@ -1,11 +1,10 @@
 // A document that elements are written for.
 #pragma once
 
+#include "foundation/QualifiedName.h"
 #include "platform/msxml/MsXml.h"
 
 #include <memory>
-#include <string>
-#include <string_view>
 #include <vector>
 
 namespace lejis {
@@ -23,13 +22,13 @@ public:
     const msxml::Document& Get() const& { return document_; }
     const msxml::Document& Get() const&& = delete;
 
-    // A new, unattached element in the GJXDM namespace, with an attribute there which says that its value is in the
-    // NCIC unit. An element has one such attribute, always the same.
-    msxml::Element CreateMeasure(std::wstring_view name, std::wstring_view unitAttribute) const;
+    // A new, unattached element with an attribute that says that its value is in the NCIC unit; both are in the GJXDM
+    // namespace. An element has one such attribute, always the same.
+    msxml::Element CreateMeasure(const QualifiedName& name, const QualifiedName& unitAttribute) const;
 
 private:
     struct Pattern {
-        std::wstring name;
+        QualifiedName name;
         msxml::Element element;
     };
 

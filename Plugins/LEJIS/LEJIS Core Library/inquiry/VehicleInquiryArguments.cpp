@@ -2,7 +2,6 @@
 
 #include "foundation/ElementReader.h"
 #include "foundation/ElementWriter.h"
-#include "foundation/NodeFactory.h"
 #include "foundation/NumberText.h"
 #include "inquiry/Blanks.h"
 #include "inquiry/NumberReading.h"
@@ -18,8 +17,7 @@ msxml::Element VehicleInquiryArguments::Write(const OutputDocument& document) co
     vehicle.OptionalId(L"j:VehicleID", VIN);
     // Either half will do for a search, and both elements are written then.
     if (!LicensePlate.empty() || !LicensePlateState.empty()) {
-        vehicle.Child(NodeFactory::CreateJurisdictionIdElement(document, L"j:VehicleLicensePlateID", LicensePlate,
-                                                               LicensePlateState));
+        vehicle.JurisdictionId(L"j:VehicleLicensePlateID", LicensePlate, LicensePlateState);
     }
     // Make and style are of the LEJIS extension, the rest is GJXDM.
     vehicle.Text(L"ext:VehicleMakeText", Make);
