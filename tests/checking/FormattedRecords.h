@@ -21,8 +21,8 @@ struct Records {
         incident->PersonIndexCards->AddObject(person->Dispatch());
         incident->PropertyIndexCards->AddObject(property->Dispatch());
         incident->VehicleIndexCards->AddObject(vehicle->Dispatch());
-        person->SetInvolvement(L"suspect");
-        property->SetSerialID(L"S-1");
+        person->Involvement = L"suspect";
+        property->SerialID = L"S-1";
     }
 
     Warnings Apply() {

@@ -14,55 +14,55 @@ using support::Utf8;
 TEST(FormattingRules, EmptyAnOffenseCodeThatIsNotInTheTable) {
     for (const wchar_t* code : {L"9999", L"101", L" ", L"    ", L" 0101", L"0101 ", L"0100"}) {
         Records records;
-        records.incident->SetChargeNCICCode(code);
-        records.person->SetChargeNCICCode(code);
+        records.incident->ChargeNCICCode = code;
+        records.person->ChargeNCICCode = code;
         const std::wstring message = std::wstring(L"Charge NCIC code '") + code +
                                      L"' is not a valid NCIC offense code. Will submit a blank code instead.";
         EXPECT_EQ((Warnings{L"Main record: " + message, L"  (Suspect): " + message}), records.Apply());
-        EXPECT_EQ(L"", records.incident->ChargeNCICCode());
-        EXPECT_EQ(L"", records.person->ChargeNCICCode());
+        EXPECT_EQ(L"", records.incident->ChargeNCICCode);
+        EXPECT_EQ(L"", records.person->ChargeNCICCode);
     }
     for (const wchar_t* code : {L"0101", L"8102", L""}) {
         Records records;
-        records.incident->SetChargeNCICCode(code);
+        records.incident->ChargeNCICCode = code;
         EXPECT_EQ(Warnings{}, records.Apply());
-        EXPECT_EQ(code, records.incident->ChargeNCICCode());
+        EXPECT_EQ(code, records.incident->ChargeNCICCode);
     }
 }
 
 TEST(FormattingRules, ReplaceRaceCodesThatAreNotNcics) {
     for (const wchar_t* code : {L"A", L"B", L"I", L"U", L"W", L""}) {
         Records records;
-        records.person->SetRaceNCIC(code);
+        records.person->RaceNCIC = code;
         EXPECT_EQ(Warnings{}, records.Apply()) << Utf8(code);
-        EXPECT_EQ(code, records.person->RaceNCIC());
+        EXPECT_EQ(code, records.person->RaceNCIC);
     }
     for (const wchar_t* code : {L"X", L"w", L"AB", L"ABIUW", L" ", L"M"}) {
         Records records;
-        records.person->SetRaceNCIC(code);
+        records.person->RaceNCIC = code;
         EXPECT_EQ(Warnings{std::wstring(L"  (Suspect): '") + code +
                            L"' is not a valid NCIC race code, will submit 'U' (Unknown) instead. Check Race Selection "
                            L"List settings in Administration and verify that NCIC Codes are set correctly."},
                   records.Apply());
-        EXPECT_EQ(L"U", records.person->RaceNCIC());
+        EXPECT_EQ(L"U", records.person->RaceNCIC);
     }
 }
 
 TEST(FormattingRules, ReplaceSexCodesThatAreNotNcics) {
     for (const wchar_t* code : {L"M", L"F", L"U", L""}) {
         Records records;
-        records.person->SetSexNCIC(code);
+        records.person->SexNCIC = code;
         EXPECT_EQ(Warnings{}, records.Apply()) << Utf8(code);
-        EXPECT_EQ(code, records.person->SexNCIC());
+        EXPECT_EQ(code, records.person->SexNCIC);
     }
     for (const wchar_t* code : {L"X", L"m", L"MF", L" ", L"W"}) {
         Records records;
-        records.person->SetSexNCIC(code);
+        records.person->SexNCIC = code;
         EXPECT_EQ(Warnings{std::wstring(L"  (Suspect): '") + code +
                            L"' is not a valid NCIC sex code, will submit 'U' (Unknown) instead. Check Sex Selection "
                            L"List settings in Administration and verify that NCIC Codes are set correctly."},
                   records.Apply());
-        EXPECT_EQ(L"U", records.person->SexNCIC());
+        EXPECT_EQ(L"U", records.person->SexNCIC);
     }
 }
 
@@ -121,30 +121,30 @@ TEST(FormattingRules, DropStreetNumbersOfMoreThanSixCharacters) {
 
 TEST(FormattingRules, ShortenZipsOfExactlyNineCharacters) {
     Records records;
-    records.incident->Location->SetZIP(L"123456789");
-    records.person->address->SetZIP(L"ABCDEFGHI");
+    records.incident->Location->ZIP = L"123456789";
+    records.person->address->ZIP = L"ABCDEFGHI";
     EXPECT_EQ((Warnings{L"Main record: 9-digit ZIP code '123456789' will be sent as '12345'",
                         L"  (Suspect): 9-digit ZIP code 'ABCDEFGHI' will be sent as 'ABCDE'"}),
               records.Apply());
-    EXPECT_EQ(L"12345", records.incident->Location->ZIP());
-    EXPECT_EQ(L"ABCDE", records.person->address->ZIP());
+    EXPECT_EQ(L"12345", records.incident->Location->ZIP);
+    EXPECT_EQ(L"ABCDE", records.person->address->ZIP);
     for (const wchar_t* zip : {L"", L"12345", L"12345678", L"12345-6789"}) {
-        records.incident->Location->SetZIP(zip);
+        records.incident->Location->ZIP = zip;
         EXPECT_EQ(Warnings{}, records.Apply()) << Utf8(zip);
-        EXPECT_EQ(zip, records.incident->Location->ZIP());
+        EXPECT_EQ(zip, records.incident->Location->ZIP);
     }
 }
 
 TEST(FormattingRules, OnlyWarnOfALongCaution) {
     Records records;
     const std::wstring longest(200, L'x');
-    records.person->SetSubjectCautionInformationCaveat(longest);
+    records.person->SubjectCautionInformationCaveat = longest;
     EXPECT_EQ(Warnings{}, records.Apply());
-    records.person->SetSubjectCautionInformationCaveat(longest + L'y');
+    records.person->SubjectCautionInformationCaveat = longest + L'y';
     EXPECT_EQ(Warnings{L"  (Suspect): Caution information cannot be more than 200 characters. '" + longest +
                        L"y' is 201 characters long."},
               records.Apply());
-    EXPECT_EQ(longest + L'y', records.person->SubjectCautionInformationCaveat());
+    EXPECT_EQ(longest + L'y', records.person->SubjectCautionInformationCaveat);
 }
 
 }  // namespace

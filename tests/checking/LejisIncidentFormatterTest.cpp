@@ -4,7 +4,6 @@
 #include "support/Xml.h"
 #include "unit_support/Members.h"
 #include "unit_support/Raises.h"
-#include "unit_support/TextField.h"
 
 #include <gtest/gtest.h>
 
@@ -37,24 +36,20 @@ Incident AllWrong() {
     const auto property = Add<LejisPropertyIndexCard>(incident->PropertyIndexCards);
     const auto vehicle = Add<LejisVehicleIndexCard>(incident->VehicleIndexCards);
     for (LejisStreetAddress* address : {incident->Location.Get(), person->address.Get()}) {
-        for (const support::TextField& field : {TEXT_FIELD(address, StreetFullText), TEXT_FIELD(address, StreetName),
-                                                TEXT_FIELD(address, StreetExtension), TEXT_FIELD(address, StreetType),
-                                                TEXT_FIELD(address, StreetDirection)}) {
-            field.Set(text);
+        for (platform::TextField* field : {&address->StreetFullText, &address->StreetName, &address->StreetExtension,
+                                           &address->StreetType, &address->StreetDirection}) {
+            *field = text;
         }
         address->StreetNumber->Set(1234567);
-        address->SetZIP(L"123456789");
+        address->ZIP = L"123456789";
     }
-    for (const support::TextField& field :
-         {TEXT_FIELD(incident, OrganizationName), TEXT_FIELD(incident, CaveatText),
-          TEXT_FIELD(incident, ChargeDescriptionText), TEXT_FIELD(incident, ChargeNCICCode),
-          TEXT_FIELD(person, GivenName), TEXT_FIELD(person, MiddleName), TEXT_FIELD(person, SurName),
-          TEXT_FIELD(person, RaceNCIC), TEXT_FIELD(person, SexNCIC), TEXT_FIELD(person, OrganizationName),
-          TEXT_FIELD(person, CaveatText), TEXT_FIELD(person, ChargeDescriptionText), TEXT_FIELD(person, ChargeNCICCode),
-          TEXT_FIELD(person, SubjectCautionInformationCaveat), TEXT_FIELD(property, Category),
-          TEXT_FIELD(property, Make), TEXT_FIELD(property, Model), TEXT_FIELD(vehicle, Model),
-          TEXT_FIELD(vehicle, Color)}) {
-        field.Set(text);
+    for (platform::TextField* field :
+         {&incident->OrganizationName, &incident->CaveatText, &incident->ChargeDescriptionText,
+          &incident->ChargeNCICCode, &person->GivenName, &person->MiddleName, &person->SurName, &person->RaceNCIC,
+          &person->SexNCIC, &person->OrganizationName, &person->CaveatText, &person->ChargeDescriptionText,
+          &person->ChargeNCICCode, &person->SubjectCautionInformationCaveat, &property->Category, &property->Make,
+          &property->Model, &vehicle->Model, &vehicle->Color}) {
+        *field = text;
     }
     person->Weight->Set(short{1000});
     vehicle->Year->Set(short{1899});
@@ -134,14 +129,14 @@ TEST(LejisIncidentFormatter, ShapesRecordsInTheOrderOfTheirCollections) {
     const auto incident = platform::Create<LejisIncidentIndexCard>();
     for (const wchar_t* name : {L"FIRST", L"SECOND"}) {
         const auto vehicle = Add<LejisVehicleIndexCard>(incident->VehicleIndexCards);
-        vehicle->SetMake(name);
+        vehicle->Make = name;
         vehicle->Year->Set(short{1899});
         const auto property = Add<LejisPropertyIndexCard>(incident->PropertyIndexCards);
-        property->SetMake(name);
-        property->SetCategory(std::wstring(36, L'x'));
+        property->Make = name;
+        property->Category = std::wstring(36, L'x');
         const auto person = Add<LejisPersonIndexCard>(incident->PersonIndexCards);
-        person->SetSurName(name);
-        person->SetSexNCIC(L"m");
+        person->SurName = name;
+        person->SexNCIC = L"m";
     }
     const auto formatter = platform::Create<LejisIncidentFormatter>();
     formatter->Shape(*incident);
@@ -159,8 +154,8 @@ TEST(LejisIncidentFormatter, LeavesTheCallersIncidentAsItIs) {
     const auto person = incident->PersonIndexCards->ItemsAs<LejisPersonIndexCard>()[0];
     platform::Create<LejisIncidentFormatter>()->Shape(*incident);
     EXPECT_EQ(before, XmlOf(incident));
-    EXPECT_EQ(300u, incident->OrganizationName().size());
-    EXPECT_EQ(300u, person->CaveatText().size());
+    EXPECT_EQ(300u, incident->OrganizationName.size());
+    EXPECT_EQ(300u, person->CaveatText.size());
     EXPECT_EQ(person.Get(), incident->PersonIndexCards->ItemsAs<LejisPersonIndexCard>()[0].Get());
 }
 

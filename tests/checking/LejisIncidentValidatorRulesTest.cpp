@@ -14,7 +14,7 @@ using namespace validator_case;
 TEST(LejisIncidentValidatorRules, WantsAnIdOfOneToThirtyCharacters) {
     const auto errors = [](const std::wstring& id) {
         const Incident incident = Clean();
-        incident->SetActivityID(id);
+        incident->ActivityID = id;
         return ErrorsOf(incident);
     };
     EXPECT_EQ(Errors{}, errors(L"1"));
@@ -35,7 +35,7 @@ TEST(LejisIncidentValidatorRules, WantsASubmissionDate) {
 TEST(LejisIncidentValidatorRules, WantsAnOriOfNineCharacters) {
     const auto errors = [](const std::wstring& ori) {
         const Incident incident = Clean();
-        incident->SetOrganizationORI(ori);
+        incident->OrganizationORI = ori;
         return ErrorsOf(incident);
     };
     EXPECT_EQ(Errors{}, errors(L"PA0250100"));
@@ -48,8 +48,8 @@ TEST(LejisIncidentValidatorRules, WantsAnOriOfNineCharacters) {
 TEST(LejisIncidentValidatorRules, WantsFiveCharactersOfZipOrNone) {
     const auto errors = [](const wchar_t* zip) {
         const Incident incident = Clean();
-        incident->Location->SetZIP(zip);
-        AddPerson(incident)->address->SetZIP(zip);
+        incident->Location->ZIP = zip;
+        AddPerson(incident)->address->ZIP = zip;
         return ErrorsOf(incident);
     };
     for (const wchar_t* zip : {L"", L"16501", L"ABCDE", L"     "}) EXPECT_EQ(Errors{}, errors(zip));
@@ -62,7 +62,7 @@ TEST(LejisIncidentValidatorRules, WantsFiveCharactersOfZipOrNone) {
 TEST(LejisIncidentValidatorRules, WantsNineCharactersOfSsnOrNone) {
     const auto errors = [](const wchar_t* ssn) {
         const Incident incident = Clean();
-        AddPerson(incident)->SetSSN(ssn);
+        AddPerson(incident)->SSN = ssn;
         return ErrorsOf(incident);
     };
     for (const wchar_t* ssn : {L"", L"123456789", L"ABCDEFGHI"}) EXPECT_EQ(Errors{}, errors(ssn));
@@ -88,9 +88,9 @@ TEST(LejisIncidentValidatorRules, WantsNoBirthDateInTheFuture) {
 TEST(LejisIncidentValidatorRules, WantsTwoHundredCharactersOfCautionAtMost) {
     const Incident incident = Clean();
     const Person person = AddPerson(incident);
-    person->SetSubjectCautionInformationCaveat(std::wstring(200, L'x'));
+    person->SubjectCautionInformationCaveat = std::wstring(200, L'x');
     EXPECT_EQ(Errors{}, ErrorsOf(incident));
-    person->SetSubjectCautionInformationCaveat(std::wstring(200, L'x') + L'y');
+    person->SubjectCautionInformationCaveat = std::wstring(200, L'x') + L'y';
     EXPECT_EQ(Errors{L"ANN LEE (Witness): Caution information cannot be more than 200 characters. '" +
                      std::wstring(200, L'x') + L"y' is 201 characters long."},
               ErrorsOf(incident));

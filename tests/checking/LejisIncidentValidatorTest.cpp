@@ -5,7 +5,6 @@
 #include "support/ComCheck.h"
 #include "unit_support/Members.h"
 #include "unit_support/Raises.h"
-#include "unit_support/TextField.h"
 
 #include <gtest/gtest.h>
 
@@ -56,14 +55,14 @@ TEST(LejisIncidentValidator, AcceptsACleanIncident) {
 
 TEST(LejisIncidentValidator, ReportsEverythingInTheOrderOfItsChecks) {
     const auto incident = platform::Create<LejisIncidentIndexCard>();
-    incident->SetActivityID(std::wstring(31, L' '));
-    incident->Location->SetZIP(L"1");
+    incident->ActivityID = std::wstring(31, L' ');
+    incident->Location->ZIP = L"1";
     for (const wchar_t* name : {L"ANN", L"BOB"}) {
         const Person person = AddPerson(incident, name);
-        person->address->SetZIP(L"2");
-        person->SetSSN(L"3");
+        person->address->ZIP = L"2";
+        person->SSN = L"3";
         person->BirthDate->Set(platform::Now() + 1);
-        person->SetSubjectCautionInformationCaveat(std::wstring(201, L'x'));
+        person->SubjectCautionInformationCaveat = std::wstring(201, L'x');
     }
     Errors expected = {kIdMissing,
                        kIdTooLong,
@@ -85,19 +84,18 @@ TEST(LejisIncidentValidator, AcceptsAnyVehicleAnyPropertyAndAnyTextOfTheRest) {
     const Incident incident = Clean();
     const std::wstring longText(1000, L'x');
     const auto vehicle = platform::Create<LejisVehicleIndexCard>();
-    vehicle->SetModel(longText);
+    vehicle->Model = longText;
     vehicle->Year->Set(short{1});
     incident->VehicleIndexCards->AddObject(vehicle->Dispatch());
     const auto property = platform::Create<LejisPropertyIndexCard>();
-    property->SetMake(longText);
+    property->Make = longText;
     incident->PropertyIndexCards->AddObject(property->Dispatch());
     const Person person = AddPerson(incident);
-    for (const support::TextField& field :
-         {TEXT_FIELD(incident, OrganizationName), TEXT_FIELD(incident, CaveatText),
-          TEXT_FIELD(incident, ChargeDescriptionText), TEXT_FIELD(incident, ChargeNCICCode),
-          TEXT_FIELD(person, OrganizationName), TEXT_FIELD(person, CaveatText),
-          TEXT_FIELD(person, ChargeDescriptionText), TEXT_FIELD(person, ChargeNCICCode)}) {
-        field.Set(longText);
+    for (platform::TextField* field :
+         {&incident->OrganizationName, &incident->CaveatText, &incident->ChargeDescriptionText,
+          &incident->ChargeNCICCode, &person->OrganizationName, &person->CaveatText, &person->ChargeDescriptionText,
+          &person->ChargeNCICCode}) {
+        *field = longText;
     }
     EXPECT_EQ(Errors{}, ErrorsOf(incident));
 }
@@ -128,9 +126,9 @@ TEST(LejisIncidentValidator, RefusesForeignObjectsAmongTheCards) {
 TEST(LejisIncidentValidator, ChecksThePersonsBeforeAForeignObject) {
     const auto validator = platform::Create<LejisIncidentValidator>();
     const Incident incident = Clean();
-    AddPerson(incident)->SetSSN(L"3");
+    AddPerson(incident)->SSN = L"3";
     incident->PersonIndexCards->AddObject(platform::Create<LejisStreetAddress>()->Dispatch());
-    AddPerson(incident, L"BOB")->SetSSN(L"3");
+    AddPerson(incident, L"BOB")->SSN = L"3";
     VARIANT_BOOL found = VARIANT_FALSE;
     EXPECT_TRUE(FailedWith(validator->Validate(incident.Get(), &found), DISP_E_TYPEMISMATCH, L"Type mismatch"));
     EXPECT_EQ((Errors{std::wstring(L"ANN LEE (Witness): '3") + kSsnWrong}), support::Texts(*validator->Errors));

@@ -24,10 +24,10 @@ TEST(RecordLabels, NameAPerson) {
     };
     for (const PersonNames& row : kPersons) {
         const auto person = platform::Create<LejisPersonIndexCard>();
-        person->SetGivenName(row.given);
-        person->SetMiddleName(row.middle);
-        person->SetSurName(row.surname);
-        person->SetInvolvement(row.involvement);
+        person->GivenName = row.given;
+        person->MiddleName = row.middle;
+        person->SurName = row.surname;
+        person->Involvement = row.involvement;
         EXPECT_EQ(row.label, LabelOf(*person));
     }
 }
@@ -50,9 +50,9 @@ TEST(RecordLabels, NameAnItemOfProperty) {
     };
     for (const auto& row : kItems) {
         const auto property = platform::Create<LejisPropertyIndexCard>();
-        property->SetMake(row.make);
-        property->SetModel(row.model);
-        property->SetSerialID(row.serial);
+        property->Make = row.make;
+        property->Model = row.model;
+        property->SerialID = row.serial;
         EXPECT_EQ(row.label, LabelOf(*property));
     }
 }
@@ -60,9 +60,9 @@ TEST(RecordLabels, NameAnItemOfProperty) {
 TEST(RecordLabels, NameAVehicleWithTwoBlanksAtTheEnd) {
     const auto vehicle = platform::Create<LejisVehicleIndexCard>();
     EXPECT_EQ(L"Vehicle     ", LabelOf(*vehicle));
-    vehicle->SetColor(L"RED");
-    vehicle->SetMake(L"FORD");
-    vehicle->SetModel(L"F150");
+    vehicle->Color = L"RED";
+    vehicle->Make = L"FORD";
+    vehicle->Model = L"F150";
     EXPECT_EQ(L"Vehicle RED FORD F150  ", LabelOf(*vehicle));
 }
 

@@ -34,17 +34,17 @@ using Person = platform::Ref<LejisPersonIndexCard>;
 // An incident in which nothing is wrong.
 inline Incident Clean() {
     auto incident = platform::Create<LejisIncidentIndexCard>();
-    incident->SetActivityID(L"07-1234");
-    incident->SetOrganizationORI(L"PA0250100");
+    incident->ActivityID = L"07-1234";
+    incident->OrganizationORI = L"PA0250100";
     incident->SubmittedDate->Assign(support::Date(L"2007-03-10"));
     return incident;
 }
 
 inline Person AddPerson(const Incident& incident, const wchar_t* givenName = L"ANN") {
     auto person = platform::Create<LejisPersonIndexCard>();
-    person->SetGivenName(givenName);
-    person->SetSurName(L"LEE");
-    person->SetInvolvement(L"witness");
+    person->GivenName = givenName;
+    person->SurName = L"LEE";
+    person->Involvement = L"witness";
     incident->PersonIndexCards->AddObject(person->Dispatch());
     return person;
 }

@@ -37,6 +37,15 @@ ROWS = (
     Row("the same of a text that may be missing",
         "std::wstring_view text = *msxml::LeafText(element, child); Use(text);",
         "const auto held = msxml::LeafText(element, child); std::wstring_view text = *held; Use(text);", DELETED),
+    Row("a view of a card's text, which another field of the card moves",
+        "std::wstring_view text = card.SurName; card.GivenName = text; Use(text);",
+        "const std::wstring text = card.SurName; card.GivenName = text; Use(text);", "conversion from"),
+    Row("a field of its own",
+        "auto text = card.SurName; Use(text);",
+        "const auto& text = card.SurName; Use(text);", DELETED),
+    Row("a field of a block that is kept as a view",
+        "std::wstring_view text = block.SurName; Use(text);",
+        "const std::wstring text = block.SurName; Use(text);", "conversion from"),
     Row("a copy that is not asked for",
         "std::wstring text = msxml::Text(element); Use(text);",
         "std::wstring text(msxml::Text(element)); Use(text);", "conversion from|use of deleted function"),
@@ -104,6 +113,7 @@ PROLOGUE = """
 #include "foundation/ElementReader.h"
 #include "foundation/ElementWriter.h"
 #include "foundation/OutputDocument.h"
+#include "inquiry/PersonInquiryArguments.h"
 #include "model/LejisIncidentIndexCard.h"
 #include "model/LejisPersonIndexCard.h"
 #include "platform/msxml/LeafText.h"
@@ -121,7 +131,7 @@ void Use(const Value&);
 PARAMETERS = ("[[maybe_unused]] const msxml::Element& element, [[maybe_unused]] const msxml::Node& child, "
               "[[maybe_unused]] const OutputDocument& target, [[maybe_unused]] LejisPersonIndexCard& card, "
               "[[maybe_unused]] const LejisIncidentIndexCard& incident, "
-              "[[maybe_unused]] LejisSubmissionWebService& service")
+              "[[maybe_unused]] PersonInquiryArguments& block, [[maybe_unused]] LejisSubmissionWebService& service")
 
 
 def source(bodies):

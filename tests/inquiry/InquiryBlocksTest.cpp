@@ -15,7 +15,7 @@ namespace lejis {
 namespace {
 
 template <typename Block>
-bool IsNotEmptyWith(std::wstring Block::*field, const wchar_t* text) {
+bool IsNotEmptyWith(platform::TextField Block::*field, const wchar_t* text) {
     const auto block = platform::Create<Block>();
     (*block).*field = text;
     return block->HasContent();
@@ -23,9 +23,9 @@ bool IsNotEmptyWith(std::wstring Block::*field, const wchar_t* text) {
 
 // Each text alone makes a block worth sending, blanks alone do not.
 template <typename Block>
-void ExpectEachTextCounts(std::initializer_list<std::wstring Block::*> fields) {
+void ExpectEachTextCounts(std::initializer_list<platform::TextField Block::*> fields) {
     EXPECT_FALSE(platform::Create<Block>()->HasContent());
-    for (std::wstring Block::*field : fields) {
+    for (platform::TextField Block::*field : fields) {
         EXPECT_TRUE(IsNotEmptyWith(field, L" x"));
         EXPECT_FALSE(IsNotEmptyWith(field, L"  "));
     }

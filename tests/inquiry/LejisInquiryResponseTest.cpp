@@ -45,8 +45,8 @@ TEST(LejisInquiryResponse, KeepsTheServersCountApartFromTheCards) {
     const auto response = Read(Counted(L"12") + AnsweredCard(L"1") + AnsweredCard(L"2") + AnsweredCard(L"3"));
     EXPECT_EQ(12, response->IncidentCount);
     ASSERT_EQ(3u, response->IncidentIndexCards->Count());
-    EXPECT_EQ(L"1", response->IncidentIndexCards->ItemAs<LejisIncidentIndexCard>(1)->ActivityID());
-    EXPECT_EQ(L"3", response->IncidentIndexCards->ItemAs<LejisIncidentIndexCard>(3)->ActivityID());
+    EXPECT_EQ(L"1", response->IncidentIndexCards->ItemAs<LejisIncidentIndexCard>(1)->ActivityID);
+    EXPECT_EQ(L"3", response->IncidentIndexCards->ItemAs<LejisIncidentIndexCard>(3)->ActivityID);
 }
 
 TEST(LejisInquiryResponse, RoundsTheCountToEvenAndTakesItsLeadingNumber) {

@@ -35,7 +35,7 @@ TEST(PersonInquiryArguments, IsEmptyWhenNewAndWithBlanksAlone) {
 }
 
 TEST(PersonInquiryArguments, IsNotEmptyWithAnyOfItsTexts) {
-    for (std::wstring PersonInquiryArguments::*field :
+    for (platform::TextField PersonInquiryArguments::*field :
          {&PersonInquiryArguments::GivenName, &PersonInquiryArguments::MiddleName, &PersonInquiryArguments::SurName,
           &PersonInquiryArguments::SSN, &PersonInquiryArguments::DriversLicense,
           &PersonInquiryArguments::DriversLicenseState, &PersonInquiryArguments::SexNCIC,

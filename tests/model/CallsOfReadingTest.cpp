@@ -47,9 +47,9 @@ int CallsToRead(const platform::Ref<Card>& card, const wchar_t* xml) {
 TEST(CallsOfReading, AreAtMostSevenForAnElementOfAPersonCard) {
     const auto person = platform::Create<LejisPersonIndexCard>();
     EXPECT_LE(CallsToRead(person, kPerson), 7 * kElementsOfPerson);
-    EXPECT_EQ(L"900123456", person->SSN());
-    EXPECT_EQ(L"16501", person->address->ZIP());
-    EXPECT_EQ(L"PA", person->DriversLicenseState());
+    EXPECT_EQ(L"900123456", person->SSN);
+    EXPECT_EQ(L"16501", person->address->ZIP);
+    EXPECT_EQ(L"PA", person->DriversLicenseState);
     EXPECT_TRUE(person->CautionIndicator);
 }
 

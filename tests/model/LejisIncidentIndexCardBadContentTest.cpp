@@ -21,11 +21,11 @@ TEST(LejisIncidentIndexCardBadContent, FailsWithoutIdentifiersAndChangesNothing)
     EXPECT_TRUE(Raises(support::kInvalidArgument, L"elem cannot be Nothing", [&] {
         ReadInto(card, Incident(std::wstring(kSubmitter) + L"<j:CaveatText>new</j:CaveatText>"));
     }));
-    EXPECT_EQ(L"PA0250100", card->OrganizationORI());
-    EXPECT_EQ(L"07-1234", card->ActivityID());
+    EXPECT_EQ(L"PA0250100", card->OrganizationORI);
+    EXPECT_EQ(L"07-1234", card->ActivityID);
     EXPECT_EQ(L"2007-03-10", FormatNullableDate(*card->SubmittedDate));
-    EXPECT_EQ(L"ERIE PD", card->OrganizationName());
-    EXPECT_EQ(L"caveat", card->CaveatText());
+    EXPECT_EQ(L"ERIE PD", card->OrganizationName);
+    EXPECT_EQ(L"caveat", card->CaveatText);
     EXPECT_EQ(2u, card->PersonIndexCards->Count());
 }
 
@@ -37,12 +37,12 @@ TEST(LejisIncidentIndexCardBadContent, FailsWithoutSubmitterAndKeepsWhatItReadBe
                           L"<j:SubmissionSubmittedDate>2008-01-01</j:SubmissionSubmittedDate>"
                           L"<j:ActivityDate>2008-01-02</j:ActivityDate><j:CaveatText>new</j:CaveatText>"));
     }));
-    EXPECT_EQ(L"", card->OrganizationORI());
-    EXPECT_EQ(L"NEW", card->ActivityID());
+    EXPECT_EQ(L"", card->OrganizationORI);
+    EXPECT_EQ(L"NEW", card->ActivityID);
     EXPECT_EQ(L"2008-01-01", FormatNullableDate(*card->SubmittedDate));
-    EXPECT_EQ(L"ERIE PD", card->OrganizationName());
+    EXPECT_EQ(L"ERIE PD", card->OrganizationName);
     EXPECT_EQ(L"2007-03-09 14:05:00", ActivityOf(card));
-    EXPECT_EQ(L"caveat", card->CaveatText());
+    EXPECT_EQ(L"caveat", card->CaveatText);
     EXPECT_EQ(2u, card->PersonIndexCards->Count());
 }
 
@@ -61,7 +61,7 @@ TEST(LejisIncidentIndexCardBadContent, HasNoSubmittedDateForABadText) {
         ReadInto(card, CompleteWith(std::wstring(L"<j:SubmissionSubmittedDate>") + text +
                                     L"</j:SubmissionSubmittedDate><j:CaveatText>new</j:CaveatText>"));
         EXPECT_EQ(std::nullopt, card->SubmittedDate->Date()) << support::Utf8(text);
-        EXPECT_EQ(L"new", card->CaveatText()) << support::Utf8(text);
+        EXPECT_EQ(L"new", card->CaveatText) << support::Utf8(text);
     }
 }
 
@@ -98,12 +98,12 @@ TEST(LejisIncidentIndexCardBadContent, KeepsCardsAsFarAsTheyCouldBeRead) {
         L"card:RMSVehicleIndexCards>"));
     const auto persons = PersonsOf(card);
     ASSERT_EQ(3u, persons.size());
-    EXPECT_EQ(L"FIRST", persons[0]->SurName());
-    EXPECT_EQ(L"MAIN", persons[0]->address->StreetName());
-    EXPECT_EQ(L"", persons[0]->SexNCIC());
-    EXPECT_EQ(L"SECOND", persons[1]->SurName());
-    EXPECT_EQ(L"", persons[1]->SSN());
-    EXPECT_EQ(L"THIRD", persons[2]->SurName());
+    EXPECT_EQ(L"FIRST", persons[0]->SurName);
+    EXPECT_EQ(L"MAIN", persons[0]->address->StreetName);
+    EXPECT_EQ(L"", persons[0]->SexNCIC);
+    EXPECT_EQ(L"SECOND", persons[1]->SurName);
+    EXPECT_EQ(L"", persons[1]->SSN);
+    EXPECT_EQ(L"THIRD", persons[2]->SurName);
     EXPECT_EQ(1u, card->VehicleIndexCards->Count());
 }
 
@@ -116,7 +116,7 @@ TEST(LejisIncidentIndexCardBadContent, FailsForALocationWhoseNumberIsTooGreat) {
                                     L"<j:ChargeNCICCode>0101</j:ChargeNCICCode>"));
     }));
     EXPECT_EQ(L"2008-01-02 00:00:00", ActivityOf(card));
-    EXPECT_EQ(L"1313", card->ChargeNCICCode());
+    EXPECT_EQ(L"1313", card->ChargeNCICCode);
     EXPECT_EQ(2u, card->PersonIndexCards->Count());
 }
 

@@ -18,27 +18,27 @@ using support::ParseElement;
 
 TEST(LejisIncidentIndexCardReading, FillsAllFields) {
     const Card card = Read(kFullCard);
-    EXPECT_EQ(L"PA0250100", card->OrganizationORI());
-    EXPECT_EQ(L"07-1234", card->ActivityID());
-    EXPECT_EQ(L"ERIE PD", card->OrganizationName());
+    EXPECT_EQ(L"PA0250100", card->OrganizationORI);
+    EXPECT_EQ(L"07-1234", card->ActivityID);
+    EXPECT_EQ(L"ERIE PD", card->OrganizationName);
     EXPECT_EQ(L"2007-03-10", FormatNullableDate(*card->SubmittedDate));
     EXPECT_EQ(L"2007-03-09 14:05:00", ActivityOf(card));
-    EXPECT_EQ(L"ERIE", card->Location->City());
-    EXPECT_EQ(L"caveat", card->CaveatText());
-    EXPECT_EQ(L"1313", card->ChargeNCICCode());
-    EXPECT_EQ(L"SIMPLE ASSAULT", card->ChargeDescriptionText());
+    EXPECT_EQ(L"ERIE", card->Location->City);
+    EXPECT_EQ(L"caveat", card->CaveatText);
+    EXPECT_EQ(L"1313", card->ChargeNCICCode);
+    EXPECT_EQ(L"SIMPLE ASSAULT", card->ChargeDescriptionText);
     EXPECT_TRUE(card->CautionIndicator);
 }
 
 TEST(LejisIncidentIndexCardReading, FillsItsCollectionsInDocumentOrder) {
     const Card card = Read(kFullCard);
     ASSERT_EQ(2u, card->PersonIndexCards->Count());
-    EXPECT_EQ(L"FIRST", PersonsOf(card)[0]->SurName());
-    EXPECT_EQ(L"SECOND", PersonsOf(card)[1]->SurName());
+    EXPECT_EQ(L"FIRST", PersonsOf(card)[0]->SurName);
+    EXPECT_EQ(L"SECOND", PersonsOf(card)[1]->SurName);
     ASSERT_EQ(1u, card->PropertyIndexCards->Count());
-    EXPECT_EQ(L"SONY", card->PropertyIndexCards->ItemsAs<LejisPropertyIndexCard>()[0]->Make());
+    EXPECT_EQ(L"SONY", card->PropertyIndexCards->ItemsAs<LejisPropertyIndexCard>()[0]->Make);
     ASSERT_EQ(1u, card->VehicleIndexCards->Count());
-    EXPECT_EQ(L"FORD", card->VehicleIndexCards->ItemsAs<LejisVehicleIndexCard>()[0]->Make());
+    EXPECT_EQ(L"FORD", card->VehicleIndexCards->ItemsAs<LejisVehicleIndexCard>()[0]->Make);
 }
 
 TEST(LejisIncidentIndexCardReading, ReadsBackWhatWasWritten) {
@@ -63,7 +63,7 @@ TEST(LejisIncidentIndexCardReading, ReplacesFieldsAndCards) {
     EXPECT_EQ(std::nullopt, card->SubmittedDate->Date());
     EXPECT_EQ(std::nullopt, card->ActivityDateTime->Date());
     ASSERT_EQ(1u, card->PersonIndexCards->Count());
-    EXPECT_EQ(L"NEW", PersonsOf(card)[0]->SurName());
+    EXPECT_EQ(L"NEW", PersonsOf(card)[0]->SurName);
     EXPECT_EQ(0u, card->PropertyIndexCards->Count());
     EXPECT_EQ(0u, card->VehicleIndexCards->Count());
     EXPECT_NE(personsBefore.Get(), card->PersonIndexCards.Get());
@@ -77,9 +77,9 @@ TEST(LejisIncidentIndexCardReading, KeepsItsHoldersAndALocationThatTheElementLac
     ReadInto(card, CompleteWith(L""));
     EXPECT_EQ(submittedBefore.Get(), card->SubmittedDate.Get());
     EXPECT_EQ(locationBefore.Get(), card->Location.Get());
-    EXPECT_EQ(L"ERIE", card->Location->City());
+    EXPECT_EQ(L"ERIE", card->Location->City);
     ReadInto(card, CompleteWith(L"<j:IncidentLocation/>"));
-    EXPECT_EQ(L"", card->Location->City());
+    EXPECT_EQ(L"", card->Location->City);
 }
 
 TEST(LejisIncidentIndexCardReading, JoinsDateAndTimeOfTheActivity) {

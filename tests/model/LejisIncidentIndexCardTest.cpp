@@ -44,7 +44,7 @@ TEST(LejisIncidentIndexCard, OwnsEmptyPartsWhenNew) {
     EXPECT_EQ(std::nullopt, card->SubmittedDate->Date());
     EXPECT_EQ(std::nullopt, card->ActivityDateTime->Date());
     EXPECT_NE(card->SubmittedDate.Get(), card->ActivityDateTime.Get());
-    EXPECT_EQ(L"", card->Location->City());
+    EXPECT_EQ(L"", card->Location->City);
     EXPECT_EQ(0u, card->PersonIndexCards->Count());
     EXPECT_EQ(0u, card->VehicleIndexCards->Count());
     EXPECT_EQ(0u, card->PropertyIndexCards->Count());

@@ -51,16 +51,16 @@ TEST(LejisIncidentIndexCardWriting, WritesWhatIsRequiredWhenNew) {
 
 TEST(LejisIncidentIndexCardWriting, WritesAllFieldsInTheirOrder) {
     const auto card = platform::Create<LejisIncidentIndexCard>();
-    card->SetOrganizationName(L"ERIE PD");
-    card->SetOrganizationORI(L"PA0250100");
-    card->SetActivityID(L"07-1234");
-    card->SetCaveatText(L" as is ");
-    card->SetChargeNCICCode(L"1313");
-    card->SetChargeDescriptionText(L"SIMPLE ASSAULT");
+    card->OrganizationName = L"ERIE PD";
+    card->OrganizationORI = L"PA0250100";
+    card->ActivityID = L"07-1234";
+    card->CaveatText = L" as is ";
+    card->ChargeNCICCode = L"1313";
+    card->ChargeDescriptionText = L"SIMPLE ASSAULT";
     card->CautionIndicator = true;
     card->SubmittedDate->Assign(support::Date(L"2007-03-10 08:00:00"));
     card->ActivityDateTime->Assign(support::Date(L"2007-03-09 14:05:00"));
-    card->Location->SetCity(L"ERIE");
+    card->Location->City = L"ERIE";
     EXPECT_TRUE(
         Writes(card,
                L"<lejis:RMSIncidentIndexCard>"
@@ -83,8 +83,8 @@ TEST(LejisIncidentIndexCardWriting, WritesAllFieldsInTheirOrder) {
 
 TEST(LejisIncidentIndexCardWriting, WritesBlankChargesAsContent) {
     const auto card = platform::Create<LejisIncidentIndexCard>();
-    card->SetChargeNCICCode(L" ");
-    card->SetChargeDescriptionText(L"  ");
+    card->ChargeNCICCode = L" ";
+    card->ChargeDescriptionText = L"  ";
     EXPECT_TRUE(Writes(card, CardWith(L"",
                                       L"<j:ChargeNCICCode> </j:ChargeNCICCode>"
                                       L"<j:ChargeDescriptionText>  </j:ChargeDescriptionText>",
@@ -101,10 +101,10 @@ TEST(LejisIncidentIndexCardWriting, WritesMidnightAsATime) {
 
 TEST(LejisIncidentIndexCardWriting, WritesPersonsThenVehiclesThenProperty) {
     const auto card = platform::Create<LejisIncidentIndexCard>();
-    Add<LejisPropertyIndexCard>(card->PropertyIndexCards)->SetMake(L"SONY");
-    Add<LejisVehicleIndexCard>(card->VehicleIndexCards)->SetMake(L"FORD");
-    Add<LejisPersonIndexCard>(card->PersonIndexCards)->SetSurName(L"FIRST");
-    Add<LejisPersonIndexCard>(card->PersonIndexCards)->SetSurName(L"SECOND");
+    Add<LejisPropertyIndexCard>(card->PropertyIndexCards)->Make = L"SONY";
+    Add<LejisVehicleIndexCard>(card->VehicleIndexCards)->Make = L"FORD";
+    Add<LejisPersonIndexCard>(card->PersonIndexCards)->SurName = L"FIRST";
+    Add<LejisPersonIndexCard>(card->PersonIndexCards)->SurName = L"SECOND";
     const auto element = card->Write(NewDocument());
     std::wstring order;
     for (const auto& child : msxml::ChildElements(element)) {

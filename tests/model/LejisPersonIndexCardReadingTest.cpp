@@ -75,54 +75,54 @@ Card ReadWith(const std::wstring& children) {
 
 // What stands before the birth date in the order of reading.
 void ExpectIdentity(const Card& card) {
-    EXPECT_EQ(L"ERIE PD", card->OrganizationName());
-    EXPECT_EQ(L"PUBLIC", card->SurName());
-    EXPECT_EQ(L"Q", card->MiddleName());
-    EXPECT_EQ(L"JOHN", card->GivenName());
-    EXPECT_EQ(L"ERIE", card->address->City());
-    EXPECT_EQ(L"123456789", card->SSN());
-    EXPECT_EQ(L"12345678", card->DriversLicense());
-    EXPECT_EQ(L"PA", card->DriversLicenseState());
+    EXPECT_EQ(L"ERIE PD", card->OrganizationName);
+    EXPECT_EQ(L"PUBLIC", card->SurName);
+    EXPECT_EQ(L"Q", card->MiddleName);
+    EXPECT_EQ(L"JOHN", card->GivenName);
+    EXPECT_EQ(L"ERIE", card->address->City);
+    EXPECT_EQ(L"123456789", card->SSN);
+    EXPECT_EQ(L"12345678", card->DriversLicense);
+    EXPECT_EQ(L"PA", card->DriversLicenseState);
 }
 
 TEST(LejisPersonIndexCardReading, FillsAllFieldsButTheCaveat) {
     const Card card = Read(FullCardWithBirthDate(L"1970-01-31"));
     ExpectIdentity(card);
     EXPECT_EQ(L"1970-01-31", FormatNullableDate(*card->BirthDate));
-    EXPECT_EQ(L"M", card->SexNCIC());
-    EXPECT_EQ(L"W", card->RaceNCIC());
+    EXPECT_EQ(L"M", card->SexNCIC);
+    EXPECT_EQ(L"W", card->RaceNCIC);
     EXPECT_EQ(short{510}, card->Height->Number());
     EXPECT_EQ(short{180}, card->Weight->Number());
-    EXPECT_EQ(L"1313", card->ChargeNCICCode());
-    EXPECT_EQ(L"SIMPLE ASSAULT", card->ChargeDescriptionText());
-    EXPECT_EQ(L"05", card->SubjectCautionInformationCode());
-    EXPECT_EQ(L"VIOLENT", card->SubjectCautionInformationCaveat());
-    EXPECT_EQ(L"SUSPECT", card->Involvement());
+    EXPECT_EQ(L"1313", card->ChargeNCICCode);
+    EXPECT_EQ(L"SIMPLE ASSAULT", card->ChargeDescriptionText);
+    EXPECT_EQ(L"05", card->SubjectCautionInformationCode);
+    EXPECT_EQ(L"VIOLENT", card->SubjectCautionInformationCaveat);
+    EXPECT_EQ(L"SUSPECT", card->Involvement);
     EXPECT_TRUE(card->CautionIndicator);
-    EXPECT_EQ(L"", card->CaveatText());
+    EXPECT_EQ(L"", card->CaveatText);
 }
 
 TEST(LejisPersonIndexCardReading, ReadsBackWhatWasWrittenButTheCaveat) {
     const auto document = support::NewDocument();
     const Card written = Read(FullCardWithBirthDate(L"1970-01-31"));
-    written->SetCaveatText(L"CALL FIRST");
+    written->CaveatText = L"CALL FIRST";
     const auto read = platform::Create<LejisPersonIndexCard>();
     read->Read(ElementReader(written->Write(document)));
     for (const wchar_t* name : kTexts) {
         if (name == std::wstring(L"CaveatText")) continue;
         EXPECT_EQ(support::TextMember(written->Dispatch(), name), support::TextMember(read->Dispatch(), name));
     }
-    EXPECT_EQ(L"", read->CaveatText());
+    EXPECT_EQ(L"", read->CaveatText);
     EXPECT_EQ(written->BirthDate->Date(), read->BirthDate->Date());
     EXPECT_EQ(written->Height->Number(), read->Height->Number());
     EXPECT_EQ(written->Weight->Number(), read->Weight->Number());
-    EXPECT_EQ(written->address->City(), read->address->City());
+    EXPECT_EQ(written->address->City, read->address->City);
     EXPECT_TRUE(read->CautionIndicator);
 }
 
 TEST(LejisPersonIndexCardReading, BeginsFromAResetCard) {
     const Card card = Read(FullCardWithBirthDate(L"1970-01-31"));
-    card->SetCaveatText(L"old");
+    card->CaveatText = L"old";
     const auto addressBefore = card->address;
     const auto birthDateBefore = card->BirthDate;
     const auto heightBefore = card->Height;
@@ -137,8 +137,8 @@ TEST(LejisPersonIndexCardReading, BeginsFromAResetCard) {
     EXPECT_EQ(heightBefore.Get(), card->Height.Get());
     EXPECT_EQ(weightBefore.Get(), card->Weight.Get());
     EXPECT_NE(addressBefore.Get(), card->address.Get());
-    EXPECT_EQ(L"ERIE", addressBefore->City());
-    EXPECT_EQ(L"", card->address->City());
+    EXPECT_EQ(L"ERIE", addressBefore->City);
+    EXPECT_EQ(L"", card->address->City);
 }
 
 TEST(LejisPersonIndexCardReading, FailsForABadBirthDateAndKeepsWhatItReadBefore) {
@@ -187,7 +187,7 @@ TEST(LejisPersonIndexCardReading, ReadsTheFlagInAnyLetterCaseAndPassesOverOthers
 
 TEST(LejisPersonIndexCardReading, LeavesTheNewAddressEmptyWithoutAResidence) {
     const Card card = ReadWith(L"<j:LocationAddress><j:LocationCityName>ERIE</j:LocationCityName></j:LocationAddress>");
-    EXPECT_EQ(L"", card->address->City());
+    EXPECT_EQ(L"", card->address->City);
 }
 
 TEST(LejisPersonIndexCardReading, ReadsEachFieldFromItsOwnPlace) {

@@ -77,12 +77,12 @@ TEST(LejisPropertyIndexCard, WritesOnlyTheFlagWhenNew) {
 
 TEST(LejisPropertyIndexCard, WritesAllFieldsInTheirOrder) {
     const auto card = platform::Create<LejisPropertyIndexCard>();
-    card->SetNibrsCategoryCode(L"26");
-    card->SetCategory(L"TELEVISION");
-    card->SetMake(L"SONY");
-    card->SetModel(L"BRAVIA");
-    card->SetSerialID(L"S-1");
-    card->SetCaveatText(L"scratched");
+    card->NibrsCategoryCode = L"26";
+    card->Category = L"TELEVISION";
+    card->Make = L"SONY";
+    card->Model = L"BRAVIA";
+    card->SerialID = L"S-1";
+    card->CaveatText = L"scratched";
     card->CautionIndicator = true;
     EXPECT_TRUE(Writes(card, kFullCard));
     EXPECT_TRUE(Writes(card, kFullCard));
@@ -90,8 +90,8 @@ TEST(LejisPropertyIndexCard, WritesAllFieldsInTheirOrder) {
 
 TEST(LejisPropertyIndexCard, WritesBlanksAsContent) {
     const auto card = platform::Create<LejisPropertyIndexCard>();
-    card->SetMake(L" ");
-    card->SetSerialID(L" ");
+    card->Make = L" ";
+    card->SerialID = L" ";
     EXPECT_TRUE(Writes(card,
                        L"<card:RMSPropertyIndexCards><j:PropertyMakeName> </j:PropertyMakeName>"
                        L"<j:PropertySerialID><j:ID> </j:ID></j:PropertySerialID>"
@@ -100,12 +100,12 @@ TEST(LejisPropertyIndexCard, WritesBlanksAsContent) {
 
 TEST(LejisPropertyIndexCard, ReadsAllFields) {
     const Card card = Read(kFullCard);
-    EXPECT_EQ(L"26", card->NibrsCategoryCode());
-    EXPECT_EQ(L"TELEVISION", card->Category());
-    EXPECT_EQ(L"SONY", card->Make());
-    EXPECT_EQ(L"BRAVIA", card->Model());
-    EXPECT_EQ(L"S-1", card->SerialID());
-    EXPECT_EQ(L"scratched", card->CaveatText());
+    EXPECT_EQ(L"26", card->NibrsCategoryCode);
+    EXPECT_EQ(L"TELEVISION", card->Category);
+    EXPECT_EQ(L"SONY", card->Make);
+    EXPECT_EQ(L"BRAVIA", card->Model);
+    EXPECT_EQ(L"S-1", card->SerialID);
+    EXPECT_EQ(L"scratched", card->CaveatText);
     EXPECT_TRUE(card->CautionIndicator);
     EXPECT_TRUE(Writes(card, kFullCard));
 }

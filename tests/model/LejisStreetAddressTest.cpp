@@ -83,14 +83,14 @@ TEST(LejisStreetAddress, WritesTheStreetAndTheCityWhenEmpty) {
 
 TEST(LejisStreetAddress, WritesAllFieldsInTheirOrder) {
     const auto address = platform::Create<LejisStreetAddress>();
-    address->SetStreetFullText(L"12 N MAIN ST REAR");
-    address->SetStreetName(L"MAIN");
-    address->SetStreetType(L"ST");
-    address->SetStreetDirection(L"N");
-    address->SetStreetExtension(L"REAR");
-    address->SetCity(L"ERIE");
-    address->SetState(L"PA");
-    address->SetZIP(L"16501");
+    address->StreetFullText = L"12 N MAIN ST REAR";
+    address->StreetName = L"MAIN";
+    address->StreetType = L"ST";
+    address->StreetDirection = L"N";
+    address->StreetExtension = L"REAR";
+    address->City = L"ERIE";
+    address->State = L"PA";
+    address->ZIP = L"16501";
     address->StreetNumber->Set(12);
     EXPECT_TRUE(Writes(address, kFullAddress));
     EXPECT_TRUE(Writes(address, kFullAddress));
@@ -98,16 +98,16 @@ TEST(LejisStreetAddress, WritesAllFieldsInTheirOrder) {
 
 TEST(LejisStreetAddress, LeavesOutABlankStateAndPostalCode) {
     const auto address = platform::Create<LejisStreetAddress>();
-    address->SetState(L"  ");
-    address->SetZIP(L" ");
+    address->State = L"  ";
+    address->ZIP = L" ";
     EXPECT_TRUE(Writes(
         address, std::wstring(L"<j:LocationAddress>") + kEmptyStreet + L"<j:LocationCityName/></j:LocationAddress>"));
 }
 
 TEST(LejisStreetAddress, WritesStateAndPostalCodeWithTheirBlanks) {
     const auto address = platform::Create<LejisStreetAddress>();
-    address->SetState(L" PA");
-    address->SetZIP(L"16501 ");
+    address->State = L" PA";
+    address->ZIP = L"16501 ";
     EXPECT_TRUE(Writes(address, std::wstring(L"<j:LocationAddress>") + kEmptyStreet +
                                     L"<j:LocationCityName/>"
                                     L"<j:LocationStateCode.ncicLSTA> PA</j:LocationStateCode.ncicLSTA>"
@@ -117,14 +117,14 @@ TEST(LejisStreetAddress, WritesStateAndPostalCodeWithTheirBlanks) {
 
 TEST(LejisStreetAddress, ReadsAllFieldsFromTheElementAroundIt) {
     const Address address = Read(Within(kFullAddress));
-    EXPECT_EQ(L"12 N MAIN ST REAR", address->StreetFullText());
-    EXPECT_EQ(L"MAIN", address->StreetName());
-    EXPECT_EQ(L"ST", address->StreetType());
-    EXPECT_EQ(L"N", address->StreetDirection());
-    EXPECT_EQ(L"REAR", address->StreetExtension());
-    EXPECT_EQ(L"ERIE", address->City());
-    EXPECT_EQ(L"PA", address->State());
-    EXPECT_EQ(L"16501", address->ZIP());
+    EXPECT_EQ(L"12 N MAIN ST REAR", address->StreetFullText);
+    EXPECT_EQ(L"MAIN", address->StreetName);
+    EXPECT_EQ(L"ST", address->StreetType);
+    EXPECT_EQ(L"N", address->StreetDirection);
+    EXPECT_EQ(L"REAR", address->StreetExtension);
+    EXPECT_EQ(L"ERIE", address->City);
+    EXPECT_EQ(L"PA", address->State);
+    EXPECT_EQ(L"16501", address->ZIP);
     EXPECT_EQ(12, address->StreetNumber->Number());
     EXPECT_TRUE(Writes(address, kFullAddress));
 }
@@ -133,8 +133,8 @@ TEST(LejisStreetAddress, IsNotReadFromItsOwnElement) { ExpectEmpty(Read(kFullAdd
 
 TEST(LejisStreetAddress, DoesNotReadADirectionBehindTheName) {
     const Address address = Read(StreetOf(L"<j:StreetPostdirectionalText>S</j:StreetPostdirectionalText>"));
-    EXPECT_EQ(L"", address->StreetDirection());
-    EXPECT_EQ(L"ERIE", address->City());
+    EXPECT_EQ(L"", address->StreetDirection);
+    EXPECT_EQ(L"ERIE", address->City);
 }
 
 TEST(LejisStreetAddress, ReadsTheCityWithoutAStreet) {
@@ -144,9 +144,9 @@ TEST(LejisStreetAddress, ReadsTheCityWithoutAStreet) {
                L"</j:LocationAddress>"));
     support::ExpectEmptyTexts(
         address->Dispatch(), {L"StreetFullText", L"StreetName", L"StreetType", L"StreetDirection", L"StreetExtension"});
-    EXPECT_EQ(L"ERIE", address->City());
-    EXPECT_EQ(L"PA", address->State());
-    EXPECT_EQ(L"16501", address->ZIP());
+    EXPECT_EQ(L"ERIE", address->City);
+    EXPECT_EQ(L"PA", address->State);
+    EXPECT_EQ(L"16501", address->ZIP);
 }
 
 TEST(LejisStreetAddress, IsEmptyAfterAnElementWithoutAddress) {
@@ -185,10 +185,10 @@ TEST(LejisStreetAddress, FailsForAHouseNumberTooGreatAndKeepsWhatItReadBefore) {
         ParseElement(StreetOf(L"<j:StreetFullText>NEW</j:StreetFullText><j:StreetNumberText>2147483648"
                               L"</j:StreetNumberText><j:StreetName>NEW</j:StreetName>"));
     EXPECT_TRUE(Raises(DISP_E_OVERFLOW, L"Overflow", [&] { address->Read(ElementReader(element)); }));
-    EXPECT_EQ(L"NEW", address->StreetFullText());
+    EXPECT_EQ(L"NEW", address->StreetFullText);
     EXPECT_EQ(std::nullopt, address->StreetNumber->Number());
-    EXPECT_EQ(L"", address->StreetName());
-    EXPECT_EQ(L"", address->City());
+    EXPECT_EQ(L"", address->StreetName);
+    EXPECT_EQ(L"", address->City);
 }
 
 TEST(LejisStreetAddress, MeetsItsClientsThroughDocumentsAndElements) {

@@ -31,7 +31,7 @@ platform::Ref<LejisSubmissionDocument> NewSubmission() {
 platform::Ref<LejisIncidentIndexCard> AddIncident(const platform::Ref<LejisSubmissionDocument>& submission,
                                                   const wchar_t* id) {
     auto incident = platform::Create<LejisIncidentIndexCard>();
-    incident->SetActivityID(id);
+    incident->ActivityID = id;
     submission->Add(incident);
     return incident;
 }

@@ -75,15 +75,15 @@ TEST(LejisVehicleIndexCard, WritesOnlyTheFlagWhenNew) {
 
 TEST(LejisVehicleIndexCard, WritesAllFieldsInTheirOrder) {
     const auto card = platform::Create<LejisVehicleIndexCard>();
-    card->SetMake(L"FORD");
-    card->SetModel(L"F150");
-    card->SetStyle(L"PK");
-    card->SetColor(L"RED");
-    card->SetLicensePlate(L"ABC1234");
-    card->SetLicensePlateState(L"PA");
-    card->SetVIN(L"1FTFW1ET5DFC10312");
+    card->Make = L"FORD";
+    card->Model = L"F150";
+    card->Style = L"PK";
+    card->Color = L"RED";
+    card->LicensePlate = L"ABC1234";
+    card->LicensePlateState = L"PA";
+    card->VIN = L"1FTFW1ET5DFC10312";
     card->CautionIndicator = true;
-    card->SetCaveatText(L"dented");
+    card->CaveatText = L"dented";
     card->Year->Set(short{2004});
     EXPECT_TRUE(Writes(card, kFullCard));
     EXPECT_TRUE(Writes(card, kFullCard));
@@ -91,17 +91,17 @@ TEST(LejisVehicleIndexCard, WritesAllFieldsInTheirOrder) {
 
 TEST(LejisVehicleIndexCard, WritesThePlateOnlyWithItsState) {
     const auto card = platform::Create<LejisVehicleIndexCard>();
-    card->SetLicensePlate(L"ABC1234");
+    card->LicensePlate = L"ABC1234";
     EXPECT_TRUE(Writes(card, kEmptyCard));
-    card->SetLicensePlate(L"");
-    card->SetLicensePlateState(L"PA");
+    card->LicensePlate = L"";
+    card->LicensePlateState = L"PA";
     EXPECT_TRUE(Writes(card, kEmptyCard));
 }
 
 TEST(LejisVehicleIndexCard, WritesBlanksAsContent) {
     const auto card = platform::Create<LejisVehicleIndexCard>();
-    card->SetMake(L" ");
-    card->SetVIN(L"  ");
+    card->Make = L" ";
+    card->VIN = L"  ";
     EXPECT_TRUE(Writes(card,
                        L"<card:RMSVehicleIndexCards><ext:VehicleMakeText> </ext:VehicleMakeText>"
                        L"<j:VehicleID><j:ID>  </j:ID></j:VehicleID>"
@@ -110,15 +110,15 @@ TEST(LejisVehicleIndexCard, WritesBlanksAsContent) {
 
 TEST(LejisVehicleIndexCard, ReadsAllFields) {
     const Card card = Read(kFullCard);
-    EXPECT_EQ(L"FORD", card->Make());
-    EXPECT_EQ(L"F150", card->Model());
-    EXPECT_EQ(L"PK", card->Style());
-    EXPECT_EQ(L"RED", card->Color());
-    EXPECT_EQ(L"ABC1234", card->LicensePlate());
-    EXPECT_EQ(L"PA", card->LicensePlateState());
-    EXPECT_EQ(L"1FTFW1ET5DFC10312", card->VIN());
+    EXPECT_EQ(L"FORD", card->Make);
+    EXPECT_EQ(L"F150", card->Model);
+    EXPECT_EQ(L"PK", card->Style);
+    EXPECT_EQ(L"RED", card->Color);
+    EXPECT_EQ(L"ABC1234", card->LicensePlate);
+    EXPECT_EQ(L"PA", card->LicensePlateState);
+    EXPECT_EQ(L"1FTFW1ET5DFC10312", card->VIN);
     EXPECT_TRUE(card->CautionIndicator);
-    EXPECT_EQ(L"dented", card->CaveatText());
+    EXPECT_EQ(L"dented", card->CaveatText);
     EXPECT_EQ(short{2004}, card->Year->Number());
     EXPECT_TRUE(Writes(card, kFullCard));
 }
@@ -139,7 +139,7 @@ TEST(LejisVehicleIndexCard, LeavesYearNullWhenItsTextIsNoShortNumber) {
         const Card card = ReadWith(std::wstring(L"<j:VehicleModelYearDate>") + text + L"</j:VehicleModelYearDate>" +
                                    L"<j:CaveatText>after</j:CaveatText>");
         EXPECT_EQ(std::nullopt, card->Year->Number()) << support::Utf8(text);
-        EXPECT_EQ(L"after", card->CaveatText()) << support::Utf8(text);
+        EXPECT_EQ(L"after", card->CaveatText) << support::Utf8(text);
     }
 }
 

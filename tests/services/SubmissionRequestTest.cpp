@@ -88,27 +88,27 @@ TEST_F(SubmissionRequest, OfADeletionHoldsNothingButTheIdentifiersAndTheSubmitte
 
 TEST_F(SubmissionRequest, OfADeletionIsNeitherShapedNorChecked) {
     const auto incident = platform::Create<LejisIncidentIndexCard>();
-    incident->SetOrganizationName(std::wstring(80, L'A'));
+    incident->OrganizationName = std::wstring(80, L'A');
     service->Withdraw(*incident);
     EXPECT_NE(std::wstring::npos, http.Last().Seen().body.find(std::wstring(80, L'A')));
 }
 
 TEST_F(SubmissionRequest, HoldsTheShapedCopyAndTheCallersCardStaysAsItIs) {
     const auto incident = CleanIncident();
-    incident->SetOrganizationName(std::wstring(76, L'A'));
+    incident->OrganizationName = std::wstring(76, L'A');
     const auto warnings = service->Submit(*incident);
     EXPECT_EQ(std::wstring::npos, http.Last().Seen().body.find(std::wstring(76, L'A')));
     EXPECT_NE(std::wstring::npos, http.Last().Seen().body.find(std::wstring(75, L'A')));
     EXPECT_EQ(1u, warnings->Count());
-    EXPECT_EQ(76u, incident->OrganizationName().size());
+    EXPECT_EQ(76u, incident->OrganizationName.size());
 }
 
 TEST_F(SubmissionRequest, OfACleanIncidentHasNoWarnings) { EXPECT_EQ(0u, service->Submit(*CleanIncident())->Count()); }
 
 TEST_F(SubmissionRequest, IsNotMadeForAnIncidentThatFailsValidation) {
     const auto incident = CleanIncident();
-    incident->SetActivityID(L"");
-    incident->SetOrganizationORI(L"PA");
+    incident->ActivityID = L"";
+    incident->OrganizationORI = L"PA";
     EXPECT_TRUE(support::Raises(tvFatalError, L"ID is required.", [&] { service->Submit(*incident); }));
     EXPECT_TRUE(http.requests.empty());
 }

@@ -157,7 +157,7 @@ TEST(ComObject, TakesNoParametersForNoArguments) {
     ASSERT_OK(NumberOf(card->Dispatch(), L"FromXmlElement", &reader));
     ASSERT_OK(NumberOf(card->Dispatch(), L"Make", &make));
     _variant_t result;
-    card->SetMake(L"FORD");
+    card->Make = L"FORD";
     EXPECT_EQ(DISP_E_BADPARAMCOUNT,
               card->Invoke(reader, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, nullptr, nullptr, nullptr, nullptr));
     EXPECT_OK(

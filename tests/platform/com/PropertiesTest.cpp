@@ -30,9 +30,9 @@ TEST(Properties, GiveAnEmptyTextRatherThanNone) {
 
 TEST(Properties, TakeNullForAnEmptyText) {
     const auto card = Create<LejisVehicleIndexCard>();
-    card->SetMake(L"FORD");
+    card->Make = L"FORD";
     EXPECT_OK(card->put_Make(nullptr));
-    EXPECT_EQ(L"", card->Make());
+    EXPECT_EQ(L"", card->Make);
     const auto block = Create<lejis::VehicleInquiryArguments>();
     block->Make = L"FORD";
     EXPECT_OK(block->put_Make(nullptr));
@@ -41,13 +41,13 @@ TEST(Properties, TakeNullForAnEmptyText) {
 
 TEST(Properties, TakeATextOfTheSameObject) {
     const auto card = Create<LejisVehicleIndexCard>();
-    card->SetModel(L"F150");
-    card->SetVIN(L"1FTFW1ET5DFC10312");
-    card->SetMake(card->VIN());
-    card->SetVIN(card->Model());
-    EXPECT_EQ(L"1FTFW1ET5DFC10312", card->Make());
-    EXPECT_EQ(L"F150", card->Model());
-    EXPECT_EQ(L"F150", card->VIN());
+    card->Model = L"F150";
+    card->VIN = L"1FTFW1ET5DFC10312";
+    card->Make = card->VIN;
+    card->VIN = card->Model;
+    EXPECT_EQ(L"1FTFW1ET5DFC10312", card->Make);
+    EXPECT_EQ(L"F150", card->Model);
+    EXPECT_EQ(L"F150", card->VIN);
 }
 
 TEST(Properties, HandOutTheObjectItself) {

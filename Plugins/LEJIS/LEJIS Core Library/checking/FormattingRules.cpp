@@ -32,11 +32,11 @@ void FormattingRules::Apply(LejisPersonIndexCard& person) {
     // Made once: the rules below may change what it is made of.
     const std::wstring label = LabelOf(person);
     Apply(label, *person.address);
-    person.SetGivenName(TruncatedName(label, L"First name", person.GivenName()));
-    person.SetMiddleName(TruncatedName(label, L"Middle name", person.MiddleName()));
-    person.SetSurName(TruncatedName(label, L"Last name", person.SurName()));
-    person.SetRaceNCIC(CodeOrUnknown(label, L"race", L"Race", L"ABIUW", person.RaceNCIC()));
-    person.SetSexNCIC(CodeOrUnknown(label, L"sex", L"Sex", L"MFU", person.SexNCIC()));
+    TruncateName(label, L"First name", person.GivenName);
+    TruncateName(label, L"Middle name", person.MiddleName);
+    TruncateName(label, L"Last name", person.SurName);
+    ReplaceUnknownCode(label, L"race", L"Race", L"ABIUW", person.RaceNCIC);
+    ReplaceUnknownCode(label, L"sex", L"Sex", L"MFU", person.SexNCIC);
     DropWeight(label, *person.Weight);
     ApplyShared(label, person);
     // Only warned of, not shortened: the validator then refuses it.
@@ -45,78 +45,81 @@ void FormattingRules::Apply(LejisPersonIndexCard& person) {
 
 void FormattingRules::Apply(LejisPropertyIndexCard& property) {
     const std::wstring label = LabelOf(property);
-    property.SetCategory(Truncated(label, L"Category", property.Category(), 35));
-    property.SetMake(Truncated(label, L"Make", property.Make(), 35));
-    property.SetModel(Truncated(label, L"Model", property.Model(), 35));
+    Truncate(label, L"Category", property.Category, 35);
+    Truncate(label, L"Make", property.Make, 35);
+    Truncate(label, L"Model", property.Model, 35);
 }
 
 void FormattingRules::Apply(LejisVehicleIndexCard& vehicle) {
     const std::wstring label = LabelOf(vehicle);
     DropYear(label, *vehicle.Year);
     // Shorter than a property's model, and the make has no limit; both are LEJIS's own.
-    vehicle.SetModel(Truncated(label, L"Model", vehicle.Model(), 30));
-    vehicle.SetColor(Truncated(label, L"Color", vehicle.Color(), 30));
+    Truncate(label, L"Model", vehicle.Model, 30);
+    Truncate(label, L"Color", vehicle.Color, 30);
 }
 
 void FormattingRules::Apply(const std::wstring& label, LejisStreetAddress& address) {
-    address.SetStreetFullText(Truncated(label, L"Full street address", address.StreetFullText(), 45));
+    Truncate(label, L"Full street address", address.StreetFullText, 45);
     DropLongStreetNumber(label, *address.StreetNumber);
-    address.SetStreetName(Truncated(label, L"Street name", address.StreetName(), 30));
-    address.SetStreetExtension(Truncated(label, L"Street extension", address.StreetExtension(), 10));
-    address.SetStreetType(Truncated(label, L"Street type", address.StreetType(), 10));
-    address.SetStreetDirection(Truncated(label, L"Street directional", address.StreetDirection(), 9));
-    address.SetZIP(ShortenedZip(label, address.ZIP()));
+    Truncate(label, L"Street name", address.StreetName, 30);
+    Truncate(label, L"Street extension", address.StreetExtension, 10);
+    Truncate(label, L"Street type", address.StreetType, 10);
+    Truncate(label, L"Street directional", address.StreetDirection, 9);
+    ShortenZip(label, address.ZIP);
 }
 
 template <typename Record>
 void FormattingRules::ApplyShared(const std::wstring& label, Record& record) {
-    record.SetOrganizationName(Truncated(label, L"Agency name", record.OrganizationName(), 75));
-    record.SetCaveatText(Truncated(label, L"Caveat text", record.CaveatText(), 200));
-    record.SetChargeDescriptionText(Truncated(label, L"Charge description", record.ChargeDescriptionText(), 200));
-    record.SetChargeNCICCode(OffenseCodeOrNone(label, record.ChargeNCICCode()));
+    Truncate(label, L"Agency name", record.OrganizationName, 75);
+    Truncate(label, L"Caveat text", record.CaveatText, 200);
+    Truncate(label, L"Charge description", record.ChargeDescriptionText, 200);
+    DropUnknownOffenseCode(label, record.ChargeNCICCode);
 }
 
-std::wstring_view FormattingRules::Truncated(const std::wstring& label, std::wstring_view field,
-                                             std::wstring_view value, size_t limit) {
-    if (value.size() <= limit) return value;
-    Warn(label, platform::Join({field, L" '", value, L"' was too long (", LengthOf(value),
+void FormattingRules::Truncate(const std::wstring& label, std::wstring_view name, platform::TextField& text,
+                               size_t limit) {
+    if (text.size() <= limit) return;
+    const std::wstring whole = text;
+    Warn(label, platform::Join({name, L" '", whole, L"' was too long (", LengthOf(whole),
                                 L" characters) and was truncated to ", std::to_wstring(limit), L" characters."}));
-    return value.substr(0, limit);
+    text = whole.substr(0, limit);
 }
 
-std::wstring_view FormattingRules::TruncatedName(const std::wstring& label, std::wstring_view field,
-                                                 std::wstring_view value) {
-    if (value.size() <= kLongestName) return value;
+void FormattingRules::TruncateName(const std::wstring& label, std::wstring_view name, platform::TextField& text) {
+    if (text.size() <= kLongestName) return;
+    const std::wstring whole = text;
     Warn(label,
-         platform::Join({field, L" '", value, L"' was ", LengthOf(value), L" characters long. Name was truncated to ",
+         platform::Join({name, L" '", whole, L"' was ", LengthOf(whole), L" characters long. Name was truncated to ",
                          std::to_wstring(kLongestName), L" characters."}));
-    return value.substr(0, kLongestName);
+    text = whole.substr(0, kLongestName);
 }
 
-std::wstring_view FormattingRules::OffenseCodeOrNone(const std::wstring& label, std::wstring_view code) {
-    if (code.empty() || LejisUtils::IsNcicOffenseCode(code)) return code;
-    Warn(label, platform::Join({L"Charge NCIC code '", code,
+void FormattingRules::DropUnknownOffenseCode(const std::wstring& label, platform::TextField& code) {
+    const std::wstring whole = code;
+    if (whole.empty() || LejisUtils::IsNcicOffenseCode(whole)) return;
+    Warn(label, platform::Join({L"Charge NCIC code '", whole,
                                 L"' is not a valid NCIC offense code. Will submit a blank code instead."}));
-    return {};
+    code = L"";
 }
 
-std::wstring_view FormattingRules::CodeOrUnknown(const std::wstring& label, std::wstring_view kind,
-                                                 std::wstring_view list, std::wstring_view accepted,
-                                                 std::wstring_view code) {
-    if (code.empty() || (code.size() == 1 && accepted.find(code) != std::wstring_view::npos)) return code;
+void FormattingRules::ReplaceUnknownCode(const std::wstring& label, std::wstring_view kind, std::wstring_view list,
+                                         std::wstring_view accepted, platform::TextField& code) {
+    const std::wstring whole = code;
+    if (whole.empty() || (whole.size() == 1 && accepted.find(whole) != std::wstring_view::npos)) return;
     Warn(label,
-         platform::Join({L"'", code, L"' is not a valid NCIC ", kind,
+         platform::Join({L"'", whole, L"' is not a valid NCIC ", kind,
                          L" code, will submit 'U' (Unknown) instead. Check ", list,
                          L" Selection List settings in Administration and verify that NCIC Codes are set correctly."}));
-    return L"U";
+    code = L"U";
 }
 
-std::wstring_view FormattingRules::ShortenedZip(const std::wstring& label, std::wstring_view zip) {
+void FormattingRules::ShortenZip(const std::wstring& label, platform::TextField& zip) {
     // Exactly nine characters: with a hyphen there are ten, which the validator refuses.
-    if (zip.size() != kLongZip) return zip;
-    const std::wstring_view shortened = zip.substr(0, kShortZip);
-    Warn(label, platform::Join({L"9-digit ZIP code '", zip, L"' will be sent as '", shortened, L"'"}));
-    return shortened;
+    if (zip.size() != kLongZip) return;
+    const std::wstring whole = zip;
+    const std::wstring shortened = whole.substr(0, kShortZip);
+    Warn(label, platform::Join({L"9-digit ZIP code '", whole, L"' will be sent as '", shortened, L"'"}));
+    zip = shortened;
 }
 
 void FormattingRules::DropLongStreetNumber(const std::wstring& label, NullableLong& number) {

@@ -3,6 +3,7 @@
 
 #include "model/LejisIncidentIndexCard.h"
 #include "platform/com/Collection.h"
+#include "platform/TextField.h"
 
 #include <string>
 #include <string_view>
@@ -26,15 +27,13 @@ private:
     template <typename Record>
     void ApplyShared(const std::wstring& label, Record& record);
 
-    // Each gives what becomes of a text: the text itself, a part of it, or another one that lasts. `field` names a text
-    // in the warning, and one longer than the limit is cut to it.
-    std::wstring_view Truncated(const std::wstring& label, std::wstring_view field, std::wstring_view value,
-                                size_t limit);
-    std::wstring_view TruncatedName(const std::wstring& label, std::wstring_view field, std::wstring_view value);
-    std::wstring_view OffenseCodeOrNone(const std::wstring& label, std::wstring_view code);
-    std::wstring_view CodeOrUnknown(const std::wstring& label, std::wstring_view kind, std::wstring_view list,
-                                    std::wstring_view accepted, std::wstring_view code);
-    std::wstring_view ShortenedZip(const std::wstring& label, std::wstring_view zip);
+    // Each leaves a text as it is, or shortens or replaces it. `name` is what the warning calls the text.
+    void Truncate(const std::wstring& label, std::wstring_view name, platform::TextField& text, size_t limit);
+    void TruncateName(const std::wstring& label, std::wstring_view name, platform::TextField& text);
+    void DropUnknownOffenseCode(const std::wstring& label, platform::TextField& code);
+    void ReplaceUnknownCode(const std::wstring& label, std::wstring_view kind, std::wstring_view list,
+                            std::wstring_view accepted, platform::TextField& code);
+    void ShortenZip(const std::wstring& label, platform::TextField& zip);
 
     void DropLongStreetNumber(const std::wstring& label, NullableLong& number);
     void DropWeight(const std::wstring& label, NullableInteger& weight);

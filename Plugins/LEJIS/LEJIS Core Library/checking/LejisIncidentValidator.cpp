@@ -14,10 +14,10 @@ constexpr size_t kOriLength = 9;
 constexpr size_t kZipLength = 5;
 constexpr size_t kSsnLength = 9;
 
-bool IsBlank(std::wstring_view text) { return platform::TrimBlanks(text).empty(); }
-
 // Only the length is looked at, not that the characters are digits.
-bool IsEmptyOrHasLength(std::wstring_view text, size_t length) { return text.empty() || text.size() == length; }
+bool IsEmptyOrHasLength(const platform::TextField& text, size_t length) {
+    return text.empty() || text.size() == length;
+}
 
 }  // namespace
 
@@ -51,26 +51,26 @@ bool LejisIncidentValidator::Check(const LejisIncidentIndexCard& incident) {
 }
 
 void LejisIncidentValidator::CheckIdentifiers(const LejisIncidentIndexCard& incident) {
-    if (IsBlank(incident.ActivityID())) AddError(L"ID is required.");
-    if (incident.ActivityID().size() > kLongestId) {
+    if (platform::IsBlank(incident.ActivityID)) AddError(L"ID is required.");
+    if (incident.ActivityID.size() > kLongestId) {
         AddError(L"ID is too long. Records submitted to LEJIS must have ID's between 1 and 30 characters long.");
     }
     if (!incident.SubmittedDate->Date()) AddError(L"Submission date is missing.");
-    if (IsBlank(incident.OrganizationORI())) {
+    if (platform::IsBlank(incident.OrganizationORI)) {
         AddError(L"Agency ORI number cannot be blank. Check Agency settings in Administration.");
     }
     // A blank ORI is reported a second time here, on purpose.
-    if (incident.OrganizationORI().size() != kOriLength) {
+    if (incident.OrganizationORI.size() != kOriLength) {
         AddError(platform::Join(
-            {L"'", incident.OrganizationORI(),
+            {L"'", incident.OrganizationORI,
              L"' is not a valid ORI number. An ORI number must be 9 characters long. Check Agency settings in "
              L"Administration."}));
     }
 }
 
 void LejisIncidentValidator::CheckAddress(const std::wstring& label, const LejisStreetAddress& address) {
-    if (IsEmptyOrHasLength(address.ZIP(), kZipLength)) return;
-    AddLabelledError(label, platform::Join({L"'", address.ZIP(),
+    if (IsEmptyOrHasLength(address.ZIP, kZipLength)) return;
+    AddLabelledError(label, platform::Join({L"'", address.ZIP,
                                             L"' is not a valid ZIP code. ZIP codes submitted to LEJIS must be 5 digits "
                                             L"long, or left blank."}));
 }
@@ -78,8 +78,8 @@ void LejisIncidentValidator::CheckAddress(const std::wstring& label, const Lejis
 void LejisIncidentValidator::CheckPerson(const LejisPersonIndexCard& person) {
     const std::wstring label = LabelOf(person);
     CheckAddress(label, *person.address);
-    if (!IsEmptyOrHasLength(person.SSN(), kSsnLength)) {
-        AddLabelledError(label, platform::Join({L"'", person.SSN(),
+    if (!IsEmptyOrHasLength(person.SSN, kSsnLength)) {
+        AddLabelledError(label, platform::Join({L"'", person.SSN,
                                                 L"' is not a valid SSN. SSN's submitted to LEJIS must be 9 digits "
                                                 L"long, or left blank."}));
     }

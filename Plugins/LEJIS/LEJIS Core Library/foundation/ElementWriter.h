@@ -4,8 +4,7 @@
 #include "foundation/OutputDocument.h"
 #include "foundation/QualifiedName.h"
 #include "platform/msxml/MsXml.h"
-
-#include <string_view>
+#include "platform/TextArgument.h"
 
 namespace lejis {
 
@@ -15,21 +14,24 @@ public:
     ElementWriter(const OutputDocument& document, const QualifiedName& name);
 
     // A text child, written even when its text is empty.
-    void Text(const QualifiedName& name, std::wstring_view value);
+    void Text(const QualifiedName& name, const platform::TextArgument& value);
     // A text child, left out when its text is empty; blanks are a text.
-    void OptionalText(const QualifiedName& name, std::wstring_view value);
+    void OptionalText(const QualifiedName& name, const platform::TextArgument& value);
     void Boolean(const QualifiedName& name, bool flag);
 
     // A child that holds j:ID.
-    void Id(const QualifiedName& name, std::wstring_view identifier);
-    void OptionalId(const QualifiedName& name, std::wstring_view identifier);
+    void Id(const QualifiedName& name, const platform::TextArgument& identifier);
+    void OptionalId(const QualifiedName& name, const platform::TextArgument& identifier);
     // A child that holds j:ID and the code of the state that gave it; the optional one is left out unless both are
     // there.
-    void JurisdictionId(const QualifiedName& name, std::wstring_view identifier, std::wstring_view state);
-    void OptionalJurisdictionId(const QualifiedName& name, std::wstring_view identifier, std::wstring_view state);
+    void JurisdictionId(const QualifiedName& name, const platform::TextArgument& identifier,
+                        const platform::TextArgument& state);
+    void OptionalJurisdictionId(const QualifiedName& name, const platform::TextArgument& identifier,
+                                const platform::TextArgument& state);
 
     // A text child, left out when empty, whose value is in the NCIC unit, which the attribute says.
-    void OptionalMeasure(const QualifiedName& name, std::wstring_view value, const QualifiedName& unitAttribute);
+    void OptionalMeasure(const QualifiedName& name, const platform::TextArgument& value,
+                         const QualifiedName& unitAttribute);
 
     // A child built elsewhere, or by another writer.
     void Child(const msxml::Element& child);

@@ -6,9 +6,8 @@
 
 namespace lejis {
 
-bool AnyNotBlank(std::initializer_list<const std::wstring*> texts) {
-    return std::any_of(texts.begin(), texts.end(),
-                       [](const std::wstring* text) { return !platform::TrimBlanks(*text).empty(); });
+bool AnyNotBlank(std::initializer_list<platform::TextArgument> texts) {
+    return !std::ranges::all_of(texts, platform::IsBlank);
 }
 
 }  // namespace lejis

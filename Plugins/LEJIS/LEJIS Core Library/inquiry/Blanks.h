@@ -1,11 +1,12 @@
 #pragma once
 
+#include "platform/TextArgument.h"
+
 #include <initializer_list>
-#include <string>
 
 namespace lejis {
 
 // Whether one of the texts holds more than blanks.
-bool AnyNotBlank(std::initializer_list<const std::wstring*> texts);
+bool AnyNotBlank(std::initializer_list<platform::TextArgument> texts);
 
 }  // namespace lejis

@@ -2,7 +2,7 @@
 
 #include "inquiry/BlockMethods.h"
 #include "platform/com/ComObject.h"
-#include "platform/com/Properties.h"
+#include "platform/com/TextFields.h"
 
 #include <TVLejisCore.h>
 
@@ -12,7 +12,8 @@ namespace lejis {
 class LejisAdHocInquiryArguments final
     : public platform::ComObject<::LejisAdHocInquiryArguments, ILejisAdHocInquiryArguments> {
 public:
-    TEXT_PROPERTY(QueryString)
+    TEXT_BLOCK()
+    TEXT_FIELD(QueryString)
     BLOCK_METHODS()
 };
 

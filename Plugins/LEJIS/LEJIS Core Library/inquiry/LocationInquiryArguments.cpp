@@ -7,7 +7,7 @@
 namespace lejis {
 
 bool LocationInquiryArguments::HasContent() const {
-    return AnyNotBlank({&StreetFullText, &StreetName, &City, &State, &ZIP});
+    return AnyNotBlank({StreetFullText, StreetName, City, State, ZIP});
 }
 
 msxml::Element LocationInquiryArguments::Write(const OutputDocument& document) const {

@@ -2,7 +2,7 @@
 
 #include "inquiry/BlockMethods.h"
 #include "platform/com/ComObject.h"
-#include "platform/com/Properties.h"
+#include "platform/com/TextFields.h"
 
 #include <TVLejisCore.h>
 
@@ -12,11 +12,12 @@ namespace lejis {
 class LocationInquiryArguments final
     : public platform::ComObject<::LocationInquiryArguments, ILocationInquiryArguments> {
 public:
-    TEXT_PROPERTY(StreetFullText)
-    TEXT_PROPERTY(StreetName)
-    TEXT_PROPERTY(City)
-    TEXT_PROPERTY(State)
-    TEXT_PROPERTY(ZIP)
+    TEXT_BLOCK()
+    TEXT_FIELD(StreetFullText)
+    TEXT_FIELD(StreetName)
+    TEXT_FIELD(City)
+    TEXT_FIELD(State)
+    TEXT_FIELD(ZIP)
     BLOCK_METHODS()
 };
 

@@ -11,8 +11,7 @@
 namespace lejis {
 
 bool PersonInquiryArguments::HasContent() const {
-    return AnyNotBlank(
-               {&GivenName, &MiddleName, &SurName, &SSN, &DriversLicense, &DriversLicenseState, &SexNCIC, &RaceNCIC}) ||
+    return AnyNotBlank({GivenName, MiddleName, SurName, SSN, DriversLicense, DriversLicenseState, SexNCIC, RaceNCIC}) ||
            BirthDate->Date() || Height->Number() || Weight->Number();
 }
 

@@ -5,6 +5,7 @@
 #include "inquiry/BlockMethods.h"
 #include "platform/com/ComObject.h"
 #include "platform/com/Properties.h"
+#include "platform/com/TextFields.h"
 
 #include <TVLejisCore.h>
 
@@ -13,14 +14,15 @@ namespace lejis {
 // The person to search for, as inq:PersonInquiryArguments.
 class PersonInquiryArguments final : public platform::ComObject<::PersonInquiryArguments, IPersonInquiryArguments> {
 public:
-    TEXT_PROPERTY(GivenName)
-    TEXT_PROPERTY(MiddleName)
-    TEXT_PROPERTY(SurName)
-    TEXT_PROPERTY(SSN)
-    TEXT_PROPERTY(DriversLicense)
-    TEXT_PROPERTY(DriversLicenseState)
-    TEXT_PROPERTY(SexNCIC)
-    TEXT_PROPERTY(RaceNCIC)
+    TEXT_BLOCK()
+    TEXT_FIELD(GivenName)
+    TEXT_FIELD(MiddleName)
+    TEXT_FIELD(SurName)
+    TEXT_FIELD(SSN)
+    TEXT_FIELD(DriversLicense)
+    TEXT_FIELD(DriversLicenseState)
+    TEXT_FIELD(SexNCIC)
+    TEXT_FIELD(RaceNCIC)
     OBJECT_PROPERTY(NullableDate, BirthDate)
     OBJECT_PROPERTY(NullableInteger, Height)
     OBJECT_PROPERTY(NullableInteger, Weight)

@@ -6,7 +6,7 @@
 
 namespace lejis {
 
-bool PropertyInquiryArguments::HasContent() const { return AnyNotBlank({&Category, &Make, &Model, &SerialNumber}); }
+bool PropertyInquiryArguments::HasContent() const { return AnyNotBlank({Category, Make, Model, SerialNumber}); }
 
 // Unlike the other blocks this one writes all it has, empty texts too.
 msxml::Element PropertyInquiryArguments::Write(const OutputDocument& document) const {

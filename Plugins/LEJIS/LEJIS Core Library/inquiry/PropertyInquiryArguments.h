@@ -2,7 +2,7 @@
 
 #include "inquiry/BlockMethods.h"
 #include "platform/com/ComObject.h"
-#include "platform/com/Properties.h"
+#include "platform/com/TextFields.h"
 
 #include <TVLejisCore.h>
 
@@ -12,10 +12,11 @@ namespace lejis {
 class PropertyInquiryArguments final
     : public platform::ComObject<::PropertyInquiryArguments, IPropertyInquiryArguments> {
 public:
-    TEXT_PROPERTY(Category)
-    TEXT_PROPERTY(Make)
-    TEXT_PROPERTY(Model)
-    TEXT_PROPERTY(SerialNumber)
+    TEXT_BLOCK()
+    TEXT_FIELD(Category)
+    TEXT_FIELD(Make)
+    TEXT_FIELD(Model)
+    TEXT_FIELD(SerialNumber)
     BLOCK_METHODS()
 };
 

@@ -9,7 +9,7 @@
 namespace lejis {
 
 bool VehicleInquiryArguments::HasContent() const {
-    return AnyNotBlank({&Make, &Model, &Style, &Color, &LicensePlate, &LicensePlateState, &VIN}) || Year->Number();
+    return AnyNotBlank({Make, Model, Style, Color, LicensePlate, LicensePlateState, VIN}) || Year->Number();
 }
 
 msxml::Element VehicleInquiryArguments::Write(const OutputDocument& document) const {

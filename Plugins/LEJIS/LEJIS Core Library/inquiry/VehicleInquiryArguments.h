@@ -4,6 +4,7 @@
 #include "inquiry/BlockMethods.h"
 #include "platform/com/ComObject.h"
 #include "platform/com/Properties.h"
+#include "platform/com/TextFields.h"
 
 #include <TVLejisCore.h>
 
@@ -12,13 +13,14 @@ namespace lejis {
 // The vehicle to search for, as inq:VehicleInquiryArguments.
 class VehicleInquiryArguments final : public platform::ComObject<::VehicleInquiryArguments, IVehicleInquiryArguments> {
 public:
-    TEXT_PROPERTY(Make)
-    TEXT_PROPERTY(Model)
-    TEXT_PROPERTY(Style)
-    TEXT_PROPERTY(Color)
-    TEXT_PROPERTY(LicensePlate)
-    TEXT_PROPERTY(LicensePlateState)
-    TEXT_PROPERTY(VIN)
+    TEXT_BLOCK()
+    TEXT_FIELD(Make)
+    TEXT_FIELD(Model)
+    TEXT_FIELD(Style)
+    TEXT_FIELD(Color)
+    TEXT_FIELD(LicensePlate)
+    TEXT_FIELD(LicensePlateState)
+    TEXT_FIELD(VIN)
     OBJECT_PROPERTY(NullableInteger, Year)
     BLOCK_METHODS()
 };

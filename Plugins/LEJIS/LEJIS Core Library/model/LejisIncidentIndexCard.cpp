@@ -49,10 +49,10 @@ bool AnyHasCaution(const Collection& cards) {
 
 msxml::Element LejisIncidentIndexCard::Write(const OutputDocument& document) const {
     ElementWriter identifiers(document, L"card:LejisIndexUid");
-    identifiers.Id(L"j:OrganizationORIID", OrganizationORI());
-    identifiers.Id(L"j:ActivityID", ActivityID());
+    identifiers.Id(L"j:OrganizationORIID", OrganizationORI);
+    identifiers.Id(L"j:ActivityID", ActivityID);
     ElementWriter submitter(document, L"j:SubmissionSubmitter.Organization");
-    submitter.Text(L"j:OrganizationName", OrganizationName());
+    submitter.Text(L"j:OrganizationName", OrganizationName);
     ElementWriter location(document, L"j:IncidentLocation");
     location.Child(Location->Write(document));
 
@@ -63,9 +63,9 @@ msxml::Element LejisIncidentIndexCard::Write(const OutputDocument& document) con
     incident.OptionalText(L"j:ActivityDate", FormatNullableDate(*ActivityDateTime));
     incident.OptionalText(L"j:ActivityTime", FormatNullableTime(*ActivityDateTime));
     incident.Child(location);
-    incident.Text(L"j:CaveatText", CaveatText());
-    incident.OptionalText(L"j:ChargeNCICCode", ChargeNCICCode());
-    incident.OptionalText(L"j:ChargeDescriptionText", ChargeDescriptionText());
+    incident.Text(L"j:CaveatText", CaveatText);
+    incident.OptionalText(L"j:ChargeNCICCode", ChargeNCICCode);
+    incident.OptionalText(L"j:ChargeDescriptionText", ChargeDescriptionText);
     // Not the incident's own flag alone: the index shows the caution of any card at the incident.
     incident.Boolean(L"ext:CautionIndicatorFlag", NeedsCaution());
     // Vehicles are written before property and read after it; both orders are deliberate.
@@ -79,9 +79,9 @@ void LejisIncidentIndexCard::Read(const ElementReader& incident) {
     ReadIdentifiers(incident);
     ReadActivityDateTime(incident);
     if (const auto location = incident.Child(L"j:IncidentLocation")) Location->Read(*location);
-    SetChargeNCICCode(incident.Text(L"j:ChargeNCICCode"));
-    SetChargeDescriptionText(incident.Text(L"j:ChargeDescriptionText"));
-    SetCaveatText(incident.Text(L"j:CaveatText"));
+    ChargeNCICCode = incident.Text(L"j:ChargeNCICCode");
+    ChargeDescriptionText = incident.Text(L"j:ChargeDescriptionText");
+    CaveatText = incident.Text(L"j:CaveatText");
     texts_.Fit();
     ReadFlag(incident.Text(L"ext:CautionIndicatorFlag"), CautionIndicator);
     ReadCards(incident);
@@ -99,11 +99,11 @@ bool LejisIncidentIndexCard::NeedsCaution() const {
 
 void LejisIncidentIndexCard::ReadIdentifiers(const ElementReader& incident) {
     const ElementReader identifiers = RequiredChild(incident, L"card:LejisIndexUid");
-    SetOrganizationORI(identifiers.Text(L"j:OrganizationORIID/j:ID"));
-    SetActivityID(identifiers.Text(L"j:ActivityID/j:ID"));
+    OrganizationORI = identifiers.Text(L"j:OrganizationORIID/j:ID");
+    ActivityID = identifiers.Text(L"j:ActivityID/j:ID");
     SubmittedDate->Set(platform::ParseDate(incident.Text(L"j:SubmissionSubmittedDate")));
     const ElementReader submitter = RequiredChild(incident, L"j:SubmissionSubmitter.Organization");
-    SetOrganizationName(submitter.Text(L"j:OrganizationName"));
+    OrganizationName = submitter.Text(L"j:OrganizationName");
 }
 
 void LejisIncidentIndexCard::ReadActivityDateTime(const ElementReader& incident) {

@@ -9,7 +9,7 @@
 #include "platform/com/Collection.h"
 #include "platform/com/ComObject.h"
 #include "platform/com/Properties.h"
-#include "platform/com/TextProperties.h"
+#include "platform/com/TextFields.h"
 
 #include <TVLejisCore.h>
 
@@ -18,19 +18,17 @@ namespace lejis {
 class ElementReader;
 using platform::Collection;
 
-#define INCIDENT_TEXTS(EACH) \
-    EACH(OrganizationName)   \
-    EACH(OrganizationORI)    \
-    EACH(ActivityID)         \
-    EACH(CaveatText)         \
-    EACH(ChargeNCICCode)     \
-    EACH(ChargeDescriptionText)
-
 // An incident as lejis:RMSIncidentIndexCard. It stores and writes what it is given: shaping is the formatter's affair,
 // required values the validator's.
 class LejisIncidentIndexCard final : public platform::ComObject<::LejisIncidentIndexCard, ILejisIncidentIndexCard> {
 public:
-    TEXT_PROPERTIES(INCIDENT_TEXTS)
+    TEXT_BLOCK()
+    TEXT_FIELD(OrganizationName)
+    TEXT_FIELD(OrganizationORI)
+    TEXT_FIELD(ActivityID)
+    TEXT_FIELD(CaveatText)
+    TEXT_FIELD(ChargeNCICCode)
+    TEXT_FIELD(ChargeDescriptionText)
     BOOLEAN_PROPERTY(CautionIndicator)
     OBJECT_PROPERTY(NullableDate, SubmittedDate)
     OBJECT_PROPERTY(NullableDate, ActivityDateTime)

@@ -6,33 +6,31 @@
 #include "model/XmlMethods.h"
 #include "platform/com/ComObject.h"
 #include "platform/com/Properties.h"
-#include "platform/com/TextProperties.h"
+#include "platform/com/TextFields.h"
 
 #include <TVLejisCore.h>
 
 namespace lejis {
 
-#define PERSON_TEXTS(EACH)                \
-    EACH(OrganizationName)                \
-    EACH(GivenName)                       \
-    EACH(MiddleName)                      \
-    EACH(SurName)                         \
-    EACH(SSN)                             \
-    EACH(DriversLicense)                  \
-    EACH(DriversLicenseState)             \
-    EACH(SexNCIC)                         \
-    EACH(RaceNCIC)                        \
-    EACH(ChargeNCICCode)                  \
-    EACH(ChargeDescriptionText)           \
-    EACH(SubjectCautionInformationCode)   \
-    EACH(SubjectCautionInformationCaveat) \
-    EACH(CaveatText)                      \
-    EACH(Involvement)
-
 // A person of an incident as card:RMSPersonIndexCards.
 class LejisPersonIndexCard final : public platform::ComObject<::LejisPersonIndexCard, ILejisPersonIndexCard> {
 public:
-    TEXT_PROPERTIES(PERSON_TEXTS)
+    TEXT_BLOCK()
+    TEXT_FIELD(OrganizationName)
+    TEXT_FIELD(GivenName)
+    TEXT_FIELD(MiddleName)
+    TEXT_FIELD(SurName)
+    TEXT_FIELD(SSN)
+    TEXT_FIELD(DriversLicense)
+    TEXT_FIELD(DriversLicenseState)
+    TEXT_FIELD(SexNCIC)
+    TEXT_FIELD(RaceNCIC)
+    TEXT_FIELD(ChargeNCICCode)
+    TEXT_FIELD(ChargeDescriptionText)
+    TEXT_FIELD(SubjectCautionInformationCode)
+    TEXT_FIELD(SubjectCautionInformationCaveat)
+    TEXT_FIELD(CaveatText)
+    TEXT_FIELD(Involvement)
     BOOLEAN_PROPERTY(CautionIndicator)
     OBJECT_PROPERTY(LejisStreetAddress, address)
     OBJECT_PROPERTY(NullableDate, BirthDate)

@@ -12,24 +12,24 @@ STDMETHODIMP LejisPropertyIndexCard::LoadDefaults() {
 
 msxml::Element LejisPropertyIndexCard::Write(const OutputDocument& document) const {
     ElementWriter card(document, L"card:RMSPropertyIndexCards");
-    card.OptionalText(L"j:PropertyCategoryCode.nibrsPropertyCategory", NibrsCategoryCode());
-    card.OptionalText(L"j:PropertyTypeText", Category());
-    card.OptionalText(L"j:PropertyMakeName", Make());
-    card.OptionalText(L"j:PropertyModelName", Model());
-    card.OptionalId(L"j:PropertySerialID", SerialID());
-    card.OptionalText(L"j:CaveatText", CaveatText());
+    card.OptionalText(L"j:PropertyCategoryCode.nibrsPropertyCategory", NibrsCategoryCode);
+    card.OptionalText(L"j:PropertyTypeText", Category);
+    card.OptionalText(L"j:PropertyMakeName", Make);
+    card.OptionalText(L"j:PropertyModelName", Model);
+    card.OptionalId(L"j:PropertySerialID", SerialID);
+    card.OptionalText(L"j:CaveatText", CaveatText);
     card.Boolean(L"ext:CautionIndicatorFlag", CautionIndicator);
     return card.Element();
 }
 
 void LejisPropertyIndexCard::Read(const ElementReader& card) {
     Reset();
-    SetNibrsCategoryCode(card.Text(L"j:PropertyCategoryCode.nibrsPropertyCategory"));
-    SetCategory(card.Text(L"j:PropertyTypeText"));
-    SetMake(card.Text(L"j:PropertyMakeName"));
-    SetModel(card.Text(L"j:PropertyModelName"));
-    SetSerialID(card.Text(L"j:PropertySerialID/j:ID"));
-    SetCaveatText(card.Text(L"j:CaveatText"));
+    NibrsCategoryCode = card.Text(L"j:PropertyCategoryCode.nibrsPropertyCategory");
+    Category = card.Text(L"j:PropertyTypeText");
+    Make = card.Text(L"j:PropertyMakeName");
+    Model = card.Text(L"j:PropertyModelName");
+    SerialID = card.Text(L"j:PropertySerialID/j:ID");
+    CaveatText = card.Text(L"j:CaveatText");
     texts_.Fit();
     ReadFlag(card.Text(L"ext:CautionIndicatorFlag"), CautionIndicator);
 }

@@ -3,24 +3,22 @@
 #include "model/XmlMethods.h"
 #include "platform/com/ComObject.h"
 #include "platform/com/Properties.h"
-#include "platform/com/TextProperties.h"
+#include "platform/com/TextFields.h"
 
 #include <TVLejisCore.h>
 
 namespace lejis {
 
-#define PROPERTY_TEXTS(EACH) \
-    EACH(NibrsCategoryCode)  \
-    EACH(Category)           \
-    EACH(Make)               \
-    EACH(Model)              \
-    EACH(SerialID)           \
-    EACH(CaveatText)
-
 // An item of property of an incident as card:RMSPropertyIndexCards.
 class LejisPropertyIndexCard final : public platform::ComObject<::LejisPropertyIndexCard, ILejisPropertyIndexCard> {
 public:
-    TEXT_PROPERTIES(PROPERTY_TEXTS)
+    TEXT_BLOCK()
+    TEXT_FIELD(NibrsCategoryCode)
+    TEXT_FIELD(Category)
+    TEXT_FIELD(Make)
+    TEXT_FIELD(Model)
+    TEXT_FIELD(SerialID)
+    TEXT_FIELD(CaveatText)
     BOOLEAN_PROPERTY(CautionIndicator)
     STDMETHODIMP LoadDefaults() override;
     XML_METHODS()

@@ -11,23 +11,23 @@ namespace lejis {
 msxml::Element LejisStreetAddress::Write(const OutputDocument& document) const {
     ElementWriter address(document, L"j:LocationAddress");
     address.Child(StreetElement(document));
-    address.Text(L"j:LocationCityName", City());
+    address.Text(L"j:LocationCityName", City);
     // The tests trim, the texts are written as they are held.
-    if (!platform::TrimBlanks(State()).empty()) address.Text(L"j:LocationStateCode.ncicLSTA", State());
-    if (!platform::TrimBlanks(ZIP()).empty()) address.Id(L"j:LocationPostalCodeID", ZIP());
+    if (!platform::IsBlank(State)) address.Text(L"j:LocationStateCode.ncicLSTA", State);
+    if (!platform::IsBlank(ZIP)) address.Id(L"j:LocationPostalCodeID", ZIP);
     return address.Element();
 }
 
 msxml::Element LejisStreetAddress::StreetElement(const OutputDocument& document) const {
     ElementWriter street(document, L"j:LocationStreet");
-    street.Text(L"j:StreetFullText", StreetFullText());
+    street.Text(L"j:StreetFullText", StreetFullText);
     street.Text(L"j:StreetNumberText", NumberText(*StreetNumber));
     // The one direction is always written as the direction before the name, and none behind it.
-    street.Text(L"j:StreetPredirectionalText", StreetDirection());
-    street.Text(L"j:StreetName", StreetName());
-    street.Text(L"j:StreetTypeText", StreetType());
+    street.Text(L"j:StreetPredirectionalText", StreetDirection);
+    street.Text(L"j:StreetName", StreetName);
+    street.Text(L"j:StreetTypeText", StreetType);
     street.Text(L"j:StreetPostdirectionalText", L"");
-    street.Text(L"j:StreetExtensionText", StreetExtension());
+    street.Text(L"j:StreetExtensionText", StreetExtension);
     return street.Element();
 }
 
@@ -36,24 +36,24 @@ void LejisStreetAddress::Read(const ElementReader& element) {
     const auto address = element.Child(L"j:LocationAddress");
     if (!address) return;
     if (const auto street = address->Child(L"j:LocationStreet")) ReadStreet(*street);
-    SetCity(address->Text(L"j:LocationCityName"));
-    SetState(address->Text(L"j:LocationStateCode.ncicLSTA"));
-    SetZIP(address->Text(L"j:LocationPostalCodeID/j:ID"));
+    City = address->Text(L"j:LocationCityName");
+    State = address->Text(L"j:LocationStateCode.ncicLSTA");
+    ZIP = address->Text(L"j:LocationPostalCodeID/j:ID");
     texts_.Fit();
 }
 
 void LejisStreetAddress::ReadStreet(const ElementReader& street) {
-    SetStreetFullText(street.Text(L"j:StreetFullText"));
+    StreetFullText = street.Text(L"j:StreetFullText");
     const std::wstring_view number = street.Text(L"j:StreetNumberText");
     if (platform::ParseNumber(number)) {
         StreetNumber->Set(platform::ParseLong(number));
     } else {
         StreetNumber->Set(std::nullopt);
     }
-    SetStreetName(street.Text(L"j:StreetName"));
-    SetStreetDirection(street.Text(L"j:StreetPredirectionalText"));
-    SetStreetType(street.Text(L"j:StreetTypeText"));
-    SetStreetExtension(street.Text(L"j:StreetExtensionText"));
+    StreetName = street.Text(L"j:StreetName");
+    StreetDirection = street.Text(L"j:StreetPredirectionalText");
+    StreetType = street.Text(L"j:StreetTypeText");
+    StreetExtension = street.Text(L"j:StreetExtensionText");
 }
 
 void LejisStreetAddress::Reset() {

@@ -4,7 +4,7 @@
 #include "model/XmlMethods.h"
 #include "platform/com/ComObject.h"
 #include "platform/com/Properties.h"
-#include "platform/com/TextProperties.h"
+#include "platform/com/TextFields.h"
 
 #include <TVLejisCore.h>
 
@@ -12,20 +12,18 @@ namespace lejis {
 
 class ElementReader;
 
-#define ADDRESS_TEXTS(EACH) \
-    EACH(StreetFullText)    \
-    EACH(StreetName)        \
-    EACH(StreetType)        \
-    EACH(StreetDirection)   \
-    EACH(StreetExtension)   \
-    EACH(City)              \
-    EACH(State)             \
-    EACH(ZIP)
-
 // An address as j:LocationAddress. It is read from the element that contains that: j:IncidentLocation or j:Residence.
 class LejisStreetAddress final : public platform::ComObject<::LejisStreetAddress, ILejisStreetAddress> {
 public:
-    TEXT_PROPERTIES(ADDRESS_TEXTS)
+    TEXT_BLOCK()
+    TEXT_FIELD(StreetFullText)
+    TEXT_FIELD(StreetName)
+    TEXT_FIELD(StreetType)
+    TEXT_FIELD(StreetDirection)
+    TEXT_FIELD(StreetExtension)
+    TEXT_FIELD(City)
+    TEXT_FIELD(State)
+    TEXT_FIELD(ZIP)
     OBJECT_PROPERTY(NullableLong, StreetNumber)
     XML_METHODS()
 

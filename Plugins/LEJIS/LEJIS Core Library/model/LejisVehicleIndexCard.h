@@ -4,26 +4,24 @@
 #include "model/XmlMethods.h"
 #include "platform/com/ComObject.h"
 #include "platform/com/Properties.h"
-#include "platform/com/TextProperties.h"
+#include "platform/com/TextFields.h"
 
 #include <TVLejisCore.h>
 
 namespace lejis {
 
-#define VEHICLE_TEXTS(EACH) \
-    EACH(Make)              \
-    EACH(Model)             \
-    EACH(Style)             \
-    EACH(Color)             \
-    EACH(LicensePlate)      \
-    EACH(LicensePlateState) \
-    EACH(VIN)               \
-    EACH(CaveatText)
-
 // A vehicle of an incident as card:RMSVehicleIndexCards.
 class LejisVehicleIndexCard final : public platform::ComObject<::LejisVehicleIndexCard, ILejisVehicleIndexCard> {
 public:
-    TEXT_PROPERTIES(VEHICLE_TEXTS)
+    TEXT_BLOCK()
+    TEXT_FIELD(Make)
+    TEXT_FIELD(Model)
+    TEXT_FIELD(Style)
+    TEXT_FIELD(Color)
+    TEXT_FIELD(LicensePlate)
+    TEXT_FIELD(LicensePlateState)
+    TEXT_FIELD(VIN)
+    TEXT_FIELD(CaveatText)
     BOOLEAN_PROPERTY(CautionIndicator)
     OBJECT_PROPERTY(NullableInteger, Year)
     XML_METHODS()

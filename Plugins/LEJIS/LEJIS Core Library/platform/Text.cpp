@@ -26,12 +26,14 @@ std::wstring_view TrimBlanks(std::wstring_view text) {
     return text.substr(first, text.find_last_not_of(L' ') - first + 1);
 }
 
-std::wstring Join(std::initializer_list<std::wstring_view> parts) {
+bool IsBlank(const TextArgument& text) { return TrimBlanks(text.View()).empty(); }
+
+std::wstring Join(std::initializer_list<TextArgument> parts) {
     size_t length = 0;
-    for (const std::wstring_view part : parts) length += part.size();
+    for (const TextArgument& part : parts) length += part.View().size();
     std::wstring text;
     text.reserve(length);
-    for (const std::wstring_view part : parts) text += part;
+    for (const TextArgument& part : parts) text += part.View();
     return text;
 }
 

@@ -1,6 +1,8 @@
 // Texts between the platform's BSTR and std::wstring, and the few changes of text that the library makes.
 #pragma once
 
+#include "platform/TextArgument.h"
+
 #include <comutil.h>
 #include <windows.h>
 
@@ -22,8 +24,11 @@ _bstr_t ToBstr(std::wstring_view text);
 // `text` without the blanks at its ends; other white space stays.
 std::wstring_view TrimBlanks(std::wstring_view text);
 
+// Whether there is nothing but blanks in the text.
+bool IsBlank(const TextArgument& text);
+
 // The parts, one behind the other.
-std::wstring Join(std::initializer_list<std::wstring_view> parts);
+std::wstring Join(std::initializer_list<TextArgument> parts);
 
 // Bytes that are no UTF-8 become U+FFFD.
 std::wstring FromUtf8(std::string_view bytes);

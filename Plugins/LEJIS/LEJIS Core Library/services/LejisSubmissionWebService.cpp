@@ -40,9 +40,9 @@ platform::Ref<Collection> LejisSubmissionWebService::Submit(const LejisIncidentI
 
 void LejisSubmissionWebService::Withdraw(const LejisIncidentIndexCard& incident) {
     const auto bare = platform::Create<LejisIncidentIndexCard>();
-    bare->SetActivityID(incident.ActivityID());
-    bare->SetOrganizationName(incident.OrganizationName());
-    bare->SetOrganizationORI(incident.OrganizationORI());
+    bare->ActivityID = incident.ActivityID;
+    bare->OrganizationName = incident.OrganizationName;
+    bare->OrganizationORI = incident.OrganizationORI;
     bare->SubmittedDate->Set(incident.SubmittedDate->Date());
     const auto document = platform::Create<LejisSubmissionDocument>();
     document->Add(bare);

@@ -2,9 +2,9 @@
 
 namespace platform {
 
-HRESULT ReturnText(std::wstring_view value, BSTR* result) noexcept {
+HRESULT ReturnText(const TextArgument& value, BSTR* result) noexcept {
     if (!result) return E_POINTER;
-    *result = SysAllocStringLen(value.data(), static_cast<UINT>(value.size()));
+    *result = SysAllocStringLen(value.View().data(), static_cast<UINT>(value.View().size()));
     return *result ? S_OK : E_OUTOFMEMORY;
 }
 

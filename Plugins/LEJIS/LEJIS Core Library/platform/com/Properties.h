@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/com/Guard.h"
+#include "platform/TextArgument.h"
 
 #include <oleauto.h>
 #include <windows.h>
@@ -14,7 +15,7 @@
 
 namespace platform {
 
-HRESULT ReturnText(std::wstring_view value, BSTR* result) noexcept;
+HRESULT ReturnText(const TextArgument& value, BSTR* result) noexcept;
 HRESULT ReturnFlag(bool value, VARIANT_BOOL* result) noexcept;
 
 // Hands a client's text, which may be null, to `assign`; a null text is an empty one.
