@@ -106,7 +106,7 @@ clean_up_with stop_lanes
 lock_checkout
 rm -rf "$LEJIS_TEST_RESULTS"
 mkdir -p "$LEJIS_TEST_RESULTS"
-[[ -n $LEJIS_TEST_FILTER ]] || setup_options=(--browser "${setup_options[@]}")
+[[ -n $LEJIS_TEST_FILTER ]] || setup_options=(--browser --with g++ --with gdb "${setup_options[@]}")
 run "$project/tools/setup.sh" "${setup_options[@]}"
 run "$project/build.sh" "$selection"
 [[ $is_whole == no ]] || run "$project/package.sh" --kit "$selection"

@@ -13,7 +13,7 @@ simulator=$project/tests/support/with_simulator.sh
 
 run_python() {
   local folder
-  for folder in simulator support docs; do
+  for folder in simulator support docs debugging; do
     run_tests - tools unittest "$folder" /usr/bin/python3 -m unittest discover -s "$project/tests/$folder"
   done
 }
