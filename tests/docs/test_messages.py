@@ -46,6 +46,8 @@ TEXTS = {
     "'/></patterns>": "the end of a pattern of measures",
     "xmlns:wsdl='http://schemas.xmlsoap.org/wsdl/' xmlns:xsd='http://www.w3.org/2001/XMLSchema'":
         "the prefixes of queries",
+    "a name without a known prefix": "a mistake in the library, which does not compile",
+    "a text field away from the others": "a mistake in the library: no object of the class can be made",
 }
 # How the guide writes the record that a message is about; the example is made up.
 LABELS = "{record}: ", "JOHN Q PUBLIC (Victim): "
