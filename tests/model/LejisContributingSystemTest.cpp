@@ -18,8 +18,6 @@ using support::NewDocument;
 using support::ParseElement;
 using support::SameXml;
 
-std::wstring Number(WORD number) { return std::to_wstring(number); }
-
 // Major, minor and revision of this program's version resource, found by the mark that stands before them.
 std::wstring VersionInResource() {
     const HRSRC resource = FindResourceW(platform::module::Handle(), MAKEINTRESOURCEW(VS_VERSION_INFO), RT_VERSION);
@@ -30,8 +28,7 @@ std::wstring VersionInResource() {
         if (info.dwSignature == VS_FFI_SIGNATURE) break;
     }
     EXPECT_EQ(VS_FFI_SIGNATURE, static_cast<long>(info.dwSignature));
-    return Number(HIWORD(info.dwFileVersionMS)) + L"." + Number(LOWORD(info.dwFileVersionMS)) + L"." +
-           Number(LOWORD(info.dwFileVersionLS));
+    return platform::module::VersionText(info);
 }
 
 TEST(LejisContributingSystem, HasItsMembersInTheirOrder) {
@@ -45,6 +42,15 @@ TEST(LejisContributingSystem, DescribesTheSuiteAndThisLibraryWhenNew) {
     EXPECT_EQ(L"Talvex", support::TextMember(system->Dispatch(), L"CompanyName"));
     EXPECT_EQ(L"TalvexSuite", support::TextMember(system->Dispatch(), L"SystemName"));
     EXPECT_EQ(VersionInResource(), support::TextMember(system->Dispatch(), L"SystemVersion"));
+}
+
+TEST(LejisContributingSystem, TellsOfAVersionAllNumbersButTheBuild) {
+    VS_FIXEDFILEINFO info{};
+    info.dwFileVersionMS = MAKELONG(1, 3);
+    info.dwFileVersionLS = MAKELONG(27, 9);
+    EXPECT_EQ(L"3.1.27", platform::module::VersionText(info));
+    info.dwFileVersionMS = MAKELONG(0, 10);
+    EXPECT_EQ(L"10.0.27", platform::module::VersionText(info));
 }
 
 TEST(LejisContributingSystem, IsNotChangedByItsClients) {

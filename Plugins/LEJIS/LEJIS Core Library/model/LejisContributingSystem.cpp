@@ -5,18 +5,9 @@
 #include "platform/com/Module.h"
 
 namespace lejis {
-namespace {
-
-std::wstring LibraryVersion() {
-    const platform::module::Version version = platform::module::ReadVersion();
-    return std::to_wstring(version.majorNumber) + L"." + std::to_wstring(version.minorNumber) + L"." +
-           std::to_wstring(version.revision);
-}
-
-}  // namespace
 
 LejisContributingSystem::LejisContributingSystem()
-    : CompanyName(L"Talvex"), SystemName(L"TalvexSuite"), SystemVersion(LibraryVersion()) {}
+    : CompanyName(L"Talvex"), SystemName(L"TalvexSuite"), SystemVersion(platform::module::Version()) {}
 
 msxml::Element LejisContributingSystem::Write(const OutputDocument& document) const {
     // The names begin in lower case, unlike the GJXDM names around them.

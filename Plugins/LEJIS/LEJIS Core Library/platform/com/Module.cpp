@@ -43,7 +43,7 @@ std::wstring Path() {
     }
 }
 
-Version ReadVersion() {
+std::wstring Version() {
     const HMODULE self = Handle();
     const HRSRC resource = FindResourceW(self, MAKEINTRESOURCEW(VS_VERSION_INFO), RT_VERSION);
     CheckFound(resource != nullptr);
@@ -52,8 +52,12 @@ Version ReadVersion() {
     if (SizeofResource(self, resource) < kFixedInfoOffset + sizeof(VS_FIXEDFILEINFO)) Check(E_UNEXPECTED);
     VS_FIXEDFILEINFO info;
     std::memcpy(&info, static_cast<const char*>(LockResource(loaded)) + kFixedInfoOffset, sizeof info);
-    return {HIWORD(info.dwFileVersionMS), LOWORD(info.dwFileVersionMS), HIWORD(info.dwFileVersionLS),
-            LOWORD(info.dwFileVersionLS)};
+    return VersionText(info);
+}
+
+std::wstring VersionText(const VS_FIXEDFILEINFO& info) {
+    return std::to_wstring(HIWORD(info.dwFileVersionMS)) + L"." + std::to_wstring(LOWORD(info.dwFileVersionMS)) + L"." +
+           std::to_wstring(LOWORD(info.dwFileVersionLS));
 }
 
 }  // namespace platform::module

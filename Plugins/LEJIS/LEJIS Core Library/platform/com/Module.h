@@ -15,13 +15,8 @@ bool InUse() noexcept;
 HMODULE Handle();
 std::wstring Path();
 
-// The four numbers of the version resource.
-struct Version {
-    unsigned majorNumber;
-    unsigned minorNumber;
-    unsigned build;
-    unsigned revision;
-};
-Version ReadVersion();
+// Major, minor and revision of the version resource, such as "3.1.27". The build number is not shown.
+std::wstring Version();
+std::wstring VersionText(const VS_FIXEDFILEINFO& info);
 
 }  // namespace platform::module
