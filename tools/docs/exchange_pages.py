@@ -8,6 +8,7 @@ EXCHANGES is the folder in which the simulator kept the exchanges of exchanges.s
 import re
 import sys
 from pathlib import Path
+from xml.dom import minidom
 
 from lxml import etree
 
@@ -19,10 +20,17 @@ BLOCK = re.compile(r"(<!-- exchange: (\w+) (request|response) -->\n)(?:\n```http
 
 
 def readable(xml):
-    root = etree.fromstring(xml, etree.XMLParser(remove_blank_text=True, resolve_entities=False))
-    declared = {prefix: uri for element in root.iter() for prefix, uri in element.nsmap.items()}
-    etree.cleanup_namespaces(root, top_nsmap=declared)
-    return etree.tostring(root, pretty_print=True, encoding="unicode").strip()
+    """A line an element, with all declarations at the root. Two prefixes stand for one namespace: each name keeps its own."""
+    compact = etree.fromstring(xml, etree.XMLParser(remove_blank_text=True, resolve_entities=False))
+    root = minidom.parseString(etree.tostring(compact)).documentElement
+    declared = {}
+    for element in (root, *root.getElementsByTagName("*")):
+        for name in [name for name in element.attributes.keys() if name.startswith("xmlns:")]:
+            declared[name] = element.getAttribute(name)
+            element.removeAttribute(name)
+    for name, uri in declared.items():
+        root.setAttribute(name, uri)
+    return root.toprettyxml(indent="  ").strip()
 
 
 def shown(message):
