@@ -52,6 +52,32 @@ TEST(Validation, EmptiesItsListFirstAlsoForAnArgumentThatItRefuses) {
     }
 }
 
+TEST(Validation, GivesItsListAndNoCopy) {
+    const auto validator = Create<LejisIncidentValidator, ILejisIncidentValidator>();
+    const auto incident = Create<LejisIncidentIndexCard, ILejisIncidentIndexCard>();
+    VARIANT_BOOL found = VARIANT_FALSE;
+    ASSERT_OK(validator->Validate(incident.Get(), &found));
+    ComPtr<ICollection> errors;
+    ASSERT_OK(validator->get_Errors(errors.GetAddressOf()));
+    while (CountOf(validator.Get(), &ILejisIncidentValidator::get_Errors) > 0) ASSERT_OK(errors->Remove(1));
+    EXPECT_OK(validator->get_HasErrors(&found));
+    EXPECT_EQ(VARIANT_FALSE, found);
+}
+
+TEST(Formatting, GivesItsListAndNoCopy) {
+    const auto formatter = Create<LejisIncidentFormatter, ILejisIncidentFormatter>();
+    const auto incident = Create<LejisIncidentIndexCard, ILejisIncidentIndexCard>();
+    ASSERT_OK(incident->put_ChargeNCICCode(support::Bstr(L"9999")));
+    ComPtr<ILejisIncidentIndexCard> copy;
+    ASSERT_OK(formatter->Format(incident.Get(), copy.GetAddressOf()));
+    ComPtr<ICollection> warnings;
+    ASSERT_OK(formatter->get_Warnings(warnings.GetAddressOf()));
+    ASSERT_OK(warnings->Remove(1));
+    VARIANT_BOOL has = VARIANT_TRUE;
+    EXPECT_OK(formatter->get_HasWarnings(&has));
+    EXPECT_EQ(VARIANT_FALSE, has);
+}
+
 TEST(Formatting, EmptiesItsListFirstAlsoForAnArgumentThatItRefuses) {
     const auto falseIncident = Make<FalseIncident>();
     for (ILejisIncidentIndexCard* const refused :

@@ -100,7 +100,9 @@ TEST(Property, OfBooleanKindMakesEveryTruthTheOneTruth) {
 TEST(Property, OfNumberKindKeepsItsNumber) {
     const std::vector<Property> properties = SettableProperties(VT_I4);
     ASSERT_EQ(2U, properties.size());
-    for (const long number : {0L, -1L, LONG_MAX, LONG_MIN}) ExpectKept(properties[0], _variant_t(number, VT_I4));
+    for (const Property& property : properties) {
+        for (const long number : {0L, -1L, LONG_MAX, LONG_MIN}) ExpectKept(property, _variant_t(number, VT_I4));
+    }
 }
 
 TEST(Property, IsEmptyWhenNew) {

@@ -2,10 +2,14 @@
 
 #include "platform/ComError.h"
 #include "platform/Conversions.h"
+#include "platform/msxml/Node.h"
 #include "support/ComCheck.h"
 #include "support/Xml.h"
 
 #include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
 
 namespace lejis {
 namespace {
@@ -28,6 +32,12 @@ std::wstring NodeName(const msxml::Element& element) {
     BSTR name = nullptr;
     EXPECT_OK(element->get_nodeName(&name));
     return support::Take(name);
+}
+
+std::vector<std::wstring> NamesOfChildren(const msxml::Element& element) {
+    std::vector<std::wstring> names;
+    for (const msxml::Element& child : msxml::ChildElements(element)) names.push_back(NodeName(child));
+    return names;
 }
 
 TEST(NodeFactory, CreatesAnElementWithItsPrefixAndNamespace) {
@@ -86,6 +96,7 @@ TEST(NodeFactory, WritesBooleansInLowerCase) {
 TEST(NodeFactory, CreatesAnIdentifier) {
     const auto element = NodeFactory::CreateIdElement(NewDocument(), L"j:ActivityID", L"07-1234");
     EXPECT_TRUE(SameXml(element.Get(), L"<j:ActivityID><j:ID>07-1234</j:ID></j:ActivityID>"));
+    EXPECT_EQ(std::vector<std::wstring>{L"j:ID"}, NamesOfChildren(element));
     ExpectUnattached(element);
     EXPECT_TRUE(SameXml(NodeFactory::CreateIdElement(NewDocument(), L"j:ActivityID", L"").Get(),
                         L"<j:ActivityID><j:ID/></j:ActivityID>"));
@@ -98,6 +109,7 @@ TEST(NodeFactory, CreatesAnIdentifierOfAJurisdiction) {
         SameXml(element.Get(),
                 L"<j:VehicleLicensePlateID><j:ID>ABC1234</j:ID>"
                 L"<j:IDJurisdictionCode.ncicLSTA>PA</j:IDJurisdictionCode.ncicLSTA></j:VehicleLicensePlateID>"));
+    EXPECT_EQ((std::vector<std::wstring>{L"j:ID", L"j:IDJurisdictionCode.ncicLSTA"}), NamesOfChildren(element));
     ExpectUnattached(element);
 }
 

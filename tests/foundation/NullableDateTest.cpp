@@ -35,6 +35,12 @@ TEST(NullableDate, HoldsADate) {
     EXPECT_EQ(_variant_t(kNinthOfMarch + 0.25, VT_DATE), ValueOf(holder));
 }
 
+TEST(NullableDate, HoldsADateValueThatHasNoText) {
+    const auto holder = platform::Create<NullableDate>();
+    EXPECT_OK(holder->put_Value(_variant_t(1e10, VT_DATE)));
+    EXPECT_EQ(_variant_t(1e10, VT_DATE), ValueOf(holder));
+}
+
 TEST(NullableDate, ReadsTextsThatAreDates) {
     const auto holder = platform::Create<NullableDate>();
     EXPECT_OK(holder->put_Value(_variant_t(L"2007-03-09")));

@@ -2,6 +2,7 @@
 
 #include "foundation/Constants.h"
 #include "platform/msxml/Document.h"
+#include "platform/msxml/Markup.h"
 #include "platform/msxml/Node.h"
 #include "support/Xml.h"
 
@@ -54,6 +55,13 @@ TEST(OutputDocument, MakesMeasuresThatHaveNothingInCommon) {
         EXPECT_TRUE(SameXml(Reparsed(first.Get()).Get(),
                             L"<j:PersonHeightMeasure j:personHeightUnitCode='ncic'>510</j:PersonHeightMeasure>"));
         EXPECT_TRUE(SameXml(Reparsed(Height(document).Get()).Get(), kHeight));
+    }
+}
+
+TEST(OutputDocument, WritesTheUnitWithThePrefixOfGjxdm) {
+    for (const OutputDocument& document : {OutputDocument(support::NewDocument()), OutputDocument::Create()}) {
+        EXPECT_NE(std::wstring::npos, msxml::Markup(Height(document)).find(L" j:personHeightUnitCode="));
+        EXPECT_NE(std::wstring::npos, msxml::Markup(Weight(document)).find(L" j:personWeightUnitCode="));
     }
 }
 

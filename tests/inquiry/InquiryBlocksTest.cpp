@@ -3,6 +3,7 @@
 #include "inquiry/LocationInquiryArguments.h"
 #include "inquiry/PropertyInquiryArguments.h"
 #include "inquiry/VehicleInquiryArguments.h"
+#include "support/Printing.h"
 #include "support/Xml.h"
 
 #include <gtest/gtest.h>
@@ -150,6 +151,21 @@ TEST(LocationInquiryArguments, ReadsAndWritesAllFieldsInTheirOrder) {
     EXPECT_EQ(L"PA", location->State);
     EXPECT_EQ(L"16501", location->ZIP);
     EXPECT_TRUE(SameXml(location->Write(NewDocument()).Get(), kFullLocation));
+}
+
+template <typename Block>
+void ExpectReadingEmptiesWhatIsMissing(const wchar_t* full, const wchar_t* empty) {
+    const auto block = platform::Create<Block>();
+    block->Read(ElementReader(ParseElement(full)));
+    ASSERT_TRUE(block->HasContent());
+    block->Read(ElementReader(ParseElement(empty)));
+    EXPECT_FALSE(block->HasContent()) << support::Utf8(empty);
+}
+
+TEST(InquiryBlocks, AreEmptiedOfWhatIsMissingWhenTheyAreRead) {
+    ExpectReadingEmptiesWhatIsMissing<VehicleInquiryArguments>(kFullVehicle, L"<inq:VehicleInquiryArguments/>");
+    ExpectReadingEmptiesWhatIsMissing<PropertyInquiryArguments>(kFullProperty, L"<inq:PropertyInquiryArguments/>");
+    ExpectReadingEmptiesWhatIsMissing<LocationInquiryArguments>(kFullLocation, L"<inq:LocationInquiryArguments/>");
 }
 
 TEST(LejisAdHocInquiryArguments, CountsBlanks) {

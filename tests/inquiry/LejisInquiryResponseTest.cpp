@@ -49,6 +49,20 @@ TEST(LejisInquiryResponse, KeepsTheServersCountApartFromTheCards) {
     EXPECT_EQ(L"3", response->IncidentIndexCards->ItemAs<LejisIncidentIndexCard>(3)->ActivityID);
 }
 
+TEST(LejisInquiryResponse, TellsClientsTheServersCount) {
+    const auto response = Read(Counted(L"12") + AnsweredCard(L"1"));
+    long count = 0;
+    EXPECT_OK(response->get_IncidentCount(&count));
+    EXPECT_EQ(12, count);
+}
+
+TEST(LejisInquiryResponse, HasNothingAfterAnAnswerWithoutCardsAndCount) {
+    const auto response = Read(Counted(L"7") + AnsweredCard(L"1"));
+    response->Read(ParseElement(Answer(L"")));
+    EXPECT_EQ(0u, response->IncidentIndexCards->Count());
+    EXPECT_EQ(0, response->IncidentCount);
+}
+
 TEST(LejisInquiryResponse, RoundsTheCountToEvenAndTakesItsLeadingNumber) {
     const struct {
         const wchar_t* text;

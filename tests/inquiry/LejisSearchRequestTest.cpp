@@ -1,6 +1,9 @@
 #include "inquiry/LejisSearchRequest.h"
 
+#include "platform/msxml/Document.h"
+#include "platform/msxml/Markup.h"
 #include "support/ComCheck.h"
+#include "support/Printing.h"
 #include "support/Xml.h"
 #include "unit_support/Raises.h"
 
@@ -46,6 +49,27 @@ TEST(LejisSearchRequest, WritesItsBlocksInTheirOrder) {
         L"</inq:LEJISIndexInquiry>"));
 }
 
+// Two prefixes stand for one namespace; each element is written with its own.
+TEST(LejisSearchRequest, WritesEachElementWithItsPrefix) {
+    const auto request = platform::Create<LejisSearchRequest>();
+    request->personArguments->SurName = L"P";
+    request->LocationArguments->City = L"ERIE";
+    request->PropertyArguments->SerialNumber = L"S";
+    request->VehicleArguments->VIN = L"V";
+    request->AdHocInquiryArguments->QueryString = L"blue";
+    request->InquiryControls->MaxIncidents = 7;
+    request->InquiryControls->ExcludedORIIDs->AddText(L"PA0250100");
+    const std::wstring written = msxml::Markup(request->ToDocument());
+    EXPECT_TRUE(written.starts_with(L"<inq:LEJISIndexInquiry")) << support::Utf8(written);
+    for (const wchar_t* name :
+         {L"inq:PersonInquiryArguments", L"inq:LocationInquiryArguments", L"inq:PropertyInquiryArguments",
+          L"inq:VehicleInquiryArguments", L"lejis:AdHocInquiryArguments", L"lejis:queryString",
+          L"lejis:InquiryControls", L"lejis:irrinfo", L"lejis:maxincidents", L"lejis:excludedOriid", L"j:PersonSurName",
+          L"ext:VehicleMakeText"}) {
+        EXPECT_NE(std::wstring::npos, written.find(std::wstring(L"</") + name + L">")) << support::Utf8(name);
+    }
+}
+
 TEST(LejisSearchRequest, LeavesOutABlockOfBlanksButNotWordsOfBlanks) {
     const auto request = platform::Create<LejisSearchRequest>();
     request->LocationArguments->City = L" ";
@@ -68,11 +92,23 @@ TEST(LejisSearchRequest, ReadsOnlyTheBlocksThatAreThere) {
     const auto request = platform::Create<LejisSearchRequest>();
     request->personArguments->SurName = L"KEPT";
     request->VehicleArguments->VIN = L"OLD";
+    request->LocationArguments->ZIP = L"16501";
+    request->PropertyArguments->SerialNumber = L"S";
+    request->AdHocInquiryArguments->QueryString = L"blue";
+    request->InquiryControls->IrrInfo = true;
+    request->InquiryControls->MaxIncidents = 7;
+    request->InquiryControls->ExcludedORIIDs->AddText(L"PA0250100");
     request->Read(ElementReader(
         ParseElement(L"<inq:LEJISIndexInquiry><inq:VehicleInquiryArguments><j:VehicleID><j:ID>NEW</j:ID></j:VehicleID>"
                      L"</inq:VehicleInquiryArguments></inq:LEJISIndexInquiry>")));
     EXPECT_EQ(L"KEPT", request->personArguments->SurName);
     EXPECT_EQ(L"NEW", request->VehicleArguments->VIN);
+    EXPECT_EQ(L"16501", request->LocationArguments->ZIP);
+    EXPECT_EQ(L"S", request->PropertyArguments->SerialNumber);
+    EXPECT_EQ(L"blue", request->AdHocInquiryArguments->QueryString);
+    EXPECT_TRUE(request->InquiryControls->IrrInfo);
+    EXPECT_EQ(7, request->InquiryControls->MaxIncidents);
+    EXPECT_EQ(1u, request->InquiryControls->ExcludedORIIDs->Count());
 }
 
 TEST(LejisSearchRequest, ReadsBackWhatItWrites) {

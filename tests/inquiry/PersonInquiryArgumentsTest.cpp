@@ -107,15 +107,17 @@ TEST(PersonInquiryArguments, WritesAFieldOfBlanksAsItStands) {
                         Block(kEmptyNames + L"<j:PersonSSNID><j:ID> </j:ID></j:PersonSSNID>")));
 }
 
+const std::wstring kFull =
+    L"<j:PersonSurName>PUBLIC</j:PersonSurName><j:PersonGivenName>JOHN</j:PersonGivenName>"
+    L"<j:PersonMiddleName>Q</j:PersonMiddleName><j:PersonSSNID><j:ID>900123456</j:ID></j:PersonSSNID>"
+    L"<j:PersonDriverLicenseID><j:ID>123</j:ID>"
+    L"<j:IDJurisdictionCode.ncicLSTA>PA</j:IDJurisdictionCode.ncicLSTA></j:PersonDriverLicenseID>"
+    L"<j:PersonBirthDate>1970-02-28</j:PersonBirthDate><j:PersonSexCode>M</j:PersonSexCode>"
+    L"<j:PersonRaceCode>W</j:PersonRaceCode><j:PersonHeightMeasure>511</j:PersonHeightMeasure>"
+    L"<j:PersonWeightMeasure>180</j:PersonWeightMeasure>";
+
 TEST(PersonInquiryArguments, ReadsBackWhatItWrites) {
-    const auto person = Read(
-        L"<j:PersonSurName>PUBLIC</j:PersonSurName><j:PersonGivenName>JOHN</j:PersonGivenName>"
-        L"<j:PersonMiddleName>Q</j:PersonMiddleName><j:PersonSSNID><j:ID>900123456</j:ID></j:PersonSSNID>"
-        L"<j:PersonDriverLicenseID><j:ID>123</j:ID>"
-        L"<j:IDJurisdictionCode.ncicLSTA>PA</j:IDJurisdictionCode.ncicLSTA></j:PersonDriverLicenseID>"
-        L"<j:PersonBirthDate>1970-02-28</j:PersonBirthDate><j:PersonSexCode>M</j:PersonSexCode>"
-        L"<j:PersonRaceCode>W</j:PersonRaceCode><j:PersonHeightMeasure>511</j:PersonHeightMeasure>"
-        L"<j:PersonWeightMeasure>180</j:PersonWeightMeasure>");
+    const auto person = Read(kFull);
     EXPECT_EQ(L"PUBLIC", person->SurName);
     EXPECT_EQ(L"JOHN", person->GivenName);
     EXPECT_EQ(L"Q", person->MiddleName);
@@ -130,17 +132,17 @@ TEST(PersonInquiryArguments, ReadsBackWhatItWrites) {
 }
 
 TEST(PersonInquiryArguments, ReadingEmptiesWhatIsMissing) {
-    const auto person = Read(
-        L"<j:PersonSurName>PUBLIC</j:PersonSurName><j:PersonWeightMeasure>180"
-        L"</j:PersonWeightMeasure><j:PersonBirthDate>1970-02-28</j:PersonBirthDate>");
+    const auto person = Read(kFull);
+    ASSERT_TRUE(person->HasContent());
     person->Read(ElementReader(ParseElement(Block(L""))));
     EXPECT_FALSE(person->HasContent());
 }
 
 TEST(PersonInquiryArguments, ReadsBadDatesAndNumbersAsNothing) {
-    const auto person = Read(
-        L"<j:PersonBirthDate>yesterday</j:PersonBirthDate><j:PersonWeightMeasure>abc"
-        L"</j:PersonWeightMeasure><j:PersonHeightMeasure/>");
+    const auto person = Read(kFull);
+    person->Read(ElementReader(
+        ParseElement(Block(L"<j:PersonBirthDate>yesterday</j:PersonBirthDate><j:PersonWeightMeasure>abc"
+                           L"</j:PersonWeightMeasure><j:PersonHeightMeasure>tall</j:PersonHeightMeasure>"))));
     EXPECT_EQ(std::nullopt, person->BirthDate->Date());
     EXPECT_EQ(std::nullopt, person->Weight->Number());
     EXPECT_EQ(std::nullopt, person->Height->Number());

@@ -80,8 +80,14 @@ TEST(LejisIncidentIndexCardBadContent, KeepsItsFlagForATextThatIsNoBoolean) {
         ReadInto(card, CompleteWith(L""));
         EXPECT_EQ(before, card->CautionIndicator);
     }
-    for (const wchar_t* text : {L"TRUE", L"true", L"1"}) EXPECT_TRUE(read(text)) << support::Utf8(text);
-    for (const wchar_t* text : {L"False", L"0"}) EXPECT_FALSE(read(text)) << support::Utf8(text);
+    for (const wchar_t* text : {L"TRUE", L"true", L"1"}) {
+        card->CautionIndicator = false;
+        EXPECT_TRUE(read(text)) << support::Utf8(text);
+    }
+    for (const wchar_t* text : {L"False", L"0"}) {
+        card->CautionIndicator = true;
+        EXPECT_FALSE(read(text)) << support::Utf8(text);
+    }
 }
 
 TEST(LejisIncidentIndexCardBadContent, KeepsCardsAsFarAsTheyCouldBeRead) {

@@ -98,6 +98,22 @@ TEST(LejisIncidentIndexCard, RefusesForeignObjectsAmongItsCards) {
     }
 }
 
+TEST(LejisIncidentIndexCard, LooksForACautionAmongPersonsThenPropertyThenVehiclesAndStopsAtTheFirst) {
+    const auto card = platform::Create<LejisIncidentIndexCard>();
+    const auto foreign = platform::Create<LejisStreetAddress>();
+    card->VehicleIndexCards->AddObject(foreign->Dispatch());
+    const auto item = Add<LejisPropertyIndexCard>(card->PropertyIndexCards);
+    item->CautionIndicator = true;
+    EXPECT_TRUE(card->NeedsCaution());
+    item->CautionIndicator = false;
+    card->PropertyIndexCards->AddObject(foreign->Dispatch());
+    Add<LejisPersonIndexCard>(card->PersonIndexCards)->CautionIndicator = true;
+    card->PersonIndexCards->AddObject(foreign->Dispatch());
+    EXPECT_TRUE(card->NeedsCaution());
+    card->CautionIndicator = true;
+    EXPECT_TRUE(card->NeedsCaution());
+}
+
 TEST(LejisIncidentIndexCard, NeedsADocumentToWriteTo) {
     const auto card = platform::Create<LejisIncidentIndexCard>();
     Microsoft::WRL::ComPtr<IDispatch> element;

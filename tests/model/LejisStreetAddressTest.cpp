@@ -104,6 +104,14 @@ TEST(LejisStreetAddress, LeavesOutABlankStateAndPostalCode) {
         address, std::wstring(L"<j:LocationAddress>") + kEmptyStreet + L"<j:LocationCityName/></j:LocationAddress>"));
 }
 
+TEST(LejisStreetAddress, TakesNoOtherWhiteSpaceForBlanks) {
+    const auto address = platform::Create<LejisStreetAddress>();
+    address->State = L"\x00A0";
+    EXPECT_TRUE(Writes(address, std::wstring(L"<j:LocationAddress>") + kEmptyStreet +
+                                    L"<j:LocationCityName/><j:LocationStateCode.ncicLSTA>\x00A0"
+                                    L"</j:LocationStateCode.ncicLSTA></j:LocationAddress>"));
+}
+
 TEST(LejisStreetAddress, WritesStateAndPostalCodeWithTheirBlanks) {
     const auto address = platform::Create<LejisStreetAddress>();
     address->State = L" PA";

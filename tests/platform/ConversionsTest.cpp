@@ -135,10 +135,12 @@ TEST(Conversions, RaisesForALeadingNumberBeyondEveryNumber) {
 }
 
 TEST(Conversions, ReadsBooleansInAnyLetterCaseAndNumbers) {
-    for (const wchar_t* text : {L"true", L"TRUE", L"True", L"1", L"-1", L" 2 "}) {
+    for (const wchar_t* text : {L"true", L"TRUE", L"True", L"1", L"-1", L" 2 ", L" true "}) {
         EXPECT_EQ(true, ParseBoolean(text)) << Utf8(text);
     }
-    for (const wchar_t* text : {L"false", L"FALSE", L"0"}) EXPECT_EQ(false, ParseBoolean(text)) << Utf8(text);
+    for (const wchar_t* text : {L"false", L"FALSE", L"0", L" FALSE "}) {
+        EXPECT_EQ(false, ParseBoolean(text)) << Utf8(text);
+    }
     for (const wchar_t* text : {L"", L"yes", L"no", L"on", L"T"}) {
         EXPECT_EQ(std::nullopt, ParseBoolean(text)) << Utf8(text);
     }

@@ -66,6 +66,11 @@ TEST(Text, TrimsBlanksAtTheEndsAndNoOtherWhiteSpace) {
     for (const Change& change : kChanges) EXPECT_EQ(change.after, TrimBlanks(change.before)) << Utf8(change.before);
 }
 
+TEST(Text, IsBlankWithoutAnythingElse) {
+    for (const wchar_t* text : {L"", L" ", L"   "}) EXPECT_TRUE(IsBlank(text)) << Utf8(text);
+    for (const wchar_t* text : {L"a", L" \t ", L"\r\n", L"\x00A0"}) EXPECT_FALSE(IsBlank(text)) << Utf8(text);
+}
+
 TEST(Text, ComparesIgnoringCase) {
     EXPECT_TRUE(EqualIgnoringCase(L"", L""));
     EXPECT_TRUE(EqualIgnoringCase(L"ErrorNumber", L"ERRORNUMBER"));

@@ -1,8 +1,10 @@
 #include "services/SOAPEnvelope.h"
 
 #include "platform/msxml/Document.h"
+#include "platform/msxml/Markup.h"
 #include "platform/msxml/Node.h"
 #include "support/ComCheck.h"
+#include "support/Printing.h"
 #include "support/Xml.h"
 #include "unit_support/Raises.h"
 #include "unit_support/Soap.h"
@@ -29,6 +31,18 @@ TEST(SOAPEnvelope, IsEmptyWhenNew) {
     const auto envelope = platform::Create<SOAPEnvelope>();
     EXPECT_EQ(L"", envelope->Username);
     EXPECT_EQ(L"", envelope->Body());
+}
+
+TEST(SOAPEnvelope, WritesEachElementWithItsPrefix) {
+    const auto envelope = platform::Create<SOAPEnvelope>();
+    envelope->Username = L"u";
+    envelope->put_Body(support::Bstr(L"<soap:Body xmlns:soap='http://schemas.xmlsoap.org/soap/envelope/'/>"));
+    const std::wstring written = msxml::Markup(envelope->Write(msxml::CreateDocument()));
+    EXPECT_TRUE(written.starts_with(L"<soap:Envelope")) << support::Utf8(written);
+    for (const wchar_t* name :
+         {L"soap:Header", L"wsse:Security", L"wsse:UsernameToken", L"wsse:Username", L"soap:Body"}) {
+        EXPECT_NE(std::wstring::npos, written.find(std::wstring(L"<") + name)) << support::Utf8(name);
+    }
 }
 
 TEST(SOAPEnvelope, ReadsAFault) {

@@ -205,6 +205,18 @@ TEST_F(SchemaUtilsTest, PassesEverythingWhenTheWsdlHasNoTypes) {
     EXPECT_NO_THROW(Validate(Wsdl(L""), L"<c:count xmlns:c='urn:count'>twelve</c:count>"));
 }
 
+TEST_F(SchemaUtilsTest, StillDemandsThatTheRequestParsesWhenTheWsdlHasNoTypes) {
+    http.script.responseText = Wsdl(L"");
+    try {
+        SchemaUtils::ValidateSchemaFromWSDL(support::NewDocument(), kUrl);
+        ADD_FAILURE() << "a document without a root passed";
+    } catch (...) {
+        const platform::ComError error = platform::CaughtError();
+        EXPECT_EQ(kSchemaError, error.Number());
+        EXPECT_TRUE(std::wstring_view(error.Description()).starts_with(L"Schema validation error: "));
+    }
+}
+
 TEST_F(SchemaUtilsTest, AddsOnlyIncludesAndNotWhatStandsInTheWsdl) {
     const std::wstring inlined = L"<xsd:element name='count' type='xsd:date'/>";
     EXPECT_NO_THROW(Validate(Wsdl(Types(Include(schema) + inlined)), L"<c:count xmlns:c='urn:count'>12</c:count>"));
