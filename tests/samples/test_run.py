@@ -24,7 +24,8 @@ class RunTest(SampleCase):
             with self.subTest(command):
                 run = self.run_sample(*command.split())
                 self.assertEqual(run.code, DONE, run)
-                self.assertRegex(run.output, r"^Submitted with \d|^1 incident\(s\) found")
+                # On a busy machine Wine complains of itself at times, before or after.
+                self.assertRegex(run.output, r"(?m)^Submitted with \d|^1 incident\(s\) found")
 
     def test_the_path_begins_in_the_current_folder_in_samples_or_in_the_project(self):
         for folder, path in ((SAMPLES / "vbscript", "submit.vbs"), (self.folder, "vbscript/submit.vbs"),
