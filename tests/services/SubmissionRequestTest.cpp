@@ -78,14 +78,14 @@ TEST_F(SubmissionRequest, IsTheEnvelopeAsText) {
     const Sent& sent = Submitted(*CleanIncident());
     ASSERT_TRUE(sent.bodyIsText);
     EXPECT_TRUE(sent.body.starts_with(L"<soap:Envelope ")) << "no declaration stands before the envelope";
-    EXPECT_NE(std::wstring::npos, sent.body.find(L"<lejis:ContributingSystem>")) << "the prefix is part of the layout";
+    EXPECT_NE(std::wstring::npos, sent.body.find(L"<lejis:ContributingSystem")) << "the prefix is part of the layout";
     EXPECT_TRUE(support::SameXml(support::Parse(sent.body).Get(), ExpectedRequest()));
 }
 
 TEST_F(SubmissionRequest, HoldsATextOfOneBlank) {
     const auto incident = CleanIncident();
     incident->CaveatText = L" ";
-    EXPECT_NE(std::wstring::npos, Submitted(*incident).body.find(L"<j:CaveatText> </j:CaveatText>"));
+    EXPECT_NE(std::wstring::npos, Submitted(*incident).body.find(L"> </j:CaveatText>"));
 }
 
 TEST_F(SubmissionRequest, OfADeletionHoldsNothingButTheIdentifiersAndTheSubmittedDate) {

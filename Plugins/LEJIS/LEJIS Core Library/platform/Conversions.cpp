@@ -116,8 +116,9 @@ std::optional<bool> ParseBoolean(std::wstring_view text) {
     // As they are written; the platform takes other letter cases and languages as well, and its time.
     if (text == L"true") return true;
     if (text == L"false") return false;
+    // Not every platform passes over the blanks itself.
     VARIANT_BOOL flag = VARIANT_FALSE;
-    if (FAILED(VarBoolFromStr(InText(text), kUserLocale, 0, &flag))) return std::nullopt;
+    if (FAILED(VarBoolFromStr(InText(TrimBlanks(text)), kUserLocale, 0, &flag))) return std::nullopt;
     return flag != VARIANT_FALSE;
 }
 
