@@ -27,13 +27,19 @@ TEST(LejisSearchRequest, WritesTheControlsAloneWhenNew) {
     EXPECT_TRUE(SameXml(request->ToDocument().Get(), kControlsAlone));
 }
 
-TEST(LejisSearchRequest, WritesItsBlocksInTheirOrder) {
-    const auto request = platform::Create<LejisSearchRequest>();
+// Filled in another order than the one in which they are written.
+platform::Ref<LejisSearchRequest> RequestWithAllBlocks() {
+    auto request = platform::Create<LejisSearchRequest>();
     request->AdHocInquiryArguments->QueryString = L"blue";
     request->VehicleArguments->VIN = L"V";
     request->PropertyArguments->SerialNumber = L"S";
     request->LocationArguments->City = L"ERIE";
     request->personArguments->SurName = L"P";
+    return request;
+}
+
+TEST(LejisSearchRequest, WritesItsBlocksInTheirOrder) {
+    const auto request = RequestWithAllBlocks();
     EXPECT_TRUE(SameXml(
         request->ToDocument().Get(),
         L"<inq:LEJISIndexInquiry>"
@@ -51,12 +57,7 @@ TEST(LejisSearchRequest, WritesItsBlocksInTheirOrder) {
 
 // Two prefixes stand for one namespace; each element is written with its own.
 TEST(LejisSearchRequest, WritesEachElementWithItsPrefix) {
-    const auto request = platform::Create<LejisSearchRequest>();
-    request->personArguments->SurName = L"P";
-    request->LocationArguments->City = L"ERIE";
-    request->PropertyArguments->SerialNumber = L"S";
-    request->VehicleArguments->VIN = L"V";
-    request->AdHocInquiryArguments->QueryString = L"blue";
+    const auto request = RequestWithAllBlocks();
     request->InquiryControls->MaxIncidents = 7;
     request->InquiryControls->ExcludedORIIDs->AddText(L"PA0250100");
     const std::wstring written = msxml::Markup(request->ToDocument());
