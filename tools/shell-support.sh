@@ -36,7 +36,7 @@ architectures_of() {
 
 # One script at a time works in build/: they share the build folders and the Wine prefix. A script that another one
 # calls works under its caller's lock. Whatever lives longer than the script must not inherit descriptor 9, or the
-# lock outlives the script as well.
+# lock outlives the script as well. Descriptor 8 is the lock of wine-prefix.sh.
 lock_checkout() {
   [[ ${TVLEJIS_LOCKED_CHECKOUT:-} == "$project" ]] && return
   mkdir -p "$project/build"
@@ -53,7 +53,7 @@ lock_checkout() {
 running=
 run() {
   local code=0
-  "$@" </dev/null 9>&- &
+  "$@" </dev/null 8>&- 9>&- &
   running=$!
   wait "$running" || code=$?
   running=

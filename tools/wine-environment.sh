@@ -6,6 +6,8 @@
 : "${project:?shell-support.sh comes first}"
 # shellcheck source=tools/wine-choice.sh
 source "$project/tools/wine-choice.sh"
+# shellcheck source=tools/wine-prefix.sh
+source "$project/tools/wine-prefix.sh"
 
 export WINEPREFIX=$project/build/wine
 if [[ -n ${WINE:-} ]]; then
@@ -15,6 +17,8 @@ if [[ -n ${WINE:-} ]]; then
   wine_version=$("$WINE" --version) || fail "'$WINE --version' tells no version"
   WINEPREFIX=$project/build/${wine_version%% *}
 fi
+# What the prefixes of this Wine are copied from.
+PRISTINE_PREFIX=$WINEPREFIX-pristine
 WINEPREFIX+=${WINE_LANE:+-$WINE_LANE}
 # Whatever starts `wine` or `wineserver` gets those of the chosen Wine.
 [[ :$PATH: == *:$project/tools/wine:* ]] || export PATH=$project/tools/wine:$PATH
@@ -38,45 +42,8 @@ windows_programs() {
   esac
 }
 
-# What a finished prefix was made by. A prefix that was interrupted has no such mark; one made before Wine's 32-bit
-# half came, or by another version, has a different one. Both are made again. The number rises with make_prefix.
-prefix_mark() {
-  local bits=64
-  has_32_bit_wine && bits=32+64
-  printf '2 %s %s\n' "$bits" "$(wine --version)"
-}
-
 # run_program PROGRAM [ARGUMENT...]: a program that ends soon.
 run_program() { run timeout --kill-after=10 60 "$project/tools/wine-program.sh" "$@"; }
-
-add_registry_value() { run_program reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null 2>&1; }
-
-# boot_prefix LOG: a new one.
-boot_prefix() {
-  rm -rf "$WINEPREFIX"
-  mkdir -p "$WINEPREFIX"
-  run timeout --kill-after=10 180 wine wineboot -i >>"$1" 2>&1
-}
-
-make_prefix() {
-  local log=$WINEPREFIX.log
-  say "Making the Wine prefix build/$(basename "$WINEPREFIX") (about 15 seconds) ..."
-  : >"$log"
-  # On a busy machine the first start of a new prefix was seen to fail: "could not load kernel32.dll".
-  boot_prefix "$log" || {
-    say "wineboot failed, see $log; trying once more ..."
-    stop_wine
-    boot_prefix "$log"
-  } || fail "wineboot failed, see $log"
-  # Windows and message boxes work without a display.
-  add_registry_value 'HKCU\Software\Wine\Drivers' Graphics REG_SZ null || fail "the prefix takes no settings"
-  # A crashed test ends instead of showing a dialog that nobody sees.
-  add_registry_value 'HKCU\Software\Wine\WineDbg' ShowCrashDialog REG_DWORD 0 || fail "the prefix takes no settings"
-  # The registry is written to disk when the server ends.
-  stop_wine
-  [[ -s $WINEPREFIX/system.reg ]] || fail "wineboot made no registry, see $log"
-  prefix_mark >"$WINEPREFIX/finished"
-}
 
 # What wine-program.sh starts. Programs of both bitnesses can be started by one of 64 bits.
 make_launcher() {
@@ -91,7 +58,7 @@ make_launcher() {
 start_wine() {
   make_launcher
   stop_wine
-  [[ -f $WINEPREFIX/finished && $(<"$WINEPREFIX/finished") == "$(prefix_mark)" ]] || make_prefix
+  is_finished "$WINEPREFIX" || make_prefix
   # Without this the first program starts the server and its services, which keep that program's output open.
   wineserver --persistent </dev/null >/dev/null 2>&1 9>&- || fail "Wine's server does not start"
   run timeout --kill-after=10 60 wine cmd /c exit >/dev/null 2>&1 || fail "Wine runs no program"

@@ -18,6 +18,9 @@ echo "{name} $*" >>"$here/calls"
 [[ $1 != wineboot ]] || {{
   if [[ -s $here/refusals ]]; then sed -i 1d "$here/refusals"; echo "no kernel32.dll"; exit 1; fi
   echo made >"$WINEPREFIX/system.reg"
+  mkdir -p "$WINEPREFIX"/drive_c/windows/system32
+  echo program >"$WINEPREFIX"/drive_c/windows/system32/ole32.dll
+  echo settings >"$WINEPREFIX"/drive_c/windows/win.ini
 }}
 echo "{name}"
 """
@@ -102,27 +105,62 @@ class ChoiceTest(WineCase):
 
 
 class PrefixTest(WineCase):
-    def make_prefix(self, refusals):
-        wine = self.put("bin/wine", "bin/wineserver")
+    def setUp(self):
+        super().setUp()
+        self.wine = self.put("bin/wine", "bin/wineserver")
+
+    def make_prefix(self, refusals=0, name="prefix"):
         (self.folder / "refusals").write_text("once\n" * refusals)
-        run = self.shell(f"WINEPREFIX={self.folder}/prefix; make_prefix", wine=wine)
-        starts = (self.folder / "calls").read_text().count("wineboot")
-        return run, starts, (self.folder / "prefix" / "finished").exists()
+        return self.shell(f"PRISTINE_PREFIX={self.folder}/pristine WINEPREFIX={self.folder}/{name}; make_prefix",
+                          wine=self.wine)
+
+    def boots(self):
+        return (self.folder / "calls").read_text().count("wineboot")
+
+    def is_finished(self, name="prefix"):
+        return (self.folder / name / "finished").exists()
 
     def test_it_is_made_at_the_first_try(self):
-        run, starts, finished = self.make_prefix(0)
-        self.assertEqual((run.returncode, starts, finished), (0, 1, True), run)
+        run = self.make_prefix()
+        self.assertEqual((run.returncode, self.boots(), self.is_finished()), (0, 1, True), run)
 
     def test_a_first_start_that_fails_is_tried_once_more(self):
-        run, starts, finished = self.make_prefix(1)
-        self.assertEqual((run.returncode, starts, finished), (0, 2, True), run)
+        run = self.make_prefix(refusals=1)
+        self.assertEqual((run.returncode, self.boots(), self.is_finished()), (0, 2, True), run)
         self.assertIn("trying once more", run.stdout)
 
     def test_a_second_failure_is_final_and_its_log_is_named(self):
-        run, starts, finished = self.make_prefix(2)
-        self.assertEqual((run.returncode, starts, finished), (1, 2, False), run)
-        self.assertIn(f"wineboot failed, see {self.folder}/prefix.log", run.stderr)
-        self.assertEqual((self.folder / "prefix.log").read_text().count("no kernel32.dll"), 2)
+        run = self.make_prefix(refusals=2)
+        self.assertEqual((run.returncode, self.boots(), self.is_finished()), (1, 2, False), run)
+        self.assertIn(f"wineboot failed, see {self.folder}/pristine.log", run.stderr)
+        self.assertEqual((self.folder / "pristine.log").read_text().count("no kernel32.dll"), 2)
+
+    def test_a_second_prefix_is_a_copy_that_boots_nothing(self):
+        self.make_prefix()
+        run = self.make_prefix(name="second")
+        self.assertEqual((run.returncode, self.boots(), self.is_finished("second")), (0, 1, True), run)
+
+    def test_one_of_another_wine_boots_again(self):
+        self.make_prefix()
+        (self.folder / "pristine" / "finished").write_text("3 64 wine-76.0\n")
+        run = self.make_prefix()
+        self.assertEqual((run.returncode, self.boots(), self.is_finished()), (0, 2, True), run)
+
+    def test_prefixes_share_the_programs_and_nothing_that_wine_writes(self):
+        self.make_prefix()
+        pristine, prefix = self.folder / "pristine", self.folder / "prefix"
+        for path, shared in (("drive_c/windows/system32/ole32.dll", True), ("drive_c/windows/win.ini", False),
+                             ("system.reg", False), ("finished", False)):
+            self.assertEqual((prefix / path).samefile(pristine / path), shared, path)
+            self.assertEqual((prefix / path).read_text(), (pristine / path).read_text(), path)
+
+    def test_a_copy_that_fails_leaves_the_prefix_that_was_there(self):
+        self.make_prefix()
+        self.put("old/cp").write_text("#!/bin/bash\nexit 1\n")
+        run = self.shell(f"PATH={self.folder}/old:$PATH; PRISTINE_PREFIX={self.folder}/pristine "
+                         f"WINEPREFIX={self.folder}/prefix; make_prefix", wine=self.wine)
+        self.assertEqual((run.returncode, self.is_finished()), (1, True), run)
+        self.assertIn("cannot be copied", run.stderr)
 
 
 if __name__ == "__main__":
