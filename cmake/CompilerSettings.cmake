@@ -38,5 +38,9 @@ add_link_options(-static)
 add_compile_definitions($<$<CONFIG:Debug>:LIST_LIVING_OBJECTS>)
 
 # What the tests check the library with: undefined behaviour and broken standard library contracts end the process.
-set(CHECKED_BUILD_OPTIONS
-    -O1 -D_GLIBCXX_ASSERTIONS -DLIST_LIVING_OBJECTS -fsanitize=undefined -fsanitize-undefined-trap-on-error)
+# Whoever includes its headers shares the definitions.
+set(CHECKED_LIBRARY_OPTIONS -O1 -fsanitize=undefined -fsanitize-undefined-trap-on-error)
+set(CHECKED_LIBRARY_DEFINITIONS _GLIBCXX_ASSERTIONS LIST_LIVING_OBJECTS)
+
+# The tests' own code, which is compiled far more often than it runs.
+set(TEST_OPTIONS -O0)
