@@ -8,8 +8,11 @@ import * as exchanges from "./exchanges.js";
 import * as faults from "./faults.js";
 
 const RETRY_MILLISECONDS = 1000;
-// Between two pieces of news. Many at once are told in larger portions, for the server has better things to do.
-const [PAUSE, LONG_PAUSE, MANY] = [250, 1000, 40];
+// Between two pieces of news.
+const PAUSE = 250;
+// News of many exchanges comes in larger portions: the page waits so many times as long as the last piece took, so that
+// it costs those who send next to nothing.
+const [MANY, SHARE, LONG_PAUSE, LONGEST_PAUSE] = [40, 40, 1000, 4000];
 const NAMES = ["exchanges", "index", "faults"];
 const tabs = NAMES.map((name) => byId(`tab-${name}`));
 const lists = {exchanges: exchanges.list, index: cards.list};
@@ -97,6 +100,8 @@ async function learn(news) {
 
 const seconds = (milliseconds) => new Promise((resolve) => setTimeout(resolve, milliseconds));
 
+const longPause = (took) => Math.min(LONGEST_PAUSE, Math.max(LONG_PAUSE, SHARE * took));
+
 // Each answer comes when something has changed, or after a while; a simulator that has ended is asked again.
 async function watch() {
   let known = null;
@@ -104,10 +109,12 @@ async function watch() {
     try {
       const news = await get(known === null ? "changes" : `changes?after=${known}`);
       const count = known === null ? 0 : news.changes - known;
+      const began = performance.now();
       await learn(news);
+      const took = performance.now() - began;
       known = news.changes;
       tellConnection(true);
-      await seconds(count > MANY ? LONG_PAUSE : count ? PAUSE : 0);
+      await seconds(count > MANY ? longPause(took) : count ? PAUSE : 0);
     } catch {
       known = null;
       tellConnection(false);
