@@ -4,7 +4,7 @@
 # the tools and the packages, which are made first. The guides and the demonstration, which are scripts of their own, come
 # last.
 # PATTERN is GoogleTest's, such as "Vehicle*:-*Slow*"; scripts are chosen by their file names likewise, and the tests of
-# the tools, of the samples and of the guides are left out.
+# the tools, of the samples and of the guides are left out. Only what such tests need is built then.
 # --clients: also clients in C# and Free Pascal, whose languages are fetched: 300 MB, once.
 # --require-x86 makes it an error that x86 programs cannot be run here, --require-browser that the simulator's page cannot
 # be looked at, for want of Chromium, --require-clients that Free Pascal cannot be had for --clients, which it includes.
@@ -106,9 +106,14 @@ clean_up_with stop_lanes
 lock_checkout
 rm -rf "$LEJIS_TEST_RESULTS"
 mkdir -p "$LEJIS_TEST_RESULTS"
-[[ -n $LEJIS_TEST_FILTER ]] || setup_options=(--browser --with g++ --with gdb "${setup_options[@]}")
+targets=()
+if [[ -n $LEJIS_TEST_FILTER ]]; then
+  targets=(TVLejisCore unit_tests client_tests end_to_end_tests lejis_tests apartment_tests checked_library)
+else
+  setup_options=(--browser --with g++ --with gdb "${setup_options[@]}")
+fi
 run "$project/tools/setup.sh" "${setup_options[@]}"
-run "$project/build.sh" "$selection"
+run "$project/build.sh" "$selection" "${targets[@]}"
 [[ $is_whole == no ]] || run "$project/package.sh" --kit "$selection"
 
 architectures=$(tested_architectures)
