@@ -27,7 +27,8 @@ public:
         return {*FindNamespace(NamespaceOf(qualifiedName)), qualifiedName.substr(qualifiedName.find(L':') + 1)};
     }
 
-    constexpr std::wstring_view NamespaceUri() const { return Constants::kPrefixes[key_ & 0xf].uri; }
+    constexpr NamespaceNumber Namespace() const { return key_ & 0xf; }
+    constexpr std::wstring_view NamespaceUri() const { return Constants::kPrefixes[Namespace()].uri; }
     constexpr std::wstring_view LocalName() const { return localName_; }
     // The same for the same name, and seldom the same for two names: most are told apart by one comparison.
     constexpr uint32_t Key() const { return key_; }

@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace lejis {
@@ -19,6 +20,8 @@ class ElementReader {
 public:
     // Takes all of the element from MSXML; the readers of its children share that.
     explicit ElementReader(const msxml::Element& element);
+    // Of the root of a tree.
+    explicit ElementReader(std::shared_ptr<const ElementTree> tree) : tree_(std::move(tree)), number_(0) {}
 
     // A temporary reader gives neither texts nor readers: the texts last as long as there is a reader of the same tree.
 

@@ -1,8 +1,11 @@
 #include "foundation/ElementTree.h"
 
+#include "foundation/PlainCharacters.h"
+#include "foundation/PlainMarkup.h"
 #include "platform/ComError.h"
 #include "platform/msxml/Depth.h"
 #include "platform/msxml/LeafText.h"
+#include "platform/msxml/LoneText.h"
 #include "platform/msxml/Node.h"
 
 #include <utility>
@@ -17,6 +20,9 @@ constexpr size_t kUsualElements = 128;
 constexpr size_t kUsualParents = 32;
 constexpr size_t kUsualCharacters = 3072;
 
+// More questions than these would cost more than MSXML's document.
+constexpr size_t kMostAskedTexts = 8;
+
 bool IsElement(const Node& node) {
     DOMNodeType type = NODE_INVALID;
     platform::Check(node->get_nodeType(&type));
@@ -25,11 +31,21 @@ bool IsElement(const Node& node) {
 
 }  // namespace
 
-ElementTree::ElementTree(const Node& root) {
+ElementTree::ElementTree() {
     elements_.reserve(kUsualElements);
-    parents_.reserve(kUsualParents);
     characters_.reserve(kUsualCharacters);
+}
+
+ElementTree::ElementTree(const Node& root) : ElementTree() {
+    parents_.reserve(kUsualParents);
     Add(root, {}, 0);
+}
+
+void ElementTree::Take(PlainMarkup& markup) {
+    elements_.clear();
+    characters_.clear();
+    askedTexts_.clear();
+    Add(markup);
 }
 
 bool ElementTree::HasName(size_t number, const ElementName& name) const {
@@ -39,10 +55,13 @@ bool ElementTree::HasName(size_t number, const ElementName& name) const {
 
 std::wstring_view ElementTree::TextOf(size_t number) const {
     const Element& element = elements_[number];
-    if (element.parent == kNone) return Characters(element.textBegin, element.textLength);
+    const std::wstring_view text = Characters(element.textBegin, element.textLength);
+    if (element.parent == kNone) return text;
+    if (element.parent == kTextMarkup) return TextOfMarkup(text);
+    if (element.parent == kScannedParent) GiveUp();
     // There may be others in it than those of the tree.
     msxml::RequireBoundedDepth(parents_[element.parent]);
-    return textsOfParents_.emplace_back(msxml::Text(parents_[element.parent])).View();
+    return askedTexts_.emplace_back(msxml::Text(parents_[element.parent])).View();
 }
 
 void ElementTree::Add(const Node& node, const ElementName& name, int depth) {
@@ -83,6 +102,50 @@ void ElementTree::SetText(size_t number, std::wstring_view text) {
     elements_[number].textBegin = static_cast<uint32_t>(characters_.size());
     elements_[number].textLength = static_cast<uint32_t>(text.size());
     characters_ += text;
+}
+
+void ElementTree::Add(PlainMarkup& markup) {
+    const size_t number = elements_.size();
+    const size_t nameBegin = characters_.size();
+    plain::AppendAscii(characters_, markup.LocalName());
+    const ElementName name(*markup.Namespace(), Characters(nameBegin, markup.LocalName().size()));
+    elements_.push_back({name.Key(), 0, static_cast<uint32_t>(nameBegin),
+                         static_cast<uint32_t>(name.LocalName().size()), 0, 0, kScannedParent});
+    if (!AddChildren(markup)) SetText(number, markup);
+    elements_[number].end = static_cast<uint32_t>(elements_.size());
+}
+
+bool ElementTree::AddChildren(PlainMarkup& markup) {
+    bool areElements = false;
+    for (; markup.NextChild(); areElements = true) {
+        if (markup.Namespace()) {
+            Add(markup);
+        } else {
+            markup.Skip();
+        }
+    }
+    return areElements;
+}
+
+void ElementTree::SetText(size_t number, const PlainMarkup& markup) {
+    const size_t begin = characters_.size();
+    markup.AppendText(characters_, false);
+    Element& element = elements_[number];
+    element.parent = kNone;
+    if (begin < characters_.size() && !msxml::IsTheSameInAnElement(Characters(begin, characters_.size() - begin))) {
+        characters_.resize(begin);
+        markup.AppendText(characters_, true);
+        element.parent = kTextMarkup;
+    }
+    element.textBegin = static_cast<uint32_t>(begin);
+    element.textLength = static_cast<uint32_t>(characters_.size() - begin);
+}
+
+std::wstring_view ElementTree::TextOfMarkup(std::wstring_view markup) const {
+    if (askedTexts_.size() == kMostAskedTexts) GiveUp();
+    auto text = msxml::LoneText(markup);
+    if (!text) GiveUp();
+    return askedTexts_.emplace_back(*std::move(text)).View();
 }
 
 std::optional<NamespaceNumber> ElementTree::NamespaceOf(const Node& node) {

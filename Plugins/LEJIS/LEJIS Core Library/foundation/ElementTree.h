@@ -14,6 +14,8 @@
 
 namespace lejis {
 
+class PlainMarkup;
+
 // An element and the elements in it, taken from MSXML in one walk over its nodes in document order. MSXML makes an
 // object for each node that it is asked for and has its nodes in memory in this order; a query for each field costs
 // sixty times as much.
@@ -21,8 +23,14 @@ class ElementTree {
 public:
     // Raises when elements are nested too deep in the root.
     explicit ElementTree(const msxml::Node& root);
+    // Empty, for what Take fills in.
+    ElementTree();
     ElementTree(const ElementTree&) = delete;
     ElementTree& operator=(const ElementTree&) = delete;
+
+    // Takes the element that the scanner stands in, and all that it holds, in place of what the tree held. Its texts
+    // are those that MSXML gives; one that only MSXML's document knows throws NotPlain when it is asked for.
+    void Take(PlainMarkup& markup);
 
     // Elements are numbered in document order from the root, which is 0. Those in no namespace of Constants are left
     // out, with all that is in them.
@@ -42,15 +50,24 @@ private:
         uint32_t nameLength;
         uint32_t textBegin;
         uint32_t textLength;
-        // Where an element that holds elements stands in parents_; kNone for one that has a text.
+        // Where an element that holds elements stands in parents_, or one of the numbers below.
         uint32_t parent;
     };
+    // It has a text.
     static constexpr uint32_t kNone = UINT32_MAX;
+    // It was scanned and holds elements.
+    static constexpr uint32_t kScannedParent = UINT32_MAX - 1;
+    // It has the markup of a text instead, of which only MSXML knows what it makes.
+    static constexpr uint32_t kTextMarkup = UINT32_MAX - 2;
 
     void Add(const msxml::Node& node, const ElementName& name, int depth);
     // Whether there is an element among the siblings, in whatever namespace.
     bool AddSiblings(msxml::Node first, int depth);
     void SetText(size_t number, std::wstring_view text);
+    void Add(PlainMarkup& markup);
+    bool AddChildren(PlainMarkup& markup);
+    void SetText(size_t number, const PlainMarkup& markup);
+    std::wstring_view TextOfMarkup(std::wstring_view markup) const;
     std::optional<NamespaceNumber> NamespaceOf(const msxml::Node& node);
     std::wstring_view Characters(size_t begin, size_t length) const;
 
@@ -59,8 +76,8 @@ private:
     std::vector<msxml::Node> parents_;
     // Of the element before: mostly that of the next.
     NamespaceNumber lastNamespace_ = 0;
-    // Texts of parents, for those few that are asked for.
-    mutable std::deque<platform::OutText> textsOfParents_;
+    // Texts that MSXML was asked for, of those few elements that need it.
+    mutable std::deque<platform::OutText> askedTexts_;
 };
 
 }  // namespace lejis

@@ -7,9 +7,7 @@
 using platform::Check;
 
 namespace msxml {
-namespace {
 
-// MSXML may trim the text of an element and change white space inside it; then only MSXML knows what it makes of it.
 bool IsTheSameInAnElement(std::wstring_view text) {
     bool blankBefore = true;
     for (const wchar_t character : text) {
@@ -18,8 +16,6 @@ bool IsTheSameInAnElement(std::wstring_view text) {
     }
     return !blankBefore;
 }
-
-}  // namespace
 
 std::optional<platform::OutText> LeafText(const Node& element, const Node& firstChild) {
     if (!firstChild) return platform::OutText();
