@@ -2,6 +2,7 @@
 
 #include "model/LejisVehicleIndexCard.h"
 #include "platform/ComError.h"
+#include "platform/http/Exchange.h"
 #include "platform/msxml/Node.h"
 #include "support/ComCheck.h"
 #include "support/ServiceTexts.h"

@@ -2,6 +2,7 @@
 
 #include "platform/ComError.h"
 #include "support/ComCheck.h"
+#include "support/Printing.h"
 #include "support/Xml.h"
 
 #include <algorithm>
@@ -51,6 +52,7 @@ STDMETHODIMP ScriptedRequest::send(VARIANT body) {
 }
 
 STDMETHODIMP ScriptedRequest::get_status(long* status) {
+    ++sent_.asksForStatus;
     *status = script_.status;
     return S_OK;
 }
@@ -66,6 +68,7 @@ STDMETHODIMP ScriptedRequest::get_responseText(BSTR* text) {
 }
 
 STDMETHODIMP ScriptedRequest::get_responseXML(IDispatch** document) {
+    ++sent_.asksForDocument;
     *document = nullptr;
     if (FAILED(script_.responseXmlResult)) return script_.responseXmlResult;
     if (!script_.hasResponseXml) return S_FALSE;
@@ -95,10 +98,26 @@ STDMETHODIMP ScriptedRequest::abort() {
     return S_OK;
 }
 
+STDMETHODIMP ScriptedRequest::getResponseHeader(BSTR header, BSTR* value) {
+    *value = nullptr;
+    if (header != std::wstring_view(L"Content-Type")) return E_UNEXPECTED;
+    if (script_.contentType.empty()) return S_FALSE;
+    *value = Bstr(script_.contentType).Detach();
+    return S_OK;
+}
+
+STDMETHODIMP ScriptedRequest::get_responseBody(VARIANT* body) {
+    ++sent_.asksForBytes;
+    if (!script_.hasResponseBody) return E_UNEXPECTED;
+    const std::string bytes = script_.responseBody.empty() ? Utf8(script_.responseText) : script_.responseBody;
+    V_ARRAY(body) = SafeArrayCreateVector(VT_UI1, 0, static_cast<ULONG>(bytes.size()));
+    V_VT(body) = VT_ARRAY | VT_UI1;
+    std::copy(bytes.begin(), bytes.end(), static_cast<char*>(V_ARRAY(body)->pvData));
+    return S_OK;
+}
+
 // Nothing in the library asks for these.
-STDMETHODIMP ScriptedRequest::getResponseHeader(BSTR, BSTR*) { return E_UNEXPECTED; }
 STDMETHODIMP ScriptedRequest::getAllResponseHeaders(BSTR*) { return E_UNEXPECTED; }
-STDMETHODIMP ScriptedRequest::get_responseBody(VARIANT*) { return E_UNEXPECTED; }
 STDMETHODIMP ScriptedRequest::get_responseStream(VARIANT*) { return E_UNEXPECTED; }
 
 }  // namespace support

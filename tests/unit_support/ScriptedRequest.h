@@ -28,6 +28,11 @@ struct Script {
     bool hasStatusText = true;
     std::wstring statusText = L"OK";
     std::wstring responseText = {};
+    // Empty: the answer has no such header.
+    std::wstring contentType = L"text/xml; charset=utf-8";
+    // The text in UTF-8 unless there are others; false: the request gives none.
+    bool hasResponseBody = true;
+    std::string responseBody = {};
     // The response document is parsed from the text; false: the request offers no document at all.
     bool hasResponseXml = true;
     HRESULT responseXmlResult = S_OK;
@@ -53,6 +58,10 @@ struct Sent {
     bool bodyIsText = false;
     int sends = 0;
     int aborts = 0;
+    // How often each part of the answer was asked for.
+    int asksForStatus = 0;
+    int asksForDocument = 0;
+    int asksForBytes = 0;
 };
 
 class ScriptedRequest;

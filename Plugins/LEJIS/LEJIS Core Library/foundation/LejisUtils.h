@@ -8,7 +8,7 @@
 #include <string>
 
 namespace platform {
-class HttpRequest;
+class Exchange;
 }
 
 namespace lejis::LejisUtils {
@@ -31,7 +31,7 @@ void SetSelectionNamespaces(const msxml::Document& document);
 bool IsTransientStatus(long status);
 
 // What a failed exchange means to a records clerk.
-std::wstring GetNetworkErrorMessage(const platform::HttpRequest& request);
+std::wstring GetNetworkErrorMessage(const platform::Exchange& exchange);
 
 // Whether the user's flag "DebugLejis" is on. Read anew each time, so that it can be switched while the suite runs.
 bool DebugFlagIsOn();

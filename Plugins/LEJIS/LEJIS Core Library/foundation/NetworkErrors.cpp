@@ -1,6 +1,6 @@
 #include "foundation/LejisUtils.h"
 
-#include "platform/http/HttpRequest.h"
+#include "platform/http/Exchange.h"
 
 #include <algorithm>
 #include <iterator>
@@ -45,12 +45,12 @@ bool IsTransientStatus(long status) {
                                           std::end(kTransientStatuses);
 }
 
-std::wstring GetNetworkErrorMessage(const platform::HttpRequest& request) {
-    const long status = request.Status();
+std::wstring GetNetworkErrorMessage(const platform::Exchange& exchange) {
+    const long status = exchange.Status();
     for (const StatusMessage& row : kMessages) {
         if (row.status == status) return row.message;
     }
-    if (!request.StatusText().empty()) return kUnexpectedError;
+    if (!exchange.StatusText().empty()) return kUnexpectedError;
     return L"The LEJIS server returned HTTP status code " + std::to_wstring(status) + L" (no message text)";
 }
 

@@ -2,6 +2,7 @@
 
 #include "foundation/ElementName.h"
 #include "foundation/ElementReader.h"
+#include "foundation/PlainMarkup.h"
 #include "platform/Conversions.h"
 #include "platform/msxml/Depth.h"
 #include "platform/msxml/Node.h"
@@ -28,6 +29,23 @@ msxml::Node FindAnswer(const msxml::Node& node, int depth = 0) {
         if (msxml::Node found = FindAnswer(child, depth + 1)) return found;
     }
     return nullptr;
+}
+
+// Steps into the answer where it leaves no doubt which one is meant: the first element of the first body.
+void EnterAnswer(PlainMarkup& markup) {
+    if (!markup.Is(L"soap:Envelope")) GiveUp();
+    for (;; markup.Skip()) {
+        if (!markup.NextChild()) GiveUp();
+        if (markup.Is(L"soap:Body")) break;
+    }
+    if (!markup.NextChild() || !markup.Is(L"lejis:LEJISIndexInquiryResponse")) GiveUp();
+}
+
+// What stands after the answer in the body and after the body in the envelope is not read.
+void LeaveAnswer(PlainMarkup& markup) {
+    while (markup.NextChild()) markup.Skip();
+    while (markup.NextChild()) markup.Skip();
+    markup.RequireEnd();
 }
 
 }  // namespace
@@ -58,15 +76,41 @@ void LejisInquiryResponse::Read(const msxml::Element& element) {
     // One after the other: a large answer would be too much to take at once.
     for (msxml::Node child = msxml::FirstChild(element); child; child = msxml::NextSibling(child)) {
         if (IsNamed(child, L"lejis:RMSIncidentIndexCard")) {
-            const auto card = platform::Create<LejisIncidentIndexCard>();
-            card->Read(ElementReader(msxml::AsElement(child)));
-            IncidentIndexCards->AddObject(card->Dispatch());
+            AddCard(ElementReader(msxml::AsElement(child)));
         } else if (!count && IsNamed(child, L"lejis:incidentcount")) {
             msxml::RequireBoundedDepth(child);
             count.emplace(msxml::Text(child));
         }
     }
     IncidentCount = Count(count ? count->View() : std::wstring_view());
+}
+
+void LejisInquiryResponse::AddCard(const ElementReader& element) {
+    const auto card = platform::Create<LejisIncidentIndexCard>();
+    card->Read(element);
+    IncidentIndexCards->AddObject(card->Dispatch());
+}
+
+void LejisInquiryResponse::ReadPlainMarkup(std::string_view bytes) {
+    PlainMarkup markup(bytes);
+    EnterAnswer(markup);
+    IncidentIndexCards = platform::Create<Collection>();
+    // One tree takes one child after the other: their number does not matter.
+    const auto tree = std::make_shared<ElementTree>();
+    std::optional<long> count;
+    while (markup.NextChild()) {
+        if (markup.Is(L"lejis:RMSIncidentIndexCard")) {
+            tree->Take(markup);
+            AddCard(ElementReader(tree));
+        } else if (!count && markup.Is(L"lejis:incidentcount")) {
+            tree->Take(markup);
+            count = Count(tree->TextOf(0));
+        } else {
+            markup.Skip();
+        }
+    }
+    LeaveAnswer(markup);
+    IncidentCount = count.value_or(0);
 }
 
 void LejisInquiryResponse::ReadBelow(const msxml::Node& node) {

@@ -7,6 +7,8 @@
 
 #include <TVLejisCore.h>
 
+#include <string_view>
+
 namespace lejis {
 
 // The answer to a search, from lejis:LEJISIndexInquiryResponse. The server's count and the number of cards are two
@@ -22,8 +24,13 @@ public:
 
     // A card that cannot be read raises; those before it stay, and the count keeps its old value.
     void Read(const msxml::Element& element);
+    // Reads the answer of a SOAP envelope in UTF-8. Throws NotPlain for whatever only MSXML can judge.
+    void ReadPlainMarkup(std::string_view bytes);
     // Reads the first answer at any depth of the node. Raises the object error when there is none.
     void ReadBelow(const msxml::Node& node);
+
+private:
+    void AddCard(const ElementReader& element);
 };
 
 }  // namespace lejis

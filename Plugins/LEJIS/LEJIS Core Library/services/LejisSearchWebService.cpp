@@ -8,11 +8,14 @@
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Markup.h"
 #include "platform/msxml/Node.h"
+#include "services/PlainReading.h"
 #include "services/SchemaUtils.h"
 #include "services/SearchEnvelope.h"
 #include "services/ServiceErrors.h"
 #include "services/SOAPEnvelope.h"
 
+using Microsoft::WRL::ComPtr;
+using platform::Exchange;
 using platform::HttpRequest;
 
 namespace lejis {
@@ -34,6 +37,18 @@ constexpr wchar_t kTooBroad[] =
     L"Try narrowing your search by entering additioanal search criteria. \r\n\r\n"
     L"Some LEJIS searches, such as a property search, require you to enter specific information\r\n"
     L"(for example, property searches require you to specify a property serial number in your search).";
+
+// Null when the request offers no document.
+ComPtr<LejisInquiryResponse> ReadDocument(const Exchange& exchange) {
+    const msxml::Document& answer = exchange.ResponseXml();
+    if (!answer) return nullptr;
+    LejisUtils::SaveDebugDocument(answer, L"LejisSearchResponse.xml");
+    const auto envelope = platform::Create<SOAPEnvelope>();
+    envelope->ReadDocument(answer);
+    auto response = platform::Create<LejisInquiryResponse>();
+    response->ReadBelow(envelope->BodyElement());
+    return response;
+}
 
 }  // namespace
 
@@ -95,34 +110,30 @@ STDMETHODIMP LejisSearchWebService::IRunnable_Run() {
         try {
             // The request and this object hold each other until here.
             request_.ClearReadyStateHandler();
-            RaiseOutcome();
+            RaiseOutcome(request_);
         } catch (...) {
             FireReason(kServiceError, InternalServiceError(platform::CaughtError()));
         }
     });
 }
 
-void LejisSearchWebService::RaiseOutcome() {
-    const long status = request_.Status();
+void LejisSearchWebService::RaiseOutcome(const Exchange& exchange) {
+    const long status = exchange.Status();
     if (status == kOk) {
-        RaiseFound();
+        RaiseFound(exchange);
     } else if (LejisUtils::IsTransientStatus(status)) {
-        FireReason(kNetworkError, LejisUtils::GetNetworkErrorMessage(request_));
+        FireReason(kNetworkError, LejisUtils::GetNetworkErrorMessage(exchange));
     } else if (status == kForbidden) {
-        FireReason(kConfigurationError, request_.StatusText());
+        FireReason(kConfigurationError, exchange.StatusText());
     } else {
-        RaiseServiceError();
+        RaiseServiceError(exchange);
     }
 }
 
-void LejisSearchWebService::RaiseFound() {
-    const msxml::Document answer = request_.ResponseXml();
-    if (!answer) return;
-    LejisUtils::SaveDebugDocument(answer, L"LejisSearchResponse.xml");
-    const auto envelope = platform::Create<SOAPEnvelope>();
-    envelope->ReadDocument(answer);
-    const auto response = platform::Create<LejisInquiryResponse>();
-    response->ReadBelow(envelope->BodyElement());
+void LejisSearchWebService::RaiseFound(const Exchange& exchange) {
+    auto response = TryPlainReading(exchange);
+    if (!response) response = ReadDocument(exchange);
+    if (!response) return;
     if (response->IncidentCount != 0 && response->IncidentIndexCards->Count() == 0) {
         return FireReason(kServiceError, kTooBroad);
     }
@@ -130,8 +141,8 @@ void LejisSearchWebService::RaiseFound() {
     Fire(kSearchCompleted, {_variant_t(results_->Dispatch())});
 }
 
-void LejisSearchWebService::RaiseServiceError() {
-    const msxml::Document answer = request_.ResponseXml();
+void LejisSearchWebService::RaiseServiceError(const Exchange& exchange) {
+    const msxml::Document& answer = exchange.ResponseXml();
     if (!answer) throw platform::ObjectRequired();
     if (msxml::Root(answer)) {
         const auto envelope = platform::Create<SOAPEnvelope>();

@@ -4,6 +4,7 @@
 #include "platform/com/Collection.h"
 #include "platform/com/EventSource.h"
 #include "platform/com/Properties.h"
+#include "platform/http/Exchange.h"
 #include "platform/http/HttpRequest.h"
 
 #include <TVLejisCore.h>
@@ -31,9 +32,9 @@ private:
 
     void Send(const LejisSearchRequest& request);
     void Post(const msxml::Document& envelope);
-    void RaiseOutcome();
-    void RaiseFound();
-    void RaiseServiceError();
+    void RaiseOutcome(const platform::Exchange& exchange);
+    void RaiseFound(const platform::Exchange& exchange);
+    void RaiseServiceError(const platform::Exchange& exchange);
     void FireReason(DISPID event, const std::wstring& reasonMessage);
 
     // That of the search in progress or of the last one.

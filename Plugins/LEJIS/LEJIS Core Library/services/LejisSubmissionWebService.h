@@ -4,6 +4,7 @@
 #include "model/LejisSubmissionDocument.h"
 #include "platform/com/EventSource.h"
 #include "platform/com/Properties.h"
+#include "platform/http/Exchange.h"
 #include "platform/http/HttpRequest.h"
 
 #include <TVLejisCore.h>
@@ -38,8 +39,8 @@ private:
 
     void SendAndJudge(const LejisSubmissionDocument& document);
     void DoSubmit(const LejisSubmissionDocument& document, bool asynchronous);
-    void RaiseOutcome();
-    void RaiseServiceError();
+    void RaiseOutcome(const platform::Exchange& exchange);
+    void RaiseServiceError(const platform::Exchange& exchange);
     void FireReason(DISPID event, const std::wstring& reasonMessage);
 
     // That of the last send, kept until the next one.

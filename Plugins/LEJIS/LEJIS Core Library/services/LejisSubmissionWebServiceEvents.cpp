@@ -42,27 +42,27 @@ STDMETHODIMP LejisSubmissionWebService::IRunnable_Run() {
         try {
             // The request and this object hold each other until here.
             request_.ClearReadyStateHandler();
-            RaiseOutcome();
+            RaiseOutcome(request_);
         } catch (...) {
             FireReason(kServiceError, InternalServiceError(platform::CaughtError()));
         }
     });
 }
 
-void LejisSubmissionWebService::RaiseOutcome() {
-    const long status = request_.Status();
+void LejisSubmissionWebService::RaiseOutcome(const platform::Exchange& exchange) {
+    const long status = exchange.Status();
     if (status == kOk) {
         // The response code is looked at only where somebody waits for it.
         Fire(kSubmissionCompleted);
     } else if (LejisUtils::IsTransientStatus(status)) {
-        FireReason(kNetworkError, LejisUtils::GetNetworkErrorMessage(request_));
+        FireReason(kNetworkError, LejisUtils::GetNetworkErrorMessage(exchange));
     } else {
-        RaiseServiceError();
+        RaiseServiceError(exchange);
     }
 }
 
-void LejisSubmissionWebService::RaiseServiceError() {
-    const msxml::Document response = request_.ResponseXml();
+void LejisSubmissionWebService::RaiseServiceError(const platform::Exchange& exchange) {
+    const msxml::Document& response = exchange.ResponseXml();
     if (!response) return;
     if (!msxml::Root(response)) return FireReason(kServiceError, kUnexpectedResponse);
     LejisUtils::SaveDebugDocument(response, L"LejisSubmitResponse.xml");

@@ -2,7 +2,7 @@
 
 #include "foundation/LejisUtils.h"
 #include "platform/ComError.h"
-#include "platform/http/HttpRequest.h"
+#include "platform/http/Exchange.h"
 #include "platform/http/Wait.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
@@ -32,9 +32,9 @@ platform::HttpRequest Fetch(const std::wstring& url) {
     request.Open(L"GET", url);
     request.Send();
     Await(request);
-    const long status = request.Status();
-    if (LejisUtils::IsTransientStatus(status)) Raise(LejisUtils::GetNetworkErrorMessage(request));
-    if (status != kOk) Raise(request.ResponseText());
+    const platform::Exchange exchange(request);
+    if (LejisUtils::IsTransientStatus(exchange.Status())) Raise(LejisUtils::GetNetworkErrorMessage(exchange));
+    if (exchange.Status() != kOk) Raise(exchange.ResponseText());
     return request;
 }
 

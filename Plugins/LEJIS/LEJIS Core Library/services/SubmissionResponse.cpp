@@ -9,7 +9,7 @@
 #include "services/SubmissionErrors.h"
 
 using platform::ComError;
-using platform::HttpRequest;
+using platform::Exchange;
 
 namespace lejis {
 namespace {
@@ -40,8 +40,8 @@ short ResponseCode(const std::wstring& text) {
     return *code;
 }
 
-void RequireSoap(const HttpRequest& request, long status) {
-    if (IsSoapResponse(request.ResponseXml())) return;
+void RequireSoap(const Exchange& exchange, long status) {
+    if (IsSoapResponse(exchange.ResponseXml())) return;
     throw TransientError(L"The LEJIS core server appears to be partially offline. It returned a " +
                          std::to_wstring(status) + L" HTTP status code but did not return a valid SOAP XML response.");
 }
@@ -70,19 +70,19 @@ void RequireAccepted(const std::wstring& text) {
 
 }  // namespace
 
-void ProcessResponse(const HttpRequest& request) {
+void ProcessResponse(const Exchange& exchange) {
     int step = 1;
     try {
-        const long status = request.Status();
-        if (LejisUtils::IsTransientStatus(status)) throw TransientError(LejisUtils::GetNetworkErrorMessage(request));
+        const long status = exchange.Status();
+        if (LejisUtils::IsTransientStatus(status)) throw TransientError(LejisUtils::GetNetworkErrorMessage(exchange));
         step = 2;
-        if (status == kForbidden) throw FatalError(request.StatusText());
+        if (status == kForbidden) throw FatalError(exchange.StatusText());
         step = 3;
-        RequireSoap(request, status);
+        RequireSoap(exchange, status);
         step = 4;
         const auto envelope = platform::Create<SOAPEnvelope>();
-        LejisUtils::SaveDebugDocument(request.ResponseXml(), L"LejisSubmitResponse.xml");
-        envelope->ReadDocument(request.ResponseXml());
+        LejisUtils::SaveDebugDocument(exchange.ResponseXml(), L"LejisSubmitResponse.xml");
+        envelope->ReadDocument(exchange.ResponseXml());
         step = 5;
         if (status != kOk) RaiseFault(*envelope);
         step = 6;

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "platform/http/HttpRequest.h"
+#include "platform/http/Exchange.h"
 
 namespace lejis {
 
 // Judges the answer to a submission: returns when LEJIS has taken it, and raises one of the two submission errors
 // otherwise.
-void ProcessResponse(const platform::HttpRequest& request);
+void ProcessResponse(const platform::Exchange& exchange);
 
 }  // namespace lejis

@@ -4,6 +4,7 @@
 #include "platform/http/AbandonedRequests.h"
 #include "platform/http/Address.h"
 #include "platform/http/ReadyStateRelay.h"
+#include "platform/InText.h"
 #include "platform/msxml/Document.h"
 #include "platform/Text.h"
 #include "platform/Wine.h"
@@ -143,6 +144,19 @@ std::wstring HttpRequest::StatusText() const {
     BSTR text = nullptr;
     Check(Request().get_statusText(&text));
     return TakeText(text);
+}
+
+std::wstring HttpRequest::ContentType() const {
+    BSTR text = nullptr;
+    if (FAILED(Request().getResponseHeader(InText(L"Content-Type"), &text))) SetErrorInfo(0, nullptr);
+    return TakeText(text);
+}
+
+ResponseBytes HttpRequest::Bytes() const {
+    VARIANT body;
+    VariantInit(&body);
+    if (FAILED(Request().get_responseBody(&body))) SetErrorInfo(0, nullptr);
+    return ResponseBytes(body);
 }
 
 std::wstring HttpRequest::ResponseText() const {

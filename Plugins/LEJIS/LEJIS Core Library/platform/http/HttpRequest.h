@@ -1,6 +1,7 @@
 // One HTTP exchange through MSXML. The only place that knows how implementations of it differ.
 #pragma once
 
+#include "platform/http/ResponseBytes.h"
 #include "platform/msxml/MsXml.h"
 
 #include <functional>
@@ -50,7 +51,11 @@ public:
     long Status() const;
     // May be empty.
     std::wstring StatusText() const;
+    // Empty when there is none.
+    std::wstring ContentType() const;
     std::wstring ResponseText() const;
+    // None when the implementation gives no bytes.
+    ResponseBytes Bytes() const;
     // Null when the implementation offers no document; without a root when the answer is empty or no XML.
     msxml::Document ResponseXml() const;
 
