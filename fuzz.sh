@@ -2,8 +2,8 @@
 # fuzz.sh [x86|x64|all] [--seconds N] [--seed S] [--cases N] [TARGET...]
 # fuzz.sh [x86|x64|all] --replay FILE
 # Builds the fuzzer and lets it look for N seconds in total (60 unless told otherwise) for what breaks the library:
-# crashes, hangs, leaks, overruns, failures without a description. TARGET is readers, values, automation or sequences;
-# all of them unless told otherwise. The seed decides every case. An input that breaks something is saved in
+# crashes, hangs, leaks, overruns, failures without a description. TARGET is readers, values, automation, sequences or
+# answers; all of them unless told otherwise. The seed decides every case. An input that breaks something is saved in
 # build/fuzz-findings; --replay runs it again and tells each step.
 # --cases ends each target after so many cases as well.
 # The exit code is 1 when there was a finding.

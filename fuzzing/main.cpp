@@ -25,7 +25,7 @@ using Factory = std::unique_ptr<Target> (*)();
 
 const std::map<std::string, Factory> kTargets = {
     {"readers", CreateReaders},     {"values", CreateValues},   {"automation", CreateAutomation},
-    {"sequences", CreateSequences}, {"planted", CreatePlanted},
+    {"sequences", CreateSequences}, {"answers", CreateAnswers}, {"planted", CreatePlanted},
 };
 
 constexpr char kUsage[] =

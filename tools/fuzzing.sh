@@ -4,7 +4,7 @@
 
 : "${project:?shell-support.sh comes first}"
 
-readonly fuzz_targets=(readers values automation sequences)
+readonly fuzz_targets=(readers values automation sequences answers)
 # Beside build/x86 and build/x64, where cleaning the one or the other leaves them.
 fuzz_findings=$project/build/fuzz-findings
 

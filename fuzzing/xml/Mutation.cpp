@@ -1,8 +1,10 @@
 #include "xml/Mutation.h"
 
 #include "com/Texts.h"
+#include "foundation/Constants.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Markup.h"
+#include "world/Answers.h"
 #include "world/Documents.h"
 #include "xml/Tree.h"
 
@@ -15,14 +17,34 @@ constexpr size_t kLargest = 2000;
 // Beyond what parsers take, which is some 256.
 constexpr size_t kDeepest = 300;
 
+Tree Parsed(const std::wstring& text) {
+    const msxml::Document document = msxml::CreateDocument();
+    msxml::LoadXml(document, text);
+    return ToTree(document);
+}
+
 const std::vector<Tree>& Trees() {
     static const std::vector<Tree> trees = [] {
         std::vector<Tree> made;
-        for (const std::wstring& text : DocumentTexts()) {
-            const msxml::Document document = msxml::CreateDocument();
-            msxml::LoadXml(document, text);
-            made.push_back(ToTree(document));
-        }
+        for (const std::wstring& text : DocumentTexts()) made.push_back(Parsed(text));
+        return made;
+    }();
+    return trees;
+}
+
+// Not every MSXML tells declarations among the attributes, and an answer without them holds nothing that is read.
+Tree WithDeclarations(Tree root) {
+    std::erase_if(root.attributes, [](const auto& attribute) { return attribute.first.starts_with(L"xmlns"); });
+    for (const auto& prefix : lejis::Constants::kPrefixes) {
+        root.attributes.emplace_back(L"xmlns:" + std::wstring(prefix.name), prefix.uri);
+    }
+    return root;
+}
+
+const std::vector<Tree>& Answers() {
+    static const std::vector<Tree> trees = [] {
+        std::vector<Tree> made;
+        for (const std::wstring& text : AnswerTexts()) made.push_back(WithDeclarations(Parsed(text)));
         return made;
     }();
     return trees;
@@ -191,10 +213,8 @@ const wchar_t* AnyProlog(Case& one) {
     return one.OneIn(6) ? one.Pick(kPrologs) : L"";
 }
 
-}  // namespace
-
-std::wstring AnyXml(Case& one) {
-    Tree tree = one.Pick(Trees());
+std::wstring AnyOf(const std::vector<Tree>& trees, Case& one) {
+    Tree tree = one.Pick(trees);
     for (uint32_t left = one.Below(6); left > 0; --left) {
         Tree changed = tree;
         Mutate(changed, one);
@@ -204,5 +224,11 @@ std::wstring AnyXml(Case& one) {
     for (uint32_t left = one.OneIn(3) ? 1 + one.Below(3) : 0; left > 0; --left) ChangeCharacters(text, one);
     return text;
 }
+
+}  // namespace
+
+std::wstring AnyXml(Case& one) { return AnyOf(Trees(), one); }
+
+std::wstring AnyAnswer(Case& one) { return AnyOf(Answers(), one); }
 
 }  // namespace fuzzing

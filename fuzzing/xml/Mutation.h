@@ -9,5 +9,7 @@ namespace fuzzing {
 
 // One of the documents that were loaded, changed in its structure, then perhaps in its characters.
 std::wstring AnyXml(Case& one);
+// The same of an answer to a search.
+std::wstring AnyAnswer(Case& one);
 
 }  // namespace fuzzing
