@@ -11,11 +11,11 @@ using platform::Check;
 
 namespace benchmarks {
 
-CompletedSearch::CompletedSearch(const msxml::Document& answer)
+CompletedSearch::CompletedSearch(std::string answer)
     : service_(platform::Create<lejis::LejisSearchWebService>()),
       request_(platform::Create<lejis::LejisSearchRequest>()),
       counter_(platform::Create<EventCounter>()),
-      answer_(answer) {
+      answer_(std::make_shared<const std::string>(std::move(answer))) {
     Check(service_->FindConnectionPoint(__uuidof(_LejisSearchWebServiceEvents), events_.GetAddressOf()));
     Check(events_->Advise(counter_.Get(), &cookie_));
     service_->URL = L"http://lejis-interface/search";

@@ -1,7 +1,9 @@
 #pragma once
 
-#include "platform/msxml/MsXml.h"
 #include "services/LejisSearchWebService.h"
+
+#include <memory>
+#include <string>
 
 namespace benchmarks {
 
@@ -10,7 +12,7 @@ class EventCounter;
 // A search whose request is complete as soon as it is sent.
 class CompletedSearch {
 public:
-    explicit CompletedSearch(const msxml::Document& answer);
+    explicit CompletedSearch(std::string answer);
     ~CompletedSearch();
     CompletedSearch(const CompletedSearch&) = delete;
     CompletedSearch& operator=(const CompletedSearch&) = delete;
@@ -24,7 +26,7 @@ private:
     platform::Ref<lejis::LejisSearchRequest> request_;
     Microsoft::WRL::ComPtr<EventCounter> counter_;
     Microsoft::WRL::ComPtr<IConnectionPoint> events_;
-    msxml::Document answer_;
+    const std::shared_ptr<const std::string> answer_;
     DWORD cookie_ = 0;
 };
 

@@ -13,4 +13,9 @@ Figure Ratio(const Series& work, const Series& floor, std::optional<double> targ
     return {work.name, floor.name, Median(work.rounds), Median(floor.rounds), Median(ratios), lowest, highest, target};
 }
 
+Figure PerIncident(const Series& larger, const Series& thousand, double thousands) {
+    constexpr double kNoStepWorseThanLinear = 1.15;
+    return Ratio(larger, thousand, kNoStepWorseThanLinear, thousands);
+}
+
 }  // namespace benchmarks

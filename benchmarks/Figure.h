@@ -28,4 +28,7 @@ struct Figure {
 // `times` is how often the floor counts: twenty, where the work is to be compared with twenty runs of it.
 Figure Ratio(const Series& work, const Series& floor, std::optional<double> target, double times = 1);
 
+// So many thousand incidents, with the target that no step is worse than linear.
+Figure PerIncident(const Series& larger, const Series& thousand, double thousands);
+
 }  // namespace benchmarks

@@ -1,7 +1,7 @@
 #include "FirstObjectProcess.h"
 
-#include "platform/com/Module.h"
 #include "platform/ComError.h"
+#include "SelfProcess.h"
 
 #include <objbase.h>
 #include <windows.h>
@@ -41,20 +41,9 @@ std::optional<int> FirstObjectCode(int count, char** texts) {
 }
 
 double FirstObjectMicroseconds(const std::wstring& progId) {
-    std::wstring command =
-        L"\"" + platform::module::Path() + L"\" " + std::wstring(kOption.begin(), kOption.end()) + L" " + progId;
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process{};
-    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process)) {
-        throw std::runtime_error("cannot start a process");
-    }
-    WaitForSingleObject(process.hProcess, INFINITE);
-    DWORD code = 0;
-    GetExitCodeProcess(process.hProcess, &code);
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
-    if (static_cast<int>(code) == kFailed) throw std::runtime_error("an object could not be created");
+    const std::wstring option(kOption.begin(), kOption.end());
+    const int code = ExitCodeOfSelf(option + L" " + progId);
+    if (code == kFailed) throw std::runtime_error("an object could not be created");
     return code;
 }
 

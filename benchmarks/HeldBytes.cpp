@@ -1,35 +1,17 @@
 // What incidents read into cards hold of memory when the document is gone.
 #include "CardWalk.h"
+#include "Heaps.h"
 #include "inquiry/LejisInquiryResponse.h"
 #include "LargeAnswer.h"
 #include "Sections.h"
 
-#include <malloc.h>
 #include <oleauto.h>
-
-#include <stdexcept>
 
 using Microsoft::WRL::ComPtr;
 using platform::Check;
 
 namespace benchmarks {
 namespace {
-
-// The bytes that the process's heaps have given out, the heaps' own overhead included.
-double BytesOnHeaps() {
-    HANDLE heaps[64];
-    const DWORD count = GetProcessHeaps(ARRAYSIZE(heaps), heaps);
-    if (count == 0 || count > ARRAYSIZE(heaps)) throw std::runtime_error("cannot list the process's heaps");
-    double bytes = 0;
-    for (DWORD index = 0; index < count; ++index) {
-        HeapLock(heaps[index]);
-        for (PROCESS_HEAP_ENTRY entry{}; HeapWalk(heaps[index], &entry);) {
-            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) bytes += static_cast<double>(entry.cbData + entry.cbOverhead);
-        }
-        HeapUnlock(heaps[index]);
-    }
-    return bytes;
-}
 
 double BytesOfTexts(ICollection* cards) {
     double bytes = 0;

@@ -3,6 +3,7 @@
 #include "foundation/Constants.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
+#include "platform/Text.h"
 #include "TypicalIncident.h"
 
 #include <regex>
@@ -24,20 +25,34 @@ std::wstring Compact(const std::wstring& text) {
     return std::regex_replace(text, added, L"");
 }
 
+std::string Ascii(const std::wstring& text) {
+    std::string ascii;
+    for (const wchar_t character : text) ascii += static_cast<char>(character);
+    return ascii;
+}
+
 }  // namespace
 
-std::wstring LargeAnswer(int incidents) {
+std::string LargeAnswer(int incidents) {
     const msxml::Document document = msxml::CreateDocument();
-    const std::wstring card = Compact(msxml::Xml(TypicalIncident()->Write(document)));
-    std::wstring text = L"<soap:Envelope" + Declarations() + L"><soap:Body><lejis:LEJISIndexInquiryResponse>";
+    const std::string card = Ascii(Compact(msxml::Xml(TypicalIncident()->Write(document))));
+    const std::string begin =
+        Ascii(L"<soap:Envelope" + Declarations() + L"><soap:Body><lejis:LEJISIndexInquiryResponse>");
+    const std::string end = "<lejis:incidentcount>" + std::to_string(incidents) +
+                            "</lejis:incidentcount></lejis:LEJISIndexInquiryResponse></soap:Body></soap:Envelope>";
+    std::string text;
+    // At once: what memory an answer takes is measured.
+    text.reserve(begin.size() + card.size() * static_cast<size_t>(incidents) + end.size());
+    text += begin;
     for (int incident = 0; incident < incidents; ++incident) text += card;
-    return text + L"<lejis:incidentcount>" + std::to_wstring(incidents) +
-           L"</lejis:incidentcount></lejis:LEJISIndexInquiryResponse></soap:Body></soap:Envelope>";
+    return text += end;
 }
+
+std::wstring LargeAnswerText(int incidents) { return platform::FromUtf8(LargeAnswer(incidents)); }
 
 msxml::Document LoadedAnswer(int incidents) {
     const msxml::Document document = msxml::CreateDocument();
-    msxml::LoadXml(document, LargeAnswer(incidents));
+    msxml::LoadXml(document, LargeAnswerText(incidents));
     return document;
 }
 

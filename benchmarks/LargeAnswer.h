@@ -6,8 +6,9 @@
 
 namespace benchmarks {
 
-// An answer to a search with this many typical incidents, as a server sends it.
-std::wstring LargeAnswer(int incidents);
+// An answer to a search with this many typical incidents, as a server sends it, and the same as text.
+std::string LargeAnswer(int incidents);
+std::wstring LargeAnswerText(int incidents);
 msxml::Document LoadedAnswer(int incidents);
 
 }  // namespace benchmarks

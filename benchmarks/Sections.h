@@ -9,6 +9,9 @@ namespace benchmarks {
 
 std::vector<Figure> Reading();
 std::vector<Figure> ReadingMore();
+std::vector<Figure> Completing();
+std::vector<Figure> CompletingMore();
+std::vector<Figure> PeakMemory();
 std::vector<Figure> WalkingCards();
 std::vector<Figure> HeldBytes();
 std::vector<Figure> Submission();

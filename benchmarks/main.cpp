@@ -2,6 +2,7 @@
 // Prints what the library's work costs, as ratios to what the platform needs for the same in the same run, with the
 // targets. The exit code is 1 when a target is missed.
 #include "FirstObjectProcess.h"
+#include "PeakMemoryProcess.h"
 #include "Report.h"
 #include "Sections.h"
 
@@ -23,9 +24,12 @@ struct Section {
 };
 
 constexpr Section kSections[] = {
-    {"reading", Reading},        {"reading-more", ReadingMore}, {"walking", WalkingCards},
-    {"held-bytes", HeldBytes},   {"submission", Submission},    {"many-persons", ManyPersons},
-    {"ncic-lookup", NcicLookup}, {"waiting", Waiting},          {"first-object", FirstObject},
+    {"reading", Reading},          {"reading-more", ReadingMore},
+    {"completing", Completing},    {"completing-more", CompletingMore},
+    {"peak-memory", PeakMemory},   {"walking", WalkingCards},
+    {"held-bytes", HeldBytes},     {"submission", Submission},
+    {"many-persons", ManyPersons}, {"ncic-lookup", NcicLookup},
+    {"waiting", Waiting},          {"first-object", FirstObject},
 };
 
 struct Arguments {
@@ -77,6 +81,7 @@ int Run(const Arguments& arguments) {
 int main(int count, char** texts) {
     if (FAILED(OleInitialize(nullptr))) return EXIT_FAILURE;
     if (const auto code = benchmarks::FirstObjectCode(count, texts)) return *code;
+    if (const auto code = benchmarks::PeakMemoryCode(count, texts)) return *code;
     int code = EXIT_FAILURE;
     try {
         code = benchmarks::Run(benchmarks::Read(count, texts));
