@@ -9,8 +9,8 @@ SECONDS = 5
 
 
 class Targets(unittest.TestCase):
-    def look(self, target: str, least: int) -> None:
-        found = run("--target", target, "--seconds", str(SECONDS), "--seed", "1")
+    def look(self, target: str, least: int, seconds: int = SECONDS) -> None:
+        found = run("--target", target, "--seconds", str(seconds), "--seed", "1")
         self.assertEqual(NOTHING_FOUND, found.code, found.output)
         # Far fewer than any machine manages; a target that did nothing would find nothing.
         self.assertGreater(found.cases, least, found.output)
@@ -26,6 +26,10 @@ class Targets(unittest.TestCase):
 
     def test_sequences(self) -> None:
         self.look("sequences", 100)
+
+    def test_answers(self) -> None:
+        # With both bitnesses a minute.
+        self.look("answers", 300, seconds=30)
 
 
 if __name__ == "__main__":
