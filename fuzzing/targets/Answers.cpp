@@ -81,7 +81,7 @@ constexpr long kStatuses[] = {202, 403, 500, 502};
 
 void ChangeBytes(std::string& bytes, Case& one) {
     const size_t at = one.Below(bytes.size() + 1);
-    switch (one.Below(4)) {
+    switch (one.Below(5)) {
         case 0:
             bytes.insert(at, one.Pick(kPieces));
             break;
@@ -90,6 +90,10 @@ void ChangeBytes(std::string& bytes, Case& one) {
             break;
         case 2:
             if (at < bytes.size()) bytes[at] = static_cast<char>(one.Bits());
+            break;
+        case 3:
+            // Where attributes stand.
+            bytes.insert(std::min(bytes.find('>', at), bytes.size()), one.Pick(kPieces));
             break;
         default:
             // Beside a tag, where most pieces mean something.
