@@ -2,9 +2,7 @@
 
 #include "com/Texts.h"
 #include "platform/ComError.h"
-#include "platform/host/MessagePump.h"
-#include "platform/host/SuiteEnvironment.h"
-#include "platform/host/SuiteServices.h"
+#include "platform/host/SuiteHost.h"
 #include "platform/http/AbandonedRequests.h"
 #include "platform/Registry.h"
 #include "world/Creation.h"

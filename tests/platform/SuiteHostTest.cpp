@@ -1,7 +1,6 @@
 // The host suite's components where they are registered, and what stands in for them where they are not.
 #include "foundation/LejisUtils.h"
-#include "platform/host/MessagePump.h"
-#include "platform/host/SuiteServices.h"
+#include "platform/host/SuiteHost.h"
 #include "platform/thread/ThreadState.h"
 #include "support/Messages.h"
 #include "unit_support/Raises.h"

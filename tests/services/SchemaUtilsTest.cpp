@@ -1,7 +1,7 @@
 // Validation against a scripted WSDL whose schema is a file beside the test.
 #include "services/SchemaUtils.h"
 
-#include "platform/host/MessagePump.h"
+#include "platform/host/SuiteHost.h"
 #include "platform/msxml/Document.h"
 #include "support/DeepXml.h"
 #include "support/Printing.h"

@@ -1,4 +1,4 @@
-#include "platform/host/StartSuiteTimer.h"
+#include "platform/host/SuiteTimer.h"
 
 #include "support/Messages.h"
 #include "support/OwnTimer.h"

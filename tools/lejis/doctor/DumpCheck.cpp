@@ -4,7 +4,7 @@
 #include "foundation/LejisUtils.h"
 #include "library/DllFile.h"
 #include "platform/ComError.h"
-#include "platform/host/SuiteEnvironment.h"
+#include "platform/host/SuiteHost.h"
 
 namespace lejis_client {
 namespace {

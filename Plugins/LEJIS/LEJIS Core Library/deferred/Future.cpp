@@ -1,7 +1,7 @@
 #include "deferred/Future.h"
 
 #include "deferred/RunnableCheck.h"
-#include "platform/host/StartSuiteTimer.h"
+#include "platform/host/SuiteTimer.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 #include "deferred/FutureManager.h"
 
 #include "deferred/RunnableCheck.h"
-#include "platform/host/SuiteServices.h"
+#include "platform/host/SuiteHost.h"
 
 #include <cstdint>
 

@@ -1,6 +1,6 @@
 #include "deferred/RunnableCheck.h"
 
-#include "platform/host/SuiteServices.h"
+#include "platform/host/SuiteHost.h"
 
 namespace lejis {
 

@@ -1,6 +1,6 @@
 #include "foundation/LejisUtils.h"
 
-#include "platform/host/SuiteEnvironment.h"
+#include "platform/host/SuiteHost.h"
 #include "platform/msxml/Document.h"
 #include "platform/Registry.h"
 

@@ -1,7 +1,7 @@
 #include "foundation/HolderErrors.h"
 
 #include "platform/Conversions.h"
-#include "platform/host/SuiteServices.h"
+#include "platform/host/SuiteHost.h"
 
 namespace lejis {
 

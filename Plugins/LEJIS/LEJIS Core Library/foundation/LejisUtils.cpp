@@ -2,7 +2,7 @@
 
 #include "foundation/Constants.h"
 #include "platform/ComError.h"
-#include "platform/host/SuiteServices.h"
+#include "platform/host/SuiteHost.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
 #include "platform/Text.h"

@@ -2,7 +2,7 @@
 
 #include "harness/SearchConnection.h"
 #include "harness/SearchOutcome.h"
-#include "platform/host/SuiteServices.h"
+#include "platform/host/SuiteHost.h"
 #include "platform/Text.h"
 
 #include <wrl/client.h>

@@ -1,11 +1,13 @@
 #include "platform/host/ElapsedEvent.h"
 
+#include "platform/com/Guard.h"
 #include "platform/com/TypeInformation.h"
 #include "platform/ComError.h"
 
 #include <ModuleInterfaces.h>
 
 #include <optional>
+#include <utility>
 
 using Microsoft::WRL::ComPtr;
 
@@ -15,7 +17,7 @@ namespace {
 // The number of Elapsed in the suite's own event interface.
 constexpr DISPID kSuitesElapsed = 1;
 
-// A source of events that is called by its table as well cannot be heard by a sink without one.
+// A dual events interface is called by its table too, and a sink here has no such table.
 bool IsHeardByNumber(const TYPEATTR& type) {
     return type.typekind == TKIND_DISPATCH && !(type.wTypeFlags & TYPEFLAG_FDUAL);
 }
@@ -50,7 +52,7 @@ public:
     }
 
 private:
-    // Null when the timer tells nothing of its class.
+    // Null when the timer does not describe its class.
     ComPtr<ITypeInfo> ClassInformation() const {
         ComPtr<IProvideClassInfo> provider;
         ComPtr<ITypeInfo> information;
@@ -102,5 +104,16 @@ ElapsedEvent FindElapsedEvent(IDispatch* timer) {
     if (auto found = search.InAnyPoint()) return *found;
     throw LastError(CONNECT_E_NOCONNECTION);
 }
+
+TimerSink::TimerSink(REFIID source, DISPID event, std::function<void()> elapsed)
+    : source_(source), event_(event), elapsed_(std::move(elapsed)) {}
+
+STDMETHODIMP TimerSink::Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) {
+    if (event != event_ || !elapsed_) return S_OK;
+    // This is a copy, because the work may end this sink.
+    return Guard(GUID_NULL, [elapsed = elapsed_] { elapsed(); });
+}
+
+void* TimerSink::Find(REFIID iid) { return iid == source_ ? static_cast<IDispatch*>(this) : UnknownObject::Find(iid); }
 
 }  // namespace platform::host

@@ -1,6 +1,6 @@
 #include "platform/http/Wait.h"
 
-#include "platform/host/SuiteServices.h"
+#include "platform/host/SuiteHost.h"
 
 namespace platform {
 

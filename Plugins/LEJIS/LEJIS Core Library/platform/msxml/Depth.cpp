@@ -1,6 +1,6 @@
 #include "platform/msxml/Depth.h"
 
-#include "platform/host/SuiteServices.h"
+#include "platform/host/SuiteHost.h"
 #include "platform/InText.h"
 #include "platform/msxml/Node.h"
 

@@ -1,7 +1,7 @@
 #include "platform/msxml/Document.h"
 
 #include "platform/ComError.h"
-#include "platform/host/SuiteServices.h"
+#include "platform/host/SuiteHost.h"
 #include "platform/InText.h"
 #include "platform/msxml/Depth.h"
 #include "platform/msxml/DocumentClass.h"
