@@ -5,7 +5,7 @@
 #include "foundation/Constants.h"
 #include "platform/com/Inside.h"
 #include "platform/Conversions.h"
-#include "platform/http/Wait.h"
+#include "platform/http/HttpRequest.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Markup.h"
 #include "platform/msxml/Node.h"

@@ -3,7 +3,7 @@
 #include "foundation/LejisUtils.h"
 #include "platform/ComError.h"
 #include "platform/http/Exchange.h"
-#include "platform/http/Wait.h"
+#include "platform/http/HttpRequest.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
 #include "platform/msxml/ParseError.h"

@@ -24,7 +24,7 @@ public:
         request->AddRef();
     }
 
-    // Those that have become complete; the others stay, whatever ends.
+    // Releases the complete requests. The others stay, whatever ends.
     void Release() noexcept override {
         for (auto complete = FirstComplete(); complete != requests_.end(); complete = FirstComplete()) {
             IXMLHTTPRequest* const request = *complete;
@@ -36,7 +36,7 @@ public:
 private:
     std::vector<IXMLHTTPRequest*>::iterator FirstComplete() { return std::ranges::find_if(requests_, IsComplete); }
 
-    // Released by Release alone: a ComPtr would call COM when the thread ends.
+    // Release alone releases them: a ComPtr would call COM when the thread ends.
     std::vector<IXMLHTTPRequest*> requests_;
 };
 

@@ -12,7 +12,7 @@ using View = std::wstring_view;
 
 constexpr wchar_t kSpace = L' ';
 
-// White space and control characters around an address are no part of it: MSXML drops them.
+// White space and control characters around an address do not belong to it: MSXML drops them.
 View WithoutWhiteSpaceAround(View url) {
     const auto isKept = [](wchar_t character) { return character > kSpace; };
     const auto first = std::find_if(url.begin(), url.end(), isKept);
@@ -20,7 +20,7 @@ View WithoutWhiteSpaceAround(View url) {
     return first < last ? View(first, last) : View();
 }
 
-// What stands between the scheme and the path; none for another scheme.
+// The part between the scheme and the path; nothing for any scheme but http and https.
 std::optional<View> Authority(View url) {
     for (const View scheme : {View(L"http://"), View(L"https://")}) {
         if (!EqualIgnoringCase(url.substr(0, scheme.size()), scheme)) continue;
@@ -36,7 +36,7 @@ bool IsHost(View host) {
     });
 }
 
-// With the colon before it, or nothing at all.
+// Takes the port with the colon before it, or an empty text for no port.
 bool IsPort(View port) {
     if (port.empty()) return true;
     constexpr int kHighest = 65535;

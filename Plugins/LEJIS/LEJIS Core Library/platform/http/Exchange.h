@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/http/HttpRequest.h"
-#include "platform/http/ResponseBytes.h"
 #include "platform/msxml/MsXml.h"
 
 #include <optional>

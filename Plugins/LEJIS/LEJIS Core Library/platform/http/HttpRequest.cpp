@@ -1,18 +1,22 @@
 #include "platform/http/HttpRequest.h"
 
+#include "platform/com/EventSink.h"
 #include "platform/ComError.h"
+#include "platform/host/SuiteHost.h"
 #include "platform/http/AbandonedRequests.h"
 #include "platform/http/Address.h"
-#include "platform/http/ReadyStateRelay.h"
 #include "platform/InText.h"
 #include "platform/msxml/Document.h"
 #include "platform/Text.h"
 #include "platform/Wine.h"
 
 #include <comutil.h>
+#include <oaidl.h>
+#include <wrl/client.h>
 
 #include <algorithm>
 #include <iterator>
+#include <memory>
 #include <utility>
 
 using Microsoft::WRL::ComPtr;
@@ -20,7 +24,31 @@ using Microsoft::WRL::ComPtr;
 namespace platform {
 namespace {
 
-// What `open` and `send` report for an address that they do not take.
+// The handler of ready states that MSXML gets. It passes each call on to the client's handler, until that is taken
+// away. So a request that never releases its handler does no harm, and neither does one that calls it in a way of its
+// own.
+class ReadyStateRelay final : public EventSink<> {
+public:
+    explicit ReadyStateRelay(std::shared_ptr<ComPtr<IDispatch>> handler) : handler_(std::move(handler)) {}
+    // The handler lives no longer than the request that calls it.
+    ~ReadyStateRelay() override { handler_->Reset(); }
+
+    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override;
+
+private:
+    const std::shared_ptr<ComPtr<IDispatch>> handler_;
+};
+
+// The arguments do not matter: a request tells only that its state has changed.
+STDMETHODIMP ReadyStateRelay::Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) {
+    const ComPtr<IDispatch> handler = *handler_;
+    if (!handler) return S_OK;
+    DISPPARAMS none{};
+    return handler->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &none, nullptr, nullptr,
+                           nullptr);
+}
+
+// What `open` and `send` report for an address that they refuse.
 constexpr HRESULT kAddressRefused[] = {kInvalidUrl, static_cast<HRESULT>(0x800C0002), static_cast<HRESULT>(0x800C000D)};
 
 // What Wine's `send` reports for a server that cannot be reached, and for an address without a host.
@@ -55,7 +83,7 @@ HRESULT NumberOfSend(HRESULT result) {
 
 _variant_t Missing() { return _variant_t(DISP_E_PARAMNOTFOUND, VT_ERROR); }
 
-// Raises the failure `result` under the number `number`.
+// Throws the failure `result` under the number `number`.
 void CheckAs(HRESULT result, HRESULT number) {
     if (SUCCEEDED(result)) return;
     const ComError error = LastError(result);
@@ -63,6 +91,18 @@ void CheckAs(HRESULT result, HRESULT number) {
 }
 
 }  // namespace
+
+ResponseBytes::ResponseBytes(VARIANT& body) : body_(body, false) {
+    void* data = nullptr;
+    if (V_VT(&body_) != (VT_ARRAY | VT_UI1)) return;
+    SAFEARRAY* const array = V_ARRAY(&body_);
+    if (SafeArrayGetDim(array) != 1 || FAILED(SafeArrayAccessData(array, &data))) return;
+    bytes_ = {static_cast<const char*>(data), array->rgsabound[0].cElements};
+}
+
+ResponseBytes::~ResponseBytes() {
+    if (*this) SafeArrayUnaccessData(V_ARRAY(&body_));
+}
 
 void SetHttpRequestFactory(HttpRequestFactory factory) { Factory() = std::move(factory); }
 
@@ -87,7 +127,7 @@ void HttpRequest::SetReadyStateHandler(IDispatch* handler) {
 
 void HttpRequest::ClearReadyStateHandler() noexcept {
     if (!request_ || !*handler_) return;
-    // The relay lets go of the handler whether or not the request lets go of the relay.
+    // The relay releases the handler whether or not the request releases the relay.
     const ComPtr<IDispatch> handler = std::exchange(*handler_, nullptr);
     if (FAILED(request_->put_onreadystatechange(nullptr))) SetErrorInfo(0, nullptr);
 }
@@ -120,7 +160,7 @@ void HttpRequest::SetHeader(const wchar_t* name, const std::wstring& value) {
 
 void HttpRequest::Send() { SendBody(_variant_t()); }
 
-// By value: a text by reference is sent as an empty body by some implementations.
+// The text goes by value: some implementations send a text by reference as an empty body.
 void HttpRequest::Send(const std::wstring& body) { SendBody(_variant_t(ToBstr(body))); }
 
 void HttpRequest::SendBody(const VARIANT& body) {
@@ -169,11 +209,15 @@ msxml::Document HttpRequest::ResponseXml() const {
     ComPtr<IDispatch> response;
     msxml::Document document;
     const HRESULT result = Request().get_responseXML(response.GetAddressOf());
-    // Windows gives the document that this one becomes.
+    // Windows gives an empty document in this case.
     if (result == E_FAIL && wine::FailsForUnknownEncodings()) return msxml::CreateDocument();
     Check(result);
     if (response) response.As(&document);
     return document;
+}
+
+void WaitUntilComplete(const HttpRequest& request) {
+    while (request.ReadyState() != HttpRequest::kComplete) host::YieldToHost();
 }
 
 }  // namespace platform
