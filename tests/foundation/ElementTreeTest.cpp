@@ -1,6 +1,5 @@
 #include "foundation/ElementTree.h"
 
-#include "platform/msxml/Depth.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
 #include "support/DeepXml.h"

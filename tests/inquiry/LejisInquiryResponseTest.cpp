@@ -1,7 +1,6 @@
 #include "inquiry/LejisInquiryResponse.h"
 
 #include "foundation/Constants.h"
-#include "platform/msxml/Depth.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
 #include "support/ComCheck.h"

@@ -15,7 +15,7 @@
 #include "platform/com/Living.h"
 #include "platform/com/Module.h"
 #include "platform/com/Registration.h"
-#include "platform/msxml/DocumentClass.h"
+#include "platform/msxml/Document.h"
 #include "platform/thread/ThreadState.h"
 #include "services/LejisSearchWebService.h"
 #include "services/LejisSubmissionWebService.h"

@@ -5,7 +5,6 @@
 #include "platform/com/UnknownObject.h"
 #include "platform/ComError.h"
 #include "platform/msxml/Node.h"
-#include "platform/msxml/ParseError.h"
 #include "support/ComCheck.h"
 #include "support/Printing.h"
 #include "support/Xml.h"

@@ -2,7 +2,7 @@
 
 #include "platform/com/UnknownObject.h"
 #include "platform/ComError.h"
-#include "platform/msxml/DocumentClass.h"
+#include "platform/msxml/Document.h"
 #include "support/ComCheck.h"
 #include "support/Printing.h"
 #include "unit_support/PlayedWindows.h"

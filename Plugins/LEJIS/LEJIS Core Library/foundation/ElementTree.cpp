@@ -3,9 +3,7 @@
 #include "foundation/PlainCharacters.h"
 #include "foundation/PlainMarkup.h"
 #include "platform/ComError.h"
-#include "platform/msxml/Depth.h"
-#include "platform/msxml/LeafText.h"
-#include "platform/msxml/LoneText.h"
+#include "platform/msxml/ElementText.h"
 #include "platform/msxml/Node.h"
 
 #include <utility>

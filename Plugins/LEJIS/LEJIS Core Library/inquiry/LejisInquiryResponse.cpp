@@ -4,7 +4,6 @@
 #include "foundation/ElementReader.h"
 #include "foundation/PlainMarkup.h"
 #include "platform/Conversions.h"
-#include "platform/msxml/Depth.h"
 #include "platform/msxml/Node.h"
 
 namespace lejis {

@@ -2,7 +2,6 @@
 
 #include "foundation/ElementWriter.h"
 #include "foundation/LejisUtils.h"
-#include "platform/msxml/Depth.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Markup.h"
 #include "platform/msxml/Node.h"

@@ -6,7 +6,6 @@
 #include "platform/http/HttpRequest.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
-#include "platform/msxml/ParseError.h"
 #include "platform/msxml/SchemaCache.h"
 #include "platform/Text.h"
 

@@ -3,7 +3,6 @@
 #include "platform/com/WrittenBytes.h"
 #include "platform/ComError.h"
 #include "platform/InText.h"
-#include "platform/msxml/Depth.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
 #include "platform/Text.h"
@@ -23,14 +22,14 @@ bool IsOfAnotherApartment(const Node& node) {
     return SUCCEEDED(node->QueryInterface(IID_PPV_ARGS(proxy.GetAddressOf())));
 }
 
-// A new, empty document that takes the element in: a node joins no document of another apartment.
+// A new, empty document that can take the element: a node cannot join a document of another apartment.
 Document DocumentBeside(const Element& element) {
     if (!IsOfAnotherApartment(element)) return CreateDocument();
     Node copy;
     Check(OwnerDocument(element)->cloneNode(VARIANT_FALSE, copy.GetAddressOf()));
     Document document;
     Check(copy.As(&document));
-    // Not every MSXML leaves the root out of such a copy. Text that does not parse empties the document.
+    // Not every MSXML leaves the root out of such a copy. A text that does not parse empties the document.
     VARIANT_BOOL loaded = VARIANT_FALSE;
     Check(document->loadXML(InText(L""), &loaded));
     return document;
@@ -40,7 +39,7 @@ Document DocumentBeside(const Element& element) {
 
 std::wstring Markup(const Element& element) {
     RequireBoundedDepth(element);
-    // Not every MSXML writes the ancestors' declarations with a subtree; the root of a document has none to miss.
+    // Not every MSXML writes the ancestors' declarations with a subtree; the root of a document has no ancestors.
     const Document alone = DocumentBeside(element);
     Append(alone, Copy(element));
     return Xml(Root(alone));
@@ -49,7 +48,7 @@ std::wstring Markup(const Element& element) {
 std::wstring Markup(const Document& document) {
     const auto bytes = platform::Create<platform::WrittenBytes>();
     const HRESULT saved = document->save(_variant_t(static_cast<IUnknown*>(bytes.Get())));
-    // A text that was cut off within a character has no UTF-8; it is sent nevertheless.
+    // A text that was cut off within a character has no form in UTF-8; it is sent nevertheless.
     if (FAILED(saved)) return Xml(document);
     constexpr wchar_t kByteOrderMark = L'\xFEFF';
     std::wstring markup = platform::FromUtf8(bytes->All());

@@ -7,11 +7,11 @@
 
 namespace msxml {
 
-// The element as XML text that stands alone: with the declarations that it has from its ancestors.
+// The element as XML text that stands alone, with the declarations that it has from its ancestors.
 std::wstring Markup(const Element& element);
 
-// What a document of this library's own says when it is sent: its xml, without an XML declaration and in a time that
-// grows no faster than the document. An MSXML may write characters as references.
+// A document of this library's own as it is sent: its xml, without an XML declaration, in a time that grows no faster
+// than the document. An MSXML may write characters as references.
 std::wstring Markup(const Document& document);
 
 }  // namespace msxml

@@ -1,10 +1,14 @@
 #include "platform/msxml/Node.h"
 
 #include "platform/ComError.h"
+#include "platform/host/SuiteHost.h"
 #include "platform/InText.h"
 #include "platform/Text.h"
 
 #include <comutil.h>
+
+#include <string>
+#include <vector>
 
 using Microsoft::WRL::ComPtr;
 using platform::Check;
@@ -34,6 +38,44 @@ ComPtr<Interface> As(const Node& node) {
     return object;
 }
 
+// The path of the elements that are too deep. MSXML finds them level by level, so its stack does not grow with the
+// tree. A walk from here would take many times as long.
+std::wstring TooDeep() {
+    std::wstring path = L".";
+    for (int level = 0; level < kMaximumDepth; ++level) path += L"/*";
+    return path;
+}
+
+// The node or the first element after it; null when there is no element.
+Node ElementFrom(Node node) {
+    while (node && TypeOf(node) != NODE_ELEMENT) node = NextSibling(node);
+    return node;
+}
+
+// Finds the same by a walk that does not call itself, so the thread's stack does not grow with the tree either.
+bool IsTooDeepByWalk(const Node& node) {
+    std::vector<Node> way = {ElementFrom(FirstChild(node))};
+    while (!way.empty()) {
+        if (way.size() == kMaximumDepth && way.back()) return true;
+        if (way.back()) {
+            way.push_back(ElementFrom(FirstChild(way.back())));
+        } else {
+            way.pop_back();
+            if (!way.empty()) way.back() = ElementFrom(NextSibling(way.back()));
+        }
+    }
+    return false;
+}
+
+bool IsTooDeep(const Node& node) {
+    static const std::wstring tooDeep = TooDeep();
+    Node found;
+    if (SUCCEEDED(node->selectSingleNode(platform::InText(tooDeep), found.GetAddressOf()))) return found != nullptr;
+    // An MSXML may refuse a path of so many steps.
+    SetErrorInfo(0, nullptr);
+    return IsTooDeepByWalk(node);
+}
+
 }  // namespace
 
 Element CreateElement(const Document& document, std::wstring_view qualifiedName, std::wstring_view namespaceUri) {
@@ -44,7 +86,7 @@ void SetAttribute(const Document& document, const Element& element, std::wstring
                   std::wstring_view namespaceUri, std::wstring_view value) {
     const Node attribute = CreateNode(document, NODE_ATTRIBUTE, qualifiedName, namespaceUri);
     Check(attribute->put_text(InText(value)));
-    // A proxy, which a document of another apartment has, takes no null for a result; the same in Append.
+    // A document of another apartment is a proxy, which takes no null for a result; the same holds in Append.
     ComPtr<IXMLDOMAttribute> replaced;
     Check(element->setAttributeNode(As<IXMLDOMAttribute>(attribute).Get(), replaced.GetAddressOf()));
 }
@@ -121,6 +163,15 @@ Document OwnerDocument(const Node& node) {
     ComPtr<IXMLDOMDocument> owner;
     Check(node->get_ownerDocument(owner.GetAddressOf()));
     return As<IXMLDOMDocument2>(Node(owner.Get()));
+}
+
+void RaiseTooDeep() {
+    throw platform::host::InvalidArgument(L"The XML is nested too deep: " + std::to_wstring(kMaximumDepth) +
+                                          L" levels or more");
+}
+
+void RequireBoundedDepth(const Node& node) {
+    if (IsTooDeep(node)) RaiseTooDeep();
 }
 
 }  // namespace msxml

@@ -1,4 +1,4 @@
-// Elements and other nodes: built, found and read.
+// Elements and other nodes: built, found, read, and measured for their depth.
 #pragma once
 
 #include "platform/msxml/MsXml.h"
@@ -20,13 +20,13 @@ void SetAttribute(const Document& document, const Element& element, std::wstring
 
 void SetText(const Element& element, std::wstring_view text);
 
-// Puts `child` behind the last child of `parent`, taking it out of where it was.
+// Puts `child` after the last child of `parent`, and takes it out of its old place.
 void Append(const Node& parent, const Node& child);
 
 // The text of a node and its descendants.
 platform::OutText Text(const Node& node);
 
-// The value of an attribute without a namespace; none when there is no such attribute.
+// The value of an attribute without a namespace; nothing when the element has no such attribute.
 std::optional<std::wstring> Attribute(const Element& element, const wchar_t* name);
 
 // The first node, or all, that the expression selects relative to `node`; the document's selection namespaces hold.
@@ -36,10 +36,10 @@ std::vector<Node> SelectNodes(const Node& node, const std::wstring& xpath);
 // A copy of an element with all that it holds, unattached.
 Element Copy(const Element& element);
 
-// The node, or null, as the element that it is. Raises for a node of another kind.
+// The node, or null, as the element that it is. Throws for a node of another kind.
 Element AsElement(const Node& node);
 
-// Null when there is none.
+// Null when the node has no child or no sibling after it.
 Node FirstChild(const Node& node);
 Node NextSibling(const Node& node);
 
@@ -48,7 +48,7 @@ DOMNodeType TypeOf(const Node& node);
 // The element children, in document order.
 std::vector<Element> ChildElements(const Node& node);
 
-// Empty for a node that has none.
+// Empty for a node without a name or without a namespace.
 platform::OutText LocalName(const Node& node);
 platform::OutText NamespaceUri(const Node& node);
 
@@ -56,5 +56,16 @@ Document OwnerDocument(const Node& node);
 
 // The node as XML text.
 std::wstring Xml(const Node& node);
+
+// How deep the elements that a client hands in may be nested. MSXML parses a little less (some 256), so that nothing
+// that it has parsed is refused for its depth. A tree that a client builds by itself can be deeper. MSXML runs out of
+// stack when it reads the text of such a tree, copies it or moves it.
+inline constexpr int kMaximumDepth = 260;
+
+// Throws the error of elements that are nested too deep, for callers that count the levels themselves.
+[[noreturn]] void RaiseTooDeep();
+
+// Throws when elements are nested kMaximumDepth levels deep in the node, or deeper.
+void RequireBoundedDepth(const Node& node);
 
 }  // namespace msxml

@@ -3,7 +3,6 @@
 #include "platform/ComError.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
-#include "platform/msxml/ParseError.h"
 #include "platform/Text.h"
 #include "platform/Wine.h"
 
@@ -16,7 +15,7 @@ using platform::ToBstr;
 namespace msxml {
 namespace {
 
-// Validation says this of an element that no schema is known for.
+// Validation reports this for an element without a known schema.
 constexpr long kNoSchema = static_cast<long>(0xC00CE224);
 
 }  // namespace

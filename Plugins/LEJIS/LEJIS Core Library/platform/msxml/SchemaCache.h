@@ -12,11 +12,11 @@ class SchemaCache {
 public:
     SchemaCache();
 
-    // Loads the schema at `location`. Raises when it cannot be loaded or is no schema.
+    // Loads the schema at `location`. Throws when it cannot be loaded or is not a schema.
     void Add(const std::wstring& namespaceUri, const std::wstring& location);
 
-    // Parses the text and checks it: nothing when it is valid, else the reason, which may be empty. Elements of
-    // namespaces without a schema are not checked.
+    // Parses and checks the text. Returns nothing when it is valid, and otherwise the reason, which may be empty.
+    // Elements of namespaces without a schema are not checked.
     std::optional<std::wstring> FindFault(const std::wstring& xml) const;
 
 private:

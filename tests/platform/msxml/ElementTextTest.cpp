@@ -1,4 +1,4 @@
-#include "platform/msxml/LeafText.h"
+#include "platform/msxml/ElementText.h"
 
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"

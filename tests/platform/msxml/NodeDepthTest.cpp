@@ -1,8 +1,7 @@
-#include "platform/msxml/Depth.h"
+#include "platform/msxml/Node.h"
 
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Markup.h"
-#include "platform/msxml/Node.h"
 #include "support/ComCheck.h"
 #include "support/DeepXml.h"
 #include "unit_support/CountingElement.h"
