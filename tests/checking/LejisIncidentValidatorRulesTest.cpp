@@ -1,6 +1,6 @@
 // Each check at its limit and one step beyond.
 #include "checking/ValidatorCase.h"
-#include "platform/Conversions.h"
+#include "platform/Dates.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "checking/LejisIncidentValidator.h"
 
 #include "checking/ValidatorCase.h"
-#include "platform/Conversions.h"
+#include "platform/Dates.h"
 #include "support/ComCheck.h"
 #include "unit_support/Members.h"
 #include "unit_support/Raises.h"

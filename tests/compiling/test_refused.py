@@ -117,7 +117,7 @@ PROLOGUE = """
 #include "platform/msxml/ElementText.h"
 #include "platform/msxml/Node.h"
 #include "platform/com/Ref.h"
-#include "platform/OutText.h"
+#include "platform/Text.h"
 #include "services/LejisSubmissionWebService.h"
 
 namespace lejis {

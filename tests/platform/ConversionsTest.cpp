@@ -1,4 +1,5 @@
 #include "platform/Conversions.h"
+#include "platform/Dates.h"
 
 #include "support/ComCheck.h"
 #include "support/Printing.h"

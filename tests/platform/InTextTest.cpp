@@ -1,4 +1,4 @@
-#include "platform/InText.h"
+#include "platform/Text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/com/ArgumentsByValue.h"
+#include "platform/com/MemberCall.h"
 
 #include "deferred/Future.h"
 #include "unit_support/LateBoundObject.h"

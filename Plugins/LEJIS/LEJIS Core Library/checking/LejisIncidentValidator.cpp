@@ -3,7 +3,7 @@
 #include "checking/CautionCaveat.h"
 #include "checking/RecordLabels.h"
 #include "platform/com/Inside.h"
-#include "platform/Conversions.h"
+#include "platform/Dates.h"
 #include "platform/Text.h"
 
 namespace lejis {

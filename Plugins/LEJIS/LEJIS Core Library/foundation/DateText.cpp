@@ -1,6 +1,6 @@
 #include "foundation/DateText.h"
 
-#include "platform/Conversions.h"
+#include "platform/Dates.h"
 
 #include <cwchar>
 

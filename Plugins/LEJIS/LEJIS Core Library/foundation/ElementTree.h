@@ -2,7 +2,7 @@
 
 #include "foundation/ElementName.h"
 #include "platform/msxml/MsXml.h"
-#include "platform/OutText.h"
+#include "platform/Text.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -4,7 +4,7 @@
 #include "foundation/OutputDocument.h"
 #include "foundation/QualifiedName.h"
 #include "platform/msxml/MsXml.h"
-#include "platform/TextArgument.h"
+#include "platform/Text.h"
 
 namespace lejis {
 

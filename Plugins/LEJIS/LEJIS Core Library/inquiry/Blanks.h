@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/TextArgument.h"
+#include "platform/Text.h"
 
 #include <initializer_list>
 

@@ -1,24 +1,71 @@
 #include "platform/Conversions.h"
 
-#include "platform/com/Arguments.h"
 #include "platform/ComError.h"
-#include "platform/InText.h"
-#include "platform/IsoDate.h"
+#include "platform/Dates.h"
 #include "platform/Text.h"
 
+#include <ocidl.h>
 #include <oleauto.h>
+#include <wrl/client.h>
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
+
+using Microsoft::WRL::ComPtr;
 
 namespace platform {
 namespace {
 
+struct NamedType {
+    VARTYPE type;
+    const wchar_t* name;
+};
+
+constexpr NamedType kNamedTypes[] = {
+    {VT_EMPTY, L"Empty"},     {VT_NULL, L"Null"},       {VT_I2, L"Integer"},      {VT_I4, L"Long"},
+    {VT_R4, L"Single"},       {VT_R8, L"Double"},       {VT_CY, L"Currency"},     {VT_DATE, L"Date"},
+    {VT_BSTR, L"String"},     {VT_ERROR, L"Error"},     {VT_BOOL, L"Boolean"},    {VT_VARIANT, L"Variant"},
+    {VT_DECIMAL, L"Decimal"}, {VT_I1, L"SByte"},        {VT_UI1, L"Byte"},        {VT_UI2, L"UShort"},
+    {VT_UI4, L"ULong"},       {VT_I8, L"LongLong"},     {VT_UI8, L"ULongLong"},   {VT_INT, L"Long"},
+    {VT_UINT, L"ULong"},      {VT_DISPATCH, L"Object"}, {VT_UNKNOWN, L"Unknown"},
+};
+
+std::wstring PlainTypeName(VARTYPE type) {
+    for (const NamedType& named : kNamedTypes) {
+        if (named.type == type) return named.name;
+    }
+    return L"Unknown";
+}
+
+std::wstring NameOf(ITypeInfo* information) {
+    BSTR name = nullptr;
+    if (!information || FAILED(information->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr)))
+        return {};
+    return TakeText(name);
+}
+
+std::wstring ClassName(IUnknown* object) {
+    if (!object) return L"Nothing";
+    ComPtr<ITypeInfo> information;
+    ComPtr<IProvideClassInfo> provider;
+    ComPtr<IDispatch> dispatch;
+    if (SUCCEEDED(object->QueryInterface(IID_PPV_ARGS(provider.GetAddressOf())))) {
+        provider->GetClassInfo(information.GetAddressOf());
+    } else if (SUCCEEDED(object->QueryInterface(IID_PPV_ARGS(dispatch.GetAddressOf())))) {
+        dispatch->GetTypeInfo(0, LOCALE_USER_DEFAULT, information.GetAddressOf());
+    }
+    const std::wstring name = NameOf(information.Get());
+    return name.empty() ? L"Object" : name;
+}
+
+bool IsReferenceToNothing(const VARIANT& value) { return (V_VT(&value) & VT_BYREF) && !V_BYREF(&value); }
+
 constexpr LCID kUserLocale = LOCALE_USER_DEFAULT;
 
-// A number that is none converts to nothing everywhere; the platforms disagree on what it becomes.
-bool IsNoNumber(const VARIANT& value) {
+// NaN converts to nothing, because the platforms disagree on what it becomes.
+bool IsNaN(const VARIANT& value) {
     return (V_VT(&value) == VT_R8 && std::isnan(V_R8(&value))) || (V_VT(&value) == VT_R4 && std::isnan(V_R4(&value)));
 }
 
@@ -31,8 +78,8 @@ size_t SkipSign(std::wstring_view text, size_t at) {
     return at < text.size() && (text[at] == L'-' || text[at] == L'+') ? at + 1 : at;
 }
 
-// A whole number in digits alone, which is the same for every locale. The platform looks up the locale's signs for each
-// text, and an answer has thousands.
+// A whole number in digits alone, which reads alike in every locale. The platform looks up the locale's signs for each
+// text, and an answer has thousands of them.
 std::optional<long> InDigits(std::wstring_view text) {
     constexpr size_t kSurelyInRange = 9;
     if (text.empty() || text.size() > kSurelyInRange || SkipDigits(text, 0) != text.size()) return std::nullopt;
@@ -41,7 +88,7 @@ std::optional<long> InDigits(std::wstring_view text) {
     return number;
 }
 
-// Where the number that begins here ends: behind a sign, digits and a point with digits.
+// The end of the number that begins here: after a sign, digits, and a point with digits.
 size_t SkipDecimal(std::wstring_view text, size_t at) {
     at = SkipDigits(text, SkipSign(text, at));
     return at < text.size() && text[at] == L'.' ? SkipDigits(text, at + 1) : at;
@@ -64,20 +111,33 @@ double NumberWithPoint(std::wstring_view text) {
     constexpr LCID kEnglish = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
     double number = 0;
     const HRESULT result = VarR8FromStr(InText(text), kEnglish, 0, &number);
-    // A number beyond every double is not the 0 that stands for no number at all.
+    // A number beyond every double must not become the 0 of a text without a number.
     if (result == DISP_E_OVERFLOW) throw Overflow();
     return SUCCEEDED(result) ? number : 0;
 }
 
 bool Convert(const VARIANT& value, VARTYPE type, _variant_t& result) {
-    if (IsNoNumber(value)) return false;
+    if (IsNaN(value)) return false;
     return SUCCEEDED(VariantChangeTypeEx(&result, const_cast<VARIANT*>(&value), kUserLocale, VARIANT_ALPHABOOL, type));
 }
 
 }  // namespace
 
+std::wstring TypeName(const VARIANT& value) {
+    const VARTYPE type = V_VT(&value);
+    if (type & VT_ARRAY) return PlainTypeName(type & VT_TYPEMASK) + L"()";
+    if (type == VT_DISPATCH || type == VT_UNKNOWN) return ClassName(V_UNKNOWN(&value));
+    return PlainTypeName(type);
+}
+
+bool RefersToNothing(const VARIANT& value) {
+    if (IsReferenceToNothing(value)) return true;
+    // The platform takes one step too: a reference to a reference is not a value, and may lead in a circle.
+    return V_VT(&value) == (VT_BYREF | VT_VARIANT) && IsReferenceToNothing(*V_VARIANTREF(&value));
+}
+
 _variant_t Dereference(const VARIANT& value) {
-    if (LeadsNowhere(value)) throw TypeMismatch();
+    if (RefersToNothing(value)) throw TypeMismatch();
     _variant_t copy;
     Check(VariantCopyInd(&copy, const_cast<VARIANT*>(&value)));
     return copy;
@@ -113,7 +173,7 @@ std::optional<double> ParseNumber(std::wstring_view text) {
 }
 
 std::optional<bool> ParseBoolean(std::wstring_view text) {
-    // As they are written; the platform takes other letter cases and languages as well, and its time.
+    // These are the two that LEJIS writes. The platform takes other letter cases and languages too, and its time.
     if (text == L"true") return true;
     if (text == L"false") return false;
     // Not every platform passes over the blanks itself.
@@ -160,20 +220,6 @@ std::optional<long> RoundTo<long>(const VARIANT& number) {
     _variant_t rounded;
     if (!Convert(number, VT_I4, rounded)) return std::nullopt;
     return V_I4(&rounded);
-}
-
-SYSTEMTIME CalendarTime(DATE date) {
-    SYSTEMTIME time{};
-    if (!VariantTimeToSystemTime(date, &time)) throw Overflow();
-    return time;
-}
-
-DATE Now() {
-    SYSTEMTIME time{};
-    GetLocalTime(&time);
-    DATE now = 0;
-    SystemTimeToVariantTime(&time, &now);
-    return now;
 }
 
 }  // namespace platform

@@ -2,6 +2,7 @@
 
 #include <oleauto.h>
 
+#include <algorithm>
 #include <memory>
 #include <new>
 
@@ -62,6 +63,16 @@ std::wstring ProperCase(std::wstring text) {
         wordBegins = IsWhiteSpace(character);
     }
     return text;
+}
+
+InText::InText(std::wstring_view text) : text_(short_.characters) {
+    if (text.size() > kShort) {
+        long_ = ToBstr(text);
+        text_ = long_;
+        return;
+    }
+    short_.bytes = static_cast<DWORD>(text.size() * sizeof(wchar_t));
+    *std::ranges::copy(text, short_.characters).out = L'\0';
 }
 
 }  // namespace platform

@@ -2,7 +2,7 @@
 // have many short texts each.
 #pragma once
 
-#include "platform/TextArgument.h"
+#include "platform/Text.h"
 
 #include <cstddef>
 #include <cstdint>

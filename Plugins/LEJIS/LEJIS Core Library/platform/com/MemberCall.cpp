@@ -1,18 +1,35 @@
 #include "platform/com/MemberCall.h"
 
-#include "platform/com/Arguments.h"
-#include "platform/com/ArgumentsByValue.h"
 #include "platform/com/Guard.h"
 #include "platform/ComError.h"
+#include "platform/Conversions.h"
 
 #include <wrl/client.h>
 
 #include <algorithm>
+#include <span>
 
 using Microsoft::WRL::ComPtr;
 
 namespace platform {
 namespace {
+
+bool IsObjectType(VARTYPE type) { return type == VT_DISPATCH || type == VT_UNKNOWN; }
+
+bool IsObjectBehindReference(const VARIANT& argument) {
+    const VARTYPE type = V_VT(&argument);
+    if (type == (VT_BYREF | VT_VARIANT)) return IsObjectType(V_VT(V_VARIANTREF(&argument)));
+    return (type & VT_BYREF) && IsObjectType(type & VT_TYPEMASK) && !(type & VT_ARRAY);
+}
+
+// Whether the arguments are there, as many as are named, and none refers to nothing: the platform's dispatcher follows
+// all of them.
+bool IsSound(const DISPPARAMS& parameters) {
+    if (parameters.cNamedArgs > parameters.cArgs) return false;
+    if (parameters.cNamedArgs > 0 && !parameters.rgdispidNamedArgs) return false;
+    if (parameters.cArgs > 0 && !parameters.rgvarg) return false;
+    return std::ranges::none_of(std::span(parameters.rgvarg, parameters.cArgs), RefersToNothing);
+}
 
 // Some clients know calls alone, and read a property by one.
 WORD WithReading(WORD flags) {
@@ -41,7 +58,7 @@ bool TakesObjects(ITypeInfo* information, DISPID member, WORD flags) {
     return false;
 }
 
-// Moves the thread's error object into the place that a client by name looks at. What cannot be had of it is left out.
+// Moves the thread's error object into the place that a late-bound client looks at, as far as it can be read.
 void FillIn(EXCEPINFO& exception, HRESULT number) {
     exception = {};
     exception.scode = number;
@@ -51,7 +68,7 @@ void FillIn(EXCEPINFO& exception, HRESULT number) {
     if (FAILED(error->GetSource(&exception.bstrSource))) exception.bstrSource = nullptr;
 }
 
-// The failure as it would be if the member itself had refused the argument.
+// Reports the failure as if the member itself had refused the argument.
 HRESULT RaiseTypeMismatch(REFCLSID classId, EXCEPINFO* exception) {
     const HRESULT number = Guard(classId, [] { throw TypeMismatch(); });
     if (!exception) return number;
@@ -61,6 +78,19 @@ HRESULT RaiseTypeMismatch(REFCLSID classId, EXCEPINFO* exception) {
 
 }  // namespace
 
+ArgumentsByValue::ArgumentsByValue(const DISPPARAMS& given) : all_(given) {
+    const std::span arguments(given.rgvarg, given.cArgs);
+    // Most calls have no such argument, and pay nothing.
+    if (std::ranges::none_of(arguments, IsObjectBehindReference)) return;
+    arguments_.assign(arguments.begin(), arguments.end());
+    // The copies below must not move.
+    objects_.reserve(arguments_.size());
+    for (VARIANT& argument : arguments_) {
+        if (IsObjectBehindReference(argument)) argument = objects_.emplace_back(Dereference(argument));
+    }
+    all_.rgvarg = arguments_.data();
+}
+
 HRESULT MemberCall::Invoke(DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception, UINT* argument) const {
     DISPPARAMS none{};
     DISPPARAMS& given = parameters ? *parameters : none;
@@ -68,7 +98,7 @@ HRESULT MemberCall::Invoke(DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* e
     const WORD kinds = WithReading(flags);
     ArgumentsByValue arguments(given);
     const HRESULT outcome = information->Invoke(object, member, kinds, arguments.All(), result, exception, argument);
-    // The dispatcher tells a number alone; a value of the wrong type is named by the client's own language, but no
+    // The dispatcher tells a number alone. A client's language names a value of the wrong type by itself, but no
     // language knows which object was expected.
     if (IsMismatch(outcome) && TakesObjects(information, member, kinds)) return RaiseTypeMismatch(classId, exception);
     return outcome;

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/com/Guard.h"
-#include "platform/TextArgument.h"
+#include "platform/Text.h"
 
 #include <oleauto.h>
 #include <windows.h>

@@ -5,7 +5,6 @@
 #include "platform/host/SuiteHost.h"
 #include "platform/http/AbandonedRequests.h"
 #include "platform/http/Address.h"
-#include "platform/InText.h"
 #include "platform/msxml/Document.h"
 #include "platform/Text.h"
 #include "platform/Wine.h"

@@ -2,7 +2,6 @@
 
 #include "platform/ComError.h"
 #include "platform/host/SuiteHost.h"
-#include "platform/InText.h"
 #include "platform/msxml/Node.h"
 #include "platform/Text.h"
 

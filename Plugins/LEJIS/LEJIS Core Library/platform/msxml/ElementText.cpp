@@ -3,7 +3,6 @@
 #include "platform/ComError.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
-#include "platform/OutText.h"
 #include "platform/Text.h"
 
 using platform::Check;

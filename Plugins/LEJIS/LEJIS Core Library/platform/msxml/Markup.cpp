@@ -2,7 +2,6 @@
 
 #include "platform/com/WrittenBytes.h"
 #include "platform/ComError.h"
-#include "platform/InText.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
 #include "platform/Text.h"

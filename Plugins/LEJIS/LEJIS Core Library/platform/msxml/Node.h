@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/msxml/MsXml.h"
-#include "platform/OutText.h"
+#include "platform/Text.h"
 
 #include <optional>
 #include <string>

@@ -1,4 +1,4 @@
-#include "platform/IsoDate.h"
+#include "platform/Dates.h"
 
 #include <gtest/gtest.h>
 

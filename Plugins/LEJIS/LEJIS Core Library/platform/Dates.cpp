@@ -1,4 +1,6 @@
-#include "platform/IsoDate.h"
+#include "platform/Dates.h"
+
+#include "platform/ComError.h"
 
 #include <oleauto.h>
 
@@ -48,6 +50,20 @@ std::optional<DATE> ParseIsoDate(std::wstring_view text) {
     DATE date = 0;
     if (!Exists(time) || !SystemTimeToVariantTime(&time, &date)) return std::nullopt;
     return date;
+}
+
+SYSTEMTIME CalendarTime(DATE date) {
+    SYSTEMTIME time{};
+    if (!VariantTimeToSystemTime(date, &time)) throw Overflow();
+    return time;
+}
+
+DATE Now() {
+    SYSTEMTIME time{};
+    GetLocalTime(&time);
+    DATE now = 0;
+    SystemTimeToVariantTime(&time, &now);
+    return now;
 }
 
 }  // namespace platform
