@@ -1,6 +1,5 @@
 #include "com/Classes.h"
 
-#include "platform/com/TypeInformation.h"
 #include "platform/com/TypeLibrary.h"
 #include "platform/ComError.h"
 #include "platform/Text.h"

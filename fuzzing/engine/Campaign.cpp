@@ -6,7 +6,6 @@
 #include "engine/HeapCensus.h"
 #include "engine/NewProcess.h"
 #include "engine/Watch.h"
-#include "platform/com/Living.h"
 #include "platform/com/Module.h"
 #include "platform/ComError.h"
 

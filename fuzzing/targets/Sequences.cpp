@@ -3,7 +3,7 @@
 #include "com/FailureCheck.h"
 #include "com/Texts.h"
 #include "engine/Finding.h"
-#include "platform/com/Inside.h"
+#include "platform/com/ComObject.h"
 #include "platform/msxml/Document.h"
 #include "platform/Text.h"
 #include "services/LejisSubmissionWebService.h"

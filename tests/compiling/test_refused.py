@@ -116,7 +116,7 @@ PROLOGUE = """
 #include "model/LejisPersonIndexCard.h"
 #include "platform/msxml/ElementText.h"
 #include "platform/msxml/Node.h"
-#include "platform/com/Ref.h"
+#include "platform/com/UnknownObject.h"
 #include "platform/Text.h"
 #include "services/LejisSubmissionWebService.h"
 

@@ -2,7 +2,6 @@
 
 #include "deferred/FutureManager.h"
 #include "deferred/InvokeLater.h"
-#include "platform/com/Living.h"
 #include "platform/com/Module.h"
 #include "platform/thread/ThreadState.h"
 #include "support/ComCheck.h"

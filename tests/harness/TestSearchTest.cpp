@@ -2,7 +2,7 @@
 #include "harness/TestSearch.h"
 
 #include "inquiry/LejisSearchRequest.h"
-#include "platform/com/Living.h"
+#include "platform/com/Module.h"
 #include "support/ComCheck.h"
 #include "support/MessageBoxCloser.h"
 #include "unit_support/Answers.h"

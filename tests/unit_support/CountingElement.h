@@ -1,7 +1,7 @@
 // An element, or what hangs below it, that counts the calls which a reader makes.
 #pragma once
 
-#include "platform/com/Results.h"
+#include "platform/com/Guard.h"
 #include "unit_support/SilentNode.h"
 
 #include <msxml6.h>

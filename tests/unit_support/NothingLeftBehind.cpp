@@ -1,5 +1,4 @@
 // After the last test no object of the library is alive: what DllCanUnloadNow would tell.
-#include "platform/com/Living.h"
 #include "platform/com/Module.h"
 
 #include <gtest/gtest.h>

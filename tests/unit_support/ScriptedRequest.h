@@ -1,7 +1,7 @@
 // A request that plays what a test scripts: what the platform under the tests cannot be brought to do over a socket.
 #pragma once
 
-#include "platform/com/Ref.h"
+#include "platform/com/UnknownObject.h"
 #include "platform/http/HttpRequest.h"
 #include "unit_support/EarlyBound.h"
 

@@ -1,7 +1,7 @@
 // The host suite, registered for the length of one test: its components are found by ProgID as on a workstation.
 #pragma once
 
-#include "platform/com/ConnectionPoint.h"
+#include "platform/com/EventSource.h"
 #include "unit_support/LateBoundObject.h"
 
 #include <wrl/client.h>

@@ -12,7 +12,6 @@
 #include "model/LejisSubmissionDocument.h"
 #include "platform/com/ClassFactory.h"
 #include "platform/com/Guard.h"
-#include "platform/com/Living.h"
 #include "platform/com/Module.h"
 #include "platform/com/Registration.h"
 #include "platform/msxml/Document.h"

@@ -3,7 +3,6 @@
 #include "model/LejisPersonIndexCard.h"
 #include "model/LejisStreetAddress.h"
 #include "model/LejisVehicleIndexCard.h"
-#include "platform/com/Inside.h"
 #include "platform/com/Module.h"
 #include "platform/Text.h"
 #include "support/ComCheck.h"

@@ -1,4 +1,4 @@
-#include "platform/com/Living.h"
+#include "platform/com/Module.h"
 
 #include "deferred/FutureManager.h"
 #include "deferred/InvokeLater.h"

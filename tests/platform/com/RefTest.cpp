@@ -1,4 +1,4 @@
-#include "platform/com/Ref.h"
+#include "platform/com/UnknownObject.h"
 
 #include "platform/com/Collection.h"
 

@@ -1,6 +1,6 @@
 #include "doctor/ClassList.h"
 
-#include "platform/com/TypeInformation.h"
+#include "platform/com/TypeLibrary.h"
 #include "platform/ComError.h"
 #include "platform/Text.h"
 

@@ -3,7 +3,7 @@
 #include "checking/FormattingRules.h"
 #include "foundation/ElementReader.h"
 #include "foundation/OutputDocument.h"
-#include "platform/com/Inside.h"
+#include "platform/com/ComObject.h"
 #include "platform/ComError.h"
 
 using Microsoft::WRL::ComPtr;

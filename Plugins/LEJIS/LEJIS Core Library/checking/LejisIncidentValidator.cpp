@@ -2,7 +2,7 @@
 
 #include "checking/CautionCaveat.h"
 #include "checking/RecordLabels.h"
-#include "platform/com/Inside.h"
+#include "platform/com/ComObject.h"
 #include "platform/Dates.h"
 #include "platform/Text.h"
 

@@ -1,6 +1,5 @@
 #include "deferred/SharedManager.h"
 
-#include "platform/com/Living.h"
 #include "platform/com/Module.h"
 #include "platform/thread/ThreadState.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "deferred/FutureManager.h"
-#include "platform/thread/ThreadPart.h"
+#include "platform/thread/ThreadState.h"
 
 namespace lejis {
 

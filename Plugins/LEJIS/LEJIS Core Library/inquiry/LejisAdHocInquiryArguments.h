@@ -2,7 +2,7 @@
 
 #include "inquiry/BlockMethods.h"
 #include "platform/com/ComObject.h"
-#include "platform/com/TextFields.h"
+#include "platform/com/Properties.h"
 
 #include <TVLejisCore.h>
 

@@ -4,7 +4,6 @@
 #include "inquiry/BlockMethods.h"
 #include "platform/com/ComObject.h"
 #include "platform/com/Properties.h"
-#include "platform/com/TextFields.h"
 
 #include <TVLejisCore.h>
 

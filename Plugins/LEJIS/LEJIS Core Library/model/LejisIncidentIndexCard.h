@@ -9,7 +9,6 @@
 #include "platform/com/Collection.h"
 #include "platform/com/ComObject.h"
 #include "platform/com/Properties.h"
-#include "platform/com/TextFields.h"
 
 #include <TVLejisCore.h>
 

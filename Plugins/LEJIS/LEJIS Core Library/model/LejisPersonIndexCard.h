@@ -6,7 +6,6 @@
 #include "model/XmlMethods.h"
 #include "platform/com/ComObject.h"
 #include "platform/com/Properties.h"
-#include "platform/com/TextFields.h"
 
 #include <TVLejisCore.h>
 

@@ -4,7 +4,7 @@
 #include "foundation/Constants.h"
 #include "foundation/LejisUtils.h"
 #include "inquiry/LejisInquiryResponse.h"
-#include "platform/com/Inside.h"
+#include "platform/com/ComObject.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Markup.h"
 #include "platform/msxml/Node.h"

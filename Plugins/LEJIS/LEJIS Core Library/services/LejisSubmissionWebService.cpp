@@ -3,7 +3,7 @@
 #include "checking/LejisIncidentFormatter.h"
 #include "checking/LejisIncidentValidator.h"
 #include "foundation/Constants.h"
-#include "platform/com/Inside.h"
+#include "platform/com/ComObject.h"
 #include "platform/Conversions.h"
 #include "platform/http/HttpRequest.h"
 #include "platform/msxml/Document.h"

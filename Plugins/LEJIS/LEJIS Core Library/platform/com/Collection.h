@@ -2,7 +2,6 @@
 #pragma once
 
 #include "platform/com/ComObject.h"
-#include "platform/com/Inside.h"
 
 #include <comutil.h>
 #include <ModuleInterfaces.h>

@@ -4,6 +4,7 @@
 
 #include "platform/com/Guard.h"
 #include "platform/Text.h"
+#include "platform/TextField.h"
 
 #include <oleauto.h>
 #include <windows.h>
@@ -73,3 +74,18 @@ HRESULT ReturnObject(const Microsoft::WRL::ComPtr<Class>& object, Interface** re
 #define OBJECT_PROPERTY(Class, Name)                       \
     platform::Ref<Class> Name = platform::Create<Class>(); \
     STDMETHODIMP get_##Name(I##Class** result) override { return platform::ReturnObject<Class>(Name, result); }
+
+// The text fields of a class whose objects come in thousands, one line a field: the member by its public name, and the
+// accessors of its interface. TEXT_BLOCK() stands before the first of them, and no other member between them.
+#define TEXT_BLOCK()            \
+private:                        \
+    platform::TextBlock texts_; \
+                                \
+public:
+
+#define TEXT_FIELD(Name)                                                                          \
+    platform::TextField Name{texts_};                                                             \
+    STDMETHODIMP get_##Name(BSTR* result) override { return platform::ReturnText(Name, result); } \
+    STDMETHODIMP put_##Name(BSTR newValue) override {                                             \
+        return platform::AssignText(newValue, [this](std::wstring_view text) { Name = text; });   \
+    }

@@ -1,7 +1,6 @@
 #include "platform/com/Registration.h"
 
 #include "platform/com/Module.h"
-#include "platform/com/TypeInformation.h"
 #include "platform/com/TypeLibrary.h"
 #include "platform/ComError.h"
 #include "platform/Registry.h"

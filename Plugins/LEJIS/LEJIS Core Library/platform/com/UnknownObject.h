@@ -1,9 +1,7 @@
-// Identity and lifetime of a COM object with the given interfaces, the first of which stands for the object itself.
+// Identity and lifetime of COM objects, and references to them that are never null.
 #pragma once
 
-#include "platform/com/Living.h"
 #include "platform/com/Module.h"
-#include "platform/com/Ref.h"
 #include "platform/thread/ThreadState.h"
 
 #include <unknwn.h>
@@ -12,9 +10,32 @@
 
 #include <atomic>
 #include <tuple>
+#include <type_traits>
 #include <utility>
 
 namespace platform {
+
+// A reference that is counted like ComPtr and is never null, so its object is used without a test.
+template <typename Class>
+class Ref {
+public:
+    explicit Ref(Class& object) : object_(&object) {}
+    // There are copies but no moves: a reference that was moved from would be null.
+    Ref(const Ref&) = default;
+    Ref& operator=(const Ref&) = default;
+
+    Class& operator*() const { return *object_.Get(); }
+    Class* operator->() const { return object_.Get(); }
+    Class* Get() const { return object_.Get(); }
+
+    // For a reference that may be null.
+    template <typename Base>
+    requires std::is_convertible_v<Class*, Base*>
+    operator Microsoft::WRL::ComPtr<Base>() const { return Microsoft::WRL::ComPtr<Base>(object_.Get()); }
+
+private:
+    Microsoft::WRL::ComPtr<Class> object_;
+};
 
 // The interface that a base of an object is known by: itself, unless a base says otherwise.
 template <typename Base>
@@ -63,7 +84,7 @@ protected:
         module::Release();
     }
 
-    // The object as this interface, without a new reference; null when it has none such.
+    // The object as this interface, without a new reference; null when it does not have the interface.
     virtual void* Find(REFIID iid) {
         void* found = iid == __uuidof(IUnknown) ? First() : nullptr;
         const auto take = [&](REFIID own, void* base) {

@@ -1,7 +1,7 @@
 #include "platform/host/ElapsedEvent.h"
 
 #include "platform/com/Guard.h"
-#include "platform/com/TypeInformation.h"
+#include "platform/com/TypeLibrary.h"
 #include "platform/ComError.h"
 
 #include <ModuleInterfaces.h>

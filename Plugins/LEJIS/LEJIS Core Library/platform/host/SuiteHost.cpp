@@ -3,7 +3,6 @@
 #include "platform/com/LateBound.h"
 #include "platform/ComError.h"
 #include "platform/Conversions.h"
-#include "platform/thread/ThreadPart.h"
 #include "platform/thread/ThreadState.h"
 
 #include <oaidl.h>

@@ -4,13 +4,28 @@
 // run-time library gives its memory back before the destructor runs, and keeps the module loaded until the thread ends.
 #pragma once
 
-#include "platform/thread/ThreadPart.h"
-
 #include <memory>
 
 namespace platform::thread {
 
-// This thread's part by that maker, made at first use. The reference holds until the thread ends.
+// What one subject of the library keeps for one thread. The thread makes its part at first use.
+class ThreadPart {
+public:
+    ThreadPart() = default;
+    ThreadPart(const ThreadPart&) = delete;
+    ThreadPart& operator=(const ThreadPart&) = delete;
+
+    // The thread or the module ends. Destructors may free memory alone: the loader's lock is held and the thread has
+    // left COM, so an object that is still held is lost.
+    virtual ~ThreadPart() = default;
+
+    // Releases every object that the part holds, while COM is still there. The part may be used again afterwards.
+    virtual void Release() noexcept = 0;
+};
+
+using PartMaker = std::unique_ptr<ThreadPart> (*)();
+
+// This thread's part from that maker, made at first use. The reference is valid until the thread ends.
 ThreadPart& PartMadeBy(PartMaker maker);
 
 template <typename Part>
@@ -23,12 +38,12 @@ Part& ThisThreads() {
     return static_cast<Part&>(PartMadeBy(MakePart<Part>));
 }
 
-// The objects that this thread has made and that live. When the last one goes, the thread's parts let go of what they
-// hold: the client may leave COM next. An object that ends in another thread than its own is left out of that.
+// Count the living objects that this thread has made. When the last one ends, the thread's parts release what they
+// hold, because the client may leave COM next. An object that ends in another thread than its own does not count there.
 void CountObject() noexcept;
 void UncountObject() noexcept;
 
-// Lets go of what this thread's parts hold.
+// Releases what this thread's parts hold.
 void ReleaseParts() noexcept;
 
 }  // namespace platform::thread

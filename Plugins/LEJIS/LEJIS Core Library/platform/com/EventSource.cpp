@@ -1,4 +1,4 @@
-#include "platform/com/ConnectionPoint.h"
+#include "platform/com/EventSource.h"
 
 #include "platform/com/Enumerator.h"
 
