@@ -110,7 +110,6 @@ ROWS = (
 PROLOGUE = """
 #include "foundation/ElementReader.h"
 #include "foundation/ElementWriter.h"
-#include "foundation/OutputDocument.h"
 #include "inquiry/PersonInquiryArguments.h"
 #include "model/LejisIncidentIndexCard.h"
 #include "model/LejisPersonIndexCard.h"

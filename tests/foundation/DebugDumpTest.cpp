@@ -1,4 +1,4 @@
-#include "foundation/LejisUtils.h"
+#include "foundation/DebugDump.h"
 
 #include "platform/Registry.h"
 #include "platform/thread/ThreadState.h"

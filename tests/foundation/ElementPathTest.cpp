@@ -1,4 +1,4 @@
-#include "foundation/ElementPath.h"
+#include "foundation/ElementName.h"
 
 #include <gtest/gtest.h>
 

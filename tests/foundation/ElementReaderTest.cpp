@@ -1,6 +1,6 @@
 #include "foundation/ElementReader.h"
 
-#include "foundation/LejisUtils.h"
+#include "foundation/QueryPrefixes.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
 #include "support/ComCheck.h"

@@ -2,8 +2,7 @@
 #include "foundation/HolderErrors.h"
 
 #include "foundation/NullableDate.h"
-#include "foundation/NullableInteger.h"
-#include "foundation/NullableLong.h"
+#include "foundation/NullableNumber.h"
 #include "platform/Conversions.h"
 #include "support/ComCheck.h"
 #include "unit_support/LateBoundObject.h"

@@ -1,6 +1,5 @@
 #include "foundation/NullableDate.h"
 
-#include "foundation/DateText.h"
 #include "platform/com/LateBound.h"
 #include "support/ComCheck.h"
 #include "support/Printing.h"

@@ -1,4 +1,4 @@
-#include "foundation/NullableInteger.h"
+#include "foundation/NullableNumber.h"
 
 #include "support/ComCheck.h"
 

@@ -1,4 +1,4 @@
-#include "foundation/NullableLong.h"
+#include "foundation/NullableNumber.h"
 
 #include "support/ComCheck.h"
 

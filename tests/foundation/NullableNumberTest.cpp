@@ -1,7 +1,5 @@
 // What both holders of numbers have in common; the numbers that each takes stand in the tests of their own.
-#include "foundation/NullableInteger.h"
-#include "foundation/NullableLong.h"
-#include "foundation/NumberText.h"
+#include "foundation/NullableNumber.h"
 #include "platform/com/LateBound.h"
 #include "support/ComCheck.h"
 

@@ -1,4 +1,4 @@
-#include "foundation/OutputDocument.h"
+#include "foundation/ElementWriter.h"
 
 #include "foundation/Constants.h"
 #include "platform/msxml/Document.h"

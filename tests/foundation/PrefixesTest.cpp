@@ -1,4 +1,4 @@
-#include "foundation/Prefixes.h"
+#include "foundation/ElementName.h"
 
 #include "support/Printing.h"
 

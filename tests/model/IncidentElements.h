@@ -1,7 +1,7 @@
 // Elements that incident cards are read from.
 #pragma once
 
-#include "foundation/DateText.h"
+#include "foundation/NullableDate.h"
 #include "model/LejisIncidentIndexCard.h"
 #include "support/Xml.h"
 

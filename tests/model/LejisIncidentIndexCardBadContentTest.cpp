@@ -1,6 +1,6 @@
 #include "model/LejisIncidentIndexCard.h"
 
-#include "foundation/DateText.h"
+#include "foundation/NullableDate.h"
 #include "model/IncidentElements.h"
 #include "support/ComCheck.h"
 #include "support/Printing.h"

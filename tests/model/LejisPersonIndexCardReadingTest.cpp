@@ -1,6 +1,6 @@
 #include "model/LejisPersonIndexCard.h"
 
-#include "foundation/DateText.h"
+#include "foundation/NullableDate.h"
 #include "support/ComCheck.h"
 #include "support/Printing.h"
 #include "support/Xml.h"

@@ -2,7 +2,7 @@
 #ifdef __i386__
 
 #include "deferred/Future.h"
-#include "foundation/NullableInteger.h"
+#include "foundation/NullableNumber.h"
 #include "support/OwnTimer.h"
 #include "unit_support/RecordingRunnable.h"
 

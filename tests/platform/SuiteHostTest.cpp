@@ -1,12 +1,12 @@
 // The host suite's components where they are registered, and what stands in for them where they are not.
-#include "foundation/LejisUtils.h"
+#include "foundation/QueryPrefixes.h"
 #include "platform/host/SuiteHost.h"
 #include "platform/thread/ThreadState.h"
 #include "support/Messages.h"
 #include "unit_support/Raises.h"
 #include "unit_support/TestHost.h"
 
-#include "foundation/NullableInteger.h"
+#include "foundation/NullableNumber.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "doctor/DumpCheck.h"
 
 #include "doctor/DebugFlag.h"
-#include "foundation/LejisUtils.h"
+#include "foundation/DebugDump.h"
 #include "library/DllFile.h"
 #include "platform/ComError.h"
 #include "platform/host/SuiteHost.h"

@@ -1,7 +1,7 @@
 #include "doctor/SchemaCheck.h"
 
 #include "doctor/RegistrationCheck.h"
-#include "foundation/LejisUtils.h"
+#include "foundation/QueryPrefixes.h"
 #include "library/LibraryError.h"
 #include "library/NotRegistered.h"
 #include "platform/ComError.h"

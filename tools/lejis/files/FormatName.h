@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/Prefixes.h"
+#include "foundation/ElementName.h"
 
 #include <cstddef>
 #include <string_view>

@@ -8,7 +8,7 @@
 #include "files/Quoted.h"
 #include "files/XmlFault.h"
 #include "files/XmlSource.h"
-#include "foundation/LejisUtils.h"
+#include "foundation/QueryPrefixes.h"
 #include "library/LibraryError.h"
 #include "platform/Conversions.h"
 #include "text/Trimmed.h"

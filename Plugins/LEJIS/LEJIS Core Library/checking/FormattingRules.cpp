@@ -3,7 +3,7 @@
 #include "checking/CautionCaveat.h"
 #include "checking/NcicOffenseCodes.h"
 #include "checking/RecordLabels.h"
-#include "foundation/NumberText.h"
+#include "foundation/NullableNumber.h"
 #include "platform/Text.h"
 
 namespace lejis {

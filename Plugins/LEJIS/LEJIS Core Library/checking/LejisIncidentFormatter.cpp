@@ -2,7 +2,7 @@
 
 #include "checking/FormattingRules.h"
 #include "foundation/ElementReader.h"
-#include "foundation/OutputDocument.h"
+#include "foundation/ElementWriter.h"
 #include "platform/com/ComObject.h"
 #include "platform/ComError.h"
 

@@ -17,7 +17,7 @@ inline constexpr wchar_t kExtensionNamespace[] = LEJIS_URI(L"/lejis/jxdm/1.0/car
 inline constexpr wchar_t kCardNamespace[] = LEJIS_URI(L"/lejis/jxdm/1.0/card");
 
 inline constexpr wchar_t kSubmitAction[] = LEJIS_URI(L"/lejis/jxdm/1.0/service/submitRmsIndex");
-// The path is in another order than the submission's, and right so.
+// The order of this path differs from the submission's on purpose.
 inline constexpr wchar_t kSearchAction[] = LEJIS_URI(L"/lejis/1.0/service/jxdm/searchIndex");
 
 #undef LEJIS_URI

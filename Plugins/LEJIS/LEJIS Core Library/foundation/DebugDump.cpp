@@ -1,4 +1,4 @@
-#include "foundation/LejisUtils.h"
+#include "foundation/DebugDump.h"
 
 #include "platform/host/SuiteHost.h"
 #include "platform/msxml/Document.h"
@@ -7,7 +7,7 @@
 namespace lejis::LejisUtils {
 
 bool DebugFlagIsOn() {
-    // Where the suite keeps its per-user settings.
+    // The suite keeps its per-user settings there.
     const auto flag = platform::ReadRegistryText(
         HKEY_CURRENT_USER, L"Software\\VB and VBA Program Settings\\TalvexSuite\\Flags", L"DebugLejis");
     return flag == L"Y";

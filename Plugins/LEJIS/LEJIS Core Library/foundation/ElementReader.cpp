@@ -9,7 +9,7 @@ public:
     NamedChildren(const ElementTree& tree, size_t parent, const ElementName& name)
         : tree_(tree), name_(name), next_(parent + 1), end_(tree.EndOf(parent)) {}
 
-    // The next of them in document order.
+    // The next child of that name, in document order.
     std::optional<size_t> Next() {
         while (next_ < end_) {
             const size_t child = next_;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "foundation/ElementName.h"
-#include "foundation/ElementPath.h"
 #include "foundation/ElementTree.h"
 #include "platform/msxml/MsXml.h"
 
@@ -18,21 +17,22 @@ namespace lejis {
 // any child a. Names are compared by namespace and local name.
 class ElementReader {
 public:
-    // Takes all of the element from MSXML; the readers of its children share that.
+    // Takes the whole element from MSXML; the readers of its children share the result.
     explicit ElementReader(const msxml::Element& element);
-    // Of the root of a tree.
+    // Reads the root of a tree.
     explicit ElementReader(std::shared_ptr<const ElementTree> tree) : tree_(std::move(tree)), number_(0) {}
 
-    // A temporary reader gives neither texts nor readers: the texts last as long as there is a reader of the same tree.
+    // A text is valid as long as a reader of the same tree lives, so a temporary reader gives neither texts nor
+    // readers.
 
-    // The text of what the path selects, or an empty text. An empty element has an empty text too.
+    // The text of the first element that the path selects, or an empty text. An empty element has an empty text too.
     std::wstring_view Text(const ElementPath& path) const&;
     std::wstring_view Text(const ElementPath& path) const&& = delete;
-    // The same, telling an empty element from a missing one.
+    // The same, but nothing for a missing element.
     std::optional<std::wstring_view> TextIfAny(const ElementPath& path) const&;
     std::optional<std::wstring_view> TextIfAny(const ElementPath& path) const&& = delete;
 
-    // The first element that the path selects, and all children of a name; none when there is none.
+    // The first element that the path selects, and all children of a name.
     std::optional<ElementReader> Child(const ElementPath& path) const&;
     std::optional<ElementReader> Child(const ElementPath& path) const&& = delete;
     std::vector<ElementReader> Children(const ElementName& name) const&;

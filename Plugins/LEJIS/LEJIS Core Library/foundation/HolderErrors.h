@@ -1,4 +1,4 @@
-// What the nullable holders raise.
+// What the nullable holders throw.
 #pragma once
 
 #include "platform/ComError.h"
@@ -10,10 +10,10 @@
 
 namespace lejis {
 
-// The value's type is not one that the holder takes.
+// The holder does not take values of this type.
 platform::ComError CannotAssign(const VARIANT& value, const std::wstring& holder);
 
-// The value's type is right and its content is not: "Not a valid date."
+// The holder takes values of this type, but not this content: "Not a valid date."
 platform::ComError NotAValid(const std::wstring& kind);
 
 }  // namespace lejis

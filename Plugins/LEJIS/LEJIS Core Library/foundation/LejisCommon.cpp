@@ -1,6 +1,6 @@
 #include "foundation/LejisCommon.h"
 
-#include "foundation/DateText.h"
+#include "foundation/NullableDate.h"
 
 namespace lejis {
 namespace {

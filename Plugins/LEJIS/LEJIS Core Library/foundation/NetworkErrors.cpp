@@ -1,4 +1,4 @@
-#include "foundation/LejisUtils.h"
+#include "foundation/NetworkErrors.h"
 
 #include "platform/http/Exchange.h"
 
@@ -8,8 +8,8 @@
 namespace lejis::LejisUtils {
 namespace {
 
-// The HTTP statuses after which trying again may help. WinINet's own numbers lie above 12000; 12019 among them is
-// named all the same.
+// The HTTP statuses after which trying again may help. All of WinINet's own numbers, above 12000, are transient; the
+// list names 12019 all the same.
 constexpr long kTransientStatuses[] = {0, 400, 408, 502, 504, 12019};
 constexpr long kWinInetErrors = 12000;
 

@@ -1,4 +1,4 @@
-// Builders of the elements that the library writes. None of them attaches what it builds.
+// Builders of the elements that the library writes. The new elements are unattached.
 #pragma once
 
 #include "platform/msxml/MsXml.h"
@@ -13,7 +13,7 @@ namespace lejis::NodeFactory {
 msxml::Element CreateQualifiedElement(const msxml::Document& document, std::wstring_view qualifiedName,
                                       std::wstring_view namespaceUri);
 
-// An element with a text, written as it stands. An empty text and a null value give an empty element, not none.
+// An element with a text, written as it stands. An empty text and a null value give an empty element.
 msxml::Element CreateTextElement(const msxml::Document& document, std::wstring_view qualifiedName,
                                  std::wstring_view value, std::wstring_view namespaceUri);
 msxml::Element CreateTextElement(const msxml::Document& document, std::wstring_view qualifiedName,
@@ -27,7 +27,7 @@ msxml::Element CreateBooleanElement(const msxml::Document& document, std::wstrin
 msxml::Element CreateIdElement(const msxml::Document& document, std::wstring_view qualifiedName,
                                std::wstring_view identifier);
 
-// The same with j:IDJurisdictionCode.ncicLSTA behind j:ID.
+// The same with j:IDJurisdictionCode.ncicLSTA after j:ID.
 msxml::Element CreateJurisdictionIdElement(const msxml::Document& document, std::wstring_view qualifiedName,
                                            std::wstring_view identifier, std::wstring_view jurisdictionCode);
 

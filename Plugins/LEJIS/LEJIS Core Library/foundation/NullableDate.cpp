@@ -2,7 +2,10 @@
 
 #include "foundation/HolderErrors.h"
 #include "platform/Conversions.h"
+#include "platform/Dates.h"
 #include "platform/Text.h"
+
+#include <cwchar>
 
 namespace lejis {
 
@@ -31,6 +34,22 @@ void NullableDate::Assign(const VARIANT& value) {
         default:
             throw CannotAssign(value, platform::ClassNameOf(ClassId()));
     }
+}
+
+std::wstring FormatNullableDate(const NullableDate& holder) {
+    if (!holder.Date()) return {};
+    const SYSTEMTIME time = platform::CalendarTime(*holder.Date());
+    wchar_t text[16];
+    swprintf(text, ARRAYSIZE(text), L"%04u-%02u-%02u", time.wYear, time.wMonth, time.wDay);
+    return text;
+}
+
+std::wstring FormatNullableTime(const NullableDate& holder) {
+    if (!holder.Date()) return {};
+    const SYSTEMTIME time = platform::CalendarTime(*holder.Date());
+    wchar_t text[16];
+    swprintf(text, ARRAYSIZE(text), L"%02u:%02u:%02u", time.wHour, time.wMinute, time.wSecond);
+    return text;
 }
 
 }  // namespace lejis

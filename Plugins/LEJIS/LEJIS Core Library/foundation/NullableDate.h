@@ -1,3 +1,4 @@
+// The holder of a date, and the texts of dates and times as LEJIS writes them.
 #pragma once
 
 #include "platform/com/ComObject.h"
@@ -6,6 +7,7 @@
 #include <TVLejisCore.h>
 
 #include <optional>
+#include <string>
 
 namespace lejis {
 
@@ -15,7 +17,7 @@ public:
     STDMETHODIMP get_Value(VARIANT* result) override;
     STDMETHODIMP put_Value(VARIANT newValue) override;
 
-    // Takes null, a date, or a text that is a date under the user's regional settings; raises for anything else.
+    // Takes null, a date, or a text that is a date under the user's regional settings. Throws for anything else.
     void Assign(const VARIANT& value);
     void Set(std::optional<DATE> date) { date_ = date; }
 
@@ -24,5 +26,11 @@ public:
 private:
     std::optional<DATE> date_;
 };
+
+// "yyyy-mm-dd", for example 2007-03-09; empty for an empty holder.
+std::wstring FormatNullableDate(const NullableDate& holder);
+
+// "hh:nn:ss" on the 24-hour clock, for example 14:05:00; empty for an empty holder.
+std::wstring FormatNullableTime(const NullableDate& holder);
 
 }  // namespace lejis

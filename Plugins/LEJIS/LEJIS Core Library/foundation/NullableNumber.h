@@ -1,10 +1,14 @@
+// The holders of numbers: null, or one number.
 #pragma once
 
 #include "foundation/HolderErrors.h"
 #include "platform/com/ComObject.h"
 #include "platform/Conversions.h"
 
+#include <TVLejisCore.h>
+
 #include <optional>
+#include <string>
 
 namespace lejis {
 
@@ -20,8 +24,8 @@ public:
         return this->Guard([&] { Assign(platform::Dereference(newValue)); });
     }
 
-    // Takes null or a number, rounding it, halves to the even neighbour; raises for anything else. A number out of
-    // range becomes 0 and nobody is told.
+    // Takes null, or a number, which it rounds, halves to the even neighbour. Throws for anything else. A number out of
+    // range becomes 0 without an error.
     void Assign(const VARIANT& value) {
         switch (V_VT(&value)) {
             case VT_NULL:
@@ -32,7 +36,7 @@ public:
             case VT_R4:
             case VT_R8:
             case VT_UI1:
-                // An overflow is swallowed on purpose: clients rely on 0 and no error.
+                // Hiding the overflow is deliberate: clients rely on 0 and no error.
                 number_ = platform::RoundTo<Integer>(value).value_or(Integer{0});
                 return;
             default:
@@ -47,5 +51,17 @@ public:
 private:
     std::optional<Integer> number_;
 };
+
+// Null, or a 16-bit integer.
+class NullableInteger final : public NullableNumber<::NullableInteger, INullableInteger, short> {};
+
+// Null, or a 32-bit integer.
+class NullableLong final : public NullableNumber<::NullableLong, INullableLong, long> {};
+
+// The number in decimal digits; empty for an empty holder.
+template <typename Coclass, typename Interface, typename Integer>
+std::wstring NumberText(const NullableNumber<Coclass, Interface, Integer>& holder) {
+    return holder.Number() ? std::to_wstring(*holder.Number()) : std::wstring();
+}
 
 }  // namespace lejis

@@ -2,7 +2,6 @@
 
 #include "foundation/BoundedList.h"
 #include "foundation/ElementName.h"
-#include "foundation/Prefixes.h"
 
 #include <cstddef>
 #include <cstdint>

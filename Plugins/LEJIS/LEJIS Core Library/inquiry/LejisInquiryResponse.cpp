@@ -3,6 +3,7 @@
 #include "foundation/ElementName.h"
 #include "foundation/ElementReader.h"
 #include "foundation/PlainMarkup.h"
+#include "foundation/QueryPrefixes.h"
 #include "platform/Conversions.h"
 #include "platform/msxml/Node.h"
 

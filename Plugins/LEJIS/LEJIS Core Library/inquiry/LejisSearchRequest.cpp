@@ -2,6 +2,7 @@
 
 #include "foundation/ElementReader.h"
 #include "foundation/ElementWriter.h"
+#include "foundation/QueryPrefixes.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/NullableInteger.h"
+#include "foundation/NullableNumber.h"
 
 #include <string_view>
 

@@ -1,9 +1,9 @@
 #include "inquiry/PersonInquiryArguments.h"
 
-#include "foundation/DateText.h"
 #include "foundation/ElementReader.h"
 #include "foundation/ElementWriter.h"
-#include "foundation/NumberText.h"
+#include "foundation/NullableDate.h"
+#include "foundation/NullableNumber.h"
 #include "inquiry/Blanks.h"
 #include "inquiry/NumberReading.h"
 #include "platform/Conversions.h"

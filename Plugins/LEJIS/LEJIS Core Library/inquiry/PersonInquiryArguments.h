@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/NullableDate.h"
-#include "foundation/NullableInteger.h"
+#include "foundation/NullableNumber.h"
 #include "inquiry/BlockMethods.h"
 #include "platform/com/ComObject.h"
 #include "platform/com/Properties.h"

@@ -2,7 +2,7 @@
 
 #include "foundation/ElementReader.h"
 #include "foundation/ElementWriter.h"
-#include "foundation/NumberText.h"
+#include "foundation/NullableNumber.h"
 #include "inquiry/Blanks.h"
 #include "inquiry/NumberReading.h"
 

@@ -1,8 +1,9 @@
 #include "model/LejisIncidentIndexCard.h"
 
-#include "foundation/DateText.h"
 #include "foundation/ElementReader.h"
 #include "foundation/ElementWriter.h"
+#include "foundation/NullableDate.h"
+#include "foundation/QueryPrefixes.h"
 #include "model/LenientReading.h"
 #include "platform/Conversions.h"
 #include "platform/Text.h"

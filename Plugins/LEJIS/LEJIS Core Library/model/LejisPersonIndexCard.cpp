@@ -1,9 +1,9 @@
 #include "model/LejisPersonIndexCard.h"
 
-#include "foundation/DateText.h"
 #include "foundation/ElementReader.h"
 #include "foundation/ElementWriter.h"
-#include "foundation/NumberText.h"
+#include "foundation/NullableDate.h"
+#include "foundation/NullableNumber.h"
 #include "model/LenientReading.h"
 #include "platform/Text.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/NullableDate.h"
-#include "foundation/NullableInteger.h"
+#include "foundation/NullableNumber.h"
 #include "model/LejisStreetAddress.h"
 #include "model/XmlMethods.h"
 #include "platform/com/ComObject.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/NullableInteger.h"
+#include "foundation/NullableNumber.h"
 #include "model/XmlMethods.h"
 #include "platform/com/ComObject.h"
 #include "platform/com/Properties.h"

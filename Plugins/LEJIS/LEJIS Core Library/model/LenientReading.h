@@ -1,7 +1,7 @@
 // Fields of cards whose bad content is passed over: the field keeps the value that it has.
 #pragma once
 
-#include "foundation/NullableInteger.h"
+#include "foundation/NullableNumber.h"
 
 #include <string_view>
 

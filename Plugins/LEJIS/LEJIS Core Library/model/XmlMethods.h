@@ -3,8 +3,8 @@
 #pragma once
 
 #include "foundation/ElementReader.h"
-#include "foundation/LejisUtils.h"
-#include "foundation/OutputDocument.h"
+#include "foundation/ElementWriter.h"
+#include "foundation/QueryPrefixes.h"
 #include "platform/msxml/Document.h"
 
 #define XML_METHODS()                                                                           \

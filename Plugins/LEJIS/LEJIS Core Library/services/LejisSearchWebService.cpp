@@ -2,7 +2,8 @@
 
 #include "deferred/InvokeLater.h"
 #include "foundation/Constants.h"
-#include "foundation/LejisUtils.h"
+#include "foundation/DebugDump.h"
+#include "foundation/NetworkErrors.h"
 #include "inquiry/LejisInquiryResponse.h"
 #include "platform/com/ComObject.h"
 #include "platform/msxml/Document.h"

@@ -3,6 +3,7 @@
 #include "checking/LejisIncidentFormatter.h"
 #include "checking/LejisIncidentValidator.h"
 #include "foundation/Constants.h"
+#include "foundation/DebugDump.h"
 #include "platform/com/ComObject.h"
 #include "platform/Conversions.h"
 #include "platform/http/HttpRequest.h"

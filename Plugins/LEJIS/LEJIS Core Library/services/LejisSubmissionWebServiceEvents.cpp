@@ -2,7 +2,8 @@
 #include "services/LejisSubmissionWebService.h"
 
 #include "deferred/InvokeLater.h"
-#include "foundation/LejisUtils.h"
+#include "foundation/DebugDump.h"
+#include "foundation/NetworkErrors.h"
 #include "platform/msxml/Document.h"
 #include "services/ServiceErrors.h"
 #include "services/SOAPEnvelope.h"

@@ -1,6 +1,6 @@
 #include "services/PlainReading.h"
 
-#include "foundation/LejisUtils.h"
+#include "foundation/DebugDump.h"
 #include "foundation/PlainMarkup.h"
 #include "platform/Text.h"
 

@@ -1,7 +1,7 @@
 #include "services/SOAPEnvelope.h"
 
 #include "foundation/ElementWriter.h"
-#include "foundation/LejisUtils.h"
+#include "foundation/QueryPrefixes.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Markup.h"
 #include "platform/msxml/Node.h"

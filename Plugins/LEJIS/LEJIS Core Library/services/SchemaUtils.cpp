@@ -1,6 +1,6 @@
 #include "services/SchemaUtils.h"
 
-#include "foundation/LejisUtils.h"
+#include "foundation/NetworkErrors.h"
 #include "platform/ComError.h"
 #include "platform/http/Exchange.h"
 #include "platform/http/HttpRequest.h"

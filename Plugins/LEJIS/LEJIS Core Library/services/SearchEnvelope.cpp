@@ -1,7 +1,7 @@
 #include "services/SearchEnvelope.h"
 
 #include "foundation/Constants.h"
-#include "foundation/LejisUtils.h"
+#include "foundation/QueryPrefixes.h"
 #include "platform/ComError.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"

@@ -1,6 +1,7 @@
 #include "services/SubmissionResponse.h"
 
-#include "foundation/LejisUtils.h"
+#include "foundation/DebugDump.h"
+#include "foundation/NetworkErrors.h"
 #include "platform/com/Guard.h"
 #include "platform/Conversions.h"
 #include "platform/msxml/Node.h"

@@ -1,4 +1,4 @@
-#include "foundation/DateText.h"
+#include "foundation/NullableDate.h"
 
 #include "foundation/LejisCommon.h"
 #include "platform/Conversions.h"

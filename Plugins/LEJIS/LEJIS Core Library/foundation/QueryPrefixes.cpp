@@ -1,4 +1,4 @@
-#include "foundation/LejisUtils.h"
+#include "foundation/QueryPrefixes.h"
 
 #include "foundation/Constants.h"
 #include "platform/ComError.h"
