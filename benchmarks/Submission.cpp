@@ -7,7 +7,7 @@
 #include "platform/msxml/Markup.h"
 #include "platform/msxml/Node.h"
 #include "Sections.h"
-#include "services/SubmissionEnvelope.h"
+#include "services/RequestEnvelope.h"
 #include "TypicalIncident.h"
 
 using Microsoft::WRL::ComPtr;

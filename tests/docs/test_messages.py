@@ -37,11 +37,10 @@ TEXTS = {
     r"Software\VB and VBA Program Settings\TalvexSuite\Flags": "a registry key",
     "Still alive:": "what a debug build writes to the debugger",
     "<soap:Envelope xmlns:soap='": "the beginning of an envelope",
-    "' xmlns:wsse='": "a part of an envelope",
-    "'><soap:Body></soap:Body></soap:Envelope>": "the rest of an envelope",
-    "'><soap:Header><wsse:Security><wsse:UsernameToken><wsse:Username>": "a part of an envelope",
-    "</wsse:Username></wsse:UsernameToken></wsse:Security></soap:Header><soap:Body></soap:Body></soap:Envelope>":
-        "the rest of an envelope",
+    "xmlns:wsse='": "a part of an envelope",
+    "<soap:Body></soap:Body></soap:Envelope>": "the rest of an envelope",
+    "<soap:Header><wsse:Security><wsse:UsernameToken><wsse:Username>": "a part of an envelope",
+    "</wsse:Username></wsse:UsernameToken></wsse:Security></soap:Header>": "a part of an envelope",
     "<patterns xmlns:j='": "the beginning of a pattern of measures",
     "'/></patterns>": "the end of a pattern of measures",
     "xmlns:wsdl='http://schemas.xmlsoap.org/wsdl/' xmlns:xsd='http://www.w3.org/2001/XMLSchema'":

@@ -1,4 +1,4 @@
-#include "harness/SearchSink.h"
+#include "harness/SearchOutcome.h"
 
 #include "platform/com/Collection.h"
 #include "support/ComCheck.h"

@@ -4,7 +4,7 @@
 #include "model/LejisSubmissionDocument.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Markup.h"
-#include "services/SubmissionEnvelope.h"
+#include "services/RequestEnvelope.h"
 #include "support/WineVersion.h"
 
 #include <gtest/gtest.h>

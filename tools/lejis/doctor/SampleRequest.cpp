@@ -4,7 +4,7 @@
 #include "library/SubmissionRequest.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Node.h"
-#include "services/SearchEnvelope.h"
+#include "services/RequestEnvelope.h"
 #include "text/Day.h"
 
 namespace lejis_client {
@@ -31,7 +31,7 @@ msxml::Document SampleSearch() {
     Check(person->put_SurName(_bstr_t(L"DOE")));
     ComPtr<IDispatch> document;
     Check(request->ToXmlDocument(&document));
-    return lejis::WrapInSearchEnvelope(msxml::Root(msxml::DocumentFrom(document.Get())), L"doctor");
+    return lejis::WrapInEnvelope(msxml::Root(msxml::DocumentFrom(document.Get())), L"doctor");
 }
 
 }  // namespace lejis_client

@@ -2,7 +2,7 @@
 
 #include "library/Members.h"
 #include "platform/msxml/Document.h"
-#include "services/SubmissionEnvelope.h"
+#include "services/RequestEnvelope.h"
 
 namespace lejis_client {
 

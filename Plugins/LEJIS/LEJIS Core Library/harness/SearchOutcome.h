@@ -1,4 +1,7 @@
+// What becomes of one search, and the sink that hears it.
 #pragma once
+
+#include "platform/com/EventSink.h"
 
 #include <TVLejisCore.h>
 #include <wrl/client.h>
@@ -7,8 +10,8 @@
 
 namespace lejis {
 
-// What becomes of one search: nothing yet, cards or a failure. Each search has its own, so that one which starts while
-// another waits hears its own events and leaves the other's alone.
+// The outcome of one search: still unknown, cards, or a failure. Each search has its own outcome, so that a search
+// which starts while another waits hears its own events alone.
 class SearchOutcome {
 public:
     bool IsKnown() const { return completed_ || failed_; }
@@ -16,7 +19,7 @@ public:
     const std::wstring& FailureMessage() const { return failureMessage_; }
     const Microsoft::WRL::ComPtr<ICollection>& Results() const { return results_; }
 
-    // What the service's events do.
+    // The handlers of the service's events.
     void m_searchService_ConfigurationError(const std::wstring& reasonMessage);
     void m_searchService_NetworkError(const std::wstring& reasonMessage);
     void m_searchService_SearchCompleted(ICollection* results);
@@ -30,6 +33,17 @@ private:
     bool failed_ = false;
     std::wstring failureMessage_;
     Microsoft::WRL::ComPtr<ICollection> results_;
+};
+
+// Hears the search service's events for the outcome of one search, which outlives the connection.
+class SearchSink final : public platform::EventSink<_LejisSearchWebServiceEvents> {
+public:
+    explicit SearchSink(SearchOutcome& outcome) : outcome_(outcome) {}
+
+    STDMETHODIMP Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*, UINT*) override;
+
+private:
+    SearchOutcome& outcome_;
 };
 
 }  // namespace lejis

@@ -9,9 +9,10 @@
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Markup.h"
 #include "platform/msxml/Node.h"
+#include "services/EventNumbers.h"
 #include "services/PlainReading.h"
+#include "services/RequestEnvelope.h"
 #include "services/SchemaUtils.h"
-#include "services/SearchEnvelope.h"
 #include "services/ServiceErrors.h"
 #include "services/SOAPEnvelope.h"
 
@@ -22,15 +23,6 @@ using platform::HttpRequest;
 namespace lejis {
 namespace {
 
-// The events by their numbers in the interface. Number 2, SearchFailed, is never raised.
-constexpr DISPID kSearchCompleted = 1;
-constexpr DISPID kConfigurationError = 3;
-constexpr DISPID kNetworkError = 4;
-constexpr DISPID kServiceError = 5;
-
-constexpr long kOk = 200;
-constexpr long kForbidden = 403;
-
 // "additioanal" and the blanks at the ends of lines are deliberate: clients know this text.
 constexpr wchar_t kTooBroad[] =
     L"The LEJIS core server could not handle your search request. \r\n\r\n"
@@ -39,7 +31,7 @@ constexpr wchar_t kTooBroad[] =
     L"Some LEJIS searches, such as a property search, require you to enter specific information\r\n"
     L"(for example, property searches require you to specify a property serial number in your search).";
 
-// Null when the request offers no document.
+// What MSXML's document of the answer holds; null when the request offers no document.
 ComPtr<LejisInquiryResponse> ReadDocument(const Exchange& exchange) {
     const msxml::Document& answer = exchange.ResponseXml();
     if (!answer) return nullptr;
@@ -63,13 +55,14 @@ STDMETHODIMP LejisSearchWebService::Search(ILejisSearchRequest* request) {
             Send(*platform::Inside<LejisSearchRequest>(request));
         } catch (...) {
             const SendingFailure failure = ToSendingFailure(platform::CaughtError(), URL);
-            FireReason(failure.isNetworkError ? kNetworkError : kConfigurationError, failure.message);
+            FireReason(failure.isNetworkError ? SearchEvents::kNetworkError : SearchEvents::kConfigurationError,
+                       failure.message);
         }
     });
 }
 
 void LejisSearchWebService::Send(const LejisSearchRequest& request) {
-    const msxml::Document envelope = WrapInSearchEnvelope(msxml::Root(request.ToDocument()), Username);
+    const msxml::Document envelope = WrapInEnvelope(msxml::Root(request.ToDocument()), Username);
     LejisUtils::SaveDebugDocument(envelope, L"LejisSearchRequest.xml");
     if (ValidateSchema) SchemaUtils::ValidateSchemaFromWSDL(envelope, URL + L"?wsdl");
     Post(envelope);
@@ -77,7 +70,7 @@ void LejisSearchWebService::Send(const LejisSearchRequest& request) {
 
 void LejisSearchWebService::Post(const msxml::Document& envelope) {
     HttpRequest request = HttpRequest::Create();
-    // Late news of a search that this one replaces is not taken for its own.
+    // A late report of the search that this one replaces must not count as its own.
     request_.Abandon();
     request_ = request;
     isAwaited_ = true;
@@ -88,8 +81,8 @@ void LejisSearchWebService::Post(const msxml::Document& envelope) {
         request.SetHeader(L"Content-Type", L"text/xml;charset=utf-8");
         request.Send(msxml::Markup(envelope));
     } catch (...) {
-        // No answer is to come that would part the request and this object. A search that was made while this one was
-        // sent goes on.
+        // No answer will come to separate the request from this object. A search that began while this one was sent
+        // goes on.
         request.Abandon();
         if (request_ == request) isAwaited_ = false;
         throw;
@@ -98,14 +91,14 @@ void LejisSearchWebService::Post(const msxml::Document& envelope) {
 
 STDMETHODIMP LejisSearchWebService::OnReadyStateChange() {
     return Guard([&] {
-        // Inside of the request's callback nothing is processed: the answer is read a moment later.
+        // Nothing is processed inside of the request's callback: the answer is read a moment later.
         if (request_ && request_.ReadyState() == HttpRequest::kComplete) LejisUtils::InvokeLater(this);
     });
 }
 
 STDMETHODIMP LejisSearchWebService::IRunnable_Run() {
     return Guard([&] {
-        // A completion reported twice, or that of a search since replaced, is not a second answer.
+        // A completion that is reported twice, or for a search that was replaced, is not a second answer.
         if (!isAwaited_ || request_.ReadyState() != HttpRequest::kComplete) return;
         isAwaited_ = false;
         try {
@@ -113,19 +106,19 @@ STDMETHODIMP LejisSearchWebService::IRunnable_Run() {
             request_.ClearReadyStateHandler();
             RaiseOutcome(request_);
         } catch (...) {
-            FireReason(kServiceError, InternalServiceError(platform::CaughtError()));
+            FireReason(SearchEvents::kServiceError, InternalServiceError(platform::CaughtError()));
         }
     });
 }
 
 void LejisSearchWebService::RaiseOutcome(const Exchange& exchange) {
     const long status = exchange.Status();
-    if (status == kOk) {
+    if (status == kHttpOk) {
         RaiseFound(exchange);
     } else if (LejisUtils::IsTransientStatus(status)) {
-        FireReason(kNetworkError, LejisUtils::GetNetworkErrorMessage(exchange));
-    } else if (status == kForbidden) {
-        FireReason(kConfigurationError, exchange.StatusText());
+        FireReason(SearchEvents::kNetworkError, LejisUtils::GetNetworkErrorMessage(exchange));
+    } else if (status == kHttpForbidden) {
+        FireReason(SearchEvents::kConfigurationError, exchange.StatusText());
     } else {
         RaiseServiceError(exchange);
     }
@@ -136,10 +129,10 @@ void LejisSearchWebService::RaiseFound(const Exchange& exchange) {
     if (!response) response = ReadDocument(exchange);
     if (!response) return;
     if (response->IncidentCount != 0 && response->IncidentIndexCards->Count() == 0) {
-        return FireReason(kServiceError, kTooBroad);
+        return FireReason(SearchEvents::kServiceError, kTooBroad);
     }
     results_ = response->IncidentIndexCards;
-    Fire(kSearchCompleted, {_variant_t(results_->Dispatch())});
+    Fire(SearchEvents::kSearchCompleted, {_variant_t(results_->Dispatch())});
 }
 
 void LejisSearchWebService::RaiseServiceError(const Exchange& exchange) {
@@ -148,9 +141,9 @@ void LejisSearchWebService::RaiseServiceError(const Exchange& exchange) {
     if (msxml::Root(answer)) {
         const auto envelope = platform::Create<SOAPEnvelope>();
         envelope->ReadDocument(answer);
-        if (envelope->HasFault()) return FireReason(kServiceError, envelope->TextOfFault());
+        if (envelope->HasFault()) return FireReason(SearchEvents::kServiceError, envelope->TextOfFault());
     }
-    FireReason(kServiceError, kUnexpectedResponse);
+    FireReason(SearchEvents::kServiceError, kUnexpectedResponse);
 }
 
 void LejisSearchWebService::FireReason(DISPID event, const std::wstring& reasonMessage) {

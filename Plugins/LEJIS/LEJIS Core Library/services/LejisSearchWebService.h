@@ -13,9 +13,9 @@ namespace lejis {
 
 using platform::Collection;
 
-// Sends a search and reports its outcome by exactly one event. It stays alive while its answer is under way, also when
-// its client has let go of it. A search replaces one that is still under way, whose answer is lost, as soon as it is
-// ready to be posted; one that fails before leaves the other alone.
+// Sends a search and reports its outcome by exactly one event. The service stays alive while the answer is under way,
+// even when its client has released it. A search that is ready to be posted replaces one that is still under way, whose
+// answer is lost. A search that fails earlier leaves the other one alone.
 class LejisSearchWebService final : public platform::EventSource<::LejisSearchWebService, ILejisSearchWebService,
                                                                  _LejisSearchWebServiceEvents, IRunnable> {
 public:
@@ -37,11 +37,11 @@ private:
     void RaiseServiceError(const platform::Exchange& exchange);
     void FireReason(DISPID event, const std::wstring& reasonMessage);
 
-    // That of the search in progress or of the last one.
+    // The request of the search in progress, or of the last search.
     platform::HttpRequest request_;
     // A search has been sent and its event not yet raised.
     bool isAwaited_ = false;
-    // Those of the last success; a failure does not clear them.
+    // The results of the last successful search. A failure does not clear them.
     Microsoft::WRL::ComPtr<Collection> results_;
 };
 

@@ -2,17 +2,21 @@
 
 #include "checking/LejisIncidentFormatter.h"
 #include "checking/LejisIncidentValidator.h"
+#include "deferred/InvokeLater.h"
 #include "foundation/Constants.h"
 #include "foundation/DebugDump.h"
+#include "foundation/NetworkErrors.h"
 #include "platform/com/ComObject.h"
 #include "platform/Conversions.h"
 #include "platform/http/HttpRequest.h"
 #include "platform/msxml/Document.h"
 #include "platform/msxml/Markup.h"
 #include "platform/msxml/Node.h"
+#include "services/EventNumbers.h"
+#include "services/RequestEnvelope.h"
 #include "services/SchemaUtils.h"
-#include "services/SubmissionEnvelope.h"
-#include "services/SubmissionErrors.h"
+#include "services/ServiceErrors.h"
+#include "services/SOAPEnvelope.h"
 #include "services/SubmissionResponse.h"
 
 using Microsoft::WRL::ComPtr;
@@ -72,7 +76,7 @@ void LejisSubmissionWebService::DoSubmit(const LejisSubmissionDocument& document
         if (ValidateSchema) SchemaUtils::ValidateSchemaFromWSDL(envelope, URL + L"?wsdl");
         step = 4;
         request = platform::HttpRequest::Create();
-        // Late news of a submission that this one replaces is not taken for its own.
+        // A late report of the submission that this one replaces must not count as its own.
         request_.ClearReadyStateHandler();
         request_ = request;
         if (asynchronous) request.SetReadyStateHandler(Dispatch());
@@ -87,12 +91,67 @@ void LejisSubmissionWebService::DoSubmit(const LejisSubmissionDocument& document
         if (!asynchronous) platform::WaitUntilComplete(request_);
     } catch (...) {
         const ComError error = platform::CaughtError();
-        // No answer will come that would part the request and this object.
+        // No answer will come to separate the request from this object.
         request.ClearReadyStateHandler();
         throw ComError(error.Number(),
                        L"Error in DoSubmit (line " + std::to_wstring(step) + L"): " + error.Description(),
                        error.Source());
     }
+}
+
+void LejisSubmissionWebService::SubmitAsync(const LejisSubmissionDocument& document) {
+    try {
+        DoSubmit(document, true);
+    } catch (...) {
+        const SendingFailure failure = ToSendingFailure(platform::CaughtError(), URL);
+        FireReason(failure.isNetworkError ? SubmissionEvents::kNetworkError : SubmissionEvents::kConfigurationError,
+                   failure.message);
+    }
+}
+
+STDMETHODIMP LejisSubmissionWebService::OnReadyStateChange() {
+    return Guard([&] {
+        // Nothing is processed inside of the request's callback: the answer is read a moment later.
+        if (request_ && request_.ReadyState() == platform::HttpRequest::kComplete) LejisUtils::InvokeLater(this);
+    });
+}
+
+STDMETHODIMP LejisSubmissionWebService::IRunnable_Run() {
+    return Guard([&] {
+        try {
+            // The request and this object hold each other until here.
+            request_.ClearReadyStateHandler();
+            RaiseOutcome(request_);
+        } catch (...) {
+            FireReason(SubmissionEvents::kServiceError, InternalServiceError(platform::CaughtError()));
+        }
+    });
+}
+
+void LejisSubmissionWebService::RaiseOutcome(const platform::Exchange& exchange) {
+    const long status = exchange.Status();
+    if (status == kHttpOk) {
+        // Only a caller that waits gets the response code judged.
+        Fire(SubmissionEvents::kSubmissionCompleted);
+    } else if (LejisUtils::IsTransientStatus(status)) {
+        FireReason(SubmissionEvents::kNetworkError, LejisUtils::GetNetworkErrorMessage(exchange));
+    } else {
+        RaiseServiceError(exchange);
+    }
+}
+
+void LejisSubmissionWebService::RaiseServiceError(const platform::Exchange& exchange) {
+    const msxml::Document& response = exchange.ResponseXml();
+    if (!response) return;
+    if (!msxml::Root(response)) return FireReason(SubmissionEvents::kServiceError, kUnexpectedResponse);
+    LejisUtils::SaveDebugDocument(response, L"LejisSubmitResponse.xml");
+    const auto envelope = platform::Create<SOAPEnvelope>();
+    envelope->ReadDocument(response);
+    FireReason(SubmissionEvents::kServiceError, envelope->HasFault() ? envelope->TextOfFault() : L"Unknown error");
+}
+
+void LejisSubmissionWebService::FireReason(DISPID event, const std::wstring& reasonMessage) {
+    Fire(event, {_variant_t(platform::ToBstr(reasonMessage))});
 }
 
 }  // namespace lejis

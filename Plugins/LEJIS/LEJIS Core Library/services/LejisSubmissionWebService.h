@@ -19,7 +19,7 @@ class LejisSubmissionWebService final
 public:
     BOOLEAN_PROPERTY(ValidateSchema)
     TEXT_PROPERTY(URL)
-    // Kept for the client and applied nowhere: the request has no time-outs, and the wait for it has no end of its own.
+    // The client's value is kept and applied nowhere: the request has no time-outs, and the wait for it has no limit.
     LONG_PROPERTY(Timeout)
     [[nodiscard]] STDMETHODIMP SubmitIncident(ILejisIncidentIndexCard* incident, ICollection** result) override;
     [[nodiscard]] STDMETHODIMP DeleteIncident(ILejisIncidentIndexCard* incident) override;
@@ -43,7 +43,7 @@ private:
     void RaiseServiceError(const platform::Exchange& exchange);
     void FireReason(DISPID event, const std::wstring& reasonMessage);
 
-    // That of the last send, kept until the next one.
+    // The request of the last send, kept until the next one.
     platform::HttpRequest request_;
 };
 

@@ -1,6 +1,7 @@
 #include "services/PlainReading.h"
 
 #include "foundation/DebugDump.h"
+#include "foundation/NetworkErrors.h"
 #include "foundation/PlainMarkup.h"
 #include "platform/Text.h"
 
@@ -12,8 +13,6 @@ using platform::Exchange;
 
 namespace lejis {
 namespace {
-
-constexpr long kOk = 200;
 
 std::atomic<bool> isOn = PLAIN_READING;
 
@@ -53,7 +52,7 @@ ComPtr<LejisInquiryResponse> Read(std::string_view bytes) {
 
 ComPtr<LejisInquiryResponse> TryPlainReading(const Exchange& exchange) {
     if (!PlainReadingIsOn()) return nullptr;
-    if (exchange.Status() != kOk) return nullptr;
+    if (exchange.Status() != kHttpOk) return nullptr;
     // A dump is written by MSXML from its document.
     if (LejisUtils::DebugFlagIsOn()) return nullptr;
     if (!IsXmlInUtf8(exchange.ContentType())) return nullptr;

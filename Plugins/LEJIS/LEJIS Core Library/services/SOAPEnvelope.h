@@ -11,9 +11,9 @@
 
 namespace lejis {
 
-// Reads SOAP 1.1 answers, and writes envelopes with a WS-Security user name. The web services write their requests
-// themselves. A client's document is read at once, for the client may go on to change it. Of a document that no client
-// has, the answer to a service, the markup of the body is made when it is asked for: large answers never need it.
+// Reads SOAP 1.1 answers, and writes envelopes with a WS-Security user name; RequestEnvelope.h writes those of the web
+// services. A client's document is read at once, because the client may go on to change it. The answer to a service is
+// in no client's hands, so the markup of its body is made on demand: large answers never need it.
 class SOAPEnvelope final : public platform::ComObject<::SOAPEnvelope, ISOAPEnvelope> {
 public:
     TEXT_PROPERTY(Username)
@@ -35,17 +35,17 @@ public:
 
     msxml::Element Write(const msxml::Document& document) const;
     void Read(const msxml::Element& element);
-    // Raises for a document whose root is no soap:Envelope, and for one with a DOCTYPE.
+    // Throws for a document with another root than soap:Envelope, and for one with a DOCTYPE.
     void ReadDocument(const msxml::Document& document);
 
-    // The soap:Body element, for reading; raises when there is none.
+    // The soap:Body element, for reading. Throws when the envelope has no body.
     msxml::Element BodyElement() const;
 
 private:
     std::wstring FaultText(const wchar_t* path) const;
     void TakeBodyText();
 
-    // One of the two: the body as it was read, or the text of one.
+    // The body is held in one of these two ways: as it was read, or as its text.
     msxml::Element readBody_;
     std::wstring bodyText_;
 };

@@ -13,7 +13,6 @@ namespace lejis::SchemaUtils {
 namespace {
 
 constexpr HRESULT kSchemaError = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_ITF, 0x0301);
-constexpr long kOk = 200;
 
 [[noreturn]] void Raise(std::wstring description) { throw platform::ComError(kSchemaError, std::move(description)); }
 
@@ -33,7 +32,7 @@ platform::HttpRequest Fetch(const std::wstring& url) {
     Await(request);
     const platform::Exchange exchange(request);
     if (LejisUtils::IsTransientStatus(exchange.Status())) Raise(LejisUtils::GetNetworkErrorMessage(exchange));
-    if (exchange.Status() != kOk) Raise(exchange.ResponseText());
+    if (exchange.Status() != kHttpOk) Raise(exchange.ResponseText());
     return request;
 }
 
@@ -67,7 +66,7 @@ std::wstring TargetNamespace(const msxml::Element& schema) {
     return *target;
 }
 
-// Of each schema only its first include is added, not what stands in the WSDL itself.
+// Adds the first include of each schema, and not what stands in the WSDL itself.
 msxml::SchemaCache SchemasOf(const msxml::Document& wsdl) {
     msxml::SchemaCache schemas;
     const msxml::Element root = msxml::Root(wsdl);

@@ -7,8 +7,8 @@
 
 namespace lejis::SchemaUtils {
 
-// Returns when the document is valid by the schemas of the WSDL at this address, and raises otherwise. Waits for the
-// WSDL without a time limit, letting the host work meanwhile.
+// Returns when the document is valid by the schemas of the WSDL at this address, and throws otherwise. Waits for the
+// WSDL without a time limit, and lets the host work meanwhile.
 void ValidateSchemaFromWSDL(const msxml::Document& document, const std::wstring& wsdlUrl);
 
 }  // namespace lejis::SchemaUtils

@@ -1,4 +1,5 @@
-// The texts that the failures of both web services share.
+// The errors of both web services: the texts that they share, the failures that an event reports, and the errors that a
+// submission throws.
 #pragma once
 
 #include "platform/ComError.h"
@@ -18,12 +19,26 @@ std::wstring InternalError(const platform::ComError& error);
 // "Internal error in web service code: Unspecified error"
 std::wstring InternalServiceError(const platform::ComError& error);
 
-// What a client learns by an event when a request could not be sent.
+// What an event tells the client when a request could not be sent.
 struct SendingFailure {
-    // Else the configuration is wrong.
+    // Otherwise the configuration is wrong.
     bool isNetworkError;
     std::wstring message;
 };
 SendingFailure ToSendingFailure(const platform::ComError& error, const std::wstring& url);
+
+// The same submission may succeed later.
+platform::ComError TransientError(std::wstring description);
+
+// The submission will not succeed as it is.
+platform::ComError FatalError(std::wstring description);
+
+bool IsSubmissionError(const platform::ComError& error);
+
+// The error that a failed submission throws to the client in place of `error`; `step` is the step that failed.
+platform::ComError SubmissionFailure(const platform::ComError& error, const std::wstring& url, int step);
+
+// " (Line 3)"
+std::wstring InLine(int step);
 
 }  // namespace lejis

@@ -7,16 +7,12 @@
 #include "platform/msxml/Node.h"
 #include "services/ServiceErrors.h"
 #include "services/SOAPEnvelope.h"
-#include "services/SubmissionErrors.h"
 
 using platform::ComError;
 using platform::Exchange;
 
 namespace lejis {
 namespace {
-
-constexpr long kOk = 200;
-constexpr long kForbidden = 403;
 
 constexpr short kAccepted = 0;
 constexpr short kCoreOffline = 100;
@@ -31,8 +27,8 @@ bool IsSoapResponse(const msxml::Document& response) {
     }
 }
 
-// The number that the text begins with before its first blank; 0 when it begins with none, which makes a bare word of
-// acknowledgement a success on purpose. An empty text has no such piece.
+// The number that the text begins with, before its first blank. A text without such a number counts as 0, so that a
+// bare word of acknowledgement is a success; this is deliberate. An empty text throws.
 short ResponseCode(const std::wstring& text) {
     if (text.empty()) throw ComError(DISP_E_BADINDEX, L"Subscript out of range");
     const std::wstring piece = text.substr(0, text.find(L' '));
@@ -77,7 +73,7 @@ void ProcessResponse(const Exchange& exchange) {
         const long status = exchange.Status();
         if (LejisUtils::IsTransientStatus(status)) throw TransientError(LejisUtils::GetNetworkErrorMessage(exchange));
         step = 2;
-        if (status == kForbidden) throw FatalError(exchange.StatusText());
+        if (status == kHttpForbidden) throw FatalError(exchange.StatusText());
         step = 3;
         RequireSoap(exchange, status);
         step = 4;
@@ -85,14 +81,14 @@ void ProcessResponse(const Exchange& exchange) {
         LejisUtils::SaveDebugDocument(exchange.ResponseXml(), L"LejisSubmitResponse.xml");
         envelope->ReadDocument(exchange.ResponseXml());
         step = 5;
-        if (status != kOk) RaiseFault(*envelope);
+        if (status != kHttpOk) RaiseFault(*envelope);
         step = 6;
         const std::wstring text = ResponseText(*envelope);
         step = 7;
         RequireAccepted(text);
     } catch (...) {
         const ComError error = platform::CaughtError();
-        // What is raised above on purpose leaves as it is.
+        // The errors that are thrown above on purpose leave unchanged.
         if (IsSubmissionError(error)) throw error;
         throw FatalError(InternalServiceError(error) + InLine(step));
     }
