@@ -1,6 +1,6 @@
 #include "deferred/Future.h"
 
-#include "deferred/RunnableCheck.h"
+#include "platform/host/SuiteHost.h"
 #include "platform/host/SuiteTimer.h"
 
 #include <utility>
@@ -13,6 +13,10 @@ namespace {
 constexpr long kDelayMilliseconds = 100;
 
 }  // namespace
+
+void RequireRunnable(IRunnable* runnable) {
+    if (!runnable) throw platform::host::InvalidArgument(L"runnable cannot be Nothing");
+}
 
 STDMETHODIMP Future::Execute(IRunnable* runnable, IFutureObserver* observer) {
     return Guard([&] { Schedule(runnable, observer); });
@@ -31,17 +35,17 @@ void Future::Schedule(IRunnable* runnable, IFutureObserver* observer) {
 }
 
 void Future::m_invokeTimer_Elapsed() {
-    // The observer lets go of the future, as a rule the last to hold it.
+    // The observer releases the future, and is as a rule the last to hold it.
     const ComPtr<IFuture> self(this);
     invokeTimer_->Stop();
     // A timer that cannot be stopped ticks on.
     if (!std::exchange(isScheduled_, false)) return;
-    // The work may give this future other work, which a later tick runs. So what this tick runs and whom it tells are
-    // taken out before.
+    // The work may give this future other work, which a later tick runs. So this tick first takes out its work and its
+    // observer.
     const ComPtr<IRunnable> runnable = runnable_;
     const ComPtr<IFutureObserver> observer = std::move(observer_);
-    // A failure ends the tick here: the future stays incomplete, and whoever keeps it goes on keeping it. It no longer
-    // holds its observer, so a manager that keeps it can still end.
+    // A failure ends the tick here. The future stays incomplete, and its manager goes on keeping it. The future no
+    // longer holds its observer, so the manager can still end.
     platform::Check(runnable->Run());
     completed_ = true;
     if (!isScheduled_) runnable_.Reset();

@@ -10,14 +10,17 @@
 
 namespace lejis {
 
-// One deferred call. Whoever wants it to happen keeps the future alive: one that is released before its tick never
-// runs.
+// Throws "runnable cannot be Nothing" without a runnable.
+void RequireRunnable(IRunnable* runnable);
+
+// One deferred call. Whoever wants the call to happen keeps the future alive: a future that is released before its tick
+// never runs.
 class Future final : public platform::ComObject<::Future, IFuture> {
 public:
     STDMETHODIMP Execute(IRunnable* runnable, IFutureObserver* observer) override;
     STDMETHODIMP get_Completed(VARIANT_BOOL* result) override;
 
-    // Work that the future already waits for is replaced; work that runs is not.
+    // Replaces work that the future still waits for. Work that runs already goes on.
     void Schedule(IRunnable* runnable, IFutureObserver* observer);
 
 private:

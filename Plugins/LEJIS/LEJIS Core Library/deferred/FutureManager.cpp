@@ -1,6 +1,5 @@
 #include "deferred/FutureManager.h"
 
-#include "deferred/RunnableCheck.h"
 #include "platform/host/SuiteHost.h"
 
 #include <cstdint>
@@ -19,7 +18,7 @@ void FutureManager::RunLater(IRunnable* runnable) {
     try {
         future->Schedule(runnable, this);
     } catch (...) {
-        // Never scheduled, so it would be kept for ever.
+        // The future is not scheduled, so the manager would keep it for ever.
         pending_.erase(key);
         throw;
     }
