@@ -1,8 +1,7 @@
 #include "checking/FormattingRules.h"
 
-#include "checking/CautionCaveat.h"
 #include "checking/NcicOffenseCodes.h"
-#include "checking/RecordLabels.h"
+#include "checking/RecordMessages.h"
 #include "foundation/NullableNumber.h"
 #include "platform/Text.h"
 

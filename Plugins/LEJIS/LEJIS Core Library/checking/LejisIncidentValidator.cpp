@@ -1,7 +1,6 @@
 #include "checking/LejisIncidentValidator.h"
 
-#include "checking/CautionCaveat.h"
-#include "checking/RecordLabels.h"
+#include "checking/RecordMessages.h"
 #include "platform/com/ComObject.h"
 #include "platform/Dates.h"
 #include "platform/Text.h"

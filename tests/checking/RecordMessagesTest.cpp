@@ -1,4 +1,4 @@
-#include "checking/RecordLabels.h"
+#include "checking/RecordMessages.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "checking/RecordLabels.h"
+#include "checking/RecordMessages.h"
 
 #include "platform/Text.h"
 
@@ -8,6 +8,8 @@ namespace {
 std::wstring InParentheses(const platform::TextArgument& text) {
     return text.View().empty() ? std::wstring() : platform::Join({L" (", text.View(), L")"});
 }
+
+constexpr size_t kLongestCaveat = 200;
 
 }  // namespace
 
@@ -28,5 +30,12 @@ std::wstring LabelOf(const LejisVehicleIndexCard& vehicle) {
 }
 
 std::wstring Labelled(const std::wstring& label, const std::wstring& message) { return label + L": " + message; }
+
+std::optional<std::wstring> CautionCaveatMessage(const LejisPersonIndexCard& person) {
+    const std::wstring caveat = person.SubjectCautionInformationCaveat;
+    if (caveat.size() <= kLongestCaveat) return std::nullopt;
+    return platform::Join({L"Caution information cannot be more than 200 characters. '", caveat, L"' is ",
+                           std::to_wstring(caveat.size()), L" characters long."});
+}
 
 }  // namespace lejis
