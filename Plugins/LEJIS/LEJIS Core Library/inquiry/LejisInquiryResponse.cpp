@@ -10,7 +10,7 @@
 namespace lejis {
 namespace {
 
-// The number that the text begins with, halves to the even neighbour; 0 for a text that begins with none.
+// The number that the text begins with, halves to the even neighbour; 0 for a text that begins with no number.
 long Count(std::wstring_view text) {
     const auto count = platform::RoundTo<long>(_variant_t(platform::LeadingDecimal(text)));
     if (!count) throw platform::Overflow();
@@ -21,7 +21,7 @@ bool IsNamed(const msxml::Node& node, const ElementName& name) {
     return msxml::LocalName(node) == name.LocalName() && msxml::NamespaceUri(node) == name.NamespaceUri();
 }
 
-// The first answer below the node in document order. A query would go through all that stands behind it as well.
+// The first answer below the node in document order. A query would go through everything after it too.
 msxml::Node FindAnswer(const msxml::Node& node, int depth = 0) {
     if (depth == msxml::kMaximumDepth) msxml::RaiseTooDeep();
     for (msxml::Node child = msxml::FirstChild(node); child; child = msxml::NextSibling(child)) {
@@ -73,7 +73,7 @@ STDMETHODIMP LejisInquiryResponse::FromXmlDocument(IDispatch* doc) {
 void LejisInquiryResponse::Read(const msxml::Element& element) {
     IncidentIndexCards = platform::Create<Collection>();
     std::optional<platform::OutText> count;
-    // One after the other: a large answer would be too much to take at once.
+    // The cards are taken one after the other, because a large answer would be too much at once.
     for (msxml::Node child = msxml::FirstChild(element); child; child = msxml::NextSibling(child)) {
         if (IsNamed(child, L"lejis:RMSIncidentIndexCard")) {
             AddCard(ElementReader(msxml::AsElement(child)));

@@ -22,11 +22,11 @@ public:
 
     long IncidentCount = 0;
 
-    // A card that cannot be read raises; those before it stay, and the count keeps its old value.
+    // Throws for a card that cannot be read. The cards before it stay, and the count keeps its old value.
     void Read(const msxml::Element& element);
     // Reads the answer of a SOAP envelope in UTF-8. Throws NotPlain for whatever only MSXML can judge.
     void ReadPlainMarkup(std::string_view bytes);
-    // Reads the first answer at any depth of the node. Raises the object error when there is none.
+    // Reads the first answer at any depth of the node. Throws the object error when the node holds no answer.
     void ReadBelow(const msxml::Node& node);
 
 private:

@@ -13,7 +13,7 @@
 
 namespace lejis {
 
-// A search, as inq:LEJISIndexInquiry. It is sent as it stands: that nothing is asked for is for the server to refuse.
+// A search, as inq:LEJISIndexInquiry. It is sent as it stands: the server refuses a search that asks for nothing.
 class LejisSearchRequest final : public platform::ComObject<::LejisSearchRequest, ILejisSearchRequest> {
 public:
     OBJECT_PROPERTY(PersonInquiryArguments, personArguments)
@@ -26,7 +26,7 @@ public:
     [[nodiscard]] STDMETHODIMP ToXmlDocument(IDispatch** result) override;
     [[nodiscard]] STDMETHODIMP FromXmlElement(IDispatch* elem) override;
 
-    // Becomes the root of the document. Raises when that has a root.
+    // The new element becomes the root of the document. Throws when the document has a root.
     msxml::Element Write(const OutputDocument& document) const;
     msxml::Document ToDocument() const;
     // A block whose element is missing stays as it is.

@@ -4,8 +4,7 @@
 #include "foundation/ElementWriter.h"
 #include "foundation/NullableDate.h"
 #include "foundation/NullableNumber.h"
-#include "inquiry/Blanks.h"
-#include "inquiry/NumberReading.h"
+#include "model/FieldReading.h"
 #include "platform/Conversions.h"
 
 namespace lejis {

@@ -2,7 +2,6 @@
 
 #include "foundation/ElementReader.h"
 #include "foundation/ElementWriter.h"
-#include "inquiry/Blanks.h"
 
 namespace lejis {
 

@@ -3,8 +3,7 @@
 #include "foundation/ElementReader.h"
 #include "foundation/ElementWriter.h"
 #include "foundation/NullableNumber.h"
-#include "inquiry/Blanks.h"
-#include "inquiry/NumberReading.h"
+#include "model/FieldReading.h"
 
 namespace lejis {
 

@@ -4,7 +4,7 @@
 #include "foundation/ElementWriter.h"
 #include "foundation/NullableDate.h"
 #include "foundation/QueryPrefixes.h"
-#include "model/LenientReading.h"
+#include "model/FieldReading.h"
 #include "platform/Conversions.h"
 #include "platform/Text.h"
 
@@ -30,7 +30,7 @@ platform::Ref<Collection> ReadCardsOf(const std::vector<ElementReader>& elements
         try {
             card->Read(element);
         } catch (const platform::ComError&) {
-            // Deliberate: a card that cannot be read to its end is kept as far as it could be read.
+            // This is deliberate: a card that cannot be read to its end is kept as far as it could be read.
         }
         cards->AddObject(card->Dispatch());
     }
@@ -39,7 +39,7 @@ platform::Ref<Collection> ReadCardsOf(const std::vector<ElementReader>& elements
 
 template <typename Card>
 bool AnyHasCaution(const Collection& cards) {
-    // The first one found ends the search: what stands behind it is not looked at.
+    // The first card with a caution ends the search: the cards after it are not looked at.
     for (long index = 1; index <= static_cast<long>(cards.Count()); ++index) {
         if (cards.ItemAs<Card>(index)->CautionIndicator) return true;
     }

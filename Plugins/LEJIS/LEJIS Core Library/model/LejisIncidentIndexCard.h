@@ -14,11 +14,10 @@
 
 namespace lejis {
 
-class ElementReader;
 using platform::Collection;
 
-// An incident as lejis:RMSIncidentIndexCard. It stores and writes what it is given: shaping is the formatter's affair,
-// required values the validator's.
+// An incident as lejis:RMSIncidentIndexCard. It stores and writes any values: the formatter shapes them, and the
+// validator checks the required ones.
 class LejisIncidentIndexCard final : public platform::ComObject<::LejisIncidentIndexCard, ILejisIncidentIndexCard> {
 public:
     TEXT_BLOCK()

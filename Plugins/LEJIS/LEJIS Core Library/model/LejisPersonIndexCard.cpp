@@ -4,7 +4,7 @@
 #include "foundation/ElementWriter.h"
 #include "foundation/NullableDate.h"
 #include "foundation/NullableNumber.h"
-#include "model/LenientReading.h"
+#include "model/FieldReading.h"
 #include "platform/Text.h"
 
 namespace lejis {

@@ -2,7 +2,7 @@
 
 #include "foundation/ElementReader.h"
 #include "foundation/ElementWriter.h"
-#include "model/LenientReading.h"
+#include "model/FieldReading.h"
 
 namespace lejis {
 

@@ -9,8 +9,6 @@
 
 namespace lejis {
 
-class ElementReader;
-
 // An address as j:LocationAddress. It is read from the element that contains that: j:IncidentLocation or j:Residence.
 class LejisStreetAddress final : public platform::ComObject<::LejisStreetAddress, ILejisStreetAddress> {
 public:

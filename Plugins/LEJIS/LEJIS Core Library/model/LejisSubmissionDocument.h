@@ -10,7 +10,7 @@
 
 namespace lejis {
 
-// The payload of a submission, as lejis:SubmitRmsIndex: incidents, and behind them the system that contributes them.
+// The payload of a submission, as lejis:SubmitRmsIndex: incidents, and after them the system that contributes them.
 class LejisSubmissionDocument final : public platform::ComObject<::LejisSubmissionDocument, ILejisSubmissionDocument> {
 public:
     OBJECT_PROPERTY(Collection, IncidentIndexCards)
@@ -20,7 +20,7 @@ public:
 
     void Add(const platform::Ref<LejisIncidentIndexCard>& incident);
 
-    // Becomes the root of the document. Raises when that has a root.
+    // The new element becomes the root of the document. Throws when the document has a root.
     msxml::Element Write(const OutputDocument& document) const;
     msxml::Document ToDocument() const;
 };

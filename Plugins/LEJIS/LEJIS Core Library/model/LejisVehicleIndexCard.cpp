@@ -3,7 +3,7 @@
 #include "foundation/ElementReader.h"
 #include "foundation/ElementWriter.h"
 #include "foundation/NullableNumber.h"
-#include "model/LenientReading.h"
+#include "model/FieldReading.h"
 #include "platform/Conversions.h"
 
 namespace lejis {

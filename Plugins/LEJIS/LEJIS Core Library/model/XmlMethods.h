@@ -1,5 +1,5 @@
-// The two methods by which a card meets its clients, and the two that they hand on to: Write and Read. The names differ
-// on purpose: a call inside never takes the client's method, whose result says whether it failed.
+// The two methods of a card for its clients, and the two inside that they call: Write and Read. The names differ on
+// purpose: a call inside never takes the client's method, whose result says whether it failed.
 #pragma once
 
 #include "foundation/ElementReader.h"
