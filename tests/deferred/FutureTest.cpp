@@ -1,7 +1,6 @@
 #include "deferred/Future.h"
 
 #include "deferred/FutureManager.h"
-#include "deferred/InvokeLater.h"
 #include "platform/com/Module.h"
 #include "platform/thread/ThreadState.h"
 #include "support/ComCheck.h"

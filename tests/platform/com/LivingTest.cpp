@@ -1,7 +1,6 @@
 #include "platform/com/Module.h"
 
 #include "deferred/FutureManager.h"
-#include "deferred/InvokeLater.h"
 #include "model/LejisVehicleIndexCard.h"
 #include "platform/com/Collection.h"
 #include "support/Messages.h"

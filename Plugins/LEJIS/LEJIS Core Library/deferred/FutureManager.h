@@ -1,3 +1,4 @@
+// Runnables that run later, and the manager that keeps them alive until then.
 #pragma once
 
 #include "deferred/Future.h"
@@ -30,3 +31,10 @@ private:
 };
 
 }  // namespace lejis
+
+namespace lejis::LejisUtils {
+
+// Runs the runnable a moment later on this thread, from its message loop, and keeps it alive until then.
+void InvokeLater(IRunnable* runnable);
+
+}  // namespace lejis::LejisUtils

@@ -1,6 +1,6 @@
 #include "services/LejisSearchWebService.h"
 
-#include "deferred/InvokeLater.h"
+#include "deferred/FutureManager.h"
 #include "foundation/Constants.h"
 #include "foundation/DebugDump.h"
 #include "foundation/NetworkErrors.h"

@@ -2,7 +2,7 @@
 
 #include "checking/LejisIncidentFormatter.h"
 #include "checking/LejisIncidentValidator.h"
-#include "deferred/InvokeLater.h"
+#include "deferred/FutureManager.h"
 #include "foundation/Constants.h"
 #include "foundation/DebugDump.h"
 #include "foundation/NetworkErrors.h"
