@@ -28,7 +28,7 @@ void FormattingRules::Apply(LejisIncidentIndexCard& incident) {
 }
 
 void FormattingRules::Apply(LejisPersonIndexCard& person) {
-    // Made once: the rules below may change what it is made of.
+    // The label is made once, because the rules below may change its parts.
     const std::wstring label = LabelOf(person);
     Apply(label, *person.address);
     TruncateName(label, L"First name", person.GivenName);
@@ -38,7 +38,7 @@ void FormattingRules::Apply(LejisPersonIndexCard& person) {
     ReplaceUnknownCode(label, L"sex", L"Sex", L"MFU", person.SexNCIC);
     DropWeight(label, *person.Weight);
     ApplyShared(label, person);
-    // Only warned of, not shortened: the validator then refuses it.
+    // The caveat gets a warning and is not shortened: the validator then refuses it.
     if (const auto message = CautionCaveatMessage(person)) Warn(label, *message);
 }
 
@@ -52,7 +52,7 @@ void FormattingRules::Apply(LejisPropertyIndexCard& property) {
 void FormattingRules::Apply(LejisVehicleIndexCard& vehicle) {
     const std::wstring label = LabelOf(vehicle);
     DropYear(label, *vehicle.Year);
-    // Shorter than a property's model, and the make has no limit; both are LEJIS's own.
+    // The limit of the model is shorter than a property's, and the make has no limit. LEJIS has it so.
     Truncate(label, L"Model", vehicle.Model, 30);
     Truncate(label, L"Color", vehicle.Color, 30);
 }
@@ -113,7 +113,7 @@ void FormattingRules::ReplaceUnknownCode(const std::wstring& label, std::wstring
 }
 
 void FormattingRules::ShortenZip(const std::wstring& label, platform::TextField& zip) {
-    // Exactly nine characters: with a hyphen there are ten, which the validator refuses.
+    // This takes exactly nine characters: with a hyphen there are ten, which the validator refuses.
     if (zip.size() != kLongZip) return;
     const std::wstring whole = zip;
     const std::wstring shortened = whole.substr(0, kShortZip);
@@ -131,7 +131,7 @@ void FormattingRules::DropLongStreetNumber(const std::wstring& label, NullableLo
 
 void FormattingRules::DropWeight(const std::wstring& label, NullableInteger& weight) {
     if (!weight.Number() || (*weight.Number() >= 0 && *weight.Number() <= kHeaviest)) return;
-    // A negative weight is called too large as well.
+    // The warning calls a negative weight too large as well.
     Warn(label, L"The specified weight '" + NumberText(weight) +
                     L" lbs.' is too large. The maximum for LEJIS is 999 lbs. Will not submit weight information.");
     weight.Set(std::nullopt);

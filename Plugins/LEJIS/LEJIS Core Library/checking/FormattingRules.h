@@ -23,11 +23,11 @@ private:
     void Apply(LejisVehicleIndexCard& vehicle);
     void Apply(const std::wstring& label, LejisStreetAddress& address);
 
-    // What incidents and persons have in common.
+    // The rules that incidents and persons share.
     template <typename Record>
     void ApplyShared(const std::wstring& label, Record& record);
 
-    // Each leaves a text as it is, or shortens or replaces it. `name` is what the warning calls the text.
+    // Each rule leaves a text as it is, or shortens or replaces it. The warning calls the text `name`.
     void Truncate(const std::wstring& label, std::wstring_view name, platform::TextField& text, size_t limit);
     void TruncateName(const std::wstring& label, std::wstring_view name, platform::TextField& text);
     void DropUnknownOffenseCode(const std::wstring& label, platform::TextField& code);

@@ -28,7 +28,7 @@ STDMETHODIMP LejisIncidentFormatter::get_HasWarnings(VARIANT_BOOL* result) {
 
 STDMETHODIMP LejisIncidentFormatter::Format(ILejisIncidentIndexCard* incident, ILejisIncidentIndexCard** result) {
     return Guard(result, [&] {
-        // Before the argument is looked at: one that is refused leaves no warnings of an earlier call.
+        // The list starts before the argument is examined: a refused argument leaves no warnings of an earlier call.
         StartList();
         return ShapedCopy(*platform::Inside<LejisIncidentIndexCard>(incident));
     });

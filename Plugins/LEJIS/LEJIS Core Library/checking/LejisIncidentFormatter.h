@@ -9,8 +9,8 @@
 
 namespace lejis {
 
-// Shapes a copy of an incident to what LEJIS takes, and warns of each change. What cannot be mended is left to the
-// validator.
+// Shapes a copy of an incident to the form that LEJIS takes, and warns of each change. It leaves what it cannot mend to
+// the validator.
 class LejisIncidentFormatter final : public platform::ComObject<::LejisIncidentFormatter, ILejisIncidentFormatter> {
 public:
     OBJECT_PROPERTY(Collection, Warnings)

@@ -13,7 +13,7 @@ constexpr size_t kOriLength = 9;
 constexpr size_t kZipLength = 5;
 constexpr size_t kSsnLength = 9;
 
-// Only the length is looked at, not that the characters are digits.
+// Only the length matters, not whether the characters are digits.
 bool IsEmptyOrHasLength(const platform::TextField& text, size_t length) {
     return text.empty() || text.size() == length;
 }
@@ -26,7 +26,7 @@ STDMETHODIMP LejisIncidentValidator::get_HasErrors(VARIANT_BOOL* result) {
 
 STDMETHODIMP LejisIncidentValidator::Validate(ILejisIncidentIndexCard* incident, VARIANT_BOOL* result) {
     return Guard(result, [&] {
-        // Before the argument is looked at: one that is refused leaves no errors of an earlier call.
+        // The list starts before the argument is examined: a refused argument leaves no errors of an earlier call.
         StartList();
         return Check(*platform::Inside<LejisIncidentIndexCard>(incident));
     });
@@ -41,7 +41,7 @@ bool LejisIncidentValidator::Check(const LejisIncidentIndexCard& incident) {
     CheckIdentifiers(incident);
     // Organization name, caveat, charge description and charge code are accepted as they are, here and for persons.
     CheckAddress(kMainRecordLabel, *incident.Location);
-    // In their order: what is found at the persons before an object of another class is listed when that is refused.
+    // One after the other: when an object of another class is refused, the errors of the persons before it are listed.
     incident.PersonIndexCards->ForEach<LejisPersonIndexCard>([this](const auto& person) { CheckPerson(person); });
     // Every property and vehicle card is accepted; an object of another class is not.
     incident.PropertyIndexCards->ItemsAs<LejisPropertyIndexCard>();

@@ -20,7 +20,7 @@ public:
 
     bool HasErrors() const { return Errors->Count() > 0; }
 
-    // True when errors were found. This sense is deliberate, clients depend on it.
+    // True when errors were found. This is deliberate: clients depend on it.
     bool FindErrors(const LejisIncidentIndexCard& incident);
 
 private:

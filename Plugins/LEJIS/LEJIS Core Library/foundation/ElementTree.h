@@ -21,7 +21,7 @@ class PlainMarkup;
 // sixty times as much.
 class ElementTree {
 public:
-    // Raises when elements are nested too deep in the root.
+    // Throws when elements are nested too deep in the root.
     explicit ElementTree(const msxml::Node& root);
     // Empty, for what Take fills in.
     ElementTree();
@@ -35,14 +35,14 @@ public:
     // Elements are numbered in document order from the root, which is 0. Those in no namespace of Constants are left
     // out, with all that is in them.
     bool HasName(size_t number, const ElementName& name) const;
-    // The number behind those of the element and of all that are in it.
+    // The number after those of the element and of all elements in it.
     size_t EndOf(size_t number) const { return elements_[number].end; }
     // As MSXML gives it, with the texts of all descendants. Valid as long as the tree.
     std::wstring_view TextOf(size_t number) const;
 
 private:
     struct Element {
-        // That of its name.
+        // The key of its name.
         uint32_t key;
         uint32_t end;
         // Where its local name and its text stand in characters_.
@@ -74,7 +74,7 @@ private:
     std::vector<Element> elements_;
     std::wstring characters_;
     std::vector<msxml::Node> parents_;
-    // Of the element before: mostly that of the next.
+    // The namespace of the element before, which is mostly that of the next one too.
     NamespaceNumber lastNamespace_ = 0;
     // Texts that MSXML was asked for, of those few elements that need it.
     mutable std::deque<platform::OutText> askedTexts_;

@@ -41,7 +41,7 @@ void EnterAnswer(PlainMarkup& markup) {
     if (!markup.NextChild() || !markup.Is(L"lejis:LEJISIndexInquiryResponse")) GiveUp();
 }
 
-// What stands after the answer in the body and after the body in the envelope is not read.
+// Passes over everything after the answer in the body and after the body in the envelope.
 void LeaveAnswer(PlainMarkup& markup) {
     while (markup.NextChild()) markup.Skip();
     while (markup.NextChild()) markup.Skip();

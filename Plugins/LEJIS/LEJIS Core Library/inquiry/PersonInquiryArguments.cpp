@@ -14,14 +14,14 @@ bool PersonInquiryArguments::HasContent() const {
            BirthDate->Date() || Height->Number() || Weight->Number();
 }
 
-// Blanks do not make the block worth sending, but are written where another field does.
+// Blanks alone do not make the block worth sending. They are written when another field does.
 msxml::Element PersonInquiryArguments::Write(const OutputDocument& document) const {
     ElementWriter person(document, L"inq:PersonInquiryArguments");
     person.Text(L"j:PersonSurName", SurName);
     person.Text(L"j:PersonGivenName", GivenName);
     person.Text(L"j:PersonMiddleName", MiddleName);
     person.OptionalId(L"j:PersonSSNID", SSN);
-    // Either half will do for a search, unlike on a card.
+    // One of the two is enough for a search, unlike for a card.
     if (!DriversLicense.empty() || !DriversLicenseState.empty()) {
         ElementWriter licence(document, L"j:PersonDriverLicenseID");
         licence.OptionalText(L"j:ID", DriversLicense);

@@ -14,7 +14,7 @@ bool VehicleInquiryArguments::HasContent() const {
 msxml::Element VehicleInquiryArguments::Write(const OutputDocument& document) const {
     ElementWriter vehicle(document, L"inq:VehicleInquiryArguments");
     vehicle.OptionalId(L"j:VehicleID", VIN);
-    // Either half will do for a search, and both elements are written then.
+    // One of the two is enough for a search; then both elements are written.
     if (!LicensePlate.empty() || !LicensePlateState.empty()) {
         vehicle.JurisdictionId(L"j:VehicleLicensePlateID", LicensePlate, LicensePlateState);
     }

@@ -67,7 +67,7 @@ msxml::Element LejisIncidentIndexCard::Write(const OutputDocument& document) con
     incident.Text(L"j:CaveatText", CaveatText);
     incident.OptionalText(L"j:ChargeNCICCode", ChargeNCICCode);
     incident.OptionalText(L"j:ChargeDescriptionText", ChargeDescriptionText);
-    // Not the incident's own flag alone: the index shows the caution of any card at the incident.
+    // This is more than the incident's own flag: the index shows the caution of any card at the incident.
     incident.Boolean(L"ext:CautionIndicatorFlag", NeedsCaution());
     // Vehicles are written before property and read after it; both orders are deliberate.
     WriteCards<LejisPersonIndexCard>(incident, *PersonIndexCards);

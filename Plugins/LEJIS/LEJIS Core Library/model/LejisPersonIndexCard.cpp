@@ -48,7 +48,7 @@ void LejisPersonIndexCard::Read(const ElementReader& card) {
     SSN = card.Text(L"j:PersonSSNID/j:ID");
     DriversLicense = card.Text(L"j:PersonDriverLicenseID/j:ID");
     DriversLicenseState = card.Text(L"j:PersonDriverLicenseID/j:IDJurisdictionCode.ncicLSTA");
-    // The one field whose bad content is an error: an empty or malformed date stops the reading here.
+    // This is the one field whose bad content is an error: an empty or malformed date stops the reading here.
     if (const auto date = card.TextIfAny(L"j:PersonBirthDate")) BirthDate->Assign(_variant_t(platform::ToBstr(*date)));
     SexNCIC = card.Text(L"j:PersonSexCode");
     RaceNCIC = card.Text(L"j:PersonRaceCode");
@@ -61,7 +61,7 @@ void LejisPersonIndexCard::Read(const ElementReader& card) {
     Involvement = card.Text(L"ext:PersonInvolvement");
     texts_.Fit();
     ReadFlag(card.Text(L"ext:CautionIndicatorFlag"), CautionIndicator);
-    // j:CaveatText is written and, deliberately, never read back.
+    // j:CaveatText is written and never read back; this is deliberate.
 }
 
 void LejisPersonIndexCard::Reset() {

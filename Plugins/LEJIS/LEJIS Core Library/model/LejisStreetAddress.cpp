@@ -12,7 +12,7 @@ msxml::Element LejisStreetAddress::Write(const OutputDocument& document) const {
     ElementWriter address(document, L"j:LocationAddress");
     address.Child(StreetElement(document));
     address.Text(L"j:LocationCityName", City);
-    // The tests trim, the texts are written as they are held.
+    // The tests below ignore blanks at the ends; the texts are written with their blanks.
     if (!platform::IsBlank(State)) address.Text(L"j:LocationStateCode.ncicLSTA", State);
     if (!platform::IsBlank(ZIP)) address.Id(L"j:LocationPostalCodeID", ZIP);
     return address.Element();
@@ -22,7 +22,8 @@ msxml::Element LejisStreetAddress::StreetElement(const OutputDocument& document)
     ElementWriter street(document, L"j:LocationStreet");
     street.Text(L"j:StreetFullText", StreetFullText);
     street.Text(L"j:StreetNumberText", NumberText(*StreetNumber));
-    // The one direction is always written as the direction before the name, and none behind it.
+    // The address has one direction. It is always written as the one before the name; the one after the name is left
+    // out.
     street.Text(L"j:StreetPredirectionalText", StreetDirection);
     street.Text(L"j:StreetName", StreetName);
     street.Text(L"j:StreetTypeText", StreetType);

@@ -14,7 +14,7 @@ msxml::Element LejisVehicleIndexCard::Write(const OutputDocument& document) cons
     card.OptionalText(L"ext:VehicleMakeText", Make);
     card.OptionalText(L"j:VehicleModelCodeText", Model);
     card.OptionalId(L"j:VehicleID", VIN);
-    // The year number alone, although the name says date.
+    // The element holds the year number alone, although its name says date.
     card.OptionalText(L"j:VehicleModelYearDate", NumberText(*Year));
     card.OptionalText(L"ext:VehicleStyleText", Style);
     card.OptionalText(L"j:VehicleColorPrimaryText", Color);
@@ -43,7 +43,7 @@ void LejisVehicleIndexCard::Read(const ElementReader& card) {
 void LejisVehicleIndexCard::Reset() {
     texts_.Clear();
     CautionIndicator = false;
-    // A new holder: one that a client took before is no longer the card's.
+    // The card gets a new holder: one that a client took before no longer belongs to it.
     Year = platform::Create<NullableInteger>();
 }
 

@@ -7,8 +7,7 @@
 
 namespace platform {
 
-// A failure as a COM client sees it. `source` is empty until the failure leaves the library, unless the callee gave
-// one.
+// A failure as a COM client sees it. `source` is empty until the failure leaves the library, unless the callee set it.
 class ComError {
 public:
     ComError(HRESULT number, std::wstring description, std::wstring source = {});
@@ -26,15 +25,15 @@ private:
 // The failure `number` with the description that the callee left, else the system's own text for it.
 ComError LastError(HRESULT number);
 
-// The same; `beginning` stands before the system's own text, which alone would not tell what has failed.
+// The same, with `beginning` before the system's own text, which alone would not tell what has failed.
 ComError LastError(HRESULT number, const std::wstring& beginning);
 
-// Raises LastError when `result` is a failure.
+// Throws LastError when `result` is a failure.
 inline void Check(HRESULT result) {
     if (FAILED(result)) throw LastError(result);
 }
 
-// What clients of Visual Basic's kind know as errors 424, 13 and 6.
+// The errors 424, 13 and 6 of Visual Basic and its relatives.
 ComError ObjectRequired();
 ComError TypeMismatch();
 ComError Overflow();

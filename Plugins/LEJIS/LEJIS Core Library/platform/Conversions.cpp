@@ -173,7 +173,7 @@ std::optional<double> ParseNumber(std::wstring_view text) {
 }
 
 std::optional<bool> ParseBoolean(std::wstring_view text) {
-    // These are the two that LEJIS writes. The platform takes other letter cases and languages too, and its time.
+    // These are the texts of XML. The platform takes other letter cases and languages too, and its time.
     if (text == L"true") return true;
     if (text == L"false") return false;
     // Not every platform passes over the blanks itself.

@@ -14,7 +14,7 @@ std::optional<std::wstring> ReadRegistryText(HKEY root, const std::wstring& key,
     if (RegGetValueW(root, key.c_str(), value.c_str(), RRF_RT_REG_SZ, nullptr, nullptr, &bytes) != ERROR_SUCCESS) {
         return std::nullopt;
     }
-    // Room for the end that a text may lack: the size that is reported does not count it.
+    // There is room for a null at the end, which a text may lack: the reported size does not count it.
     bytes += sizeof(wchar_t);
     std::wstring text(bytes / sizeof(wchar_t), L'\0');
     if (RegGetValueW(root, key.c_str(), value.c_str(), RRF_RT_REG_SZ, nullptr, text.data(), &bytes) != ERROR_SUCCESS) {

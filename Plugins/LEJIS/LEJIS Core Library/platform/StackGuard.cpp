@@ -1,6 +1,7 @@
-// The stack's guard: the number that the compiler puts before return addresses and finds again before it returns, and
-// what happens where it does not. The compiler's own draws the number from the system's cryptography, for which Windows
-// loads three libraries while this one is being loaded: that is forbidden there, and twice as slow as all the rest.
+// The stack's guard: the number that compiled functions put before their return addresses and compare before they
+// return, and the handler for a changed number. The compiler's own guard draws the number from the system's
+// cryptography. For that Windows loads three libraries while it loads this one, which is forbidden then, and twice as
+// slow as all the rest.
 #include <windows.h>
 
 #include <cstdint>
@@ -9,7 +10,7 @@ extern "C" {
 
 uintptr_t __stack_chk_guard;
 
-// At once: no handler of the process runs on the overrun stack.
+// Ends the process at once: none of its handlers may run on the overrun stack.
 [[noreturn]] void __stack_chk_fail() {
     TerminateProcess(GetCurrentProcess(), static_cast<UINT>(STATUS_STACK_BUFFER_OVERRUN));
     __builtin_trap();
@@ -18,8 +19,8 @@ uintptr_t __stack_chk_guard;
 
 namespace {
 
-// What another process cannot know, in two words that differ in each process. A zero byte is the end of a text, which
-// an overrunning copy of a text does not write.
+// The number comes from values that another process cannot know. Its zero byte is the end of a text, which an
+// overrunning copy of a text does not write.
 __attribute__((constructor, no_stack_protector)) void Draw() {
     LARGE_INTEGER ticks{};
     FILETIME now{};

@@ -24,7 +24,8 @@ public:
     // Empties all fields and keeps their memory for others.
     void Clear();
 
-    // Gives back the memory that the fields do not need. Raises when memory is short; all fields are then as they were.
+    // Frees the memory that the fields do not need. Throws when memory is short, and then leaves all fields as they
+    // were.
     void Fit();
 
 private:
@@ -32,7 +33,7 @@ private:
 
     TextField* First() { return reinterpret_cast<TextField*>(this + 1); }
     bool IsOwn(std::wstring_view text) const;
-    // Puts `text` in the place of some characters: in the memory there is, or in new memory.
+    // Puts `text` in the place of some characters: Replace in the present memory, Rebuild in new memory.
     void Replace(size_t begin, size_t oldLength, std::wstring_view text, size_t behind);
     void Rebuild(size_t begin, size_t oldLength, std::wstring_view text, size_t behind, size_t capacity);
 
@@ -40,19 +41,19 @@ private:
     uint32_t capacity_ = 0;
 };
 
-// One text. It is assigned, and compared or copied as a std::wstring; a function takes it as TextArgument. To set a
-// field moves the characters of those after it, so no view of them is given away.
+// One text. It is assigned, compared, copied into a std::wstring, or passed as a TextArgument. Setting a field moves
+// the characters of the fields after it, so a field gives no view of its characters.
 //
-// A field is four bytes: its length, and whether it is the first or the last of its object. The block is found from
-// there, for a pointer in each field would take as much memory as the texts.
+// A field is four bytes: its length, and whether it is the first or the last of its object. The first field
+// leads to the block; a pointer in each field would take as much memory as the texts.
 class TextField {
 public:
-    // Raises when the field does not follow the block or another of its fields.
+    // Throws when the field does not follow the block or another of its fields.
     explicit TextField(TextBlock& block);
     TextField(const TextField&) = delete;
 
-    // The text may be one of the same object, or a part of one. Both raise when memory is short; all fields are then as
-    // they were.
+    // The text may be a field of the same object, or a part of one. Both operators throw when memory is short, and then
+    // leave all fields as they were.
     TextField& operator=(const TextArgument& text) {
         Set(text.View());
         return *this;
@@ -74,7 +75,7 @@ public:
 private:
     friend class TextBlock;
 
-    // Until a field of the object is set.
+    // The view is valid until a field of the object is set.
     std::wstring_view View() const;
     void Set(std::wstring_view text);
 

@@ -39,7 +39,7 @@ private:
 
     // The request of the search in progress, or of the last search.
     platform::HttpRequest request_;
-    // A search has been sent and its event not yet raised.
+    // Whether a search has been sent and its event has not been raised yet.
     bool isAwaited_ = false;
     // The results of the last successful search. A failure does not clear them.
     Microsoft::WRL::ComPtr<Collection> results_;

@@ -15,7 +15,7 @@ bool ClassInformation::Has(REFIID iid) {
 }
 
 HRESULT ClassInformation::Get(IUnknown* object, REFCLSID classId, REFIID iid, void** result) noexcept {
-    // No guard: it would empty the error object for which the client asks.
+    // There is no guard here: it would empty the error object that the client asks for.
     const ComPtr<ClassInformation> made(new (std::nothrow) ClassInformation(object, classId));
     *result = nullptr;
     if (!made) return E_OUTOFMEMORY;

@@ -6,17 +6,17 @@
 
 namespace platform {
 
-// What an object tells about its class and its errors. Clients seldom ask, and an answer holds thousands of objects: so
-// these interfaces are made when they are asked for, and no object carries them.
+// Tells about the class of an object and its errors. Clients seldom ask, and an answer holds thousands of objects, so
+// these interfaces are made on demand and no object carries them.
 class ClassInformation final : public UnknownObject<ISupportErrorInfo, IProvideClassInfo2> {
 public:
     ClassInformation(IUnknown* object, REFCLSID classId) : object_(object), classId_(classId) {}
 
     static bool Has(REFIID iid);
-    // The interface, one of those that it has, of an object of this class.
+    // One of these interfaces, for an object of this class.
     static HRESULT Get(IUnknown* object, REFCLSID classId, REFIID iid, void** result) noexcept;
 
-    // Identity is the object's.
+    // The identity is that of the object.
     STDMETHODIMP QueryInterface(REFIID iid, void** result) override { return object_->QueryInterface(iid, result); }
 
     STDMETHODIMP InterfaceSupportsErrorInfo(REFIID iid) override;

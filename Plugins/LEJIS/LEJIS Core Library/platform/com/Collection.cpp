@@ -26,7 +26,7 @@ STDMETHODIMP Collection::get_Item(long index, VARIANT* result) {
 STDMETHODIMP Collection::Remove(long index) {
     return Guard([&] {
         const auto position = items_.begin() + static_cast<std::ptrdiff_t>(Position(index));
-        // The item dies after the collection is whole again: its end may call back into the collection.
+        // The item is released after the collection is whole again: its end may call back into the collection.
         const _variant_t removed = *position;
         items_.erase(position);
     });

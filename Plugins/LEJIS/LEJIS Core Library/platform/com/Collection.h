@@ -11,7 +11,7 @@
 
 namespace platform {
 
-// Clients may add a value of any kind; who reads the items decides what is a fault.
+// Clients may add a value of any kind; the reader of the items decides which values are faults.
 class Collection final : public ComObject<::Collection, ICollection> {
 public:
     STDMETHODIMP Add(VARIANT newItem) override;
@@ -26,16 +26,16 @@ public:
     size_t Count() const { return items_.size(); }
     const _variant_t& Item(long index) const;
 
-    // An item as object of a class of this library. Raises the type mismatch when it is something else.
+    // An item as an object of a class of this library. Throws the type mismatch for any other item.
     template <typename Class>
     Ref<Class> ItemAs(long index) const {
         return Inside<Class>(ObjectIn(Item(index)));
     }
 
-    // Hands the items to `visit`, in the same way, each before the next one is asked for.
+    // Passes the items to `visit` in the same way, each before it looks at the next one.
     template <typename Class, typename Visit>
     void ForEach(const Visit& visit) const {
-        // By number: what is visited may change the collection.
+        // The loop goes by number, because `visit` may change the collection.
         for (long index = 1; index <= static_cast<long>(Count()); ++index) visit(*ItemAs<Class>(index));
     }
 

@@ -1,4 +1,4 @@
-// One enumerator for all of COM's: IEnumVARIANT, IEnumConnections, IEnumConnectionPoints.
+// One enumerator for all of COM's enumerations: IEnumVARIANT, IEnumConnections, IEnumConnectionPoints.
 #pragma once
 
 #include "platform/com/Guard.h"
@@ -12,7 +12,7 @@
 
 namespace platform {
 
-// What is enumerated: it is asked anew at each step, so it may grow or shrink meanwhile.
+// The items to enumerate. The enumerator asks for them anew at each step, so they may grow or shrink meanwhile.
 template <typename Item>
 struct Enumerable {
     std::function<ULONG()> count;

@@ -7,8 +7,8 @@
 
 namespace platform {
 
-// The automation half of an object that hears events. Whoever raises them calls Invoke alone, by number: the object
-// tells nothing of its type and knows no names.
+// The automation half of an object that hears events. The source of the events calls Invoke alone, by number: the
+// object does not describe its type and knows no names.
 template <typename Events>
 class EventSinkOf : public Events {
 public:
@@ -26,7 +26,7 @@ struct Implemented<EventSinkOf<Events>> {
     using Interface = Events;
 };
 
-// The base of a sink for a set of events, or for whatever is raised at an IDispatch.
+// The base of a sink for a set of events, or for any events that reach an IDispatch.
 template <typename Events = IDispatch>
 using EventSink = UnknownObject<EventSinkOf<Events>>;
 

@@ -48,7 +48,7 @@ STDMETHODIMP ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie) {
 }
 
 STDMETHODIMP ConnectionPoint::Unadvise(DWORD cookie) {
-    // The sink is released only after it is off the list: its end may call back into this point.
+    // The sink is released after it is off the list: its end may call back into this point.
     const auto node = sinks_.extract(cookie);
     return node ? S_OK : CONNECT_E_NOCONNECTION;
 }
@@ -71,11 +71,11 @@ void ConnectionPoint::Fire(DISPID event, std::vector<_variant_t> arguments) noex
     // The result of the guard is dropped: without memory for the copy no sink can be told.
     Guard(GUID_NULL, [&] {
         const Sinks copy = sinks_;
-        // Automation passes arguments last one first.
+        // Automation passes arguments in reverse order.
         std::reverse(arguments.begin(), arguments.end());
         DISPPARAMS parameters{arguments.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
         for (const auto& [cookie, sink] : copy) {
-            // What a sink returns is its own affair.
+            // The result of a sink does not matter.
             sink->Invoke(event, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr);
         }
     });

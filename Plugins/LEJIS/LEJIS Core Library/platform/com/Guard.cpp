@@ -14,7 +14,7 @@ using Microsoft::WRL::ComPtr;
 namespace platform {
 namespace {
 
-// What is part of no class of its own, such as an enumerator, speaks for the library.
+// An object outside the public classes, such as an enumerator, names the library as its source.
 std::wstring SourceOf(const ComError& error, REFCLSID classId) {
     if (!error.Source().empty()) return error.Source();
     return classId == GUID_NULL ? LibraryName() : ProgIdOf(classId);

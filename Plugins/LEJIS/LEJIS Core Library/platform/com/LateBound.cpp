@@ -39,7 +39,7 @@ _variant_t InvokeMember(IDispatch* object, const wchar_t* name, WORD kind, DISPP
 }  // namespace
 
 _variant_t CallMember(IDispatch* object, const wchar_t* name, std::vector<_variant_t> arguments) {
-    // Automation passes arguments last one first.
+    // Automation passes arguments in reverse order.
     std::reverse(arguments.begin(), arguments.end());
     DISPPARAMS parameters{arguments.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
     return InvokeMember(object, name, DISPATCH_METHOD, parameters);

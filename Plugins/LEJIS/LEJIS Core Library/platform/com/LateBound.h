@@ -1,4 +1,4 @@
-// Calls to automation objects of others by member name. Failures are raised with the callee's own number and text.
+// Calls to automation objects of others by member name. Failures are thrown with the callee's own number and text.
 #pragma once
 
 #include <comutil.h>

@@ -90,13 +90,13 @@ void UnregisterClassKeys(const RegisteredClass& one) {
     if (!OtherBitnessHas(one)) DeleteRegistryTree(HKEY_CLASSES_ROOT, ProgIdOf(one.id));
 }
 
-// Taking out what is not there is no failure; the platforms have three words for it.
+// It is not a failure to unregister a library that is not registered; the platforms have three numbers for that.
 bool IsNotRegistered(HRESULT result) {
     return result == TYPE_E_REGISTRYACCESS || result == TYPE_E_LIBNOTREGISTERED || result == E_INVALIDARG;
 }
 
-// Taking a type library out takes its interfaces out for both bitnesses. Where the other one is still registered, its
-// own type library puts them back.
+// Unregistering a type library removes its interfaces for both bitnesses. Where the other bitness is still registered,
+// its own type library restores them.
 void RegisterOtherBitnessAgain(const TLIBATTR& attributes) {
     const std::wstring key = L"TypeLib\\" + GuidText(attributes.guid) + L"\\" + VersionText(attributes) + L"\\0\\" +
                              (attributes.syskind == SYS_WIN64 ? L"win32" : L"win64");

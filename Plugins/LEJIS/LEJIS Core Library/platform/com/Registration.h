@@ -1,9 +1,9 @@
-// Makes the classes of the module's type library known to the system, and takes them out without a trace.
+// Registers the classes of the module's type library, and unregisters them without a trace.
 #pragma once
 
 namespace platform {
 
-// Both raise on failure. Registering again is harmless; a registration of the other bitness is left as it is.
+// Both throw on failure. A second registration is harmless. The registration of the other bitness stays as it is.
 void RegisterModule();
 void UnregisterModule();
 
