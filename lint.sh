@@ -4,7 +4,7 @@
 # its programs (cppcheck; its exceptions stand in tools/cppcheck-exceptions.txt; no thread_local, which is destroyed
 # wrongly; no include that looks up the floors of the library or of its client, and no circle; no word of LEJIS in the
 # platform) and in the scripts (shellcheck for those of the shell; flake8 for Python: names that are unknown or unused,
-# syntax, white space). The compiler's own warnings are errors in every build.
+# syntax, white space, lines of more than 120 characters). The compiler's own warnings are errors in every build.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
@@ -52,5 +52,6 @@ check floors tools/find-upward-includes.sh "$core" "${core_floors[@]}"
 check floors tools/find-upward-includes.sh tools/lejis "${client_floors[@]}"
 check platform is_absent lejis "$core/platform"
 check shellcheck shellcheck --external-sources "${scripts[@]}"
-check flake8 /usr/bin/python3 -m flake8 --isolated --select=F,E7,E9,W --extend-ignore=W503,W504 "${modules[@]}"
+check flake8 /usr/bin/python3 -m flake8 --isolated --select=F,E501,E7,E9,W --extend-ignore=W503,W504 \
+  --max-line-length=120 "${modules[@]}"
 exit "$failed"

@@ -2,8 +2,8 @@
 
     backlog.py LEJIS --count N --kills K --jobs J --seed S
 
-LEJIS is lejis.exe as a Windows path; the library of its bitness is registered. Each run goes on with the ledger of those
-before. Ends with code 1 unless the index holds every incident at the end, and unless the ledger tells the truth.
+LEJIS is lejis.exe as a Windows path; the library of its bitness is registered. Each run continues the ledger of the
+runs before it. The exit code is 1 unless, at the end, the index holds every incident and the ledger tells the truth.
 """
 
 from __future__ import annotations
@@ -37,8 +37,8 @@ LONGEST_DELAY = 0.05
 # Some of so many come while an incident is between the index and the ledger.
 MANY_KILLS = 10
 TIME_LIMIT = 3600
-# Under Wine about one incident in ten thousand stops on its way: an answer that has come is not told of, or an object is
-# not made. The tool then waits as long as --timeout says, in seconds, and goes on.
+# Under Wine about one incident in ten thousand stops on its way: Wine does not report an answer that has come, or does
+# not make an object. The tool then waits for the seconds of --timeout and goes on.
 PATIENCE = 60
 # Outcomes after which the index is as it was before.
 WITHOUT_TRACE = {"refused", "not sent"}
@@ -191,8 +191,8 @@ def main() -> int:
     with tempfile.TemporaryDirectory(prefix="backlog-") as folder:
         backlog = work_off(options.program, options.count, options.kills, options.jobs, options.seed, Path(folder))
         tries = len(backlog.entries())
-    print(f"{options.count} incidents, seed {options.seed}: {backlog.runs} runs, {backlog.kills} of them killed, {tries} "
-          f"tries in the ledger, {time.monotonic() - started:.0f} s")
+    print(f"{options.count} incidents, seed {options.seed}: {backlog.runs} runs, {backlog.kills} of them killed, "
+          f"{tries} tries in the ledger, {time.monotonic() - started:.0f} s")
     for fault in backlog.faults[:40]:
         print(fault)
     print("Nothing lost." if not backlog.faults else f"{len(backlog.faults)} faults.")

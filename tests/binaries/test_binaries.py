@@ -15,8 +15,8 @@ NAMES = ("TVLejisCore.dll", "lejis.exe")
 # Windows' own, each of which Windows finds by its list of known files and never beside the program.
 SYSTEM_LIBRARIES = {"advapi32.dll", "kernel32.dll", "msvcrt.dll", "ole32.dll", "oleaut32.dll", "shell32.dll",
                     "user32.dll"}
-# What lejis.exe alone takes from Windows, and what Windows looks for beside it first: it stands in a folder that only an
-# administrator writes to. The library, which runs inside programs from any folder, makes do without.
+# Libraries that only lejis.exe imports. Windows looks for them beside the program first, which is safe for lejis.exe:
+# only an administrator writes to its folder. The library runs inside programs of any folder and imports none of them.
 ONLY_FOR_PROGRAM = {"lejis.exe": {"bcrypt.dll", "version.dll", "wininet.dll", "ws2_32.dll"}}
 
 HIGH_ENTROPY_VA = 0x0020
@@ -84,9 +84,9 @@ class Binaries(unittest.TestCase):
         self.assertEqual([], loading)
 
     def test_no_code_of_the_toolchain_loads_a_library_either(self):
-        # But for two places that never make Windows look for a file: the C library's rand_s asks for advapi32.dll, which
-        # these files import, and the start code of 32-bit files takes another reference to the compiler's own library
-        # where the process has that loaded already.
+        # Two calls are harmless, because Windows looks for no file. The C library's rand_s asks for advapi32.dll, which
+        # these files import. The start code of 32-bit files takes another reference to the compiler's own library when
+        # the process has loaded it already.
         def check(file):
             allowed = 1 if is_64_bit(file) else 2
             self.assertLessEqual(sum(references(file, slot) for slot in slots(file, b"LoadLibrary")), allowed)

@@ -87,7 +87,8 @@ class ApartmentTest(SampleCase):
         return self.wine(*dotnet.command(program), *arguments, environment=dotnet.ENVIRONMENT)
 
     def test_without_sta_thread_a_search_needs_no_message_loop(self):
-        self.assertEqual(self.run_changed("Search", {self.STA_THREAD: "", self.LOOP: self.SLEEP}, SEARCH, "jdoe", "NOBODY"),
+        changes = {self.STA_THREAD: "", self.LOOP: self.SLEEP}
+        self.assertEqual(self.run_changed("Search", changes, SEARCH, "jdoe", "NOBODY"),
                          (DONE, "0 incident(s) found.\n"))
 
     def test_with_sta_thread_but_without_a_message_loop_no_event_comes(self):

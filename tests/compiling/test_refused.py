@@ -1,5 +1,7 @@
-"""What would use memory after its end, or drop a failure, does not compile. Each row has a twin that is right: it compiles,
-so the first half is refused for its mistake and not for a name that has changed."""
+"""Code that would use memory after its end, or drop a failure, does not compile.
+
+Each row has a correct twin that compiles. So the row is refused for its mistake, and not for a name that has changed.
+"""
 import json
 import os
 import re
@@ -81,7 +83,8 @@ ROWS = (
         DELETED),
     Row("the same by name",
         "const msxml::Document& document = OutputDocument::Create().Get(); Use(document);",
-        "const OutputDocument own = OutputDocument::Create(); const msxml::Document& document = own.Get(); Use(document);",
+        "const OutputDocument own = OutputDocument::Create(); "
+        "const msxml::Document& document = own.Get(); Use(document);",
         DELETED),
     Row("the element of a writer that has ended",
         'const auto& written = ElementWriter(target, L"j:ID").Element(); Use(written);',
@@ -138,7 +141,8 @@ def source(bodies):
 def compiler():
     """The command of MODEL for a source on the standard input, and its folder."""
     entries = json.loads((BUILD / "compile_commands.json").read_text(encoding="utf-8"))
-    entry = next(entry for entry in entries if entry["file"] == str(PROJECT / MODEL) and "unit_tests" in entry["command"])
+    entry = next(entry for entry in entries
+                 if entry["file"] == str(PROJECT / MODEL) and "unit_tests" in entry["command"])
     command, words = [], iter(shlex.split(entry["command"]))
     for word in words:
         if word in ("-o", "-MT", "-MF"):

@@ -1,6 +1,8 @@
-"""Checks what a program that finds members by their names says of the type library: a reader for each language that turns
-its text into chains of members, and one check of such chains. It follows a variable from where it gets its object; a
-variable that gets one of a collection's is told to it."""
+"""Checks the members that a late-bound program names against the type library.
+
+A reader for each language turns the program's text into chains of members. One check serves the chains of all languages.
+The check follows a variable from the line that sets it. Callers name the variables that hold items of collections.
+"""
 import re
 from typing import NamedTuple
 
@@ -23,7 +25,8 @@ DOTTED = re.compile(r"(?:(?P<target>\w+) = )?(?<![\w.\"'])(?P<root>\w+)(?P<membe
                     r"(?P<set>\s= )?")
 DOTTED_CREATION = re.compile(r"(?:(\w+) = )?(?:new ActiveXObject|Dispatch|DispatchWithEvents|New-Object -ComObject)"
                              r"[( ]\"?TVLejisCore\.(\w+)")
-GO = re.compile(r"(?:(?P<target>\w+)(?:, \w+)? := )?(?P<root>\w+)\.(?P<how>Set|Get|Text|Object|Add|Call)\(\"(?P<members>[\w.]+)\"")
+GO = re.compile(r"(?:(?P<target>\w+)(?:, \w+)? := )?(?P<root>\w+)\.(?P<how>Set|Get|Text|Object|Add|Call)"
+                r"\(\"(?P<members>[\w.]+)\"")
 GO_CREATION = re.compile(r"(?:(\w+) := )?lejis\.Create\(\"(\w+)\"\)")
 COMMENT = re.compile(r"(?:#|//) .*$")
 
@@ -49,7 +52,8 @@ def read_go(text):
         for target, name in GO_CREATION.findall(line):
             yield Creation(number, target, name)
         for chain in GO.finditer(line):
-            yield Chain(number, chain["target"] or "", chain["root"], chain["members"].split("."), chain["how"] == "Set")
+            yield Chain(number, chain["target"] or "", chain["root"], chain["members"].split("."),
+                        chain["how"] == "Set")
 
 
 class LateBound:

@@ -23,7 +23,8 @@ WORDS = {
         "Elapsed",
     "a name of the platform": "LOCALAPPDATA ntdll.dll wine_get_version .CRT$XLF",
     "a word of HTTP": "GET POST SOAPAction Content-Type text/xml;charset=utf-8 ?wsdl",
-    "a prefix or name in XML, or a value in it": "soap wsse lejis j ext card inq xmlns: targetNamespace ncic true false",
+    "a prefix or name in XML, or a value in it": "soap wsse lejis j ext card inq xmlns: targetNamespace ncic "
+        "true false",
     "a property of MSXML": "SelectionLanguage XPath SelectionNamespaces",
     "a key of a table": "K",
     "a language of linkage": "C",

@@ -18,7 +18,8 @@ class PicturesTest(unittest.TestCase):
                 labels = LABEL.findall(source.read_text(encoding="utf-8"))
                 wanted = sorted(line.strip() for label in labels for line in label.split(r"\n"))
                 tree = ElementTree.parse(source.with_suffix(".svg"))
-                self.assertEqual(sorted(element.text.strip().replace("\xa0", " ") for element in tree.iter(TEXT)), wanted)
+                shown = sorted(element.text.strip().replace("\xa0", " ") for element in tree.iter(TEXT))
+                self.assertEqual(shown, wanted)
 
 
 if __name__ == "__main__":

@@ -2,9 +2,9 @@
 
     endurance.py CLIENT --count N --seed S
 
-CLIENT is endurance_client.exe as a Windows path; the library of its bitness is registered. Ends with code 1 unless the
-index equals what the client was told, record by record, and unless the client's memory grows by no more than that of the
-platform without the library.
+CLIENT is endurance_client.exe as a Windows path; the library of its bitness is registered. The exit code is 1 unless
+the index equals what the client was told, record by record, and the client's memory grows no more than it does with
+the platform alone.
 """
 
 from __future__ import annotations

@@ -62,7 +62,8 @@ def _fault(name: str, code: int) -> Behaviour:
                      exceptions=told)
 
 
-def _body(name: str, arrives: Arrival, change: bodies.Change, content_type: str = XML_TYPE, note: str = "") -> Behaviour:
+def _body(name: str, arrives: Arrival, change: bodies.Change, content_type: str = XML_TYPE,
+          note: str = "") -> Behaviour:
     return Behaviour("Body, with status 200", name, arrives, body(change, content_type=content_type), note=note)
 
 

@@ -16,8 +16,9 @@ from dataclasses import replace
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parents[2]
-sys.path[:0] = [str(PROJECT / "tools" / "simulator"), str(PROJECT / "tests" / "support"), str(PROJECT / "tests" / "lejis"),
-                str(PROJECT / "tests" / "endurance"), str(Path(__file__).resolve().parent)]
+sys.path[:0] = [str(PROJECT / "tools" / "simulator"), str(PROJECT / "tests" / "support"),
+                str(PROJECT / "tests" / "lejis"), str(PROJECT / "tests" / "endurance"),
+                str(Path(__file__).resolve().parent)]
 
 # The simulator's packages are found only now.
 # pylint: disable=wrong-import-position

@@ -35,8 +35,8 @@ NOTHING_SENT = "    Nothing reached LEJIS. Trying again later can help; the inci
 NOTHING_SENT_IN_VAIN = "    Nothing reached LEJIS. Trying again does not help until this is put right.\n"
 SEND_AGAIN = ("    LEJIS may have it or not: send it again, LEJIS knows an incident by agency and number, or look it "
               "up.\n")
-WITHDRAW_AGAIN = ("    LEJIS may have it still or not: withdraw it again, LEJIS knows an incident by agency and number, "
-                  "or look it up.\n")
+WITHDRAW_AGAIN = ("    LEJIS may have it still or not: withdraw it again, LEJIS knows an incident by agency and "
+                  "number, or look it up.\n")
 
 # Ends a summary, never twice the same.
 PACE = re.compile(r" \d+\.\d s, \d+\.\d a second\.$", re.MULTILINE)

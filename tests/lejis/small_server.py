@@ -57,8 +57,10 @@ class RedirectingServer(_Serving):
 
 
 class Proxy(_Serving):
-    """Passes GET and POST on, to the host of `instead` where that is given, and counts them in `passed`. The answers get
-    the header, if any."""
+    """Passes GET and POST on, to the host of `instead` when that is given, and counts them in `passed`.
+
+    The answers get the header, if one is given.
+    """
 
     def __init__(self, instead=None, header=None):
         self.passed = passed = []

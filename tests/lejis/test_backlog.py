@@ -113,7 +113,8 @@ class SettingsTest(LejisCase):
             for value in (str(least - 1), str(most + 1), "x", ""):
                 run = self.lejis("submit", "a.xml", "--url", "u", option, value)
                 self.assertEqual((run.code, run.complaint.splitlines()[0]),
-                                 (WRONG_USAGE, f"lejis: {option}: '{value}' is not a whole number from {least} to {most}"))
+                                 (WRONG_USAGE,
+                                  f"lejis: {option}: '{value}' is not a whole number from {least} to {most}"))
 
     def test_a_check_neither_retries_nor_has_a_ledger(self):
         for option in ("--retry", "--ledger", "--rate", "--timeout", "--stop-after"):

@@ -114,7 +114,8 @@ class BashTest(CompletionCase):
 class PowerShellTest(CompletionCase):
     def test_the_script_names_every_command_and_option_with_its_help(self):
         script = self.script("powershell").decode("ascii")
-        lists = dict(re.findall(r"^        '([a-z]*)' = \[ordered\]@\{\n(.*?)^        \}$", script, re.MULTILINE | re.DOTALL))
+        lists = dict(re.findall(r"^        '([a-z]*)' = \[ordered\]@\{\n(.*?)^        \}$", script,
+                                re.MULTILINE | re.DOTALL))
         words = {command: re.findall(r"^            '([a-z-]+)' = '(?:[^']|'')+'$", entries, re.MULTILINE)
                  for command, entries in lists.items()}
         for command, entries in lists.items():

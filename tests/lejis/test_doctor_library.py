@@ -16,7 +16,8 @@ class OwnRegistrationTest(DoctorCase):
         copy = register_copy(self)
         copy.unlink()
         found = self.findings(REFUSED)
-        self.expect_failure(found, OWN, r"^registered, but there is no file Z:\\.*\\TVLejisCore.dll\nInstall or register")
+        self.expect_failure(found, OWN,
+                            r"^registered, but there is no file Z:\\.*\\TVLejisCore.dll\nInstall or register")
         # One cause is told once.
         self.assertEqual(found["Library in use"][0], "skipped")
         self.assertNotIn(OWN_CLASSES, found)
@@ -28,7 +29,8 @@ class OwnRegistrationTest(DoctorCase):
     def test_a_library_of_the_other_bitness(self):
         turn_into_other_bitness(register_copy(self))
         self.expect_failure(self.findings(REFUSED), OWN,
-                            f"^the registered library is a {OTHER_BITS}-bit one, which no {BITS}-bit program can load: Z:")
+                            f"^the registered library is a {OTHER_BITS}-bit one, "
+                            f"which no {BITS}-bit program can load: Z:")
 
     def test_every_class_can_be_created(self):
         health, text = self.findings(DONE)[OWN_CLASSES]
@@ -41,7 +43,8 @@ class OwnRegistrationTest(DoctorCase):
             with self.subTest(name):
                 self.addCleanup(regsvr32, windows_path(BUILT))
                 reg("delete", class_key(name), "/f", f"/reg:{BITS}")
-                self.expect_failure(self.findings(REFUSED), OWN_CLASSES, f"^{name} is not registered\nInstall or register")
+                self.expect_failure(self.findings(REFUSED), OWN_CLASSES,
+                                    f"^{name} is not registered\nInstall or register")
                 regsvr32(windows_path(BUILT))
 
     def test_a_class_of_another_library(self):
@@ -69,7 +72,8 @@ class OtherRegistrationTest(DoctorCase):
     def test_a_library_of_this_bitness(self):
         self.register_in_other_view(windows_path(BUILT))
         self.expect_failure(self.findings(REFUSED), OTHER,
-                            f"^the registered library is a {BITS}-bit one, which no {OTHER_BITS}-bit program can load: Z:")
+                            f"^the registered library is a {BITS}-bit one, "
+                            f"which no {OTHER_BITS}-bit program can load: Z:")
 
     def test_a_file_that_is_gone(self):
         self.register_in_other_view(r"C:\nowhere\TVLejisCore.dll")

@@ -16,10 +16,12 @@ HOST = b"lejis.example"
 class SwappedAddressesTest(DoctorCase):
     def test_they_are_recognised_and_said(self):
         found = self.findings(REFUSED, "--url", self.search_url, "--search-url", self.url)
-        self.expect_failure(found, "Submission WSDL", "^this is the address of the search service, not of the submission "
-                                                      "service\nGive it with --search-url")
-        self.expect_failure(found, "Search WSDL", "^this is the address of the submission service, not of the search "
-                                                  "service\nGive it with --url")
+        self.expect_failure(found, "Submission WSDL",
+                            "^this is the address of the search service, not of the submission service\n"
+                            "Give it with --search-url")
+        self.expect_failure(found, "Search WSDL",
+                            "^this is the address of the submission service, not of the search service\n"
+                            "Give it with --url")
         self.assertEqual({found[f"{service} {what}"][0] for service in ("Submission", "Search")
                           for what in ("host", "schemas")}, {"skipped"})
 
@@ -44,8 +46,9 @@ class DescriptionTest(DoctorCase):
 
     def test_a_service_of_another_lejis_host(self):
         found = self.look_at(REFUSED, (HOST, b"core.lejis.test"))
-        self.expect_failure(found, "Submission host", "^the library is made for the LEJIS host lejis.example, but the "
-                                                      "service's WSDL names core.lejis.test\nInstall the library that is")
+        self.expect_failure(found, "Submission host",
+                            "^the library is made for the LEJIS host lejis.example, but the service's WSDL names "
+                            "core.lejis.test\nInstall the library that is")
         self.assertEqual(found["Submission schemas"][0], "skipped")
 
     def test_another_host_in_the_soap_action_alone(self):
@@ -53,13 +56,15 @@ class DescriptionTest(DoctorCase):
         self.expect_failure(found, "Submission host", "lejis.example, but .* names lejis.example and core.lejis.test")
 
     def test_another_host_in_the_namespaces_alone(self):
-        found = self.look_at(REFUSED, (HOST, b"core.lejis.test"), (b'soapAction="http://core.lejis.test', b'soapAction="'))
+        found = self.look_at(REFUSED, (HOST, b"core.lejis.test"),
+                             (b'soapAction="http://core.lejis.test', b'soapAction="'))
         self.expect_failure(found, "Submission host", "lejis.example, but .* names core.lejis.test")
 
     def test_another_soap_action_on_the_same_host(self):
         found = self.look_at(REFUSED, (b"jxdm/1.0/service/submitRmsIndex", b"jxdm/2.0/service/submitRmsIndex"))
         self.expect_failure(found, "Submission host",
-                            r"sends the SOAP action \S+1.0/service/submitRmsIndex, but .* names \S+2.0/service/submitRms")
+                            r"sends the SOAP action \S+1.0/service/submitRmsIndex, but .* names "
+                            r"\S+2.0/service/submitRms")
 
     def test_a_library_of_another_lejis_host(self):
         register_for_other_host(self)
@@ -76,8 +81,9 @@ class DescriptionTest(DoctorCase):
         self.assertIn("names no LEJIS host", text)
 
     def test_a_description_of_neither_service(self):
-        health, text = self.look_at(DONE, (b"submitRmsIndex\">", b"other\">"),
-                                    (b"http://lejis.example/lejis/jxdm/1.0/service/submitRmsIndex", b""))["Submission WSDL"]
+        found = self.look_at(DONE, (b"submitRmsIndex\">", b"other\">"),
+                             (b"http://lejis.example/lejis/jxdm/1.0/service/submitRmsIndex", b""))
+        health, text = found["Submission WSDL"]
         self.assertEqual(health, "warning")
         self.assertIn("names no operation of the submission service", text)
 
@@ -88,7 +94,8 @@ class TimeLimitTest(DoctorCase):
             started = time.monotonic()
             found = self.findings(TRY_AGAIN, "--url", server.url, "--timeout", "2")
         self.assertLess(time.monotonic() - started, TIME_LIMIT / 2)
-        self.expect_failure(found, "Submission server", "^no answer within 2 seconds\nSee that the LEJIS Interface runs")
+        self.expect_failure(found, "Submission server",
+                            "^no answer within 2 seconds\nSee that the LEJIS Interface runs")
         self.assertEqual(found["Debug dumps"][0], "ok")
 
     def test_a_server_that_answers_bit_by_bit(self):

@@ -131,8 +131,8 @@ class ProxyTest(DoctorCase):
         found = self.findings(TRY_AGAIN, "--url", "http://127.0.0.1:2/submission")
         health, text = found["Submission server"]
         self.assertEqual(health, "failed")
-        self.assertRegex(text, "^not reached: the machine takes no connection at this port; the proxy 127.0.0.1:1, where "
-                               "it is used, takes no connection\nSee that the LEJIS Interface runs")
+        self.assertRegex(text, "^not reached: the machine takes no connection at this port; the proxy 127.0.0.1:1, "
+                               "where it is used, takes no connection\nSee that the LEJIS Interface runs")
         self.assertNotIn("See that the proxy runs", text)
 
     def test_a_dead_one_for_this_scheme_is_the_cause(self):

@@ -33,7 +33,8 @@ class IncidentsTest(JsonCase):
         self.write("warned.xml", card("2024-2", charge="9999"))
         self.write("bad.xml", card("2024-3", zip_code="1709"))
         self.write("none.xml", "<a>")
-        incidents, last = self.lines(REFUSED, "submit", "good.xml", "warned.xml", "bad.xml", "none.xml", "--url", self.url)
+        incidents, last = self.lines(REFUSED, "submit", "good.xml", "warned.xml", "bad.xml", "none.xml",
+                                     "--url", self.url)
         self.assertEqual([(one["name"], one["number"], one["outcome"], len(one["errors"]), len(one["warnings"]))
                           for one in incidents],
                          [("good.xml", "2024-1", "submitted", 0, 0), ("warned.xml", "2024-2", "submitted", 0, 1),
@@ -83,7 +84,8 @@ class SearchTest(JsonCase):
 
     def test_what_was_found(self):
         (incident,) = self.search(DONE, "--surname", "REESE")["incidents"]
-        self.assertEqual(list(incident), ["agency", "incident", "date", "charge", "place", "persons", "vehicles", "card"])
+        self.assertEqual(list(incident),
+                         ["agency", "incident", "date", "charge", "place", "persons", "vehicles", "card"])
         self.assertEqual(len(incident["vehicles"]), 2)
 
     def test_nothing_was_found(self):

@@ -21,7 +21,8 @@ class LejisHostTest(SimulatorCase):
     def expect_refusal(self, *arguments):
         run = self.lejis(*arguments)
         self.assertEqual((run.code, run.output), (WRONG_USAGE, ""), run)
-        self.assertRegex(run.complaint, "^lejis: nothing was sent: TVLejisCore is made for the LEJIS host lejis.example, ")
+        self.assertRegex(run.complaint,
+                         "^lejis: nothing was sent: TVLejisCore is made for the LEJIS host lejis.example, ")
 
     def test_version_names_it(self):
         self.assertEqual(self.expect(DONE, "--version").splitlines()[3], "LEJIS host: lejis.example")

@@ -119,7 +119,8 @@ BAD_VALUES = {
         "Line 16: j:ActivityDate 'yesterday' is not read: it is not a date."),
     "a time of the incident": (
         with_elements("<j:ActivityDate>2024-03-09</j:ActivityDate>", "<j:ActivityTime>25:00</j:ActivityTime>"),
-        "Line 16: j:ActivityDate '2024-03-09' and j:ActivityTime '25:00' are not read: they are not a date and a time."),
+        "Line 16: j:ActivityDate '2024-03-09' and j:ActivityTime '25:00' are not read: "
+        "they are not a date and a time."),
     "a time alone": (
         with_elements("<j:ActivityTime>noon</j:ActivityTime>"),
         "Line 16: j:ActivityTime 'noon' is not read: it is not a time."),
@@ -158,7 +159,8 @@ BAD_VALUES = {
         "j:VehicleLicensePlateID/j:ID."),
     "a long value on several lines": (
         vehicle("<j:VehicleModelYearDate>\n" + "two thousand\nand four " * 9 + "</j:VehicleModelYearDate>"),
-        f"Line 17: j:VehicleModelYearDate '{('two thousand and four ' * 9)[:60]}\u2026' is not read: it is not a year."),
+        f"Line 17: j:VehicleModelYearDate '{('two thousand and four ' * 9)[:60]}\u2026' is not read: "
+        "it is not a year."),
 }
 
 # The card would be cut off there.

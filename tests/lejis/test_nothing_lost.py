@@ -42,7 +42,8 @@ class Damage:
 
     def move(self, element, parent):
         inside = set(element.iter())
-        target = self.chance.choice([one for one in self.root.iter() if one not in inside and one.tag not in IDENTIFIERS])
+        target = self.chance.choice([place for place in self.root.iter()
+                                     if place not in inside and place.tag not in IDENTIFIERS])
         parent.remove(element)
         target.append(element)
 

@@ -19,9 +19,9 @@ TIME_LIMIT = 120
 # where no 64-bit program looks. Windows and Wine 10 keep it in one place, as Wine 8 does for 32-bit programs.
 MSIEXEC = "msiexec" if wine_version.major() >= 10 else r"C:\windows\syswow64\msiexec.exe"
 
-# What Wine keeps for itself: the installer's empty folders and keys stay after the first product that was installed,
-# its devices are found little by little and bear the time of the last start, and the first use of the web leaves a cache
-# and settings.
+# What Wine keeps for itself. The installer's empty folders and keys stay after the first product that was installed.
+# Wine finds its devices little by little, and gives them the time of the last start. The first use of the web leaves a
+# cache and settings.
 KEPT_BY_WINE = re.compile(
     r"""system\.reg\ \[Software\\\\Classes\\\\Installer\\\\(Features|Products|UpgradeCodes)\]$
       | system\.reg\ \[Software\\\\Microsoft\\\\Windows\\\\CurrentVersion\\\\Installer\\\\
@@ -63,7 +63,10 @@ def stop():
 
 
 def remove_separators_left():
-    """From the machine's PATH. With two of them in a row Wine's cmd reports success for any program, and starts none."""
+    """Removes them from the machine's PATH.
+
+    With two of them in a row, Wine's cmd reports success for any program and starts none.
+    """
     value = re.search(r"PATH +(REG\w+) +(.*)", run("reg", "query", MACHINE_ENVIRONMENT, "/v", "PATH").output)
     run("reg", "add", MACHINE_ENVIRONMENT, "/v", "PATH", "/t", value[1], "/d", value[2].strip().rstrip(";"), "/f")
 

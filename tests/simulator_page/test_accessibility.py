@@ -23,7 +23,8 @@ class AccessibilityTest(PageCase):
         found = self.browser.execute_async_script("""
             const done = arguments[0];
             axe.run().then(({violations}) => done(violations.map(({id, help, nodes}) =>
-                `${id}: ${help}: ${nodes.map(({html}) => html.slice(0, 200)).join(" | ")}`)), (error) => done([String(error)]))""")
+                `${id}: ${help}: ${nodes.map(({html}) => html.slice(0, 200)).join(" | ")}`)),
+                (error) => done([String(error)]))""")
         self.assertEqual(found, [], name)
 
     def test_every_view(self):

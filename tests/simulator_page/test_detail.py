@@ -18,7 +18,8 @@ class DetailTest(PageCase):
     def setUp(self):
         super().setUp()
         self.browser.execute_cdp_cmd("Browser.grantPermissions", {
-            "origin": os.environ["LEJIS_SIMULATOR_URL"], "permissions": ["clipboardReadWrite", "clipboardSanitizedWrite"]})
+            "origin": os.environ["LEJIS_SIMULATOR_URL"],
+            "permissions": ["clipboardReadWrite", "clipboardSanitizedWrite"]})
         self.look(LAPTOP)
 
     def opened(self, number=1):

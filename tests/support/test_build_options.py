@@ -20,7 +20,8 @@ class LejisHostTest(unittest.TestCase):
         return shell("bash", "-c", f"{SOURCED}; {show}", "build.sh", *arguments).stdout.split("|")
 
     def test_it_may_stand_anywhere(self):
-        for arguments in (("--lejis-host", "core.lejis.test", "x64", "lejis"), ("x64", "--lejis-host=core.lejis.test", "lejis"),
+        for arguments in (("--lejis-host", "core.lejis.test", "x64", "lejis"),
+                          ("x64", "--lejis-host=core.lejis.test", "lejis"),
                           ("x64", "lejis", "--lejis-host", "core.lejis.test")):
             with self.subTest(arguments):
                 self.assertEqual(self.take(*arguments), ["core.lejis.test", "x64 lejis"])

@@ -33,7 +33,8 @@ class FindUpwardIncludesTest(unittest.TestCase):
         self.assertEqual(self.run_on(), (0, "", ""))
 
     def test_an_include_that_looks_up_is_found_with_its_place(self):
-        self.assertEqual(self.run_on({"left/L.cpp": '#include "ground/A.h"\n\n  #  include "roof/U.h"\n', "roof/U.h": ""}),
+        changes = {"left/L.cpp": '#include "ground/A.h"\n\n  #  include "roof/U.h"\n', "roof/U.h": ""}
+        self.assertEqual(self.run_on(changes),
                          (1, "left/L.cpp:3: roof/U.h stands higher\n", ""))
 
     def test_one_in_a_file_at_the_top_is_found_too(self):
@@ -50,7 +51,8 @@ class FindUpwardIncludesTest(unittest.TestCase):
                          (1, ["  left/L", "  left/M", "These include each other in a circle:"]))
 
     def test_what_stands_on_no_floor_is_told(self):
-        self.assertEqual(self.run_on({"cellar/C.h": '#include "ground/A.h"\n', "cellar/D.h": '#include "cellar/C.h"\n'}),
+        changes = {"cellar/C.h": '#include "ground/A.h"\n', "cellar/D.h": '#include "cellar/C.h"\n'}
+        self.assertEqual(self.run_on(changes),
                          (1, "cellar stands on no floor\n", ""))
 
     def test_a_floor_that_is_not_there_is_no_floor_without_a_fault(self):

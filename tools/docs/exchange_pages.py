@@ -20,7 +20,10 @@ BLOCK = re.compile(r"(<!-- exchange: (\w+) (request|response) -->\n)(?:\n```http
 
 
 def readable(xml):
-    """A line an element, with all declarations at the root. Two prefixes stand for one namespace: each name keeps its own."""
+    """One line for each element, with all declarations at the root.
+
+    Two prefixes stand for one namespace: each name keeps its own.
+    """
     compact = etree.fromstring(xml, etree.XMLParser(remove_blank_text=True, resolve_entities=False))
     root = minidom.parseString(etree.tostring(compact)).documentElement
     declared = {}
