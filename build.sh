@@ -1,15 +1,20 @@
 #!/bin/bash
-# build.sh [--lejis-host HOST] [x86|x64|all] [TARGET...]
+# build.sh [--lejis-host HOST] [x86|x64|all|x86-debug|x64-debug] [TARGET...]
 # Builds the library, its command-line client, the tests and the benchmarks into build/x86 and build/x64, or only the
-# targets that are named. HOST is the host in the namespaces of the LEJIS that they are made for; without it they are
-# made for lejis.example, which stands for none.
+# named targets. HOST is the host in the namespaces of the LEJIS that they are made for; without it they are made for
+# lejis.example, which stands for no LEJIS. x86-debug and x64-debug build the same for a debugger, without optimization,
+# into folders of these names; "all" does not include them.
 # Environment: BUILD_TYPE (a CMake build type), CMAKE_OPTIONS (more options, separated by blanks).
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
 
 take_lejis_host "$@"
-architectures=$(architectures_of "${arguments[0]:-all}")
+case ${arguments[0]:-all} in
+  # Presets of the build alone: tests and packages are made of the release.
+  x86-debug | x64-debug) architectures=${arguments[0]} ;;
+  *) architectures=$(architectures_of "${arguments[0]:-all}") ;;
+esac
 targets=("${arguments[@]:1}")
 
 # The options that a build folder was configured with are kept in it; other options configure it again.

@@ -39,7 +39,7 @@ add_compile_definitions($<$<CONFIG:Debug>:LIST_LIVING_OBJECTS>)
 
 # What the tests check the library with: undefined behaviour and broken standard library contracts end the process.
 # Whoever includes its headers shares the definitions.
-set(CHECKED_LIBRARY_OPTIONS -O1 -fsanitize=undefined -fsanitize-undefined-trap-on-error)
+set(CHECKED_LIBRARY_OPTIONS $<IF:$<CONFIG:Debug>,-O0,-O1> -fsanitize=undefined -fsanitize-undefined-trap-on-error)
 set(CHECKED_LIBRARY_DEFINITIONS _GLIBCXX_ASSERTIONS LIST_LIVING_OBJECTS)
 
 # The tests' own code, which is compiled far more often than it runs.

@@ -30,15 +30,15 @@ export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
 export LANG=C.UTF-8 LC_ALL=C.UTF-8
 unset DISPLAY WAYLAND_DISPLAY WINELOADER WINESERVER LANGUAGE
 
-wine_runs() { [[ $1 == x64 ]] || has_32_bit_wine; }
+wine_runs() { [[ $1 == x64* ]] || has_32_bit_wine; }
 
 windows_path() { printf '%s' "Z:${1//\//\\}"; }
 
 # The folder of Windows' own programs of one bitness, as 64-bit programs and wine_loader see it.
 windows_programs() {
   case $1 in
-    x86 | coverage) printf '%s' 'C:\windows\syswow64' ;;
-    x64) printf '%s' 'C:\windows\system32' ;;
+    x86 | x86-debug | coverage) printf '%s' 'C:\windows\syswow64' ;;
+    x64 | x64-debug) printf '%s' 'C:\windows\system32' ;;
   esac
 }
 
