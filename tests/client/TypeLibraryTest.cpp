@@ -56,7 +56,7 @@ std::vector<std::wstring> ValueNames(ITypeInfo* enumeration) {
     return names;
 }
 
-TEST(TypeLibrary, IsTheAgreedOne) {
+TEST(TypeLibrary, MatchesTheAgreedListing) {
     const std::string present = support::Utf8(List(RegisteredTypeLibrary().Get()));
     const char* const accept = std::getenv(kAccept);
     if (accept && std::string(accept) == "1") std::ofstream(TYPE_LIBRARY_LIST, std::ios::binary) << present;
