@@ -5,7 +5,7 @@
 # crashes, hangs, leaks, overruns, failures without a description. TARGET is readers, values, automation, sequences or
 # answers; all of them unless told otherwise. The seed decides every case. An input that breaks something is saved in
 # build/fuzz-findings; --replay runs it again and tells each step.
-# --cases ends each target after so many cases as well.
+# --cases ends each target after this number of cases as well.
 # The exit code is 1 when there was a finding.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh

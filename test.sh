@@ -40,7 +40,7 @@ read_arguments() {
   done
 }
 
-# Those of the selection whose programs can be run, one a line.
+# The architectures of the selection whose programs can be run here, one a line.
 tested_architectures() {
   local architecture
   for architecture in $(architectures_of "$selection"); do

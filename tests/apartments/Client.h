@@ -10,7 +10,7 @@ namespace apartments {
 
 // What one apartment has done.
 struct Tally {
-    // Those that succeeded.
+    // Successful calls.
     int searches = 0;
     int submissions = 0;
 };
@@ -27,7 +27,7 @@ public:
     // Searches and, while the answer is under way, submits.
     virtual void Work(Tally& tally) = 0;
 
-    // Leaves work behind that is not done yet.
+    // Starts work and does not wait for its end.
     virtual void Begin() = 0;
 
     // Forgets to release what it holds.

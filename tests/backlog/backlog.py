@@ -34,7 +34,7 @@ DONE = 0
 MOST_RUNS = 40
 # Some incidents take so long.
 LONGEST_DELAY = 0.05
-# Some of so many come while an incident is between the index and the ledger.
+# Enough for some to come when the index has an incident and the ledger has not.
 MANY_KILLS = 10
 TIME_LIMIT = 3600
 # Under Wine about one incident in ten thousand stops on its way: Wine does not report an answer that has come, or does
@@ -77,7 +77,7 @@ class Backlog:
         return subprocess.Popen(command, cwd=self.folder, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True)
 
     def run_and_kill(self, lines: int, delay: float) -> None:
-        """Kills it a while after it has told of so many incidents, or lets it end before."""
+        """Kills the program `delay` seconds after it has reported `lines` incidents, unless it ends before."""
         with self.start() as process:
             for _, line in zip(range(lines), process.stdout):
                 if '"command"' in line:
@@ -97,7 +97,7 @@ class Backlog:
             return process.wait(TIME_LIMIT)
 
     def entries(self) -> list[dict]:
-        """Of the lines that are whole."""
+        """The entries of all complete lines."""
         entries = []
         for line in self.ledger.read_text(encoding="ascii").splitlines():
             with contextlib.suppress(json.JSONDecodeError):

@@ -31,7 +31,7 @@ PROJECT = Path(__file__).resolve().parents[2]
 SOURCES = (PROJECT / "Plugins" / "LEJIS" / "LEJIS Core Library", PROJECT / "tools" / "lejis")
 
 
-# The status as an argument of TerminateProcess, and how far behind its function's start it stands at most.
+# The status as an argument of TerminateProcess, and its greatest distance from the start of the function.
 STACK_BUFFER_OVERRUN = struct.pack("<I", 0xC0000409)
 LONGEST_START = 48
 

@@ -29,7 +29,7 @@ std::wstring Filled(std::wstring pattern, const std::wstring& text) {
 
 class TextLimits : public testing::TestWithParam<Limit> {};
 
-TEST_P(TextLimits, AreKeptByCuttingTheTextAndSayingSo) {
+TEST_P(TextLimits, CutTheTextAndWarn) {
     Records records;
     platform::TextField& field = GetParam().field(records);
     const std::wstring longest = L"a" + std::wstring(GetParam().limit - 2, L' ') + L"b";

@@ -116,7 +116,7 @@ TEST_F(Deferred, ManagerThatIsReleasedLivesUntilItsWorkHasRun) {
     work.Reset();
     manager.Reset();
     EXPECT_FALSE(ended);
-    ASSERT_TRUE(PumpUntil([&] { return ended; })) << "the work is let go when it has run";
+    ASSERT_TRUE(PumpUntil([&] { return ended; })) << "the work is released after it has run";
     EXPECT_EQ(L"a", ran_);
 }
 

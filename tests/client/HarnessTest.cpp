@@ -23,7 +23,7 @@ TEST(Harness, ShowsWhyASearchCannotStartAndReturnsNothing) {
     EXPECT_OK(harness->Search(support::Bstr(kBadUser), request.Get(), found.GetAddressOf()));
     EXPECT_EQ(nullptr, found);
     EXPECT_EQ(kReason, box.Text());
-    EXPECT_FALSE(isEnabled) << "the client could start another search behind the box";
+    EXPECT_FALSE(isEnabled) << "the client could start another search while the box is open";
     DestroyWindow(window);
 }
 

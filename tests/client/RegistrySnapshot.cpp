@@ -130,7 +130,7 @@ RegistrySnapshot EntriesOfLibrary(const RegistrySnapshot& snapshot, View view) {
     const std::wstring prefix = ViewPrefix(view);
     for (const auto& entry : snapshot) {
         if (!entry.first.starts_with(prefix)) continue;
-        // The name behind the view and the branch; the branch of the ProgIDs is empty.
+        // The name follows the view and the branch; the branch of the ProgIDs is empty.
         const size_t start = entry.first.find(L'\\', prefix.size()) + 1;
         const size_t end = entry.first.find_first_of(L"\\ ", start);
         if (IsOfLibrary(entry.first.substr(start, end - start))) entries.insert(entry);

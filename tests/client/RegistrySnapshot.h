@@ -6,8 +6,8 @@
 
 namespace client {
 
-// Key paths (with the view they were read in) and value names, with the values as text. Of the classes, interfaces and
-// type libraries of others only the names of the keys are taken; of this library's, everything.
+// Maps key paths (with the view they were read in) and value names to the values as text. It holds everything that this
+// library registers, and only the names of the keys of other classes, interfaces and type libraries.
 using RegistrySnapshot = std::map<std::wstring, std::wstring>;
 
 RegistrySnapshot TakeSnapshot();

@@ -95,7 +95,7 @@ TEST(SecondaryInterface, AnswersNoLessThanTheDefaultOne) {
     EXPECT_EQ(E_INVALIDARG, runnable.Pointer()->GetIDsOfNames(IID_NULL, nullptr, 1, LOCALE_USER_DEFAULT, nullptr));
 }
 
-// A client that holds nothing but this interface keeps the object, and may let go of it inside of a call.
+// A reference to this interface alone keeps the object alive, and the client may release it during a call.
 TEST(SecondaryInterface, KeepsItsObjectDuringACall) {
     ComPtr<IRunnable> runnable;
     ASSERT_OK(CreateByName(L"LejisSubmissionWebService").As(&runnable));

@@ -151,7 +151,7 @@ std::wstring HeadText(const wchar_t* kind, ITypeInfo* type, const TYPEATTR& attr
            TypeFlagsText(attributes.wTypeFlags) + L">" + HelpMark(type) + L"\n";
 }
 
-// The table of functions behind a dual interface.
+// The part of a dual interface that describes its table of functions.
 ComPtr<ITypeInfo> VtableSide(ITypeInfo* type) {
     HREFTYPE reference = 0;
     ComPtr<ITypeInfo> side;

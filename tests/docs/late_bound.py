@@ -1,6 +1,6 @@
 """Checks the members that a late-bound program names against the type library.
 
-A reader for each language turns the program's text into chains of members. One check serves the chains of all languages.
+A reader for each language turns the program's text into chains of members. One check serves the chains of all.
 The check follows a variable from the line that sets it. Callers name the variables that hold items of collections.
 """
 import re

@@ -25,10 +25,10 @@ WRONG = {
     "an unknown attribute": '<j:SubjectCautionInformationCode lang="fr"/>',
     "a text between elements": "text",
     "an empty birth date": "<j:PersonBirthDate/>",
-    "a birth date that is none": "<j:PersonBirthDate>1990-02-30</j:PersonBirthDate>",
+    "a birth date that does not exist": "<j:PersonBirthDate>1990-02-30</j:PersonBirthDate>",
     "a birth date with a time zone": "<j:PersonBirthDate>1990-02-28Z</j:PersonBirthDate>",
-    "a flag that is none": "<ext:CautionIndicatorFlag>yes</ext:CautionIndicatorFlag>",
-    "a height that is none": "<j:PersonHeightMeasure>5 ft</j:PersonHeightMeasure>",
+    "a flag that is neither true nor false": "<ext:CautionIndicatorFlag>yes</ext:CautionIndicatorFlag>",
+    "a height that is not a number": "<j:PersonHeightMeasure>5 ft</j:PersonHeightMeasure>",
     "a height out of range": "<j:PersonHeightMeasure>40000</j:PersonHeightMeasure>",
     "another unit": '<j:PersonHeightMeasure j:personHeightUnitCode="cm">510</j:PersonHeightMeasure>',
 }

@@ -1,5 +1,7 @@
-"""docs/messages.md holds every message of the library. A text in the sources is a message unless it is told below why
-it is none; a new text is therefore missed by nobody."""
+"""docs/messages.md holds every message of the library.
+
+Each text in the sources counts as a message unless a table below says why it is not one. So no new text is overlooked.
+"""
 import re
 import unittest
 
@@ -54,7 +56,7 @@ LABELS = "{record}: ", "JOHN Q PUBLIC (Victim): "
 
 
 def pieces_of_the_guide():
-    """What stands between the placeholders of each text in backticks."""
+    """The pieces between the placeholders of each text in backticks."""
     pieces = set()
     for span in re.findall(r"`([^`]+)`", GUIDE.read_text(encoding="utf-8")):
         for label in LABELS:

@@ -60,7 +60,7 @@ class TypeLibrary:
         self.values.add(VALUE.match(line)[1])
 
     def members_of(self, type_):
-        """By name; of a class those of its default interface. None for a type that is none of the library's."""
+        """The members by name; a class has those of its default interface. None for a type of another library."""
         return self.members.get(self.default.get(type_, type_))
 
     def numbers(self, interface):

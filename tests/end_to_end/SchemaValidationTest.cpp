@@ -20,7 +20,7 @@ protected:
         return service->SubmitIncident(incident, warnings.GetAddressOf());
     }
 
-    // Fatal, with what the check has to say behind the words for an internal error.
+    // Expects a fatal error whose text is that of an internal error, followed by the reason that the check gives.
     void ExpectRefusal(const std::wstring& beginning) {
         const HRESULT result = Submit(NewIncident().Get());
         EXPECT_EQ(tvFatalError, result);

@@ -24,7 +24,7 @@ public:
     // Dispatches messages until an event has come, and some time longer, in which no second one may come.
     std::vector<std::wstring> AwaitEvents();
 
-    // Those that have come since, without waiting.
+    // Returns the events that have come since, without waiting.
     std::vector<std::wstring> TakeEvents();
 
     const Microsoft::WRL::ComPtr<ICollection>& Found() const { return found_; }

@@ -20,7 +20,7 @@ class CarefulClient {
 public:
     explicit CarefulClient(const std::wstring& url);
 
-    // Submits this version of the incident, or withdraws the incident where there is none.
+    // Submits this version of the incident, or withdraws the incident when no version is given.
     void Send(const std::wstring& id, Version version);
 
     // Sends once more what is in doubt, until nothing is.

@@ -4,9 +4,10 @@
 //     control, the same of requests that are made without the library
 //     held, incident number, version or "-", version that it may be instead or "=" where there is no doubt
 //     counts, exchanges, transient errors, refusals, doubts
-// The ledger is printed before doubts are settled. A line from standard input has them settled, and the ledger, the
-// counts and what is left behind are printed; then come half as many requests to CONTROL_URL without the library. The
-// line is a number: how long their bodies shall be, for the platform may keep each body that it sends.
+// First the ledger is printed, before doubts are settled. Then the program waits for a line on standard input, settles
+// the doubts, and prints the ledger, the counts and the objects that are left. Last, it sends half as many requests to
+// CONTROL_URL without the library. The line holds the length of their bodies, because the platform may keep each body
+// that it sends.
 #include "endurance/BareRequest.h"
 #include "endurance/CarefulClient.h"
 #include "endurance/Memory.h"
@@ -24,7 +25,7 @@ namespace {
 
 constexpr int kIncidents = 400;
 constexpr int kSampleEvery = 100;
-// Of ten exchanges, so many withdraw.
+// The number of withdrawals among ten exchanges.
 constexpr int kWithdrawalsOfTen = 3;
 
 std::string Named(Version version) { return version ? std::to_string(*version) : "-"; }

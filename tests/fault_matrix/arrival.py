@@ -20,7 +20,7 @@ class Content(Enum):
 
 @dataclass(frozen=True)
 class Arrival:
-    """The status, or 0 or a WinINet number where there is none, and what came with it.
+    """The status, or 0 or a WinINet number when no status came, and what came with it.
 
     `text` is the answer as text, as far as anybody is told it; `reason` None is the usual phrase.
     """

@@ -1,4 +1,4 @@
-"""Changes of a body, and bodies that are none of the service's."""
+"""Changes of a body, and bodies that the service never sends."""
 
 from __future__ import annotations
 
@@ -52,7 +52,7 @@ def inside(markup: str) -> Change:
 
 
 def deep(levels: int) -> Change:
-    """With so many elements, one inside the other, beside the answer."""
+    """Adds `levels` nested elements beside the answer."""
     return inside("<x>" * levels + "</x>" * levels)
 
 

@@ -1,4 +1,4 @@
-"""A server that behaves in as many ways as it has ports, with the simulator's knowledge behind them.
+"""A server with one behaviour for each of its ports. The simulator answers what no behaviour changes.
 
 The first part of a request's path names the operation that the client tries. The behaviour of the
 port is played to the request that the operation is about; every other request is served well.
@@ -162,5 +162,5 @@ def _address(port: int, operation: str) -> str:
 
 
 def _is_about(operation: str, request: HttpRequest) -> bool:
-    """The check against the schemas is about the description, and has a submission behind it."""
+    """Whether the behaviour is for this request: a schema check fetches the description and then submits."""
     return request.method == "GET" if operation == "wsdl" else operation != ""

@@ -90,7 +90,7 @@ TEST_F(TestSearchTest, ShowsItsBoxAboveAllWindowsOfTheTask) {
     bool isEnabled = true;
     support::MessageBoxCloser box(L"LEJIS Search Error", [&] { isEnabled = IsWindowEnabled(window); });
     EXPECT_OK(Search(L"j&d", results.GetAddressOf()));
-    EXPECT_FALSE(isEnabled) << "the client could start another search behind the box";
+    EXPECT_FALSE(isEnabled) << "the client could start another search while the box is open";
     EXPECT_TRUE(IsWindowEnabled(window)) << "after the box the client goes on";
     DestroyWindow(window);
 }

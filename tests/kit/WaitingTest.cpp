@@ -10,7 +10,7 @@ using Microsoft::WRL::ComPtr;
 namespace kit_tests {
 namespace {
 
-// Of the forty that a slow answer lasts.
+// A slow answer lasts forty ticks.
 constexpr int kFewestTicks = 10;
 
 class Waiting : public end_to_end::EndToEndTest {

@@ -38,7 +38,7 @@ TEST(ServiceOperation, IsNotCalledWhereNobodyListens) {
 }
 
 // The library alone refuses what is no address, in its own words.
-TEST(ServiceOperation, IsCalledForWhatIsNoAddress) {
+TEST(ServiceOperation, IsCalledForAnInvalidAddress) {
     CountingOperation operation(L"nonsense");
     bool isBegun = false;
     EXPECT_EQ(Result::Unknown, operation.Run(nullptr, [&] { isBegun = true; }).result);

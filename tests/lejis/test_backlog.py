@@ -122,7 +122,7 @@ class SettingsTest(LejisCase):
 
 
 class MeetingPoint(ThreadingHTTPServer):
-    """Answers the first requests when so many of them are there at once; counts them all."""
+    """Holds the first requests until the wanted number has come, then answers them; counts all requests."""
 
     daemon_threads = True
 

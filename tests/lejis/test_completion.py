@@ -9,7 +9,7 @@ import unittest
 
 from lejis_case import DONE, PROJECT, RUNNER, TIME_LIMIT, WRONG_USAGE, LejisCase
 
-# What stands for a value in the help, where it is not a text.
+# The help's names for values that are not texts, each with a valid value.
 VALUES = {"N": "1", "SECONDS": "1", "YYYY-MM-DD": "2024-03-09"}
 OPTION = re.compile(r"(--[a-z-]+)(?: ([A-Z][A-Z-]*))?")
 # Lines of the help with an option, with its short name, and with criteria of a kind or more of them.

@@ -15,7 +15,7 @@ class DoctorTest(DoctorCase):
         found = self.in_schemas(DONE, "--url", self.url, "--search-url", self.search_url)
         services = {f"{service} {what}" for service in ("Submission", "Search")
                     for what in ("server", "WSDL", "host", "schemas")}
-        # A library that is made for a simulator is none for a suite.
+        # The doctor warns of the host, because this library is made for a simulator.
         expected = (LOCAL | OWN | services) - {"LEJIS host"}
         self.assertLessEqual(expected, {subject for subject, (health, _) in found.items() if health == "ok"}, found)
         version = self.expect(DONE, "--version").splitlines()

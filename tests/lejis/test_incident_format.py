@@ -75,7 +75,7 @@ class FormatTest(LejisCase):
                 self.assertEqual(self.text_at(incident, path), text)
 
     def test_each_element_alone_is_read(self):
-        """Those whose text others of their kind have too; that of a flag comes from any card."""
+        """Takes the elements whose text is unlike all others. Flags are left out: every card writes one."""
         everything = values_of_format()
         for path, text in everything.items():
             if text.startswith("text") or path in REQUIRED:

@@ -44,7 +44,7 @@ TEST(LejisContributingSystem, DescribesTheSuiteAndThisLibraryWhenNew) {
     EXPECT_EQ(VersionInResource(), support::TextMember(system->Dispatch(), L"SystemVersion"));
 }
 
-TEST(LejisContributingSystem, TellsOfAVersionAllNumbersButTheBuild) {
+TEST(LejisContributingSystem, LeavesTheBuildOutOfAVersion) {
     VS_FIXEDFILEINFO info{};
     info.dwFileVersionMS = MAKELONG(1, 3);
     info.dwFileVersionLS = MAKELONG(27, 9);

@@ -65,7 +65,7 @@ TEST(LejisIncidentIndexCardBadContent, HasNoSubmittedDateForABadText) {
     }
 }
 
-TEST(LejisIncidentIndexCardBadContent, KeepsItsFlagForATextThatIsNoBoolean) {
+TEST(LejisIncidentIndexCardBadContent, KeepsItsFlagWhenTheTextIsNotBoolean) {
     const Card card = platform::Create<LejisIncidentIndexCard>();
     const auto read = [&](const wchar_t* text) {
         ReadInto(card,

@@ -117,7 +117,7 @@ TEST(LejisIncidentIndexCardWriting, WritesPersonsThenVehiclesThenProperty) {
         order);
 }
 
-TEST(LejisIncidentIndexCardWriting, WritesACardOfEachKindBehindItsFlag) {
+TEST(LejisIncidentIndexCardWriting, WritesTheCardsOfEachKindAfterItsFlag) {
     const auto card = platform::Create<LejisIncidentIndexCard>();
     Add<LejisPropertyIndexCard>(card->PropertyIndexCards);
     Add<LejisVehicleIndexCard>(card->VehicleIndexCards);

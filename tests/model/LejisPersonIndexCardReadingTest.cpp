@@ -73,7 +73,7 @@ Card ReadWith(const std::wstring& children) {
     return Read(L"<card:RMSPersonIndexCards>" + children + L"</card:RMSPersonIndexCards>");
 }
 
-// What stands before the birth date in the order of reading.
+// The fields that are read before the birth date.
 void ExpectIdentity(const Card& card) {
     EXPECT_EQ(L"ERIE PD", card->OrganizationName);
     EXPECT_EQ(L"PUBLIC", card->SurName);
@@ -158,7 +158,7 @@ TEST(LejisPersonIndexCardReading, FailsForABadBirthDateAndKeepsWhatItReadBefore)
     }
 }
 
-TEST(LejisPersonIndexCardReading, RoundsMeasuresAndPassesOverOthers) {
+TEST(LejisPersonIndexCardReading, RoundsMeasuresAndIgnoresInvalidOnes) {
     const struct {
         const wchar_t* text;
         std::optional<short> number;
@@ -176,7 +176,7 @@ TEST(LejisPersonIndexCardReading, RoundsMeasuresAndPassesOverOthers) {
     }
 }
 
-TEST(LejisPersonIndexCardReading, ReadsTheFlagInAnyLetterCaseAndPassesOverOthers) {
+TEST(LejisPersonIndexCardReading, ReadsTheFlagInAnyLetterCaseAndIgnoresOtherTexts) {
     const auto flag = [](const wchar_t* text) {
         return ReadWith(std::wstring(L"<ext:CautionIndicatorFlag>") + text + L"</ext:CautionIndicatorFlag>")
             ->CautionIndicator;

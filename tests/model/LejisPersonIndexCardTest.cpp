@@ -25,7 +25,7 @@ constexpr wchar_t kResidence[] =
     L"<j:StreetExtensionText/></j:LocationStreet><j:LocationCityName/></j:LocationAddress></j:Residence>";
 constexpr wchar_t kFlag[] = L"<ext:CautionIndicatorFlag>false</ext:CautionIndicatorFlag>";
 
-// A card that is empty but for what stands behind the residence.
+// A card that is empty except for these children, which follow the residence.
 std::wstring CardWith(const std::wstring& children) {
     return std::wstring(L"<card:RMSPersonIndexCards>") + kOrganization + kResidence + children + kFlag +
            L"</card:RMSPersonIndexCards>";

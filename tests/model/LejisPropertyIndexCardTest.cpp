@@ -116,7 +116,7 @@ TEST(LejisPropertyIndexCard, ClearsWhatTheElementLacks) {
     ExpectEmpty(card);
 }
 
-TEST(LejisPropertyIndexCard, ReadsTheFlagInAnyLetterCaseAndPassesOverOthers) {
+TEST(LejisPropertyIndexCard, ReadsTheFlagInAnyLetterCaseAndIgnoresOtherTexts) {
     const auto flag = [](const wchar_t* text) {
         return Read(std::wstring(L"<card:RMSPropertyIndexCards><ext:CautionIndicatorFlag>") + text +
                     L"</ext:CautionIndicatorFlag></card:RMSPropertyIndexCards>")
@@ -134,7 +134,7 @@ TEST(LejisPropertyIndexCard, ReadsEachFieldFromItsOwnNamespace) {
              L"<j:CautionIndicatorFlag>true</j:CautionIndicatorFlag></card:RMSPropertyIndexCards>"));
 }
 
-TEST(LejisPropertyIndexCard, MeetsItsClientsThroughDocumentsAndElements) {
+TEST(LejisPropertyIndexCard, ConvertsForClientsToAndFromElements) {
     const auto card = platform::Create<LejisPropertyIndexCard>();
     Microsoft::WRL::ComPtr<IDispatch> element;
     EXPECT_OK(card->FromXmlElement(ParseElement(kFullCard).Get()));

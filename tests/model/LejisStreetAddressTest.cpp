@@ -139,7 +139,7 @@ TEST(LejisStreetAddress, ReadsAllFieldsFromTheElementAroundIt) {
 
 TEST(LejisStreetAddress, IsNotReadFromItsOwnElement) { ExpectEmpty(Read(kFullAddress)); }
 
-TEST(LejisStreetAddress, DoesNotReadADirectionBehindTheName) {
+TEST(LejisStreetAddress, DoesNotReadADirectionAfterTheName) {
     const Address address = Read(StreetOf(L"<j:StreetPostdirectionalText>S</j:StreetPostdirectionalText>"));
     EXPECT_EQ(L"", address->StreetDirection);
     EXPECT_EQ(L"ERIE", address->City);
@@ -199,7 +199,7 @@ TEST(LejisStreetAddress, FailsForAHouseNumberTooGreatAndKeepsWhatItReadBefore) {
     EXPECT_EQ(L"", address->City);
 }
 
-TEST(LejisStreetAddress, MeetsItsClientsThroughDocumentsAndElements) {
+TEST(LejisStreetAddress, ConvertsForClientsToAndFromElements) {
     const auto address = platform::Create<LejisStreetAddress>();
     Microsoft::WRL::ComPtr<IDispatch> element;
     EXPECT_OK(address->FromXmlElement(ParseElement(Within(kFullAddress)).Get()));

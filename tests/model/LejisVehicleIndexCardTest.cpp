@@ -134,7 +134,7 @@ TEST(LejisVehicleIndexCard, ClearsWhatTheElementLacks) {
     EXPECT_EQ(short{2004}, yearBefore->Number());
 }
 
-TEST(LejisVehicleIndexCard, LeavesYearNullWhenItsTextIsNoShortNumber) {
+TEST(LejisVehicleIndexCard, LeavesYearNullWhenItsTextIsNotAShortNumber) {
     for (const wchar_t* text : {L"abc", L"40000", L"32768", L"", L"2004-01-01"}) {
         const Card card = ReadWith(std::wstring(L"<j:VehicleModelYearDate>") + text + L"</j:VehicleModelYearDate>" +
                                    L"<j:CaveatText>after</j:CaveatText>");
@@ -148,7 +148,7 @@ TEST(LejisVehicleIndexCard, RoundsTheYearItReads) {
     EXPECT_EQ(short{2006}, ReadWith(L"<j:VehicleModelYearDate>2005.5</j:VehicleModelYearDate>")->Year->Number());
 }
 
-TEST(LejisVehicleIndexCard, ReadsTheFlagInAnyLetterCaseAndPassesOverOthers) {
+TEST(LejisVehicleIndexCard, ReadsTheFlagInAnyLetterCaseAndIgnoresOtherTexts) {
     const auto flag = [](const wchar_t* text) {
         return ReadWith(std::wstring(L"<ext:CautionIndicatorFlag>") + text + L"</ext:CautionIndicatorFlag>")
             ->CautionIndicator;
@@ -167,7 +167,7 @@ TEST(LejisVehicleIndexCard, ReadsEachFieldFromItsOwnNamespace) {
     EXPECT_FALSE(card->CautionIndicator);
 }
 
-TEST(LejisVehicleIndexCard, MeetsItsClientsThroughDocumentsAndElements) {
+TEST(LejisVehicleIndexCard, ConvertsForClientsToAndFromElements) {
     const auto card = platform::Create<LejisVehicleIndexCard>();
     Microsoft::WRL::ComPtr<IDispatch> element;
     EXPECT_OK(card->FromXmlElement(ParseElement(kFullCard).Get()));

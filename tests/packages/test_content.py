@@ -55,7 +55,7 @@ def content(path):
 
 
 def file_version(program):
-    """Of the version resource: four numbers after its signature and format."""
+    """The file version of the version resource: four numbers after its signature and format."""
     numbers = struct.unpack_from("<4H", program, program.index(b"\xbd\x04\xef\xfe") + 8)
     return ".".join(str(numbers[i]) for i in (1, 0, 3, 2))
 

@@ -21,7 +21,7 @@ using support::Utf8;
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 
-TEST(Conversions, TakesTheValueBehindAReference) {
+TEST(Conversions, TakesTheValueOfAReference) {
     _variant_t text(L"Q1");
     _variant_t reference;
     V_VT(&reference) = VT_BYREF | VT_VARIANT;
@@ -194,7 +194,7 @@ TEST(Conversions, RoundsNothingBeyondTheRange) {
     EXPECT_EQ(std::nullopt, RoundTo<long>(_variant_t(-2147483649.0)));
 }
 
-TEST(Conversions, RoundsNothingThatIsNoNumber) {
+TEST(Conversions, RoundsNumbersOnly) {
     for (const double number : {kNoNumber, kInfinity, -kInfinity}) {
         EXPECT_EQ(std::nullopt, RoundTo<short>(_variant_t(number))) << number;
         EXPECT_EQ(std::nullopt, RoundTo<long>(_variant_t(number))) << number;

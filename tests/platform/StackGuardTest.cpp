@@ -20,7 +20,7 @@ TEST(StackGuardDeathTest, EndsTheProcessWhoseStackWasOverrun) {
     EXPECT_EXIT(Write(64), testing::ExitedWithCode(static_cast<int>(STATUS_STACK_BUFFER_OVERRUN)), "");
 }
 
-TEST(StackGuardDeathTest, LetsAFunctionReturnThatKeptWithinItsOwn) {
+TEST(StackGuardDeathTest, LetsAFunctionReturnThatStaysInItsBuffer) {
     EXPECT_EQ('\0', Write(15));
     EXPECT_EQ('x', Write(16));
 }

@@ -45,7 +45,7 @@ TEST(SuiteHost, ThatAnswersWithASuccessNumberOrAnErrorDoesNotHideTheError) {
     EXPECT_EQ(L"x", InvalidArgument(L"x").Description());
 }
 
-TEST(SuiteHost, WhoseYieldRaisesIsHeardWithItsOwnNumberAndText) {
+TEST(SuiteHost, ReportsAnErrorOfItsYieldWithNumberAndText) {
     support::TestHost host;
     host.onYield = [] { throw ComError(static_cast<HRESULT>(0x80045555), L"shutting down"); };
     EXPECT_TRUE(support::Raises(static_cast<long>(0x80045555), L"shutting down", [] { YieldToHost(); }));

@@ -18,7 +18,7 @@ struct Card {
     TextField one{block};
     TextField two{block};
     TextField three{block};
-    // What follows the fields is none of them.
+    // The number follows the fields and is not one of them.
     uint32_t number = 4711;
 };
 
@@ -95,14 +95,14 @@ protected:
     }
 };
 
-TEST_P(OwnText, IsTakenWhereThereIsRoom) {
+TEST_P(OwnText, CanBeAssignedWhenTheBlockHasRoom) {
     Card card;
     const Texts texts{L"abcdefgh", L"12", L"ABCDEFGHIJKL"};
     Fill(card, texts);
     Expect(card, texts);
 }
 
-TEST_P(OwnText, IsTakenWhereThereIsNone) {
+TEST_P(OwnText, CanBeAssignedWhenTheBlockIsFull) {
     Card card;
     const Texts texts{L"abcdefgh", L"12", L"ABCDEFGHIJKL"};
     Fill(card, texts);
@@ -132,7 +132,7 @@ TEST(TextField, IsAssignedFromAnother) {
     EXPECT_NE(card.one, card.two);
 }
 
-TEST(TextField, TellsItsLength) {
+TEST(TextField, KnowsItsLength) {
     Card card;
     EXPECT_TRUE(card.two.empty());
     card.two = L"two";
@@ -151,7 +151,7 @@ TEST(TextField, GivesCopiesThatOutliveItsCard) {
     EXPECT_EQ(L"two", copy);
 }
 
-TEST(TextField, StandsBesideTheOthers) {
+TEST(TextField, MustStandBesideTheOtherFields) {
     struct Apart {
         TextBlock block;
         TextField one{block};

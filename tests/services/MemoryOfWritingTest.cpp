@@ -1,5 +1,5 @@
-// What stays behind in memory when an incident has been formatted and written. Small pieces left over each time would
-// come to lie between all others and slow a night's batch down more and more.
+// The memory that formatting and writing an incident leaves allocated. Small pieces that each incident leaves would
+// scatter over the heap and slow a night's batch down more and more.
 #include "checking/LejisIncidentFormatter.h"
 #include "model/LejisSubmissionDocument.h"
 #include "platform/msxml/Document.h"

@@ -42,7 +42,7 @@ class ListCase(SimulatorCase):
             self.submit(documents.submission(documents.card("2007-2")))
 
     def numbers(self, text: str, path: str = "") -> list[int]:
-        """Of the exchanges that the filter lets through."""
+        """The numbers of the exchanges that the filter lets through."""
         found = self.control("GET", f"exchanges/matches?filter={quote(text)}{path}")
         return [number for first, last in found["ranges"] for number in range(first, last + 1)]
 

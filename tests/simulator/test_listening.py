@@ -9,7 +9,7 @@ from pathlib import Path
 
 from test_program import PROGRAM
 
-# Of the loopback network too, but not where the simulator listens: what listens everywhere listens here as well.
+# Another address of the loopback network. A server that listens everywhere would answer here too.
 ELSEWHERE = "127.0.0.2"
 
 

@@ -177,7 +177,7 @@ class ProgramTest(unittest.TestCase):
         program = self.started("--parent", str(parent.pid))
         time.sleep(0.6)
         self.assertIsNone(program.poll())
-        # Not waited for, so that it stays behind as a process that has ended.
+        # Nobody waits for the parent, so it remains as a process that has ended.
         parent.kill()
         self.ends(program)
 

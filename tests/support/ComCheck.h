@@ -1,4 +1,4 @@
-// Calls to COM objects in tests: what a client sees of a result and of the error object behind it.
+// Calls to COM objects in tests: what a client sees of a result and of its error object.
 #pragma once
 
 #include "support/Printing.h"

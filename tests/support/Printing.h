@@ -16,5 +16,5 @@ std::string Hexadecimal(long number);
 
 }  // namespace support
 
-// GoogleTest would convert a variant to a number to print it, and end with an exception for one that is none.
+// Without this, GoogleTest converts a variant to a number to print it, and a variant that is not a number throws.
 void PrintTo(const _variant_t& value, std::ostream* out);

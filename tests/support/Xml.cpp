@@ -20,7 +20,7 @@ constexpr const wchar_t* kDeclarations[] = {
     L" xmlns:j='http://www.it.ojp.gov/jxdm/3.0.3'",
 };
 
-// Puts the declarations that the first tag lacks behind its name.
+// Inserts the declarations that the first tag lacks after its name.
 std::wstring Declared(const std::wstring& text) {
     const size_t start = text.find_first_not_of(L'<', text.find(L'<'));
     if (start == std::wstring::npos || text[start] == L'!') return text;

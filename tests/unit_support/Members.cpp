@@ -58,7 +58,7 @@ testing::AssertionResult MembersInOrder(IDispatch* object, const Names& names) {
     const auto wrong = std::is_sorted_until(numbers.begin(), numbers.end(), std::less_equal<>());
     if (wrong == numbers.end()) return testing::AssertionSuccess();
     return testing::AssertionFailure() << Utf8(names[static_cast<size_t>(wrong - numbers.begin())])
-                                       << " does not stand behind the member before it";
+                                       << " does not follow the member before it";
 }
 
 std::vector<std::wstring> Texts(const platform::Collection& collection) {

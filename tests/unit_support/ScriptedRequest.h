@@ -17,7 +17,7 @@ namespace support {
 
 // What a request of the script does and answers.
 struct Script {
-    // Of the request's creation.
+    // The result of creating the request.
     HRESULT createResult = S_OK;
     HRESULT openResult = S_OK;
     HRESULT sendResult = S_OK;

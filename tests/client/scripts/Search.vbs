@@ -46,7 +46,7 @@ service.Username = "jdoe"
 Check "the user", service.Username, "jdoe"
 Check "no results before a search", service.results Is Nothing, True
 Search request
-Check "an address that is none raises nothing", number, 0
+Check "an invalid address raises no error", number, 0
 Search Nothing
 Check "no request raises nothing", number, 0
 Check "still no results", service.results Is Nothing, True

@@ -52,8 +52,8 @@ Check "no address for a deletion, text", description, "Invalid URL ''"
 
 service.URL = "no address"
 Submit
-Check "an address that is none, number", number, TransientError
-Check "an address that is none, text", description, "Invalid URL 'no address'"
+Check "an invalid address, number", number, TransientError
+Check "an invalid address, text", description, "Invalid URL 'no address'"
 
 Set incident = Nothing
 Submit

@@ -47,7 +47,7 @@ TEST(ArgumentsByValue, TakeObjectsOutOfReferencesAndLeaveTheRestAlone) {
     EXPECT_EQ(2u, HoldersOf(dispatch));
 }
 
-TEST(ArgumentsByValue, AreTheCallersOwnWhereNoObjectIsBehindAReference) {
+TEST(ArgumentsByValue, AreTheCallersOwnWhenNoReferenceHoldsAnObject) {
     _variant_t number(3L);
     VARIANT arguments[] = {ReferenceTo(number), number};
     DISPPARAMS given{arguments, nullptr, 2, 0};

@@ -32,7 +32,7 @@ ComPtr<Interface> As(IUnknown* object) {
     return found;
 }
 
-TEST(ComObject, IsOneObjectBehindAllItsInterfaces) {
+TEST(ComObject, HasOneIdentityForAllItsInterfaces) {
     const auto card = Create<LejisVehicleIndexCard>();
     ComPtr<IUnknown> identity;
     ASSERT_OK(card->QueryInterface(IID_PPV_ARGS(identity.GetAddressOf())));
@@ -135,7 +135,7 @@ TEST(ComObject, FindsItsMembersByNameInAnyLetterCase) {
     EXPECT_EQ(E_INVALIDARG, card->GetIDsOfNames(IID_NULL, nullptr, 1, LOCALE_USER_DEFAULT, &number));
 }
 
-TEST(ComObject, TellsAutomationWhatFailed) {
+TEST(ComObject, GivesAutomationTheReasonOfAFailure) {
     const auto card = Create<LejisVehicleIndexCard>();
     DISPID reader = 0;
     ASSERT_OK(NumberOf(card->Dispatch(), L"FromXmlElement", &reader));
@@ -192,7 +192,7 @@ TEST(ComObject, RefusesReferencesToNothing) {
     EXPECT_EQ(E_INVALIDARG, InvokeReader(card, {&reference, nullptr, 1, 0}));
 }
 
-TEST(Inside, FindsTheObjectBehindItsInterfaces) {
+TEST(Inside, FindsTheObjectOfAnInterface) {
     const auto card = Create<LejisPersonIndexCard>();
     EXPECT_EQ(card.Get(), Inside<LejisPersonIndexCard>(card->Dispatch()).Get());
     EXPECT_EQ(card.Get(), Inside<LejisPersonIndexCard>(As<ISupportErrorInfo>(card.Get()).Get()).Get());

@@ -71,7 +71,7 @@ DWORD Connect(Source& source, IUnknown* sink) {
     return cookie;
 }
 
-TEST(ConnectionPoint, TellsAllSinksInTheOrderOfTheirConnecting) {
+TEST(ConnectionPoint, CallsAllSinksInTheOrderOfTheirConnecting) {
     const auto source = Create<Source>();
     std::wstring order;
     const auto first = Create<Sink>([&](const DISPPARAMS&) { return order += L"1", S_OK; });
@@ -97,7 +97,7 @@ TEST(ConnectionPoint, PassesArgumentsLastOneFirst) {
     EXPECT_EQ(1, sink->told);
 }
 
-TEST(ConnectionPoint, TellsTheOthersWhenASinkLacksTheEventOrFails) {
+TEST(ConnectionPoint, CallsTheOtherSinksWhenOneLacksTheEventOrFails) {
     const auto source = Create<Source>();
     const auto failing = Create<Sink>([](const DISPPARAMS&) { return E_UNEXPECTED; });
     const auto last = Create<Sink>();
@@ -110,7 +110,7 @@ TEST(ConnectionPoint, TellsTheOthersWhenASinkLacksTheEventOrFails) {
     EXPECT_EQ(1, last->told);
 }
 
-TEST(ConnectionPoint, TellsASinkNoMoreOnceItIsDisconnected) {
+TEST(ConnectionPoint, DoesNotCallADisconnectedSink) {
     const auto source = Create<Source>();
     const auto sink = Create<Sink>();
     const DWORD cookie = Connect(*source, sink.Get());
@@ -120,7 +120,7 @@ TEST(ConnectionPoint, TellsASinkNoMoreOnceItIsDisconnected) {
     EXPECT_EQ(0, sink->told);
 }
 
-TEST(ConnectionPoint, BearsASinkThatDisconnectsDuringTheEvent) {
+TEST(ConnectionPoint, SurvivesASinkThatDisconnectsDuringTheEvent) {
     const auto source = Create<Source>();
     DWORD cookie = 0;
     const auto leaving = Create<Sink>([&](const DISPPARAMS&) { return source->point.Unadvise(cookie); });
@@ -133,7 +133,7 @@ TEST(ConnectionPoint, BearsASinkThatDisconnectsDuringTheEvent) {
     EXPECT_EQ(2, last->told);
 }
 
-TEST(ConnectionPoint, TellsASinkThatConnectsDuringTheEventOnlyOfTheNext) {
+TEST(ConnectionPoint, CallsASinkThatConnectsDuringAnEventFromTheNextOnwards) {
     const auto source = Create<Source>();
     const auto late = Create<Sink>();
     const auto first = Create<Sink>([&](const DISPPARAMS&) {
@@ -148,7 +148,7 @@ TEST(ConnectionPoint, TellsASinkThatConnectsDuringTheEventOnlyOfTheNext) {
     EXPECT_EQ(1, late->told);
 }
 
-TEST(ConnectionPoint, KeepsItsSourceAliveUntilAllSinksAreTold) {
+TEST(ConnectionPoint, KeepsItsSourceAliveUntilAllSinksAreCalled) {
     Microsoft::WRL::ComPtr<Source> source = Create<Source>();
     ConnectionPoint& point = source->point;
     const std::shared_ptr<bool> ended = source->ended;

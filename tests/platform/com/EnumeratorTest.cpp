@@ -102,7 +102,7 @@ TEST(Enumerator, WalksItemsAddedMeanwhile) {
     EXPECT_EQ(L"d", Take(walk, 1, S_OK));
 }
 
-TEST(Enumerator, BearsItemsRemovedMeanwhile) {
+TEST(Enumerator, SurvivesTheRemovalOfItems) {
     const auto letters = Letters();
     const Walk walk = WalkOf(letters);
     EXPECT_EQ(L"abc", Take(walk, 3, S_OK));

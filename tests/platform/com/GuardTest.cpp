@@ -72,7 +72,7 @@ TEST(Guard, ReportsAnythingElseThatIsThrown) {
     EXPECT_TRUE(FailedWith(Guarded([] { throw 42; }), E_UNEXPECTED, L"Unexpected error"));
 }
 
-TEST(Guard, SpeaksForTheLibraryWhereThereIsNoClass) {
+TEST(Guard, NamesTheLibraryAsSourceWithoutAClass) {
     const HRESULT result = Guard(GUID_NULL, [] { throw ComError(E_ACCESSDENIED, L"refused"); });
     const support::ErrorSeen seen = support::TakeError(result);
     EXPECT_EQ(E_ACCESSDENIED, seen.number);

@@ -71,7 +71,7 @@ TEST(LateBound, ReadsAndSetsProperties) {
     EXPECT_EQ(_variant_t(100L), held);
 }
 
-TEST(LateBound, RaisesForAMemberThatIsNotThere) {
+TEST(LateBound, FailsForAnUnknownMember) {
     const auto object = ObjectWith(L"Interval", [](const Arguments&, WORD) { return _variant_t(); });
     for (const auto& call : std::vector<std::function<void()>>{[&] { CallMember(object.Get(), L"Yield"); },
                                                                [&] { GetMember(object.Get(), L"Yield"); },

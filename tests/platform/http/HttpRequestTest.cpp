@@ -80,7 +80,7 @@ TEST_F(HttpRequestTest, IsSynchronousUnderWineWhenTheModeIsNotGiven) {
     EXPECT_FALSE(http.Last().Seen().asynchronous);
 }
 
-TEST_F(HttpRequestTest, KeepsAnAddressThatIsNoneFromMsxml) {
+TEST_F(HttpRequestTest, DoesNotGiveAnInvalidAddressToMsxml) {
     for (const wchar_t* url : {L"", L"no url", L"ftp://host/", L"file:///C:/x.xml", L"http://", L"http:///x"}) {
         EXPECT_EQ(kInvalidUrl, NumberRaised([&] { HttpRequest::Create().Open(L"GET", url); }));
         EXPECT_EQ(kInvalidUrl, NumberRaised([&] { HttpRequest::Create().Open(L"POST", url, true); }));
@@ -164,7 +164,7 @@ TEST_F(HttpRequestTest, CallsItsHandlerWhetherOrNotItGetsParameters) {
     }
 }
 
-TEST_F(HttpRequestTest, LetsGoOfItsHandlerAlsoWhenMsxmlRefusesTo) {
+TEST_F(HttpRequestTest, ReleasesItsHandlerEvenWhenMsxmlKeepsIt) {
     for (const HRESULT refusal : {S_OK, E_FAIL}) {
         http.script = {.clearHandlerResult = refusal};
         Microsoft::WRL::ComPtr<Handler> handler = Create<Handler>(handlers);
@@ -190,7 +190,7 @@ TEST_F(HttpRequestTest, LeavesNoDescriptionOfARefusalForALaterFailure) {
     EXPECT_EQ(S_FALSE, GetErrorInfo(0, information.ReleaseAndGetAddressOf()));
 }
 
-TEST_F(HttpRequestTest, LetsGoOfItsHandlerWithTheRequest) {
+TEST_F(HttpRequestTest, ReleasesItsHandlerWithTheRequest) {
     HttpRequest request = Posted(Create<Handler>(handlers));
     EXPECT_EQ(1, handlers);
     http.Last().ClearHandler();

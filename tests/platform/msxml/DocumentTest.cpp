@@ -179,7 +179,7 @@ TEST(Document, IsNotTakenFromNothingOrSomethingElse) {
     EXPECT_TRUE(Raises(DISP_E_TYPEMISMATCH, L"Type mismatch", [&] { ElementToRead(document.Get()); }));
 }
 
-TEST(Document, TellsWhetherItsLastLoadFailed) {
+TEST(Document, ReportsWhetherItsLastLoadFailed) {
     const Document document = CreateDocument();
     EXPECT_FALSE(LoadXml(document, L"<a>"));
     EXPECT_NE(0, LastParseError(document).code);

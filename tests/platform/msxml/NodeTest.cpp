@@ -93,7 +93,7 @@ TEST(Node, KeepsTheLinesOfATextApart) {
     EXPECT_EQ(L"one\ntwo\n\nfour", WithPlainLineEnds(Reloaded(L"one\r\ntwo\r\n\r\nfour")));
 }
 
-TEST(Node, AppendsBehindTheLastChildAndMovesWhatHadAPlace) {
+TEST(Node, AppendsAfterTheLastChildAndMovesAnAttachedNode) {
     const Element from = ParseElement(L"<from><moved/><stays/></from>");
     const Element to = ParseElement(L"<to><first/></to>");
     Append(to, ChildElements(from).front());

@@ -128,16 +128,16 @@ TEST_F(SchemaCacheFile, FindsFaultsInAPayloadOfAKnownNamespace) {
     }
 }
 
-TEST_F(SchemaCacheFile, FindsAFaultBehindAValidPayload) {
+TEST_F(SchemaCacheFile, FindsAnErrorAfterAValidPayload) {
     EXPECT_TRUE(Loaded().FindFault(Envelope(L"<t:order><t:count>1</t:count></t:order><t:order/>")).has_value());
 }
 
-TEST_F(SchemaCacheFile, PassesOverPayloadsOfOtherNamespaces) {
+TEST_F(SchemaCacheFile, IgnoresPayloadsOfOtherNamespaces) {
     EXPECT_EQ(std::nullopt, Loaded().FindFault(Envelope(L"<order><count>many</count></order>")));
     EXPECT_EQ(std::nullopt, Loaded().FindFault(Envelope(L"")));
 }
 
-TEST_F(SchemaCacheFile, FindsAFaultInTextThatIsNoXml) {
+TEST_F(SchemaCacheFile, ReportsTextThatIsNotXml) {
     EXPECT_TRUE(Loaded().FindFault(L"<order>").has_value());
     EXPECT_TRUE(SchemaCache().FindFault(L"").has_value());
 }

@@ -87,7 +87,7 @@ TEST(ThreadState, ReleasesItsPartsOnDemand) {
     });
 }
 
-TEST(ThreadState, BearsThatAReleaseMakesObjectsAndParts) {
+TEST(ThreadState, SurvivesAReleaseThatMakesObjectsAndParts) {
     InNewThread([] {
         Part& part = ThisThreads<Part>();
         part.onRelease = [] {
