@@ -15,7 +15,7 @@ struct Figure {
     // Medians of the rounds, in the unit of the series.
     double workMedian;
     double floorMedian;
-    // Of the ratios of the rounds, each taken within its round.
+    // Median, lowest and highest of the ratios of the rounds. Each ratio is taken within its round.
     double ratio;
     double lowest;
     double highest;

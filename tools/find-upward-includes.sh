@@ -2,8 +2,8 @@
 # find-upward-includes.sh FOLDER FLOOR...
 # Prints which C++ sources in FOLDER include one from a higher floor of it, or form a circle, and ends with code 1 when
 # there are any. The floors are named from the ground up: each is a folder in FOLDER, or several side by side in one
-# word ("checking inquiry"), which do not include each other, or a file. What stands on no floor is printed too; includes
-# of what is not in FOLDER are passed over. A header and its source count as one in circles.
+# word ("checking inquiry"), which do not include each other, or a file. A file that is on no floor is printed too. Includes
+# of files outside FOLDER are ignored. A header and its source count as one in circles.
 set -euo pipefail
 (($# > 1)) || { echo "usage: find-upward-includes.sh FOLDER FLOOR..." >&2; exit 2; }
 cd "$1"

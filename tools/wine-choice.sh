@@ -1,6 +1,6 @@
 # shellcheck shell=bash
 # Sourced by what starts Wine: which Wine that is, and where its programs are. It is the one that WINE names, such as
-# /opt/wine-10/bin/wine, or else the one on PATH. The functions fail where there is none.
+# /opt/wine-10/bin/wine, or else the one on PATH. The functions fail when there is no Wine.
 
 # Its program `wine`. The one in tools/wine, which stands first on the scripts' PATH, is not meant.
 chosen_wine() {

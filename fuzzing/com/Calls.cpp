@@ -128,7 +128,7 @@ ComPtr<IUnknown> CallByInvoke(IDispatch* object, const Member& member, Case& one
     for (size_t index = member.parameters.size(); index > 0; --index) {
         const Parameter& parameter = member.parameters[index - 1];
         if (parameter.isResult) continue;
-        // Of the type demanded about as often as of any.
+        // Every second argument has the demanded type.
         arguments[count] = one.OneIn(2) ? values.OfType(parameter.type) : values.AnyToDispatch();
         one.Trace([&] { return L"  argument " + Described(arguments[count]); });
         ++count;

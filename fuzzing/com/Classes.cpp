@@ -30,7 +30,7 @@ ComPtr<ITypeInfo> Referred(ITypeInfo* information, HREFTYPE reference) {
     return referred;
 }
 
-// `type` behind all its pointers, with the identifier of what a user-defined one names.
+// The type that `type` points to, through any number of pointers, and the identifier of a user-defined type.
 std::pair<VARTYPE, GUID> Innermost(ITypeInfo* information, const TYPEDESC& type) {
     if (type.vt == VT_PTR) return Innermost(information, *type.lptdesc);
     if (type.vt != VT_USERDEFINED) return {type.vt, GUID_NULL};

@@ -38,7 +38,7 @@ constexpr Excuse kExcuses[] = {
     {Road::kInvoke, DISP_E_OVERFLOW, "an argument out of its parameter's range: IDispatch's contract"},
     {Road::kInvoke, DISP_E_BADVARTYPE, "an argument of no type: IDispatch's contract"},
     {Road::kInvoke, DISP_E_NOTACOLLECTION, "arguments for the value of a member that has none: the dispatcher's own"},
-    {Road::kInvoke, E_INVALIDARG, "the call's description is none, or an argument breaks the rules for variants"},
+    {Road::kInvoke, E_INVALIDARG, "the call has no description, or an argument breaks the rules for variants"},
 
     {Road::kPlumbing, E_POINTER, "no place for the result"},
     {Road::kPlumbing, E_NOINTERFACE, "QueryInterface's contract, and that of CreateInstance"},

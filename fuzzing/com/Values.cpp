@@ -20,7 +20,7 @@ constexpr VARTYPE kPlainTypes[] = {VT_EMPTY, VT_NULL, VT_I2,   VT_I4,      VT_R4
                                    VT_BSTR,  VT_BOOL, VT_I1,   VT_DECIMAL, VT_UI1,      VT_UI2,    VT_UI4, VT_I8,
                                    VT_UI8,   VT_INT,  VT_UINT, VT_ERROR,   VT_DISPATCH, VT_UNKNOWN};
 
-// Those that an array may hold.
+// The types of an array's elements.
 constexpr VARTYPE kElementTypes[] = {VT_UI1,  VT_I1,       VT_I2,      VT_UI2,     VT_I4,    VT_UI4,  VT_INT,
                                      VT_UINT, VT_R4,       VT_R8,      VT_CY,      VT_DATE,  VT_BOOL, VT_DECIMAL,
                                      VT_BSTR, VT_DISPATCH, VT_UNKNOWN, VT_VARIANT, VT_ERROR, VT_I8,   VT_UI8};

@@ -21,7 +21,7 @@ namespace fuzzing {
 namespace {
 
 constexpr uint64_t kBatch = 1000;
-// Memory is looked at in every so many batches.
+// The number of batches from one look at the memory to the next.
 constexpr uint64_t kBatchesForMemory = 16;
 // The index that stands for a case of the corpus or of a file.
 constexpr uint64_t kNoIndex = 0;

@@ -12,7 +12,7 @@ struct CaseFile {
     std::vector<uint32_t> choices;
 };
 
-// Raises a std::runtime_error for a file that is none.
+// Throws std::runtime_error when the file holds no case.
 CaseFile ReadCaseFile(const std::string& path);
 
 // Takes no memory, so that it works after a crash. False when the file cannot be written.

@@ -69,7 +69,7 @@ IID AnyId(Case& one) {
     }
 }
 
-// An interface taken and let go of.
+// Takes an interface and releases it.
 void Query(IUnknown* object, Case& one) {
     ComPtr<IUnknown> found;
     const IID iid = AnyId(one);
@@ -149,8 +149,8 @@ private:
         return one.OneIn(8) ? static_cast<WORD>(one.Bits()) : one.Pick(kKinds);
     }
 
-    // Wine's dispatcher takes arguments to a property without parameters for those of the object that it holds, and
-    // follows that also when there is none. The one property that may hold none gets no arguments.
+    // A call that gives arguments to a property without parameters is passed on to the object that the property holds.
+    // Wine's dispatcher does so for a null object too. The one property that may be null gets no arguments.
     static bool BreaksDispatcher(IDispatch* object, DISPID member) {
         constexpr DISPID kResults = 4;
         ComPtr<ILejisSearchWebService> service;

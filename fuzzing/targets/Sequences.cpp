@@ -36,8 +36,8 @@ ComPtr<Interface> New(REFCLSID classId) {
     return object;
 }
 
-// The objects that one careless client has, and what it does with them. It calls through pointers that it may let go of
-// meanwhile, as Visual Basic does.
+// The objects that one careless client has, and what it does with them. It calls through pointers that it may release
+// during the call, as Visual Basic does.
 class Client {
 public:
     Client(Case& one, World& world) : case_(one), world_(world) {

@@ -95,7 +95,7 @@ public:
     }
 
 private:
-    // Those whose elements stand in elements of this schema.
+    // The schemas whose elements stand in elements of this schema.
     std::vector<const SchemaFile*> Others() const {
         std::vector<const SchemaFile*> others;
         for (const SchemaFile& file : kFiles) {

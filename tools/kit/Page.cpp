@@ -75,7 +75,7 @@ std::string Moment(const Json& time) {
     return Escaped(text.substr(0, 10) + " " + text.substr(11, 8));
 }
 
-// Without what there is none of.
+// Leaves out counts of 0.
 std::string Counts(const Json& counts) {
     std::string text;
     for (const auto& [status, count] : counts.items()) {

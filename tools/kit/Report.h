@@ -1,4 +1,4 @@
-// What stands in report.json.
+// The content of report.json.
 #pragma once
 
 #include "Settings.h"

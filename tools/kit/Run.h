@@ -22,7 +22,7 @@ struct Run {
     std::wstring arguments;
 };
 
-// Those of one bitness, in the order of the table, with paths and addresses in their places.
+// Reads the runs of one bitness, in the order of the table, and fills in their paths and addresses.
 std::vector<Run> ReadRuns(const Settings& settings, const std::wstring& bits);
 
 // The result of a run whose library is registered.

@@ -18,7 +18,7 @@ README = FOLDER / "README.md"
 SCRIPTS = PROJECT / "tests" / "client" / "scripts"
 SHIPPED = ("TVLejisCore.dll", "lejis.exe")
 TESTS = ("unit_tests.exe", "client_tests.exe", "end_to_end_tests.exe", "windows_tests.exe")
-# Those that the runs start, and what they read.
+# The samples that the runs start, and the files that these read.
 SAMPLES = ("vbscript", "jscript", "powershell", "csharp", "incidents")
 
 

@@ -5,7 +5,7 @@
 
 namespace reference {
 
-// Raises std::runtime_error when there is none at `path`.
+// Throws std::runtime_error when `path` holds no type library.
 Library ReadLibrary(const std::wstring& path);
 
 }  // namespace reference

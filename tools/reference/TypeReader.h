@@ -36,7 +36,8 @@ private:
     Value ReadValue(UINT index) const;
     std::wstring TypeName(const TYPEDESC& type) const;
     Microsoft::WRL::ComPtr<ITypeInfo> Referenced(HREFTYPE reference) const;
-    // The table of functions behind a dual interface names what each function really takes and returns.
+    // The description of a dual interface's table of functions, which names what each function really takes and
+    // returns.
     Microsoft::WRL::ComPtr<ITypeInfo> VtableSide() const;
 
     Microsoft::WRL::ComPtr<ITypeInfo> type_;

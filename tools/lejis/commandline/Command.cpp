@@ -153,7 +153,7 @@ grouped by message.
      .action = kDiagnose,
      .usage = L"[--url URL]",
      .otherUsage = nullptr,
-     .summary = L"looks for what stands in the way of all this",
+     .summary = L"finds out why submissions and searches fail",
      .operand = Operand::kNone,
      .leastOperands = 0,
      .mostOperands = 0,

@@ -25,7 +25,7 @@ enum Action : unsigned {
     kEveryAction = (1 << 10) - 1,
 };
 
-// What stands on the command line beside options.
+// The arguments of the command line that are not options.
 enum class Operand { kNone, kFile, kCommand, kShell };
 
 struct Command {

@@ -15,11 +15,11 @@ struct CommandLine {
     bool version = false;
     // Whether the answer is for a program.
     bool json = false;
-    // Whether to send by a library that is made for no true LEJIS.
+    // Whether to send by a library that is made for the simulator alone.
     bool force = false;
-    // What stands there beside options.
+    // The arguments that are not options.
     std::vector<std::wstring> operands;
-    // Those of the command, of whichever kind it is.
+    // The settings of the command, in the struct of its kind.
     IncidentSettings incidents;
     SearchSettings search;
     DoctorSettings doctor;

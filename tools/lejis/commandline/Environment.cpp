@@ -21,7 +21,7 @@ void Take(CommandLine& commandLine, const Option& option, const std::wstring& va
     if (!complaint.empty()) throw UsageError{option.variable + (L": " + complaint), commandLine.command->name};
 }
 
-// That of the action where it has one, and otherwise the first.
+// The action's own option when it has one, else the first option of this variable.
 const Option* OptionWith(std::wstring_view variable, Action action) {
     const Option* found = nullptr;
     for (const Option& option : Options()) {

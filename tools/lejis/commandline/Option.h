@@ -13,19 +13,19 @@ struct CommandLine;
 
 struct Option {
     const wchar_t* name;
-    // A short name, or another spelling; null where there is none.
+    // A short name, or another spelling; may be null.
     const wchar_t* otherName;
-    // What stands for its value in the help; null for a switch, which takes none.
+    // The help's name for its value; null for a switch, which takes no value.
     const wchar_t* value;
-    // The bits of those that take it.
+    // The bits of the actions that take it.
     unsigned actions;
-    // Writes the value down. Says what is wrong with it; empty when nothing is.
+    // Stores the value. Returns what is wrong with it, or an empty text.
     std::wstring (*take)(CommandLine& commandLine, const std::wstring& value);
     // A short sentence without its full stop, in ASCII.
     const wchar_t* help;
     // What of the incidents it searches for; null for an option that is no criterion.
     const wchar_t* criterion = nullptr;
-    // The variable of the environment that stands in for it; null where there is none.
+    // The variable of the environment that replaces it; may be null.
     const wchar_t* variable = nullptr;
     bool isRequired = false;
     bool mayRepeat = false;

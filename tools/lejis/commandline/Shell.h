@@ -13,7 +13,7 @@ struct ShellName {
     Shell shell;
 };
 
-// Null when there is none of this name.
+// Returns null when no shell has this name.
 const ShellName* FindShell(std::wstring_view name);
 
 std::vector<std::wstring_view> ShellNames();

@@ -11,8 +11,8 @@ void EndOnInterruption();
 
 class Interruption {
 public:
-    // `tell` says so when the program has to be ended in the midst of something: the user presses Ctrl-C once more, or
-    // the program has not ended by itself within so many milliseconds.
+    // Calls `tell` before it ends the program in the middle of its work: when the user presses Ctrl-C once more, or
+    // when the program has not ended by itself within `patience` milliseconds.
     Interruption(void (*tell)(), DWORD patience);
     ~Interruption();
     Interruption(const Interruption&) = delete;

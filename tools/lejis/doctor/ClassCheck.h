@@ -1,5 +1,5 @@
-// Can every class of a library be created? Those of a library that this program cannot load are looked up in its
-// registration.
+// Checks that every class of a library can be created. When this program cannot load the library, the check looks the
+// classes up in the registry instead.
 #pragma once
 
 #include "doctor/Finding.h"

@@ -10,11 +10,11 @@ namespace lejis_client {
 
 struct IncidentFile {
     Microsoft::WRL::ComPtr<ILejisIncidentIndexCard> card;
-    // What stands in the file and does not get into the card: sentences, in the order of the file.
+    // What the file holds and the card does not take: sentences, in the order of the file.
     std::vector<std::wstring> losses;
 };
 
-// The incident in the bytes of a file. Raises a FileError with the reason when there is none.
+// Reads the incident in the bytes of a file. Throws FileError with the reason when they hold no incident.
 IncidentFile ReadIncident(const std::string& content);
 
 // The same with nothing but what a withdrawal sends, and wants of it: the rest of the file may be as it likes.

@@ -52,7 +52,7 @@ struct FormatRow {
     bool isInWithdrawal = false;
 };
 
-// What stands in an element of its own kind.
+// The rows of an element that has a section of its own.
 struct FormatSection {
     std::wstring_view title;
     // The library's class that reads it.
@@ -62,7 +62,7 @@ struct FormatSection {
 
 inline constexpr std::wstring_view kIncidentElement = L"lejis:RMSIncidentIndexCard";
 
-// That of the root; the others are reached from it.
+// The section of the root; its rows lead to the other sections.
 const FormatSection& IncidentSection();
 
 }  // namespace lejis_client

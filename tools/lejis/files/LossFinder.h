@@ -16,7 +16,7 @@ class LossFinder {
 public:
     // The first element is the root, which is an incident card.
     void Begin(int line, const WrittenName& name);
-    // Of the element that has just begun.
+    // Takes an attribute of the element that has just begun.
     void Attribute(int line, const WrittenName& name, std::wstring_view value);
     // A piece of the text in the element that is open. The line is that in which the piece begins.
     void Text(int line, std::wstring_view text);

@@ -12,7 +12,7 @@ namespace lejis_client {
 // Finds what is lost of an incident file while a SAX reader goes through it.
 class LossHandler final : public SaxHandler {
 public:
-    // Those of an incident card in these bytes.
+    // Returns the losses of the incident card in these bytes.
     std::vector<Loss> LossesOf(const std::string& content);
 
     STDMETHODIMP startElement(const WCHAR* space, int spaceLength, const WCHAR* local, int localLength,

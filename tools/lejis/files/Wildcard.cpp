@@ -7,7 +7,7 @@
 namespace lejis_client {
 namespace {
 
-// Whether the pattern, as far as it was read, matches the first so many characters of the name.
+// At place N: whether the pattern, as far as it was read, matches the first N characters of the name.
 using Matches = std::vector<bool>;
 
 // Whether a character of the pattern can stand for nothing at this place of the name.

@@ -23,7 +23,7 @@ public:
 
 private:
     Microsoft::WRL::ComPtr<ILejisSearchWebService> service_;
-    // That of the search sent.
+    // The request of the search that was sent.
     Microsoft::WRL::ComPtr<ILejisSearchRequest> request_;
     Microsoft::WRL::ComPtr<SearchSink> sink_;
     Microsoft::WRL::ComPtr<IConnectionPoint> point_;

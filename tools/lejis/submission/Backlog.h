@@ -47,7 +47,7 @@ public:
     std::size_t FailuresInARow() const { return IsRoadGone() ? failing_.size() : 0; }
     // Whether a thread is still at work, or waits for an answer that nobody waits for any more.
     bool HasWorkersAtWork() const { return abandoned_ > 0 || IsAnyAtWork(); }
-    // Whether the run ended because so many threads wait in vain.
+    // Whether the run ended because too many threads wait for answers that never come.
     bool HasTooManyAbandoned() const;
 
 private:

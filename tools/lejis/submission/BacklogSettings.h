@@ -9,7 +9,7 @@ struct BacklogSettings {
     long retries = 0;
     // How many such failures in a row end the run.
     long stopAfter = 10;
-    // At most so many are begun in a second; 0 is no limit.
+    // The most incidents to begin in a second; 0 means no limit.
     long rate = 0;
     // How long one incident is waited for.
     long seconds = 300;

@@ -26,7 +26,7 @@ Identity IdentityOf(ILejisIncidentIndexCard* incident) {
             TextOf(incident, &ILejisIncidentIndexCard::get_ActivityID)};
 }
 
-// Of the exception that is being handled.
+// Describes the exception that is being handled.
 LibraryError CaughtFailure() {
     try {
         throw;

@@ -12,7 +12,7 @@ namespace lejis_client {
 
 class Ledger {
 public:
-    // Makes the file where there is none. Raises a FileError, also where another run writes in it.
+    // Makes the file when it does not exist. Throws FileError, also when another run writes to the file.
     explicit Ledger(const std::wstring& path);
     ~Ledger();
     Ledger(const Ledger&) = delete;

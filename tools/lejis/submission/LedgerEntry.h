@@ -11,9 +11,9 @@ namespace lejis_client {
 struct LedgerEntry {
     // The name of the command.
     std::wstring command;
-    // Of the service; empty where none was asked.
+    // The address of the service; empty when no service was called.
     std::wstring url;
-    // The whole path; what the command line names the incident by where there is no file.
+    // The whole path, or the name on the command line for an incident without a file.
     std::wstring file;
     std::string digest;
     Identity identity;

@@ -28,7 +28,7 @@ struct Attempt {
     Outcome outcome;
     // Nothing where it could not be read.
     std::optional<Identity> identity;
-    // Of the file's bytes; empty without a file.
+    // The digest of the file's bytes; empty without a file.
     std::string digest;
     // When it began, in UTC, and how long it took.
     std::string start;

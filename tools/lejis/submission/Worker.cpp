@@ -27,7 +27,7 @@ struct Worker::Shared final : AttemptWatch {
     // Guarded by the lock.
     std::optional<Task> order;
     std::optional<Attempt> result;
-    // Of the task under way, and since when it prepares the call or waits for the call.
+    // What is known of the task under way, and since when it prepares its call or waits for it.
     Attempt known;
     ULONGLONG since = 0;
     bool isOver = false;

@@ -11,7 +11,7 @@ struct WebAddress {
     std::wstring scheme;
     // Without the port; numbers of IPv6 without their brackets.
     std::wstring host;
-    // That of the scheme where the address names no other.
+    // The scheme's own port when the address names no port.
     unsigned short port = 0;
     // From the question mark on; may be empty.
     std::wstring query;

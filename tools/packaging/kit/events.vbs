@@ -1,4 +1,4 @@
-' An event that needs no server: a search at an address that is none raises ConfigurationError.
+' An event that needs no server: a search at an invalid address raises ConfigurationError.
 Option Explicit
 Dim service, checks, failures, patience
 checks = 0

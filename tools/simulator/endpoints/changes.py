@@ -9,7 +9,7 @@ from collections.abc import Iterable
 from typing import Any
 
 LONGEST_WAIT_SECONDS = 20
-# Who has missed more than so many has to look at everything anew.
+# A page that has missed more changes than these has to load everything again.
 _REMEMBERED = 20_000
 
 

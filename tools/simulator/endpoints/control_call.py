@@ -18,7 +18,7 @@ class ControlCall:
 
     @property
     def value(self) -> Any:
-        """The JSON body; ValueError says that it is none."""
+        """The JSON body. Raises ValueError when the body is not JSON."""
         try:
             return json.loads(self.request.body)
         except (ValueError, RecursionError):

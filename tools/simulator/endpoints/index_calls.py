@@ -26,7 +26,7 @@ class IndexCalls:
         }
 
     def _summaries(self, call: ControlCall) -> HttpResponse:
-        """All of them; or so many from a place on, with the number of all that hold the text."""
+        """All summaries; or `count` of them from a place on, with the number of all that hold the text."""
         most = call.number("count")
         if most is None:
             return HttpResponse.json(self._index.summaries())

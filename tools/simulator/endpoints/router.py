@@ -19,7 +19,7 @@ class Router:
         self._schema = schema
 
     def find(self, request: HttpRequest) -> Endpoint | HttpResponse:
-        """The endpoint for the request, or the answer that says why there is none."""
+        """The endpoint for the request, or the answer that says why no endpoint takes it."""
         if request.path in self._services:
             return self._in_service(request, *self._services[request.path])
         if request.path.startswith(SCHEMAS_PATH):

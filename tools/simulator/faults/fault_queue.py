@@ -18,7 +18,7 @@ class FaultQueue:
         self._faults: list[Fault] = []
 
     def add(self, faults: Iterable[Fault]) -> None:
-        """Puts faults behind those that wait already."""
+        """Appends faults to the queue."""
         with self._lock:
             self._faults += faults
 

@@ -1,7 +1,7 @@
 // The differences between two texts, line by line.
 import {element} from "./dom.js";
 
-// Beyond so many pairs of lines the middle is shown as replaced whole.
+// With more pairs of lines than this, the whole middle is shown as replaced.
 const MOST_PAIRS = 4_000_000;
 const CONTEXT = 2;
 

@@ -31,7 +31,7 @@ class FarSide:
         return self._port == port and self._host in (host, "localhost", "127.0.0.1", "::1")
 
     def connect(self) -> socket.socket:
-        """A new connection; OSError when there is none to be had."""
+        """A new connection. Raises OSError when the other side takes no connection."""
         connection = socket.create_connection((self._host, self._port))
         connection.setsockopt(socket.IPPROTO_TCP, socket.TCP_NODELAY, 1)
         return connection

@@ -63,7 +63,7 @@ def archive(entries: list[dict[str, Any]]) -> dict[str, Any]:
 
 
 def read(document: bytes) -> list[HarEntry]:
-    """The entries of an archive, the oldest first; ValueError when it is none."""
+    """The entries of an archive, oldest first. Raises ValueError when the document is not an archive."""
     try:
         entries = json.loads(document)["log"]["entries"]
         found = [_read_entry(entry) for entry in entries]

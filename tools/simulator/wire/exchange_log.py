@@ -21,7 +21,7 @@ SIDES = ("request", "response")
 class ExchangeLog:
     """Numbered files with the raw messages, and one line an exchange that sums it up.
 
-    With `keep`, the oldest exchanges go as soon as there are more than so many.
+    With `keep`, the oldest exchanges are removed as soon as there are more than `keep`.
     """
 
     def __init__(self, folder: Path, keep: int | None = None) -> None:
@@ -130,7 +130,7 @@ class ExchangeLog:
         return [line for (line,) in reversed(rows)]
 
     def lines_between(self, ranges: Iterable[tuple[int, int]], most: int) -> list[str]:
-        """The summaries with these numbers, at most so many."""
+        """The summaries with these numbers, at most `most` of them."""
         lines: list[str] = []
         for first, last in ranges:
             lines += (line for (line,) in self.table.rows(
@@ -143,7 +143,7 @@ class ExchangeLog:
         return [json.loads(line) for line in self.lines(last)]
 
     def entry(self, number: int) -> dict[str, Any] | None:
-        """The summary of one exchange, or nothing if there is none such."""
+        """The summary of one exchange, or None when no exchange has this number."""
         lines = self.lines_between([(number, number)], 1)
         return json.loads(lines[0]) if lines else None
 
@@ -164,7 +164,7 @@ class ExchangeLog:
             return b""
 
     def request_body(self, number: int) -> bytes | None:
-        """What a client sent as the body of that exchange, or nothing if there is none such."""
+        """The body that a client sent in that exchange, or None when no exchange has this number."""
         entry, raw = self.entry(number), self.raw(number, "request")
         if entry is None or raw is None:
             return None
