@@ -21,11 +21,13 @@ DELETED = "use of deleted function"
 DROPPED = "ignoring return value"
 NO_CONSTANT = "is not a constant expression"
 
+
 class Row(NamedTuple):
     name: str
     wrong: str
     right: str
     complaint: str
+
 
 ROWS = (
     Row("a view of a text that nobody holds",
@@ -133,10 +135,12 @@ PARAMETERS = ("[[maybe_unused]] const msxml::Element& element, [[maybe_unused]] 
               "[[maybe_unused]] const LejisIncidentIndexCard& incident, "
               "[[maybe_unused]] PersonInquiryArguments& block, [[maybe_unused]] LejisSubmissionWebService& service")
 
+
 def source(bodies):
     functions = (f"void Snippet{number}({PARAMETERS});\nvoid Snippet{number}({PARAMETERS}) {{\n{body}\n}}\n"
                  for number, body in enumerate(bodies))
     return PROLOGUE + "\n".join(functions) + "\n}  // namespace lejis\n"
+
 
 def compiler():
     """The command of MODEL for a source on the standard input, and its folder."""
@@ -150,6 +154,7 @@ def compiler():
         elif word not in ("-c", "-MD", entry["file"]):
             command.append(word)
     return [*command, "-fsyntax-only", "-x", "c++", "-"], entry["directory"]
+
 
 class RefusalTest(unittest.TestCase):
     @classmethod
@@ -172,6 +177,7 @@ class RefusalTest(unittest.TestCase):
                 self.assertEqual(code, 1, complaints)
                 errors = re.findall(r"error: (.*)", complaints)
                 self.assertTrue(any(re.search(row.complaint, error) for error in errors), complaints)
+
 
 if __name__ == "__main__":
     unittest.main()
