@@ -5,7 +5,6 @@
 #include "text/Layout.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace lejis_client {
 namespace {
@@ -68,7 +67,11 @@ std::wstring Wrapped(const std::vector<std::wstring>& words, std::size_t column)
 
 std::vector<std::wstring> WordsOf(std::wstring_view text) {
     std::vector<std::wstring> words;
-    for (const auto word : std::views::split(text, L' ')) words.emplace_back(word.begin(), word.end());
+    while (!text.empty()) {
+        const std::size_t length = std::min(text.find(L' '), text.size());
+        words.emplace_back(text.substr(0, length));
+        text.remove_prefix(std::min(length + 1, text.size()));
+    }
     return words;
 }
 
@@ -146,12 +149,12 @@ std::wstring GeneralHelp() {
 std::wstring HelpOf(const Command& command) {
     std::vector<const Option*> options = OptionsOf(command.action);
     const auto criteria =
-        std::ranges::stable_partition(options, [](const Option* option) { return !option->criterion; });
+        std::stable_partition(options.begin(), options.end(), [](const Option* option) { return !option->criterion; });
     std::wstring text = Usage(command, command.usage);
     if (command.otherUsage) text += Usage(command, command.otherUsage);
     text += L'\n' + std::wstring(command.about) + L'\n';
-    text += CriterionRows({criteria.begin(), criteria.end()});
-    text += OptionRows({options.begin(), criteria.begin()}) + L'\n';
+    text += CriterionRows({criteria, options.end()});
+    text += OptionRows({options.begin(), criteria}) + L'\n';
     if (*command.notes) text += command.notes + std::wstring(L"\n");
     text += L"Examples:\n\n" + std::wstring(command.examples) + L'\n';
     return text + Wrapped(WordsOf(L"Exit codes: " + std::wstring(command.exitCodes)), 0);

@@ -24,7 +24,7 @@ Internet Owned(HINTERNET handle) {
 Internet OpenInternet(DWORD access) {
     Internet internet = Owned(InternetOpenW(L"lejis", access, nullptr, nullptr, 0));
     DWORD limit = INFINITE;
-    for (const DWORD option : {INTERNET_OPTION_CONNECT_TIMEOUT, INTERNET_OPTION_RECEIVE_TIMEOUT}) {
+    for (const DWORD option : {DWORD{INTERNET_OPTION_CONNECT_TIMEOUT}, DWORD{INTERNET_OPTION_RECEIVE_TIMEOUT}}) {
         InternetSetOptionW(internet.get(), option, &limit, sizeof limit);
     }
     return internet;

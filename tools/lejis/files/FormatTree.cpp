@@ -34,7 +34,7 @@ private:
     static FormatNode& NodeOf(std::list<FormatNode>& siblings, std::wstring_view name) {
         const auto found =
             std::ranges::find(siblings, name, [](const FormatNode& node) { return node.name.qualified; });
-        return found == siblings.end() ? siblings.emplace_back(FormatName(name)) : *found;
+        return found == siblings.end() ? siblings.emplace_back(FormatNode{.name = FormatName(name)}) : *found;
     }
 
     std::map<const FormatSection*, Children> sections_;

@@ -19,7 +19,7 @@ public:
     explicit TcpConnection(const ADDRINFOW& address)
         : socket_(::socket(address.ai_family, address.ai_socktype, address.ai_protocol)) {
         u_long nonBlocking = 1;
-        ioctlsocket(socket_, FIONBIO, &nonBlocking);
+        ioctlsocket(socket_, static_cast<long>(FIONBIO), &nonBlocking);
         if (connect(socket_, address.ai_addr, static_cast<int>(address.ai_addrlen)) == 0) return;
         error_ = WSAGetLastError();
         if (error_ == WSAEWOULDBLOCK) error_ = Await();

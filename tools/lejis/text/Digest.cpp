@@ -1,7 +1,9 @@
 #include "text/Digest.h"
 
-#include <bcrypt.h>
 #include <windows.h>
+
+// It does not include windows.h, which it needs.
+#include <bcrypt.h>
 
 #include <cstdio>
 #include <stdexcept>

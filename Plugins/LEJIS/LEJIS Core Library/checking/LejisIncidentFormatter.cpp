@@ -6,8 +6,6 @@
 #include "platform/com/ComObject.h"
 #include "platform/ComError.h"
 
-using Microsoft::WRL::ComPtr;
-
 namespace lejis {
 namespace {
 

@@ -31,7 +31,7 @@ OutputDocument OutputDocument::Create() {
 
 msxml::Element OutputDocument::CreateMeasure(const QualifiedName& name, const QualifiedName& unitAttribute) const {
     if (!patterns_) {
-        const msxml::Element element = msxml::CreateElement(document_, name.Text(), name.NamespaceUri());
+        msxml::Element element = msxml::CreateElement(document_, name.Text(), name.NamespaceUri());
         msxml::SetAttribute(document_, element, unitAttribute.Text(), unitAttribute.NamespaceUri(), kUnit);
         return element;
     }

@@ -16,7 +16,7 @@ Element CreateQualifiedElement(const Document& document, std::wstring_view quali
 
 Element CreateTextElement(const Document& document, std::wstring_view qualifiedName, std::wstring_view value,
                           std::wstring_view namespaceUri) {
-    const Element element = CreateQualifiedElement(document, qualifiedName, namespaceUri);
+    Element element = CreateQualifiedElement(document, qualifiedName, namespaceUri);
     msxml::SetText(element, value);
     return element;
 }
@@ -32,14 +32,14 @@ Element CreateBooleanElement(const Document& document, std::wstring_view qualifi
 }
 
 Element CreateIdElement(const Document& document, std::wstring_view qualifiedName, std::wstring_view identifier) {
-    const Element element = CreateQualifiedElement(document, qualifiedName, Constants::kJxdmNamespace);
+    Element element = CreateQualifiedElement(document, qualifiedName, Constants::kJxdmNamespace);
     msxml::Append(element, CreateTextElement(document, L"j:ID", identifier, Constants::kJxdmNamespace));
     return element;
 }
 
 Element CreateJurisdictionIdElement(const Document& document, std::wstring_view qualifiedName,
                                     std::wstring_view identifier, std::wstring_view jurisdictionCode) {
-    const Element element = CreateIdElement(document, qualifiedName, identifier);
+    Element element = CreateIdElement(document, qualifiedName, identifier);
     msxml::Append(element, CreateTextElement(document, L"j:IDJurisdictionCode.ncicLSTA", jurisdictionCode,
                                              Constants::kJxdmNamespace));
     return element;

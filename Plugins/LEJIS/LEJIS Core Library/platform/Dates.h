@@ -2,6 +2,7 @@
 #pragma once
 
 #include <windows.h>
+#include <wtypes.h>
 
 #include <optional>
 #include <string_view>

@@ -19,7 +19,6 @@
 #include "services/SOAPEnvelope.h"
 #include "services/SubmissionResponse.h"
 
-using Microsoft::WRL::ComPtr;
 using platform::ComError;
 
 namespace lejis {

@@ -11,7 +11,7 @@ namespace lejis {
 namespace {
 
 msxml::Document Wrap(const msxml::Element& payload, std::wstring_view declarations, std::wstring_view header) {
-    const msxml::Document envelope = msxml::CreateDocument();
+    msxml::Document envelope = msxml::CreateDocument();
     msxml::LoadXml(envelope, platform::Join({L"<soap:Envelope xmlns:soap='", Constants::kSoapNamespace, L"'",
                                              declarations, L">", header, L"<soap:Body></soap:Body></soap:Envelope>"}));
     const msxml::Element root = msxml::Root(envelope);

@@ -37,7 +37,7 @@ platform::HttpRequest Fetch(const std::wstring& url) {
 }
 
 msxml::Document LoadWsdl(const platform::HttpRequest& request) {
-    const msxml::Document wsdl = msxml::CreateDocument();
+    msxml::Document wsdl = msxml::CreateDocument();
     msxml::SetProperty(wsdl, L"SelectionLanguage", L"XPath");
     msxml::SetProperty(wsdl, L"SelectionNamespaces",
                        L"xmlns:wsdl='http://schemas.xmlsoap.org/wsdl/' xmlns:xsd='http://www.w3.org/2001/XMLSchema'");

@@ -6,8 +6,6 @@
 
 #include <algorithm>
 
-using Microsoft::WRL::ComPtr;
-
 namespace platform {
 namespace {
 

@@ -5,6 +5,7 @@
 #include "platform/ComError.h"
 
 #include <ModuleInterfaces.h>
+#include <olectl.h>
 
 #include <optional>
 #include <utility>
@@ -30,7 +31,7 @@ public:
 
     std::optional<ElapsedEvent> InDefaultEvents() const {
         if (const ComPtr<ITypeInfo> information = ClassInformation()) {
-            if (const auto found = In(DefaultEventsOf(information.Get()))) return found;
+            if (auto found = In(DefaultEventsOf(information.Get()))) return found;
         }
         ComPtr<IProvideClassInfo2> provider;
         IID events = GUID_NULL;
@@ -46,7 +47,7 @@ public:
         for (ComPtr<IConnectionPoint> point; all->Next(1, point.ReleaseAndGetAddressOf(), nullptr) == S_OK && point;) {
             IID events = GUID_NULL;
             if (FAILED(point->GetConnectionInterface(&events))) continue;
-            if (const auto found = In(TypeOf(events))) return found;
+            if (auto found = In(TypeOf(events))) return found;
         }
         return std::nullopt;
     }
