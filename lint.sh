@@ -1,10 +1,13 @@
 #!/bin/bash
 # lint.sh
-# What can be seen without running anything: the layout of the C++ sources (clang-format), mistakes in the library and
-# its programs (cppcheck; its exceptions stand in tools/cppcheck-exceptions.txt; no thread_local, which is destroyed
-# wrongly; no include that looks up the floors of the library or of its client, and no circle; no word of LEJIS in the
-# platform) and in the scripts (shellcheck for those of the shell; flake8 for Python: names that are unknown or unused,
-# syntax, white space, lines of more than 120 characters). The compiler's own warnings are errors in every build.
+# Finds mistakes without running anything.
+#   C++ sources   their layout (clang-format)
+#   the library   cppcheck, with the exceptions of tools/cppcheck-exceptions.txt; clang as a second compiler;
+#                 clang-tidy with the checks of .clang-tidy; no word of LEJIS in the platform
+#   lejis.exe     cppcheck and clang
+#   both          no thread_local, which is destroyed wrongly; no include that looks up the floors, and no circle
+#   scripts       shellcheck; flake8 (unknown and unused names, syntax, white space, lines of more than 120 characters)
+# The compiler's own warnings are errors in every build.
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
@@ -13,7 +16,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/tools/shell-support.sh"
 cd "$project"
 clean_up_with :
 lock_checkout
-run tools/setup.sh --with clang-format --with cppcheck --with shellcheck --with flake8
+run tools/setup.sh --with clang-format --with cppcheck --with shellcheck --with flake8 --with clang --with clang-tidy
 
 failed=0
 # check NAME COMMAND...
@@ -24,6 +27,14 @@ check() {
 # is_absent WORD FOLDER: prints the lines that have it, in any spelling.
 # shellcheck disable=SC2317  # check calls it
 is_absent() { ! grep -rniF -- "$1" "$2"; }
+
+# clang needs the commands of a build and the headers that it generates. A folder of its own keeps other builds as they
+# are configured.
+make_generated_headers() {
+  local folder=build/lint
+  run cmake -S . --preset x64 --fresh -B "$folder" &&
+    run cmake --build "$folder" --target TVLejisCore_interfaces_files core/generated/NcicOffenseCodeRows.inc
+}
 
 # Files that git knows, or would add.
 files_of() { git ls-files --cached --others --exclude-standard -- "$@"; }
@@ -51,6 +62,8 @@ check thread_local tools/find-thread-locals.sh "${shipped[@]}"
 check floors tools/find-upward-includes.sh "$core" "${core_floors[@]}"
 check floors tools/find-upward-includes.sh tools/lejis "${client_floors[@]}"
 check platform is_absent lejis "$core/platform"
+make_generated_headers >build/lint.log 2>&1 || fail "the headers of clang cannot be made (full log: build/lint.log)"
+check clang /usr/bin/python3 tools/check_with_clang.py build/lint --tidy "$core" --compile tools/lejis
 check shellcheck shellcheck --external-sources "${scripts[@]}"
 check flake8 /usr/bin/python3 -m flake8 --isolated --select=F,E501,E7,E9,W --extend-ignore=W503,W504 \
   --max-line-length=120 "${modules[@]}"
