@@ -75,7 +75,7 @@ ROWS = (
         "card.Read(ElementReader(element));", DROPPED),
     Row("nothing to be read",
         "card.Read(nullptr);",
-        "card.Read(ElementReader(nullptr));", "cannot convert"),
+        "card.Read(ElementReader(msxml::Element()));", "cannot convert"),
     Row("the client's method for the service's own",
         "service.DeleteIncident(nullptr);",
         "service.Withdraw(incident);", DROPPED),

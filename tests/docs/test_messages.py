@@ -18,15 +18,22 @@ FORMS = {
     r"Lejis\w+\.xml": "the file name of a debug dump",
     r"\\+\w+|\w+\\+": "a part of a registry key or a path",
     r"%\S+": "a format of numbers",
+    r"&\w+;": "a reference to a character",
+    r"</?a>": "a tag around a text that MSXML is asked for",
 }
 WORDS = {
     "a key or value of the registry": "ThreadingModel Apartment win32 win64 DebugLejis",
     "a member of the host's components": "ErrorNumber Yield Folders Diagnostics Interval Enabled "
         "Elapsed",
     "a name of the platform": "LOCALAPPDATA ntdll.dll wine_get_version .CRT$XLF",
-    "a word of HTTP": "GET POST SOAPAction Content-Type text/xml;charset=utf-8 ?wsdl",
-    "a prefix or name in XML, or a value in it": "soap wsse lejis j ext card inq xmlns: targetNamespace ncic "
+    "a word of HTTP": "GET POST SOAPAction Content-Type text/xml;charset=utf-8 ?wsdl text/xml application/xml +xml "
+        'charset=utf-8 charset="utf-8"',
+    "a prefix or name in XML, or a value in it": "soap wsse lejis j ext card inq xml xmlns xmlns: targetNamespace ncic "
         "true false",
+    "the beginning of a namespace": "urn:schemas-microsoft-com:",
+    "the beginning of a reference to a character": "&#x",
+    "digits": "0123456789abcdefABCDEF",
+    "a byte order mark, as the test reads it": "xEFxBBxBF",
     "a property of MSXML": "SelectionLanguage XPath SelectionNamespaces",
     "a key of a table": "K",
     "a language of linkage": "C",
@@ -44,6 +51,9 @@ TEXTS = {
     "<soap:Body></soap:Body></soap:Envelope>": "the rest of an envelope",
     "<soap:Header><wsse:Security><wsse:UsernameToken><wsse:Username>": "a part of an envelope",
     "</wsse:Username></wsse:UsernameToken></wsse:Security></soap:Header>": "a part of an envelope",
+    **{f"<?xml version={quote}1.0{quote}{encoding}?>": "a declaration that plain markup may have"
+       for quote in "\"'"
+       for encoding in ("", f" encoding={quote}UTF-8{quote}", f" encoding={quote}utf-8{quote}")},
     "<patterns xmlns:j='": "the beginning of a pattern of measures",
     "'/></patterns>": "the end of a pattern of measures",
     "xmlns:wsdl='http://schemas.xmlsoap.org/wsdl/' xmlns:xsd='http://www.w3.org/2001/XMLSchema'":

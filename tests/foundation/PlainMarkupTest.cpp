@@ -1,4 +1,5 @@
 // What the scanner reads, it reads as MSXML does; whatever leaves a doubt, it gives up.
+#include "foundation/NotPlain.h"
 #include "foundation/PlainMarkup.h"
 
 #include "platform/msxml/Document.h"

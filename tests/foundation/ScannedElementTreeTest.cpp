@@ -1,6 +1,7 @@
 // A tree that is scanned is the tree that a walk over MSXML's document fills.
 #include "foundation/ElementReader.h"
 #include "foundation/ElementTree.h"
+#include "foundation/NotPlain.h"
 #include "foundation/PlainMarkup.h"
 #include "platform/msxml/Document.h"
 #include "support/Printing.h"

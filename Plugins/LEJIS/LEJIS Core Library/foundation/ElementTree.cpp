@@ -1,5 +1,6 @@
 #include "foundation/ElementTree.h"
 
+#include "foundation/NotPlain.h"
 #include "foundation/PlainCharacters.h"
 #include "foundation/PlainMarkup.h"
 #include "platform/ComError.h"

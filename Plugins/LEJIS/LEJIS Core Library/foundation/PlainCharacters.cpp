@@ -1,6 +1,6 @@
 #include "foundation/PlainCharacters.h"
 
-#include "foundation/PlainMarkup.h"
+#include "foundation/NotPlain.h"
 
 #include <utility>
 

@@ -1,5 +1,6 @@
 #include "foundation/PlainMarkup.h"
 
+#include "foundation/NotPlain.h"
 #include "foundation/PlainCharacters.h"
 
 #include <algorithm>
@@ -44,8 +45,6 @@ void Require(bool isPlain) {
 }
 
 }  // namespace
-
-void GiveUp() { throw NotPlain(); }
 
 PlainMarkup::PlainMarkup(std::string_view bytes) : bytes_(bytes) {
     PassIf(kByteOrderMark);

@@ -11,10 +11,6 @@
 
 namespace lejis {
 
-// Thrown where markup is not plain. It is deliberately no ComError: readers that forgive errors must not forgive it.
-struct NotPlain {};
-[[noreturn]] void GiveUp();
-
 // Scans XML that leaves no doubt what any parser makes of it. It reads UTF-8, elements with ASCII names and declared
 // prefixes, attributes, and texts. Everything else throws NotPlain, well-formed or not: MSXML judges it.
 class PlainMarkup {

@@ -2,6 +2,7 @@
 
 #include "foundation/ElementName.h"
 #include "foundation/ElementReader.h"
+#include "foundation/NotPlain.h"
 #include "foundation/PlainMarkup.h"
 #include "foundation/QueryPrefixes.h"
 #include "platform/Conversions.h"
