@@ -3,13 +3,11 @@
 #include "CompletedSearch.h"
 #include "Heaps.h"
 #include "LargeAnswer.h"
+#include "PeakSampler.h"
 #include "SelfProcess.h"
 #include "services/PlainReading.h"
 
-#include <psapi.h>
-#include <windows.h>
-
-#include <algorithm>
+#include <climits>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -18,16 +16,9 @@ namespace benchmarks {
 namespace {
 
 constexpr std::string_view kOption = "--peak-memory";
-constexpr int kFailed = -1;
+// No process that ends by itself has this code, and no answer takes as little.
+constexpr int kFailed = INT_MIN;
 constexpr double kKilobyte = 1024;
-
-PROCESS_MEMORY_COUNTERS Memory() {
-    PROCESS_MEMORY_COUNTERS counters{};
-    if (!K32GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters)) {
-        throw std::runtime_error("cannot tell the memory of the process");
-    }
-    return counters;
-}
 
 int KilobytesAtPeak(int incidents, bool byDocument) {
     lejis::SwitchPlainReading(!byDocument);
@@ -37,11 +28,12 @@ int KilobytesAtPeak(int incidents, bool byDocument) {
     const auto bytes = static_cast<double>(answer.size());
     CompletedSearch search(std::move(answer));
     const double heapsBefore = BytesOnHeaps();
-    const auto before = static_cast<double>(Memory().WorkingSetSize);
+    PeakSampler sampler;
     search.Complete();
-    const auto peak = static_cast<double>(Memory().PeakWorkingSetSize);
+    const double above = sampler.BytesAbove();
     const double cards = BytesOnHeaps() - heapsBefore;
-    return static_cast<int>(std::max(0.0, peak - before - bytes - cards) / kKilobyte);
+    // The array that the request gives is the answer's body; only the reading from bytes asks for it.
+    return static_cast<int>((above - cards - (byDocument ? 0 : bytes)) / kKilobyte);
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ consteval std::array<uint8_t, 256> Classes() {
         if (byte == ' ' || byte == '\t' || byte == '\r' || byte == '\n') classes[byte] |= kBlank;
         if (byte < ' ' || byte >= 0x80) classes[byte] |= kSpecial;
     }
-    for (const unsigned char byte : {'<', '&', ']', '"', '\''}) classes[byte] |= kSpecial;
+    for (const char byte : {'<', '&', ']', '"', '\''}) classes[static_cast<uint8_t>(byte)] |= kSpecial;
     return classes;
 }
 
