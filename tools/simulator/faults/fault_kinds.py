@@ -17,7 +17,7 @@ from . import parameter_checks as check
 from . import search_answers as search
 from .fault_kind import FaultKind, Parameter, Setting
 
-MAX_CARDS = 10_000
+MAX_CARDS = 20_000
 
 _Values = dict[str, Any]
 
