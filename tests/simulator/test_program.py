@@ -135,7 +135,8 @@ class ProgramTest(unittest.TestCase):
         watching.request("GET", "/control/changes")
         known = json.loads(watching.getresponse().read())["changes"]
         watching.request("GET", f"/control/changes?after={known}")
-        time.sleep(0.2)
+        # Until the request has surely been read.
+        time.sleep(1)
         program.terminate()
         self.ends(program, within=1)
         self.assertEqual(known, json.loads(watching.getresponse().read())["changes"])

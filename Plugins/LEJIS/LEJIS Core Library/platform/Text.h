@@ -1,6 +1,8 @@
 // Texts: the library's own, and those that go into the platform and come out of it.
 #pragma once
 
+#include "platform/TextArgument.h"
+
 #include <comutil.h>
 #include <oleauto.h>
 #include <windows.h>
@@ -11,22 +13,6 @@
 #include <utility>
 
 namespace platform {
-
-// A text that a function takes for the length of the call, whatever type the caller has it in. A field of a card
-// converts to this and not to a view, which would end when another field of the card is set.
-class TextArgument {
-public:
-    TextArgument(std::wstring_view text) : text_(text) {}
-    TextArgument(const std::wstring& text) : text_(text) {}
-    TextArgument(const wchar_t* text) : text_(text) {}
-    TextArgument(const TextArgument&) = delete;
-    TextArgument& operator=(const TextArgument&) = delete;
-
-    std::wstring_view View() const { return text_; }
-
-private:
-    const std::wstring_view text_;
-};
 
 // Takes over `text`. A null text is an empty one.
 std::wstring TakeText(BSTR text);

@@ -2,7 +2,7 @@
 // have many short texts each.
 #pragma once
 
-#include "platform/Text.h"
+#include "platform/TextArgument.h"
 
 #include <cstddef>
 #include <cstdint>
