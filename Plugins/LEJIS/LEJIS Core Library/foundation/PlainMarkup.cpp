@@ -4,7 +4,7 @@
 #include "foundation/PlainCharacters.h"
 
 #include <algorithm>
-#include <ranges>
+#include <span>
 
 namespace lejis {
 namespace {
@@ -217,8 +217,9 @@ void PlainMarkup::AddAttribute(const QualifiedName& name) {
 }
 
 NamespaceNumber PlainMarkup::Resolve(std::string_view prefix) const {
-    for (const Binding& binding : std::views::reverse(bindings_.Items())) {
-        if (binding.prefix == prefix) return binding.number;
+    const std::span<const Binding> bindings = bindings_.Items();
+    for (auto binding = bindings.rbegin(); binding != bindings.rend(); ++binding) {
+        if (binding->prefix == prefix) return binding->number;
     }
     // Nobody declares "xml", so what has this prefix ends here as well.
     Require(prefix.empty());
