@@ -26,8 +26,8 @@ class ProxyTest(SimulatorCase):
             self.assertEqual((proxy.passed, self.indexed()), ([self.url], ["2024-1"]))
 
     def test_an_incident_whose_answer_a_proxy_spoils_may_have_been_taken(self):
-        # An answer that says that it is compressed, and is not, looks like a server that is down. Wine now and then gives
-        # the number of data that are missing instead.
+        # An answer that says that it is compressed, and is not, looks like a server that is down. Wine now and then
+        # gives the number of data that are missing instead.
         with Proxy(SIMULATOR, ("Content-Encoding", "gzip")) as proxy:
             use_proxy(self, proxy.name)
             output = self.submit(TRY_AGAIN, ELSEWHERE)
