@@ -45,7 +45,7 @@ struct PublicClass {
 
 // Read once.
 const std::vector<PublicClass>& PublicClasses();
-// Null for an interface that is no one of the library's own.
+// Null for an interface that is not one of the library's own.
 const PublicInterface* FindInterface(REFIID iid);
 // Interface of an object's class, by asking the object; null for an object of somebody else.
 const PublicClass* ClassOf(IUnknown* object);

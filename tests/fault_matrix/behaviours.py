@@ -29,7 +29,7 @@ UNREACHABLE = {"submit": f"transient: {SERVICE_DOWN}", "delete": f"transient: {S
                "wsdl": f"transient: {SERVICE_DOWN}", "search": FOUND}
 WINE_NEVER_ENDS = "Wine never ends the search; on Windows it ends, as in the scripted rows"
 HTTP_09 = "Wine takes it for the body of an answer without headers; Windows reports 12152"
-WINE_READS_IT = "Wine reads it; Windows takes it for no XML"
+WINE_READS_IT = "Wine reads it; Windows does not take it for XML"
 
 
 def _race(arrives: Arrival) -> dict[str, str | tuple[str, ...]]:
@@ -89,7 +89,7 @@ def _fixed(data: bytes) -> bodies.Change:
 
 STATUS_AND_BODY = (
     _fault("500, a SOAP fault", 500),
-    _answered("500, SOAP that is no fault", 500, bodies.envelope("<s:Body><x/></s:Body>"), Content.EMPTY_BODY),
+    _answered("500, SOAP without a fault", 500, bodies.envelope("<s:Body><x/></s:Body>"), Content.EMPTY_BODY),
     _answered("500, SOAP without body", 500, bodies.envelope(""), Content.NO_BODY),
     _answered("500, a page in XML", 500, HTML, Content.OTHER_XML),
     _answered("500, words", 500, b"Out of order", Content.NO_XML),
@@ -209,14 +209,14 @@ FRAMING = (
     _framing("chunked, without the last chunk", RIGHT,
              framed(_CHUNKED, change=lambda data: plays.chunked(data, end=b""))),
     _framing("chunked, cut in a chunk", NO_XML, framed(_CHUNKED, change=lambda data: plays.chunked(data)[:250])),
-    _framing("chunked, sizes that are no numbers", NO_XML,
+    _framing("chunked, sizes that are not numbers", NO_XML,
              framed(_CHUNKED, change=lambda data: b"xyz\r\n" + data + b"\r\n0\r\n\r\n")),
     _framing("a body without length, ended by the close", RIGHT, framed()),
     _framing("a length that is too large, then a close", RIGHT,
              framed("Content-Length: 1000000")),
     _framing("a length that is too small", RIGHT, framed("Content-Length: 50"),
-             note="Wine reads what came with the headers; Windows takes 50 bytes, which are no XML"),
-    _framing("a length that is no number", RIGHT, framed("Content-Length: many")),
+             note="Wine reads what came with the headers; Windows takes 50 bytes, which are not XML"),
+    _framing("a length that is not a number", RIGHT, framed("Content-Length: many")),
     _framing("a negative length", RIGHT, framed("Content-Length: -1")),
     _framing("HTTP/1.0", RIGHT, plays.answer(lambda data: head(200, version="HTTP/1.0") + data)),
     _framing("an unknown version of HTTP", RIGHT,
@@ -229,7 +229,7 @@ FRAMING = (
     _framing("100 before the answer", RIGHT,
              plays.answer(lambda data: b"HTTP/1.1 100 Continue\r\n\r\n" + plays.whole(data))),
     _framing("another protocol's greeting", NO_XML, words(b"SSH-2.0-OpenSSH_9.2\r\n"), note=HTTP_09),
-    _framing("no HTTP but bytes without meaning", NO_XML, words(bodies.garbage(2000)), note=HTTP_09),
+    _framing("bytes without meaning instead of HTTP", NO_XML, words(bodies.garbage(2000)), note=HTTP_09),
     _framing("a body without status line and headers", RIGHT, plays.answer(bytes), note=HTTP_09),
     _framing("a status line without status", NOTHING, words(b"HTTP/1.1\r\n\r\n")),
 )
@@ -253,7 +253,7 @@ REDIRECTS = (
     _redirect("302 without an address", Arrival(302, Content.NO_XML), plays.redirect(302)),
     _redirect("302 to a server that is not there", NOTHING, plays.redirect(302, "http://127.0.0.1:1/"),
               exceptions=UNREACHABLE, gives_up="replaced", note=WINE_NEVER_ENDS),
-    _redirect("302 to something that is no address", NOTHING, plays.redirect(302, "::no address::"),
+    _redirect("302 to what is not an address", NOTHING, plays.redirect(302, "::no address::"),
               exceptions=UNREACHABLE, gives_up="replaced", note=WINE_NEVER_ENDS),
 )
 
@@ -325,7 +325,7 @@ SCRIPTED = (
     _scripted("a redirect without end", "RedirectWithoutEnd", _broken(12156)),
     _scripted("the platform's own time limit", "TimeLimitOfThePlatform", _broken(12002)),
     _scripted("a connection that is aborted", "ConnectionAborted", _broken(12030)),
-    _scripted("an answer that is no HTTP", "AnswerThatIsNoHttp", _broken(12152)),
+    _scripted("an answer that is not HTTP", "AnswerThatIsNoHttp", _broken(12152)),
     _scripted("a certificate that is refused", "CertificateRefused", _broken(12019)),
     _scripted("nobody listens", "NobodyListens", _broken(12029), **_DOWN),
     _scripted("a host that does not exist", "UnknownHost", _broken(12007), **_DOWN),

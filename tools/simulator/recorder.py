@@ -90,7 +90,7 @@ class Recorder:
                        lambda note: self._finish(exchange, request, frame.status, note))
 
     def refuse(self, request: HttpRequest, response: HttpResponse) -> Delivery:
-        """Records a request that is no request and so cannot be passed on."""
+        """Records what cannot be read as a request, and so cannot be passed on."""
         delivery = Delivery(response, closes=True)
         exchange = self._log.begin(request)
         exchange.received(delivery.to_bytes(request.method != "HEAD"))

@@ -122,7 +122,7 @@ class Simulator:
         return self._recorded(request, outcome, delivery, started, faults[0])
 
     def refuse(self, request: HttpRequest, response: HttpResponse) -> Delivery:
-        """Records a request that is no request."""
+        """Records what cannot be read as a request."""
         return self._recorded(request, Outcome(response), Delivery(response, closes=True),
                               time.time())
 

@@ -23,7 +23,7 @@ struct Option {
     std::wstring (*take)(CommandLine& commandLine, const std::wstring& value);
     // A short sentence without its full stop, in ASCII.
     const wchar_t* help;
-    // What of the incidents it searches for; null for an option that is no criterion.
+    // What of the incidents it searches for; null for an option that is not a criterion.
     const wchar_t* criterion = nullptr;
     // The variable of the environment that replaces it; may be null.
     const wchar_t* variable = nullptr;

@@ -42,7 +42,7 @@ private:
         // Which of the elements that it looks for it has found: it reads the first one.
         std::vector<const FormatNode*> found;
         std::vector<Half> halves;
-        // From its first character that is no white space on, and the line of that.
+        // Begins with its first character that is not white space; the line is that of this character.
         std::wstring text;
         int textLine;
     };
