@@ -47,11 +47,6 @@ void ElementTree::Take(PlainMarkup& markup) {
     Add(markup);
 }
 
-bool ElementTree::HasName(size_t number, const ElementName& name) const {
-    const Element& element = elements_[number];
-    return element.key == name.Key() && Characters(element.nameBegin, element.nameLength) == name.LocalName();
-}
-
 std::wstring_view ElementTree::TextOf(size_t number) const {
     const Element& element = elements_[number];
     const std::wstring_view text = Characters(element.textBegin, element.textLength);
@@ -153,10 +148,6 @@ std::optional<NamespaceNumber> ElementTree::NamespaceOf(const Node& node) {
     const auto found = FindNamespace(uri);
     if (found) lastNamespace_ = *found;
     return found;
-}
-
-std::wstring_view ElementTree::Characters(size_t begin, size_t length) const {
-    return std::wstring_view(characters_).substr(begin, length);
 }
 
 }  // namespace lejis

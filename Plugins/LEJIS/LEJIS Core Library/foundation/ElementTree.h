@@ -34,7 +34,10 @@ public:
 
     // Elements are numbered in document order from the root, which is 0. Those in no namespace of Constants are left
     // out, with all that is in them.
-    bool HasName(size_t number, const ElementName& name) const;
+    bool HasName(size_t number, const ElementName& name) const {
+        const Element& element = elements_[number];
+        return element.key == name.Key() && Characters(element.nameBegin, element.nameLength) == name.LocalName();
+    }
     // The number after those of the element and of all elements in it.
     size_t EndOf(size_t number) const { return elements_[number].end; }
     // As MSXML gives it, with the texts of all descendants. Valid as long as the tree.
@@ -69,7 +72,9 @@ private:
     void SetText(size_t number, const PlainMarkup& markup);
     std::wstring_view TextOfMarkup(std::wstring_view markup) const;
     std::optional<NamespaceNumber> NamespaceOf(const msxml::Node& node);
-    std::wstring_view Characters(size_t begin, size_t length) const;
+    std::wstring_view Characters(size_t begin, size_t length) const {
+        return std::wstring_view(characters_).substr(begin, length);
+    }
 
     std::vector<Element> elements_;
     std::wstring characters_;

@@ -52,6 +52,7 @@ PlainMarkup::PlainMarkup(std::string_view bytes) : bytes_(bytes) {
         if (PassIf(declaration)) break;
     }
     PassBlanks();
+    Pass('<');
     PassStartTag();
 }
 
@@ -64,7 +65,8 @@ bool PlainMarkup::NextChild() {
         return false;
     }
     text_ = PassCharacters('<');
-    if (bytes_.substr(at_, 2) == "</") {
+    Pass('<');
+    if (PassIf('/')) {
         PassEndTag();
         return false;
     }
@@ -80,13 +82,6 @@ void PlainMarkup::RequireEnd() {
     PassBlanks();
     Require(open_.Count() == 0 && at_ == bytes_.size());
 }
-
-std::optional<NamespaceNumber> PlainMarkup::Namespace() const {
-    const NamespaceNumber number = open_.Last().number;
-    return number == kUnknown ? std::nullopt : std::optional(number);
-}
-
-std::string_view PlainMarkup::LocalName() const { return open_.Last().name.Local(); }
 
 bool PlainMarkup::Is(const ElementName& name) const {
     return IsSame(LocalName(), name.LocalName()) && open_.Last().number == name.Namespace();
@@ -105,13 +100,19 @@ void PlainMarkup::AppendText(std::wstring& text, bool asMarkup) const {
     }
 }
 
+bool PlainMarkup::PassIf(char character) {
+    if (Here() != character) return false;
+    ++at_;
+    return true;
+}
+
 bool PlainMarkup::PassIf(std::string_view text) {
     if (!bytes_.substr(at_).starts_with(text)) return false;
     at_ += text.size();
     return true;
 }
 
-void PlainMarkup::Pass(std::string_view text) { Require(PassIf(text)); }
+void PlainMarkup::Pass(char character) { Require(PassIf(character)); }
 
 void PlainMarkup::PassBlanks() {
     while (plain::IsOf(plain::kBlank, Here())) ++at_;
@@ -159,7 +160,6 @@ void PlainMarkup::PassSpecialCharacter() {
 }
 
 void PlainMarkup::PassStartTag() {
-    Pass("<");
     Require(!open_.IsFull());
     const QualifiedName name = PassName();
     const size_t outerBindings = bindings_.Count();
@@ -169,8 +169,8 @@ void PlainMarkup::PassStartTag() {
         if (Here() == '>' || Here() == '/') break;
         PassAttribute();
     }
-    isEmpty_ = PassIf("/");
-    Pass(">");
+    isEmpty_ = PassIf('/');
+    Pass('>');
     for (const QualifiedName& attribute : attributes_.Items()) {
         if (attribute.Prefix() != "xmlns") Resolve(attribute.Prefix());
     }
@@ -178,16 +178,15 @@ void PlainMarkup::PassStartTag() {
 }
 
 void PlainMarkup::PassEndTag() {
-    Pass("</");
-    Pass(open_.Last().name.whole);
+    Require(PassIf(open_.Last().name.whole));
     PassBlanks();
-    Pass(">");
+    Pass('>');
     Close();
 }
 
 void PlainMarkup::PassAttribute() {
     const QualifiedName name = PassName();
-    Pass("=");
+    Pass('=');
     const char quote = Here();
     Require(quote == '"' || quote == '\'');
     ++at_;

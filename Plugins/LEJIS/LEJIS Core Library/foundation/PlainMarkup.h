@@ -27,8 +27,11 @@ public:
     void RequireEnd();
 
     // The namespace of the element that the scanner stands in, if Constants knows it.
-    std::optional<NamespaceNumber> Namespace() const;
-    std::string_view LocalName() const;
+    std::optional<NamespaceNumber> Namespace() const {
+        const NamespaceNumber number = open_.Last().number;
+        return number == kUnknown ? std::nullopt : std::optional(number);
+    }
+    std::string_view LocalName() const { return open_.Last().name.Local(); }
     bool Is(const ElementName& name) const;
 
     // Appends the last text. As markup, its references stay references.
@@ -56,13 +59,15 @@ private:
     };
 
     char Here() const { return at_ < bytes_.size() ? bytes_[at_] : '\0'; }
+    bool PassIf(char character);
     bool PassIf(std::string_view text);
-    void Pass(std::string_view text);
+    void Pass(char character);
     void PassBlanks();
     QualifiedName PassName();
     void PassNamePart();
     std::string_view PassCharacters(char stop);
     void PassSpecialCharacter();
+    // Both begin after the bracket, or the slash, that the tag begins with.
     void PassStartTag();
     void PassEndTag();
     void PassAttribute();
