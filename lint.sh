@@ -32,7 +32,7 @@ is_absent() { ! grep -rniF -- "$1" "$2"; }
 # are configured.
 make_generated_headers() {
   local folder=build/lint
-  run cmake -S . --preset x64 --fresh -B "$folder" &&
+  run cmake -S . --preset x64 --fresh -D COMPILE_BY_FOLDER=OFF -B "$folder" &&
     run cmake --build "$folder" --target TVLejisCore_interfaces_files core/generated/NcicOffenseCodeRows.inc
 }
 

@@ -11,13 +11,13 @@ using platform::Check;
 namespace benchmarks {
 namespace {
 
-using Take = std::function<void(BSTR)>;
+using TextTaker = std::function<void(BSTR)>;
 
 template <typename Interface>
 using TextGetter = HRESULT (STDMETHODCALLTYPE Interface::*)(BSTR*);
 
 template <typename Interface>
-void TakeTexts(Interface* card, std::initializer_list<TextGetter<Interface>> getters, const Take& take) {
+void TakeTexts(Interface* card, std::initializer_list<TextGetter<Interface>> getters, const TextTaker& take) {
     for (const TextGetter<Interface> getter : getters) {
         BSTR text = nullptr;
         Check((card->*getter)(&text));
@@ -61,7 +61,7 @@ void WalkAll(ILejisIncidentIndexCard* incident,
     ForEach(cards.Get(), body);
 }
 
-void WalkAddress(ILejisStreetAddress* address, const Take& take) {
+void WalkAddress(ILejisStreetAddress* address, const TextTaker& take) {
     using I = ILejisStreetAddress;
     TakeTexts(address,
               {&I::get_StreetFullText, &I::get_StreetName, &I::get_StreetType, &I::get_StreetDirection,
@@ -70,7 +70,7 @@ void WalkAddress(ILejisStreetAddress* address, const Take& take) {
     DropValue(address, &I::get_StreetNumber);
 }
 
-void WalkPerson(ILejisPersonIndexCard* person, const Take& take) {
+void WalkPerson(ILejisPersonIndexCard* person, const TextTaker& take) {
     using I = ILejisPersonIndexCard;
     TakeTexts(person,
               {&I::get_OrganizationName, &I::get_GivenName, &I::get_MiddleName, &I::get_SurName, &I::get_SSN,
@@ -87,7 +87,7 @@ void WalkPerson(ILejisPersonIndexCard* person, const Take& take) {
     DropCaution(person);
 }
 
-void WalkVehicle(ILejisVehicleIndexCard* vehicle, const Take& take) {
+void WalkVehicle(ILejisVehicleIndexCard* vehicle, const TextTaker& take) {
     using I = ILejisVehicleIndexCard;
     TakeTexts(vehicle,
               {&I::get_Make, &I::get_Model, &I::get_Style, &I::get_Color, &I::get_LicensePlate,
@@ -97,7 +97,7 @@ void WalkVehicle(ILejisVehicleIndexCard* vehicle, const Take& take) {
     DropCaution(vehicle);
 }
 
-void WalkProperty(ILejisPropertyIndexCard* item, const Take& take) {
+void WalkProperty(ILejisPropertyIndexCard* item, const TextTaker& take) {
     using I = ILejisPropertyIndexCard;
     TakeTexts(item,
               {&I::get_NibrsCategoryCode, &I::get_Category, &I::get_Make, &I::get_Model, &I::get_SerialID,
@@ -106,7 +106,7 @@ void WalkProperty(ILejisPropertyIndexCard* item, const Take& take) {
     DropCaution(item);
 }
 
-void WalkIncident(ILejisIncidentIndexCard* incident, const Take& take) {
+void WalkIncident(ILejisIncidentIndexCard* incident, const TextTaker& take) {
     using I = ILejisIncidentIndexCard;
     TakeTexts(incident,
               {&I::get_OrganizationName, &I::get_OrganizationORI, &I::get_ActivityID, &I::get_CaveatText,

@@ -15,9 +15,9 @@
 namespace benchmarks {
 namespace {
 
-constexpr std::string_view kOption = "--peak-memory";
+constexpr std::string_view kPeakMemoryOption = "--peak-memory";
 // No process that ends by itself has this code, and no answer takes as little.
-constexpr int kFailed = INT_MIN;
+constexpr int kNoPeak = INT_MIN;
 constexpr double kKilobyte = 1024;
 
 int KilobytesAtPeak(int incidents, bool byDocument) {
@@ -39,19 +39,19 @@ int KilobytesAtPeak(int incidents, bool byDocument) {
 }  // namespace
 
 std::optional<int> PeakMemoryCode(int count, char** texts) {
-    if (count != 4 || texts[1] != kOption) return std::nullopt;
+    if (count != 4 || texts[1] != kPeakMemoryOption) return std::nullopt;
     try {
         return KilobytesAtPeak(std::stoi(texts[2]), texts[3] == std::string_view("document"));
     } catch (...) {
-        return kFailed;
+        return kNoPeak;
     }
 }
 
 double PeakKilobytes(int incidents, bool byDocument) {
-    const std::wstring option(kOption.begin(), kOption.end());
+    const std::wstring option(kPeakMemoryOption.begin(), kPeakMemoryOption.end());
     const int code =
         ExitCodeOfSelf(option + L" " + std::to_wstring(incidents) + (byDocument ? L" document" : L" bytes"));
-    if (code == kFailed) throw std::runtime_error("the memory of an answer could not be measured");
+    if (code == kNoPeak) throw std::runtime_error("the memory of an answer could not be measured");
     return code;
 }
 

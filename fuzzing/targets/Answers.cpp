@@ -77,7 +77,7 @@ const std::string kPieces[] = {
 };
 
 constexpr const wchar_t* kContentTypes[] = {L"text/xml", L"application/soap+xml", L"text/html", L""};
-constexpr long kStatuses[] = {202, 403, 500, 502};
+constexpr long kOtherStatuses[] = {202, 403, 500, 502};
 
 void ChangeBytes(std::string& bytes, Case& one) {
     const size_t at = one.Below(bytes.size() + 1);
@@ -108,7 +108,7 @@ support::Script AnyScript(std::string bytes, Case& one) {
     // As MSXML takes it from the bytes, whatever they are.
     script.responseText = support::Wide(bytes);
     script.responseBody = std::move(bytes);
-    script.status = one.OneIn(20) ? one.Pick(kStatuses) : 200;
+    script.status = one.OneIn(20) ? one.Pick(kOtherStatuses) : 200;
     if (one.OneIn(10)) script.contentType = one.Pick(kContentTypes);
     return script;
 }

@@ -21,7 +21,7 @@ using Microsoft::WRL::ComPtr;
 namespace fuzzing {
 namespace {
 
-constexpr long kStatuses[] = {200, 200, 200, 200, 0, 204, 400, 403, 404, 408, 500, 502, 12002, 12019, 12029, -1};
+constexpr long kReadStatuses[] = {200, 200, 200, 200, 0, 204, 400, 403, 404, 408, 500, 502, 12002, 12019, 12029, -1};
 
 // Every member of one name, with the class and interface that has it.
 struct Reader {
@@ -118,7 +118,7 @@ private:
 
     void SetAnswer(const std::wstring& text, Case& one, World& world) {
         world.script.responseText = text;
-        world.script.status = one.Pick(kStatuses);
+        world.script.status = one.Pick(kReadStatuses);
         world.script.hasStatusText = !one.OneIn(8);
         one.Trace([&] { return L"the server answers with status " + std::to_wstring(world.script.status); });
         world.script.statusText = one.OneIn(2) ? L"" : L"What the server says";

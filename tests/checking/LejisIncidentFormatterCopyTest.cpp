@@ -2,6 +2,7 @@
 
 #include "support/ComCheck.h"
 #include "support/Xml.h"
+#include "unit_support/Incidents.h"
 #include "unit_support/Members.h"
 
 #include <gtest/gtest.h>
@@ -15,13 +16,6 @@ using support::Texts;
 using Warnings = std::vector<std::wstring>;
 using Incident = platform::Ref<LejisIncidentIndexCard>;
 
-template <typename Card>
-platform::Ref<Card> Add(const platform::Ref<Collection>& cards) {
-    auto card = platform::Create<Card>();
-    cards->AddObject(card->Dispatch());
-    return card;
-}
-
 // An incident with a card of each kind in which nothing is to be mended.
 Incident Clean() {
     auto incident = platform::Create<LejisIncidentIndexCard>();
@@ -33,19 +27,13 @@ Incident Clean() {
     incident->SubmittedDate->Assign(support::Date(L"2007-03-10"));
     incident->ActivityDateTime->Assign(support::Date(L"2007-03-09 14:05:00"));
     incident->Location->StreetNumber->Set(123456);
-    const auto person = Add<LejisPersonIndexCard>(incident->PersonIndexCards);
+    const auto person = support::AddNew<LejisPersonIndexCard>(incident->PersonIndexCards);
     person->GivenName = L"ANN";
     person->SurName = L"LEE";
     person->Weight->Set(short{999});
-    Add<LejisPropertyIndexCard>(incident->PropertyIndexCards)->Make = L"SONY";
-    Add<LejisVehicleIndexCard>(incident->VehicleIndexCards)->Year->Set(short{1900});
+    support::AddNew<LejisPropertyIndexCard>(incident->PropertyIndexCards)->Make = L"SONY";
+    support::AddNew<LejisVehicleIndexCard>(incident->VehicleIndexCards)->Year->Set(short{1900});
     return incident;
-}
-
-std::wstring XmlOf(const Incident& incident) {
-    BSTR text = nullptr;
-    EXPECT_OK(incident->Write(support::NewDocument())->get_xml(&text));
-    return support::Take(text);
 }
 
 TEST(LejisIncidentFormatterCopy, CopiesACleanIncidentWithoutWarnings) {
@@ -54,7 +42,7 @@ TEST(LejisIncidentFormatterCopy, CopiesACleanIncidentWithoutWarnings) {
     const Incident copy = formatter->Shape(*incident);
     EXPECT_EQ(Warnings{}, Texts(*formatter->Warnings));
     EXPECT_NE(incident.Get(), copy.Get());
-    EXPECT_TRUE(support::SameXml(Reparsed(copy->Write(support::NewDocument()).Get()).Get(), XmlOf(incident)));
+    EXPECT_TRUE(support::SameXml(Reparsed(copy->Write(support::NewDocument()).Get()).Get(), support::XmlOf(incident)));
 }
 
 TEST(LejisIncidentFormatterCopy, CopiesAsFarAsTheXmlFormCarries) {

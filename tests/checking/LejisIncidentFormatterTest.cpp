@@ -2,6 +2,7 @@
 
 #include "support/ComCheck.h"
 #include "support/Xml.h"
+#include "unit_support/Incidents.h"
 #include "unit_support/Members.h"
 #include "unit_support/Raises.h"
 
@@ -21,20 +22,13 @@ using Incident = platform::Ref<LejisIncidentIndexCard>;
 // What too long texts are made of; no warning uses it.
 constexpr wchar_t kFiller = L'#';
 
-template <typename Card>
-platform::Ref<Card> Add(const platform::Ref<Collection>& cards) {
-    auto card = platform::Create<Card>();
-    cards->AddObject(card->Dispatch());
-    return card;
-}
-
 // An incident in which every rule has something to mend; persons' caveats do not reach the rules.
 Incident AllWrong() {
     auto incident = platform::Create<LejisIncidentIndexCard>();
     const std::wstring text(300, kFiller);
-    const auto person = Add<LejisPersonIndexCard>(incident->PersonIndexCards);
-    const auto property = Add<LejisPropertyIndexCard>(incident->PropertyIndexCards);
-    const auto vehicle = Add<LejisVehicleIndexCard>(incident->VehicleIndexCards);
+    const auto person = support::AddNew<LejisPersonIndexCard>(incident->PersonIndexCards);
+    const auto property = support::AddNew<LejisPropertyIndexCard>(incident->PropertyIndexCards);
+    const auto vehicle = support::AddNew<LejisVehicleIndexCard>(incident->VehicleIndexCards);
     for (LejisStreetAddress* address : {incident->Location.Get(), person->address.Get()}) {
         for (platform::TextField* field : {&address->StreetFullText, &address->StreetName, &address->StreetExtension,
                                            &address->StreetType, &address->StreetDirection}) {
@@ -54,12 +48,6 @@ Incident AllWrong() {
     person->Weight->Set(short{1000});
     vehicle->Year->Set(short{1899});
     return incident;
-}
-
-std::wstring XmlOf(const Incident& incident) {
-    BSTR text = nullptr;
-    EXPECT_OK(incident->Write(support::NewDocument())->get_xml(&text));
-    return support::Take(text);
 }
 
 // What a warning is about: its text without the label, the filler and what follows the length.
@@ -128,13 +116,13 @@ TEST(LejisIncidentFormatter, AppliesItsRulesInTheirOrder) {
 TEST(LejisIncidentFormatter, ShapesRecordsInTheOrderOfTheirCollections) {
     const auto incident = platform::Create<LejisIncidentIndexCard>();
     for (const wchar_t* name : {L"FIRST", L"SECOND"}) {
-        const auto vehicle = Add<LejisVehicleIndexCard>(incident->VehicleIndexCards);
+        const auto vehicle = support::AddNew<LejisVehicleIndexCard>(incident->VehicleIndexCards);
         vehicle->Make = name;
         vehicle->Year->Set(short{1899});
-        const auto property = Add<LejisPropertyIndexCard>(incident->PropertyIndexCards);
+        const auto property = support::AddNew<LejisPropertyIndexCard>(incident->PropertyIndexCards);
         property->Make = name;
         property->Category = std::wstring(36, L'x');
-        const auto person = Add<LejisPersonIndexCard>(incident->PersonIndexCards);
+        const auto person = support::AddNew<LejisPersonIndexCard>(incident->PersonIndexCards);
         person->SurName = name;
         person->SexNCIC = L"m";
     }
@@ -150,10 +138,10 @@ TEST(LejisIncidentFormatter, ShapesRecordsInTheOrderOfTheirCollections) {
 
 TEST(LejisIncidentFormatter, LeavesTheCallersIncidentAsItIs) {
     const Incident incident = AllWrong();
-    const std::wstring before = XmlOf(incident);
+    const std::wstring before = support::XmlOf(incident);
     const auto person = incident->PersonIndexCards->ItemsAs<LejisPersonIndexCard>()[0];
     platform::Create<LejisIncidentFormatter>()->Shape(*incident);
-    EXPECT_EQ(before, XmlOf(incident));
+    EXPECT_EQ(before, support::XmlOf(incident));
     EXPECT_EQ(300u, incident->OrganizationName.size());
     EXPECT_EQ(300u, person->CaveatText.size());
     EXPECT_EQ(person.Get(), incident->PersonIndexCards->ItemsAs<LejisPersonIndexCard>()[0].Get());

@@ -127,7 +127,6 @@ TEST(MultiThreadedApartmentDeathTest, LearnsOfErrors) {
         const LateBound date = CreateLateBound(L"NullableDate");
         const auto manager = Create<FutureManager, IFutureManager>();
         ASSERT_NE(nullptr, manager);
-        constexpr long kInvalidArgument = static_cast<long>(0x80040205);
         EXPECT_TRUE(RaisedBy(date.Put(L"Value", L"hello"), kInvalidArgument, L"Not a valid date."));
         // The error object of a call through the table does not travel between apartments under Wine, its number does.
         EXPECT_EQ(kInvalidArgument, manager->InvokeLater(nullptr));

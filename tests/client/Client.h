@@ -24,6 +24,9 @@ struct ClassRow {
 
 const std::vector<ClassRow>& CreatableClasses();
 
+// The error of a bad argument where no host suite is registered: the built-in number.
+inline constexpr long kInvalidArgument = static_cast<long>(0x80040205);
+
 std::wstring ProgIdOf(const std::wstring& className);
 std::wstring GuidText(REFGUID guid);
 

@@ -1,4 +1,5 @@
 // XML nested 100,000 deep, handed to everything that takes XML, on a thread with a quarter of the usual stack.
+#include "client/Client.h"
 #include "client/LateBound.h"
 #include "client/Members.h"
 #include "support/DeepXml.h"
@@ -14,8 +15,6 @@ using support::kVeryDeep;
 
 constexpr unsigned kSmallStack = 256 * 1024;
 
-// The built-in number, where no host suite is registered.
-constexpr long kInvalidArgument = static_cast<long>(0x80040205);
 constexpr wchar_t kTooDeep[] = L"The XML is nested too deep: 260 levels or more";
 
 unsigned __stdcall RunInApartment(void* work) {

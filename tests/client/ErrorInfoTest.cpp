@@ -1,4 +1,5 @@
 // What clients learn of a failure, by the road of early binding and by that of late binding: the same.
+#include "client/Client.h"
 #include "client/LateBound.h"
 #include "client/Members.h"
 #include "support/Printing.h"
@@ -11,7 +12,6 @@
 namespace client {
 namespace {
 
-constexpr long kInvalidArgument = static_cast<long>(0x80040205);
 constexpr long kObjectRequired = static_cast<long>(0x800A01A8);
 
 struct Fault {

@@ -1,4 +1,5 @@
 // Work of the client's own that the library runs a moment later.
+#include "client/Client.h"
 #include "client/ClientObject.h"
 #include "client/LateBound.h"
 #include "support/Messages.h"
@@ -219,7 +220,6 @@ TEST_F(Deferred, WorkMayReleaseItsFuture) {
 }
 
 TEST_F(Deferred, CallsWithoutWorkSayWhatIsMissing) {
-    constexpr long kInvalidArgument = static_cast<long>(0x80040205);
     EXPECT_TRUE(support::FailedWith(manager_->InvokeLater(nullptr), kInvalidArgument, L"runnable cannot be Nothing"));
     EXPECT_TRUE(
         support::FailedWith(future_->Execute(nullptr, nullptr), kInvalidArgument, L"runnable cannot be Nothing"));

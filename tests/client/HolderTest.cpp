@@ -7,8 +7,6 @@
 namespace client {
 namespace {
 
-constexpr long kInvalidArgument = static_cast<long>(0x80040205);
-
 TEST(Holder, IsNullWhenNewAndNullAgainWhenSetToNull) {
     for (const wchar_t* name : {L"NullableDate", L"NullableInteger", L"NullableLong"}) {
         const LateBound holder = CreateLateBound(name);

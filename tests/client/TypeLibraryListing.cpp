@@ -26,7 +26,7 @@ std::wstring FlagsText(unsigned flags, std::initializer_list<Flag> known) {
     return text;
 }
 
-std::wstring NameOf(ITypeInfo* type, MEMBERID member = MEMBERID_NIL) {
+std::wstring ListedName(ITypeInfo* type, MEMBERID member = MEMBERID_NIL) {
     BSTR name = nullptr;
     EXPECT_OK(type->GetDocumentation(member, &name, nullptr, nullptr, nullptr));
     return support::Take(name);
@@ -54,7 +54,7 @@ std::wstring TypeText(ITypeInfo* type, const TYPEDESC& described) {
     if (described.vt != VT_USERDEFINED) return SimpleTypeText(described.vt);
     ComPtr<ITypeInfo> referenced;
     EXPECT_OK(type->GetRefTypeInfo(described.hreftype, referenced.GetAddressOf()));
-    return NameOf(referenced.Get());
+    return ListedName(referenced.Get());
 }
 
 std::wstring ParameterText(ITypeInfo* type, const ELEMDESC& parameter, const std::wstring& name) {
@@ -115,7 +115,7 @@ std::wstring ValuesText(ITypeInfo* type, const TYPEATTR& attributes) {
         VARDESC* variable = nullptr;
         EXPECT_OK(type->GetVarDesc(index, &variable));
         const VARIANT& value = *variable->lpvarValue;
-        text += L"    " + NameOf(type, variable->memid) + L" = " + std::to_wstring(V_I4(&value)) + L" " +
+        text += L"    " + ListedName(type, variable->memid) + L" = " + std::to_wstring(V_I4(&value)) + L" " +
                 SimpleTypeText(V_VT(&value)) + L"\n";
         type->ReleaseVarDesc(variable);
     }
@@ -133,7 +133,7 @@ std::wstring ImplementedText(ITypeInfo* type, const TYPEATTR& attributes) {
         EXPECT_OK(type->GetImplTypeFlags(index, &flags));
         const std::wstring marks = FlagsText(static_cast<unsigned>(flags),
                                              {{IMPLTYPEFLAG_FDEFAULT, L"default"}, {IMPLTYPEFLAG_FSOURCE, L"source"}});
-        text += L"    [" + marks + L"] " + NameOf(implemented.Get()) + L"\n";
+        text += L"    [" + marks + L"] " + ListedName(implemented.Get()) + L"\n";
     }
     return text;
 }
@@ -147,7 +147,7 @@ std::wstring TypeFlagsText(unsigned flags) {
 }
 
 std::wstring HeadText(const wchar_t* kind, ITypeInfo* type, const TYPEATTR& attributes) {
-    return std::wstring(kind) + L" " + NameOf(type) + L" " + GuidText(attributes.guid) + L" <" +
+    return std::wstring(kind) + L" " + ListedName(type) + L" " + GuidText(attributes.guid) + L" <" +
            TypeFlagsText(attributes.wTypeFlags) + L">" + HelpMark(type) + L"\n";
 }
 

@@ -25,7 +25,7 @@ struct Path {
     ElementPath path;
 };
 
-struct Case {
+struct PathCase {
     const char* name;
     const wchar_t* xml;
     Path path;
@@ -33,9 +33,9 @@ struct Case {
     const wchar_t* text;
 };
 
-void PrintTo(const Case& row, std::ostream* out) { *out << row.name; }
+void PrintTo(const PathCase& row, std::ostream* out) { *out << row.name; }
 
-class ElementReaderPaths : public testing::TestWithParam<Case> {};
+class ElementReaderPaths : public testing::TestWithParam<PathCase> {};
 
 TEST_P(ElementReaderPaths, SelectWhatXPathSelects) {
     const msxml::Element element = ParseElement(GetParam().xml);
@@ -52,7 +52,7 @@ TEST_P(ElementReaderPaths, SelectWhatXPathSelects) {
     }
 }
 
-constexpr Case kCases[] = {
+constexpr PathCase kPathCases[] = {
     {"Child", L"<r><j:a>1</j:a></r>", L"j:a", L"1"},
     {"MissingChild", L"<r><j:a>1</j:a></r>", L"j:b", nullptr},
     {"EmptyChild", L"<r><j:a/></r>", L"j:a", L""},
@@ -85,7 +85,7 @@ constexpr Case kCases[] = {
     {"ThreeSteps", L"<r><j:a><j:b/></j:a><j:a><j:b/><j:b><j:c>1</j:c></j:b></j:a></r>", L"j:a/j:b/j:c", L"1"},
 };
 
-INSTANTIATE_TEST_SUITE_P(All, ElementReaderPaths, testing::ValuesIn(kCases),
+INSTANTIATE_TEST_SUITE_P(All, ElementReaderPaths, testing::ValuesIn(kPathCases),
                          [](const auto& row) { return std::string(row.param.name); });
 
 TEST(ElementReader, ReadsAMissingElementAsAnEmptyText) {

@@ -10,13 +10,13 @@
 namespace lejis {
 namespace {
 
-struct Case {
+struct DateCase {
     const wchar_t* given;
     const wchar_t* date;
     const wchar_t* time;
 };
 
-constexpr Case kCases[] = {
+constexpr DateCase kDateCases[] = {
     {L"2007-03-09 14:05:00", L"2007-03-09", L"14:05:00"},
     {L"2007-03-09", L"2007-03-09", L"00:00:00"},
     {L"2007-12-31 23:59:59", L"2007-12-31", L"23:59:59"},
@@ -29,7 +29,7 @@ constexpr Case kCases[] = {
 };
 
 TEST(DateText, WritesDateAndTimeOfDay) {
-    for (const Case& row : kCases) {
+    for (const DateCase& row : kDateCases) {
         const auto holder = platform::Create<NullableDate>();
         holder->Set(platform::ParseDate(row.given));
         EXPECT_EQ(row.date, FormatNullableDate(*holder)) << support::Utf8(row.given);
@@ -50,7 +50,7 @@ TEST(DateText, WritesEverySecondOfAnHour) {
 
 TEST(LejisCommon, WritesWhatTheLibraryWrites) {
     const auto common = platform::Create<LejisCommon>();
-    for (const Case& row : kCases) {
+    for (const DateCase& row : kDateCases) {
         const DATE date = platform::ParseDate(row.given).value();
         BSTR text = nullptr;
         EXPECT_OK(common->LejisFormatDate(date, &text));

@@ -1,27 +1,28 @@
 #include "foundation/NullableNumber.h"
 
 #include "support/ComCheck.h"
+#include "unit_support/Doubles.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 #include <ostream>
 
+using support::kInfinity;
+using support::kNoNumber;
+
 namespace lejis {
 namespace {
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
-
-struct Case {
+struct IntegerCase {
     const char* name;
     _variant_t given;
     short held;
 };
 
-void PrintTo(const Case& row, std::ostream* out) { *out << row.name; }
+void PrintTo(const IntegerCase& row, std::ostream* out) { *out << row.name; }
 
-class NullableIntegerValues : public testing::TestWithParam<Case> {};
+class NullableIntegerValues : public testing::TestWithParam<IntegerCase> {};
 
 TEST_P(NullableIntegerValues, AreHeldAsShortIntegers) {
     const auto holder = platform::Create<NullableInteger>();
@@ -32,7 +33,7 @@ TEST_P(NullableIntegerValues, AreHeldAsShortIntegers) {
     EXPECT_EQ(GetParam().held, V_I2(&held));
 }
 
-const Case kCases[] = {
+const IntegerCase kIntegerCases[] = {
     {"Integer", short{510}, 510},
     {"Long", 510L, 510},
     {"Byte", BYTE{255}, 255},
@@ -59,7 +60,7 @@ const Case kCases[] = {
     {"NoSingleNumber", std::numeric_limits<float>::quiet_NaN(), 0},
 };
 
-INSTANTIATE_TEST_SUITE_P(All, NullableIntegerValues, testing::ValuesIn(kCases),
+INSTANTIATE_TEST_SUITE_P(All, NullableIntegerValues, testing::ValuesIn(kIntegerCases),
                          [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "foundation/NullableNumber.h"
 
 #include "support/ComCheck.h"
+#include "unit_support/Doubles.h"
 
 #include <gtest/gtest.h>
 
@@ -8,21 +9,21 @@
 #include <limits>
 #include <ostream>
 
+using support::kInfinity;
+using support::kNoNumber;
+
 namespace lejis {
 namespace {
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
-
-struct Case {
+struct LongCase {
     const char* name;
     _variant_t given;
     long held;
 };
 
-void PrintTo(const Case& row, std::ostream* out) { *out << row.name; }
+void PrintTo(const LongCase& row, std::ostream* out) { *out << row.name; }
 
-class NullableLongValues : public testing::TestWithParam<Case> {};
+class NullableLongValues : public testing::TestWithParam<LongCase> {};
 
 TEST_P(NullableLongValues, AreHeldAsLongIntegers) {
     const auto holder = platform::Create<NullableLong>();
@@ -33,7 +34,7 @@ TEST_P(NullableLongValues, AreHeldAsLongIntegers) {
     EXPECT_EQ(GetParam().held, V_I4(&held));
 }
 
-const Case kCases[] = {
+const LongCase kLongCases[] = {
     {"Integer", short{510}, 510},
     {"Long", 1234567L, 1234567},
     {"Byte", BYTE{255}, 255},
@@ -60,7 +61,7 @@ const Case kCases[] = {
     {"NoSingleNumber", std::numeric_limits<float>::quiet_NaN(), 0},
 };
 
-INSTANTIATE_TEST_SUITE_P(All, NullableLongValues, testing::ValuesIn(kCases),
+INSTANTIATE_TEST_SUITE_P(All, NullableLongValues, testing::ValuesIn(kLongCases),
                          [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace

@@ -9,12 +9,12 @@
 namespace lejis {
 namespace {
 
-struct Row {
+struct PrefixRow {
     const wchar_t* prefix;
     const wchar_t* uri;
 };
 
-constexpr Row kRows[] = {
+constexpr PrefixRow kPrefixRows[] = {
     {L"soap", L"http://schemas.xmlsoap.org/soap/envelope/"},
     {L"wsse", L"http://docs.oasis-open.org/wss/2004/01/oasis-200401-wss-wssecurity-secext-1.0.xsd"},
     {L"lejis", L"http://lejis.example/lejis/jxdm/1.0/service"},
@@ -25,14 +25,14 @@ constexpr Row kRows[] = {
 };
 
 TEST(Prefixes, FindTheNamespaceOfAName) {
-    for (const Row& row : kRows) {
+    for (const PrefixRow& row : kPrefixRows) {
         const std::wstring name = std::wstring(row.prefix) + L":Local.Name";
         EXPECT_EQ(row.uri, NamespaceOf(name));
     }
 }
 
 TEST(Prefixes, NumberTheirNamespacesByTheFirstPrefixOfEach) {
-    for (const Row& row : kRows) {
+    for (const PrefixRow& row : kPrefixRows) {
         const auto number = FindNamespace(row.uri);
         ASSERT_TRUE(number) << support::Utf8(row.uri);
         EXPECT_EQ(row.uri, std::wstring_view(Constants::kPrefixes[*number].uri));

@@ -11,12 +11,12 @@
 namespace lejis {
 namespace {
 
-struct Row {
+struct TreeRow {
     const char* name;
     const wchar_t* content;
 };
 
-void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
+void PrintTo(const TreeRow& row, std::ostream* out) { *out << row.name; }
 
 constexpr ElementName kNames[] = {L"j:a", L"j:b", L"j:c", L"ext:a", L"ext:b", L"lejis:a", L"card:b", L"soap:c"};
 
@@ -44,7 +44,7 @@ std::optional<std::wstring> Text(const ElementTree& tree, size_t number) {
     }
 }
 
-class ScannedElementTree : public testing::TestWithParam<Row> {};
+class ScannedElementTree : public testing::TestWithParam<TreeRow> {};
 
 TEST_P(ScannedElementTree, IsTheTreeOfAWalk) {
     const std::wstring text = InRoot(GetParam().content);
@@ -71,7 +71,7 @@ TEST_P(ScannedElementTree, IsTheTreeOfAWalk) {
     }
 }
 
-constexpr Row kRows[] = {
+constexpr TreeRow kTreeRows[] = {
     {"Empty", L""},
     {"Leaf", L"<j:a>1</j:a>"},
     {"EmptyLeaves", L"<j:a/><j:b></j:b>"},
@@ -101,7 +101,7 @@ constexpr Row kRows[] = {
     {"BlanksBesideCharactersBeyondAscii", L"<j:a> \x00DF </j:a><j:b>\x00A0 \x00A0</j:b><j:c>\x3000  1</j:c>"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Rows, ScannedElementTree, testing::ValuesIn(kRows),
+INSTANTIATE_TEST_SUITE_P(Rows, ScannedElementTree, testing::ValuesIn(kTreeRows),
                          [](const auto& row) { return std::string(row.param.name); });
 
 // Long texts arrive in pieces inside of some parsers.

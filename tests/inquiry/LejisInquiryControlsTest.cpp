@@ -16,7 +16,7 @@ using support::SameXml;
 namespace lejis {
 namespace {
 
-std::wstring Block(const std::wstring& content) {
+std::wstring ControlsBlock(const std::wstring& content) {
     return L"<lejis:InquiryControls>" + content + L"</lejis:InquiryControls>";
 }
 
@@ -24,20 +24,22 @@ TEST(LejisInquiryControls, AreNeverEmpty) { EXPECT_TRUE(platform::Create<LejisIn
 
 TEST(LejisInquiryControls, WriteTheirFlagAlways) {
     const auto controls = platform::Create<LejisInquiryControls>();
-    EXPECT_TRUE(SameXml(controls->Write(NewDocument()).Get(), Block(L"<lejis:irrinfo>false</lejis:irrinfo>")));
+    EXPECT_TRUE(SameXml(controls->Write(NewDocument()).Get(), ControlsBlock(L"<lejis:irrinfo>false</lejis:irrinfo>")));
     controls->IrrInfo = true;
-    EXPECT_TRUE(SameXml(controls->Write(NewDocument()).Get(), Block(L"<lejis:irrinfo>true</lejis:irrinfo>")));
+    EXPECT_TRUE(SameXml(controls->Write(NewDocument()).Get(), ControlsBlock(L"<lejis:irrinfo>true</lejis:irrinfo>")));
 }
 
 TEST(LejisInquiryControls, WriteALimitAboveZeroOnly) {
     const auto controls = platform::Create<LejisInquiryControls>();
     for (const long none : {0L, -5L}) {
         controls->MaxIncidents = none;
-        EXPECT_TRUE(SameXml(controls->Write(NewDocument()).Get(), Block(L"<lejis:irrinfo>false</lejis:irrinfo>")));
+        EXPECT_TRUE(
+            SameXml(controls->Write(NewDocument()).Get(), ControlsBlock(L"<lejis:irrinfo>false</lejis:irrinfo>")));
     }
     controls->MaxIncidents = 25;
-    EXPECT_TRUE(SameXml(controls->Write(NewDocument()).Get(),
-                        Block(L"<lejis:irrinfo>false</lejis:irrinfo><lejis:maxincidents>25</lejis:maxincidents>")));
+    EXPECT_TRUE(
+        SameXml(controls->Write(NewDocument()).Get(),
+                ControlsBlock(L"<lejis:irrinfo>false</lejis:irrinfo><lejis:maxincidents>25</lejis:maxincidents>")));
 }
 
 TEST(LejisInquiryControls, WriteEachExcludedAgencyAsItStands) {
@@ -46,8 +48,9 @@ TEST(LejisInquiryControls, WriteEachExcludedAgencyAsItStands) {
     controls->ExcludedORIIDs->AddText(L"A");
     controls->ExcludedORIIDs->AddText(L"");
     EXPECT_OK(controls->ExcludedORIIDs->Add(_variant_t(12L)));
-    EXPECT_TRUE(SameXml(controls->Write(NewDocument()).Get(),
-                        Block(L"<lejis:irrinfo>false</lejis:irrinfo><lejis:excludedOriid>A</lejis:excludedOriid>"
+    EXPECT_TRUE(
+        SameXml(controls->Write(NewDocument()).Get(),
+                ControlsBlock(L"<lejis:irrinfo>false</lejis:irrinfo><lejis:excludedOriid>A</lejis:excludedOriid>"
                               L"<lejis:excludedOriid>A</lejis:excludedOriid><lejis:excludedOriid/>"
                               L"<lejis:excludedOriid>12</lejis:excludedOriid>")));
 }
@@ -57,13 +60,13 @@ TEST(LejisInquiryControls, ReadEverythingButExactlyFalseAsTrue) {
     const std::wstring limit = L"<lejis:maxincidents>10</lejis:maxincidents>";
     for (const wchar_t* text : {L"FALSE", L"0", L"", L"true", L"no"}) {
         controls->IrrInfo = false;
-        controls->Read(
-            ElementReader(ParseElement(Block(L"<lejis:irrinfo>" + std::wstring(text) + L"</lejis:irrinfo>" + limit))));
+        controls->Read(ElementReader(
+            ParseElement(ControlsBlock(L"<lejis:irrinfo>" + std::wstring(text) + L"</lejis:irrinfo>" + limit))));
         EXPECT_TRUE(controls->IrrInfo) << support::Utf8(text);
     }
     for (const wchar_t* flag : {L"<lejis:irrinfo>false</lejis:irrinfo>", L""}) {
         controls->IrrInfo = true;
-        controls->Read(ElementReader(ParseElement(Block(flag + limit))));
+        controls->Read(ElementReader(ParseElement(ControlsBlock(flag + limit))));
         EXPECT_FALSE(controls->IrrInfo);
         EXPECT_EQ(10, controls->MaxIncidents);
     }
@@ -73,9 +76,9 @@ TEST(LejisInquiryControls, ReadReplacesTheAgencies) {
     const auto controls = platform::Create<LejisInquiryControls>();
     controls->ExcludedORIIDs->AddText(L"OLD");
     const platform::Ref<Collection> before = controls->ExcludedORIIDs;
-    controls->Read(ElementReader(
-        ParseElement(Block(L"<lejis:maxincidents>1</lejis:maxincidents><lejis:excludedOriid>B</lejis:excludedOriid>"
-                           L"<lejis:excludedOriid>A</lejis:excludedOriid>"))));
+    controls->Read(ElementReader(ParseElement(
+        ControlsBlock(L"<lejis:maxincidents>1</lejis:maxincidents><lejis:excludedOriid>B</lejis:excludedOriid>"
+                      L"<lejis:excludedOriid>A</lejis:excludedOriid>"))));
     ASSERT_EQ(2u, controls->ExcludedORIIDs->Count());
     EXPECT_EQ(L"B", platform::ToText(controls->ExcludedORIIDs->Item(1)));
     EXPECT_EQ(L"A", platform::ToText(controls->ExcludedORIIDs->Item(2)));
@@ -88,8 +91,8 @@ TEST(LejisInquiryControls, ReadRaisesForALimitThatIsNoneAfterTheFlagIsSet) {
         controls->MaxIncidents = 7;
         controls->ExcludedORIIDs->AddText(L"KEPT");
         EXPECT_TRUE(support::Raises(DISP_E_TYPEMISMATCH, L"Type mismatch", [&] {
-            controls->Read(
-                ElementReader(ParseElement(Block(L"<lejis:irrinfo>true</lejis:irrinfo>" + std::wstring(limit)))));
+            controls->Read(ElementReader(
+                ParseElement(ControlsBlock(L"<lejis:irrinfo>true</lejis:irrinfo>" + std::wstring(limit)))));
         }));
         EXPECT_TRUE(controls->IrrInfo);
         EXPECT_EQ(7, controls->MaxIncidents);

@@ -15,13 +15,13 @@ using support::SameXml;
 namespace lejis {
 namespace {
 
-std::wstring Block(const std::wstring& content) {
+std::wstring PersonBlock(const std::wstring& content) {
     return L"<inq:PersonInquiryArguments>" + content + L"</inq:PersonInquiryArguments>";
 }
 
-platform::Ref<PersonInquiryArguments> Read(const std::wstring& content) {
+platform::Ref<PersonInquiryArguments> ReadPerson(const std::wstring& content) {
     auto person = platform::Create<PersonInquiryArguments>();
-    person->Read(ElementReader(ParseElement(Block(content))));
+    person->Read(ElementReader(ParseElement(PersonBlock(content))));
     return person;
 }
 
@@ -60,7 +60,7 @@ TEST(PersonInquiryArguments, IsNotEmptyWithAnyOfItsHolders) {
 
 TEST(PersonInquiryArguments, WritesItsNamesEvenWhenEmpty) {
     const auto person = platform::Create<PersonInquiryArguments>();
-    EXPECT_TRUE(SameXml(person->Write(NewDocument()).Get(), Block(kEmptyNames)));
+    EXPECT_TRUE(SameXml(person->Write(NewDocument()).Get(), PersonBlock(kEmptyNames)));
 }
 
 TEST(PersonInquiryArguments, WritesAllFieldsInTheirOrder) {
@@ -76,35 +76,36 @@ TEST(PersonInquiryArguments, WritesAllFieldsInTheirOrder) {
     person->BirthDate->Set(platform::ParseDate(L"1970-02-28"));
     person->Height->Set(short{511});
     person->Weight->Set(short{180});
-    EXPECT_TRUE(
-        SameXml(support::Reparsed(person->Write(NewDocument()).Get()).Get(),
-                Block(L"<j:PersonSurName>PUBLIC</j:PersonSurName><j:PersonGivenName>JOHN</j:PersonGivenName>"
-                      L"<j:PersonMiddleName>Q</j:PersonMiddleName><j:PersonSSNID><j:ID>900123456</j:ID></j:PersonSSNID>"
-                      L"<j:PersonDriverLicenseID><j:ID>123</j:ID>"
-                      L"<j:IDJurisdictionCode.ncicLSTA>PA</j:IDJurisdictionCode.ncicLSTA></j:PersonDriverLicenseID>"
-                      L"<j:PersonBirthDate>1970-02-28</j:PersonBirthDate><j:PersonSexCode>M</j:PersonSexCode>"
-                      L"<j:PersonRaceCode>W</j:PersonRaceCode>"
-                      L"<j:PersonHeightMeasure j:personHeightUnitCode='ncic'>511</j:PersonHeightMeasure>"
-                      L"<j:PersonWeightMeasure j:personWeightUnitCode='ncic'>180</j:PersonWeightMeasure>")));
+    EXPECT_TRUE(SameXml(
+        support::Reparsed(person->Write(NewDocument()).Get()).Get(),
+        PersonBlock(L"<j:PersonSurName>PUBLIC</j:PersonSurName><j:PersonGivenName>JOHN</j:PersonGivenName>"
+                    L"<j:PersonMiddleName>Q</j:PersonMiddleName><j:PersonSSNID><j:ID>900123456</j:ID></j:PersonSSNID>"
+                    L"<j:PersonDriverLicenseID><j:ID>123</j:ID>"
+                    L"<j:IDJurisdictionCode.ncicLSTA>PA</j:IDJurisdictionCode.ncicLSTA></j:PersonDriverLicenseID>"
+                    L"<j:PersonBirthDate>1970-02-28</j:PersonBirthDate><j:PersonSexCode>M</j:PersonSexCode>"
+                    L"<j:PersonRaceCode>W</j:PersonRaceCode>"
+                    L"<j:PersonHeightMeasure j:personHeightUnitCode='ncic'>511</j:PersonHeightMeasure>"
+                    L"<j:PersonWeightMeasure j:personWeightUnitCode='ncic'>180</j:PersonWeightMeasure>")));
 }
 
 TEST(PersonInquiryArguments, WritesEitherHalfOfTheLicence) {
     const auto state = platform::Create<PersonInquiryArguments>();
     state->DriversLicenseState = L"PA";
     EXPECT_TRUE(SameXml(state->Write(NewDocument()).Get(),
-                        Block(kEmptyNames + L"<j:PersonDriverLicenseID><j:IDJurisdictionCode.ncicLSTA>PA"
-                                            L"</j:IDJurisdictionCode.ncicLSTA></j:PersonDriverLicenseID>")));
+                        PersonBlock(kEmptyNames + L"<j:PersonDriverLicenseID><j:IDJurisdictionCode.ncicLSTA>PA"
+                                                  L"</j:IDJurisdictionCode.ncicLSTA></j:PersonDriverLicenseID>")));
     const auto number = platform::Create<PersonInquiryArguments>();
     number->DriversLicense = L"123";
-    EXPECT_TRUE(SameXml(number->Write(NewDocument()).Get(),
-                        Block(kEmptyNames + L"<j:PersonDriverLicenseID><j:ID>123</j:ID></j:PersonDriverLicenseID>")));
+    EXPECT_TRUE(
+        SameXml(number->Write(NewDocument()).Get(),
+                PersonBlock(kEmptyNames + L"<j:PersonDriverLicenseID><j:ID>123</j:ID></j:PersonDriverLicenseID>")));
 }
 
 TEST(PersonInquiryArguments, WritesAFieldOfBlanksAsItStands) {
     const auto person = platform::Create<PersonInquiryArguments>();
     person->SSN = L" ";
     EXPECT_TRUE(SameXml(person->Write(NewDocument()).Get(),
-                        Block(kEmptyNames + L"<j:PersonSSNID><j:ID> </j:ID></j:PersonSSNID>")));
+                        PersonBlock(kEmptyNames + L"<j:PersonSSNID><j:ID> </j:ID></j:PersonSSNID>")));
 }
 
 const std::wstring kFull =
@@ -117,7 +118,7 @@ const std::wstring kFull =
     L"<j:PersonWeightMeasure>180</j:PersonWeightMeasure>";
 
 TEST(PersonInquiryArguments, ReadsBackWhatItWrites) {
-    const auto person = Read(kFull);
+    const auto person = ReadPerson(kFull);
     EXPECT_EQ(L"PUBLIC", person->SurName);
     EXPECT_EQ(L"JOHN", person->GivenName);
     EXPECT_EQ(L"Q", person->MiddleName);
@@ -132,24 +133,24 @@ TEST(PersonInquiryArguments, ReadsBackWhatItWrites) {
 }
 
 TEST(PersonInquiryArguments, ReadingEmptiesWhatIsMissing) {
-    const auto person = Read(kFull);
+    const auto person = ReadPerson(kFull);
     ASSERT_TRUE(person->HasContent());
-    person->Read(ElementReader(ParseElement(Block(L""))));
+    person->Read(ElementReader(ParseElement(PersonBlock(L""))));
     EXPECT_FALSE(person->HasContent());
 }
 
 TEST(PersonInquiryArguments, ReadsBadDatesAndNumbersAsNothing) {
-    const auto person = Read(kFull);
+    const auto person = ReadPerson(kFull);
     person->Read(ElementReader(
-        ParseElement(Block(L"<j:PersonBirthDate>yesterday</j:PersonBirthDate><j:PersonWeightMeasure>abc"
-                           L"</j:PersonWeightMeasure><j:PersonHeightMeasure>tall</j:PersonHeightMeasure>"))));
+        ParseElement(PersonBlock(L"<j:PersonBirthDate>yesterday</j:PersonBirthDate><j:PersonWeightMeasure>abc"
+                                 L"</j:PersonWeightMeasure><j:PersonHeightMeasure>tall</j:PersonHeightMeasure>"))));
     EXPECT_EQ(std::nullopt, person->BirthDate->Date());
     EXPECT_EQ(std::nullopt, person->Weight->Number());
     EXPECT_EQ(std::nullopt, person->Height->Number());
 }
 
 TEST(PersonInquiryArguments, ReadsNumbersRoundedAndThoseOutOfRangeAsZero) {
-    const auto person = Read(
+    const auto person = ReadPerson(
         L"<j:PersonWeightMeasure>2.5</j:PersonWeightMeasure>"
         L"<j:PersonHeightMeasure>99999</j:PersonHeightMeasure>");
     EXPECT_EQ(short{2}, person->Weight->Number());

@@ -7,20 +7,20 @@ namespace {
 
 constexpr UINT kIntervalInMilliseconds = 50;
 
-int ticks = 0;
+int ticksSeen = 0;
 UINT_PTR timer = 0;
 
-void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) { ++ticks; }
+void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) { ++ticksSeen; }
 
 }  // namespace
 
 Ticks::Ticks() {
-    ticks = 0;
+    ticksSeen = 0;
     timer = SetTimer(nullptr, 0, kIntervalInMilliseconds, Tick);
 }
 
 Ticks::~Ticks() { KillTimer(nullptr, timer); }
 
-int Ticks::Seen() const { return ticks; }
+int Ticks::Seen() const { return ticksSeen; }
 
 }  // namespace kit_tests

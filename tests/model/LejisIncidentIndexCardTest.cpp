@@ -3,6 +3,7 @@
 
 #include "support/ComCheck.h"
 #include "support/Xml.h"
+#include "unit_support/Incidents.h"
 #include "unit_support/Members.h"
 #include "unit_support/Raises.h"
 
@@ -14,15 +15,8 @@ namespace {
 using support::FailedWith;
 using support::NewDocument;
 
-const support::Names kTexts = {L"OrganizationName", L"OrganizationORI", L"ActivityID",
-                               L"CaveatText",       L"ChargeNCICCode",  L"ChargeDescriptionText"};
-
-template <typename Part>
-platform::Ref<Part> Add(const platform::Ref<Collection>& cards) {
-    auto part = platform::Create<Part>();
-    cards->AddObject(part->Dispatch());
-    return part;
-}
+const support::Names kIncidentTexts = {L"OrganizationName", L"OrganizationORI", L"ActivityID",
+                                       L"CaveatText",       L"ChargeNCICCode",  L"ChargeDescriptionText"};
 
 TEST(LejisIncidentIndexCard, HasItsMembersInTheirOrder) {
     const auto card = platform::Create<LejisIncidentIndexCard>();
@@ -35,7 +29,7 @@ TEST(LejisIncidentIndexCard, HasItsMembersInTheirOrder) {
 
 TEST(LejisIncidentIndexCard, KeepsWhatItsFieldsAreGiven) {
     const auto card = platform::Create<LejisIncidentIndexCard>();
-    support::ExpectTextFields(card->Dispatch(), kTexts);
+    support::ExpectTextFields(card->Dispatch(), kIncidentTexts);
     support::ExpectFlagField(card->Dispatch(), L"CautionIndicator");
 }
 
@@ -64,13 +58,13 @@ TEST(LejisIncidentIndexCard, HandsOutItsOwnParts) {
 
 TEST(LejisIncidentIndexCard, HasCautionWhenItOrAnyOfItsCardsIsFlagged) {
     const auto card = platform::Create<LejisIncidentIndexCard>();
-    Add<LejisPersonIndexCard>(card->PersonIndexCards);
-    Add<LejisPropertyIndexCard>(card->PropertyIndexCards);
-    Add<LejisVehicleIndexCard>(card->VehicleIndexCards);
+    support::AddNew<LejisPersonIndexCard>(card->PersonIndexCards);
+    support::AddNew<LejisPropertyIndexCard>(card->PropertyIndexCards);
+    support::AddNew<LejisVehicleIndexCard>(card->VehicleIndexCards);
     bool* const flags[] = {&card->CautionIndicator,
-                           &Add<LejisPersonIndexCard>(card->PersonIndexCards)->CautionIndicator,
-                           &Add<LejisPropertyIndexCard>(card->PropertyIndexCards)->CautionIndicator,
-                           &Add<LejisVehicleIndexCard>(card->VehicleIndexCards)->CautionIndicator};
+                           &support::AddNew<LejisPersonIndexCard>(card->PersonIndexCards)->CautionIndicator,
+                           &support::AddNew<LejisPropertyIndexCard>(card->PropertyIndexCards)->CautionIndicator,
+                           &support::AddNew<LejisVehicleIndexCard>(card->VehicleIndexCards)->CautionIndicator};
     EXPECT_FALSE(card->NeedsCaution());
     for (bool* flag : flags) {
         *flag = true;
@@ -102,12 +96,12 @@ TEST(LejisIncidentIndexCard, LooksForACautionAmongPersonsThenPropertyThenVehicle
     const auto card = platform::Create<LejisIncidentIndexCard>();
     const auto foreign = platform::Create<LejisStreetAddress>();
     card->VehicleIndexCards->AddObject(foreign->Dispatch());
-    const auto item = Add<LejisPropertyIndexCard>(card->PropertyIndexCards);
+    const auto item = support::AddNew<LejisPropertyIndexCard>(card->PropertyIndexCards);
     item->CautionIndicator = true;
     EXPECT_TRUE(card->NeedsCaution());
     item->CautionIndicator = false;
     card->PropertyIndexCards->AddObject(foreign->Dispatch());
-    Add<LejisPersonIndexCard>(card->PersonIndexCards)->CautionIndicator = true;
+    support::AddNew<LejisPersonIndexCard>(card->PersonIndexCards)->CautionIndicator = true;
     card->PersonIndexCards->AddObject(foreign->Dispatch());
     EXPECT_TRUE(card->NeedsCaution());
     card->CautionIndicator = true;

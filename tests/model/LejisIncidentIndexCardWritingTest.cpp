@@ -3,6 +3,7 @@
 #include "platform/msxml/Node.h"
 #include "support/ComCheck.h"
 #include "support/Xml.h"
+#include "unit_support/Incidents.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +13,7 @@ namespace {
 using support::NewDocument;
 using support::SameXml;
 
-using Card = platform::Ref<LejisIncidentIndexCard>;
+using Incident = platform::Ref<LejisIncidentIndexCard>;
 
 constexpr wchar_t kLocation[] =
     L"<j:IncidentLocation><j:LocationAddress><j:LocationStreet><j:StreetFullText/><j:StreetNumberText/>"
@@ -32,17 +33,10 @@ std::wstring CardWith(const std::wstring& dates, const std::wstring& charges, co
            L"</lejis:RMSIncidentIndexCard>";
 }
 
-testing::AssertionResult Writes(const Card& card, const std::wstring& xml) {
+testing::AssertionResult Writes(const Incident& card, const std::wstring& xml) {
     const auto document = NewDocument();
     EXPECT_OK(document->put_preserveWhiteSpace(VARIANT_TRUE));
     return SameXml(card->Write(document).Get(), xml);
-}
-
-template <typename Part>
-platform::Ref<Part> Add(const platform::Ref<Collection>& cards) {
-    auto part = platform::Create<Part>();
-    cards->AddObject(part->Dispatch());
-    return part;
 }
 
 TEST(LejisIncidentIndexCardWriting, WritesWhatIsRequiredWhenNew) {
@@ -101,10 +95,10 @@ TEST(LejisIncidentIndexCardWriting, WritesMidnightAsATime) {
 
 TEST(LejisIncidentIndexCardWriting, WritesPersonsThenVehiclesThenProperty) {
     const auto card = platform::Create<LejisIncidentIndexCard>();
-    Add<LejisPropertyIndexCard>(card->PropertyIndexCards)->Make = L"SONY";
-    Add<LejisVehicleIndexCard>(card->VehicleIndexCards)->Make = L"FORD";
-    Add<LejisPersonIndexCard>(card->PersonIndexCards)->SurName = L"FIRST";
-    Add<LejisPersonIndexCard>(card->PersonIndexCards)->SurName = L"SECOND";
+    support::AddNew<LejisPropertyIndexCard>(card->PropertyIndexCards)->Make = L"SONY";
+    support::AddNew<LejisVehicleIndexCard>(card->VehicleIndexCards)->Make = L"FORD";
+    support::AddNew<LejisPersonIndexCard>(card->PersonIndexCards)->SurName = L"FIRST";
+    support::AddNew<LejisPersonIndexCard>(card->PersonIndexCards)->SurName = L"SECOND";
     const auto element = card->Write(NewDocument());
     std::wstring order;
     for (const auto& child : msxml::ChildElements(element)) {
@@ -119,8 +113,8 @@ TEST(LejisIncidentIndexCardWriting, WritesPersonsThenVehiclesThenProperty) {
 
 TEST(LejisIncidentIndexCardWriting, WritesTheCardsOfEachKindAfterItsFlag) {
     const auto card = platform::Create<LejisIncidentIndexCard>();
-    Add<LejisPropertyIndexCard>(card->PropertyIndexCards);
-    Add<LejisVehicleIndexCard>(card->VehicleIndexCards);
+    support::AddNew<LejisPropertyIndexCard>(card->PropertyIndexCards);
+    support::AddNew<LejisVehicleIndexCard>(card->VehicleIndexCards);
     EXPECT_TRUE(Writes(card, CardWith(L"", L"", L"false",
                                       L"<card:RMSVehicleIndexCards><ext:CautionIndicatorFlag>false"
                                       L"</ext:CautionIndicatorFlag></card:RMSVehicleIndexCards>"
@@ -130,8 +124,8 @@ TEST(LejisIncidentIndexCardWriting, WritesTheCardsOfEachKindAfterItsFlag) {
 
 TEST(LejisIncidentIndexCardWriting, WritesTheCautionOfItsCardsAndKeepsItsOwn) {
     const auto card = platform::Create<LejisIncidentIndexCard>();
-    Add<LejisVehicleIndexCard>(card->VehicleIndexCards);
-    Add<LejisVehicleIndexCard>(card->VehicleIndexCards)->CautionIndicator = true;
+    support::AddNew<LejisVehicleIndexCard>(card->VehicleIndexCards);
+    support::AddNew<LejisVehicleIndexCard>(card->VehicleIndexCards)->CautionIndicator = true;
     EXPECT_TRUE(Writes(card, CardWith(L"", L"", L"true",
                                       L"<card:RMSVehicleIndexCards><ext:CautionIndicatorFlag>false"
                                       L"</ext:CautionIndicatorFlag></card:RMSVehicleIndexCards>"

@@ -15,23 +15,23 @@ namespace {
 using support::ParseElement;
 using support::Raises;
 
-using Card = platform::Ref<LejisPersonIndexCard>;
+using Person = platform::Ref<LejisPersonIndexCard>;
 
-const support::Names kTexts = {L"OrganizationName",
-                               L"GivenName",
-                               L"MiddleName",
-                               L"SurName",
-                               L"SSN",
-                               L"DriversLicense",
-                               L"DriversLicenseState",
-                               L"SexNCIC",
-                               L"RaceNCIC",
-                               L"ChargeNCICCode",
-                               L"ChargeDescriptionText",
-                               L"SubjectCautionInformationCode",
-                               L"SubjectCautionInformationCaveat",
-                               L"CaveatText",
-                               L"Involvement"};
+const support::Names kPersonTexts = {L"OrganizationName",
+                                     L"GivenName",
+                                     L"MiddleName",
+                                     L"SurName",
+                                     L"SSN",
+                                     L"DriversLicense",
+                                     L"DriversLicenseState",
+                                     L"SexNCIC",
+                                     L"RaceNCIC",
+                                     L"ChargeNCICCode",
+                                     L"ChargeDescriptionText",
+                                     L"SubjectCautionInformationCode",
+                                     L"SubjectCautionInformationCaveat",
+                                     L"CaveatText",
+                                     L"Involvement"};
 
 // Its children stand in no particular order.
 std::wstring FullCardWithBirthDate(const std::wstring& birthDate) {
@@ -63,18 +63,18 @@ std::wstring FullCardWithBirthDate(const std::wstring& birthDate) {
            L"</card:RMSPersonIndexCards>";
 }
 
-Card Read(const std::wstring& xml) {
+Person ReadPerson(const std::wstring& xml) {
     auto card = platform::Create<LejisPersonIndexCard>();
     card->Read(ElementReader(ParseElement(xml)));
     return card;
 }
 
-Card ReadWith(const std::wstring& children) {
-    return Read(L"<card:RMSPersonIndexCards>" + children + L"</card:RMSPersonIndexCards>");
+Person ReadPersonWith(const std::wstring& children) {
+    return ReadPerson(L"<card:RMSPersonIndexCards>" + children + L"</card:RMSPersonIndexCards>");
 }
 
 // The fields that are read before the birth date.
-void ExpectIdentity(const Card& card) {
+void ExpectIdentity(const Person& card) {
     EXPECT_EQ(L"ERIE PD", card->OrganizationName);
     EXPECT_EQ(L"PUBLIC", card->SurName);
     EXPECT_EQ(L"Q", card->MiddleName);
@@ -86,7 +86,7 @@ void ExpectIdentity(const Card& card) {
 }
 
 TEST(LejisPersonIndexCardReading, FillsAllFieldsButTheCaveat) {
-    const Card card = Read(FullCardWithBirthDate(L"1970-01-31"));
+    const Person card = ReadPerson(FullCardWithBirthDate(L"1970-01-31"));
     ExpectIdentity(card);
     EXPECT_EQ(L"1970-01-31", FormatNullableDate(*card->BirthDate));
     EXPECT_EQ(L"M", card->SexNCIC);
@@ -104,11 +104,11 @@ TEST(LejisPersonIndexCardReading, FillsAllFieldsButTheCaveat) {
 
 TEST(LejisPersonIndexCardReading, ReadsBackWhatWasWrittenButTheCaveat) {
     const auto document = support::NewDocument();
-    const Card written = Read(FullCardWithBirthDate(L"1970-01-31"));
+    const Person written = ReadPerson(FullCardWithBirthDate(L"1970-01-31"));
     written->CaveatText = L"CALL FIRST";
     const auto read = platform::Create<LejisPersonIndexCard>();
     read->Read(ElementReader(written->Write(document)));
-    for (const wchar_t* name : kTexts) {
+    for (const wchar_t* name : kPersonTexts) {
         if (name == std::wstring(L"CaveatText")) continue;
         EXPECT_EQ(support::TextMember(written->Dispatch(), name), support::TextMember(read->Dispatch(), name));
     }
@@ -121,14 +121,14 @@ TEST(LejisPersonIndexCardReading, ReadsBackWhatWasWrittenButTheCaveat) {
 }
 
 TEST(LejisPersonIndexCardReading, BeginsFromAResetCard) {
-    const Card card = Read(FullCardWithBirthDate(L"1970-01-31"));
+    const Person card = ReadPerson(FullCardWithBirthDate(L"1970-01-31"));
     card->CaveatText = L"old";
     const auto addressBefore = card->address;
     const auto birthDateBefore = card->BirthDate;
     const auto heightBefore = card->Height;
     const auto weightBefore = card->Weight;
     card->Read(ElementReader(ParseElement(L"<card:RMSPersonIndexCards/>")));
-    support::ExpectEmptyTexts(card->Dispatch(), kTexts);
+    support::ExpectEmptyTexts(card->Dispatch(), kPersonTexts);
     EXPECT_FALSE(card->CautionIndicator);
     EXPECT_EQ(std::nullopt, birthDateBefore->Date());
     EXPECT_EQ(std::nullopt, heightBefore->Number());
@@ -143,7 +143,7 @@ TEST(LejisPersonIndexCardReading, BeginsFromAResetCard) {
 
 TEST(LejisPersonIndexCardReading, FailsForABadBirthDateAndKeepsWhatItReadBefore) {
     for (const wchar_t* text : {L"", L"hello", L"1970-02-30"}) {
-        const Card card = Read(FullCardWithBirthDate(L"1970-01-31"));
+        const Person card = ReadPerson(FullCardWithBirthDate(L"1970-01-31"));
         EXPECT_TRUE(Raises(support::kInvalidArgument, L"Not a valid date.", [&] {
             card->Read(ElementReader(ParseElement(FullCardWithBirthDate(text))));
         })) << support::Utf8(text);
@@ -166,19 +166,19 @@ TEST(LejisPersonIndexCardReading, RoundsMeasuresAndIgnoresInvalidOnes) {
                 {L"99999", short{0}}, {L"32767", short{32767}}, {L"abc", std::nullopt}, {L"", std::nullopt}};
     for (const auto& row : rows) {
         const std::wstring text = row.text;
-        const Card card = ReadWith(L"<j:PersonHeightMeasure>" + text + L"</j:PersonHeightMeasure>" +
-                                   L"<j:PersonWeightMeasure>7</j:PersonWeightMeasure>");
+        const Person card = ReadPersonWith(L"<j:PersonHeightMeasure>" + text + L"</j:PersonHeightMeasure>" +
+                                           L"<j:PersonWeightMeasure>7</j:PersonWeightMeasure>");
         EXPECT_EQ(row.number, card->Height->Number()) << support::Utf8(text);
         EXPECT_EQ(short{7}, card->Weight->Number()) << support::Utf8(text);
         EXPECT_EQ(row.number,
-                  ReadWith(L"<j:PersonWeightMeasure>" + text + L"</j:PersonWeightMeasure>")->Weight->Number())
+                  ReadPersonWith(L"<j:PersonWeightMeasure>" + text + L"</j:PersonWeightMeasure>")->Weight->Number())
             << support::Utf8(text);
     }
 }
 
 TEST(LejisPersonIndexCardReading, ReadsTheFlagInAnyLetterCaseAndIgnoresOtherTexts) {
     const auto flag = [](const wchar_t* text) {
-        return ReadWith(std::wstring(L"<ext:CautionIndicatorFlag>") + text + L"</ext:CautionIndicatorFlag>")
+        return ReadPersonWith(std::wstring(L"<ext:CautionIndicatorFlag>") + text + L"</ext:CautionIndicatorFlag>")
             ->CautionIndicator;
     };
     for (const wchar_t* text : {L"true", L"TRUE", L"1"}) EXPECT_TRUE(flag(text)) << support::Utf8(text);
@@ -186,17 +186,18 @@ TEST(LejisPersonIndexCardReading, ReadsTheFlagInAnyLetterCaseAndIgnoresOtherText
 }
 
 TEST(LejisPersonIndexCardReading, LeavesTheNewAddressEmptyWithoutAResidence) {
-    const Card card = ReadWith(L"<j:LocationAddress><j:LocationCityName>ERIE</j:LocationCityName></j:LocationAddress>");
+    const Person card =
+        ReadPersonWith(L"<j:LocationAddress><j:LocationCityName>ERIE</j:LocationCityName></j:LocationAddress>");
     EXPECT_EQ(L"", card->address->City);
 }
 
 TEST(LejisPersonIndexCardReading, ReadsEachFieldFromItsOwnPlace) {
-    const Card card = ReadWith(
+    const Person card = ReadPersonWith(
         L"<ext:PersonSurName>x</ext:PersonSurName><j:OrganizationName>x</j:OrganizationName>"
         L"<j:PersonInvolvement>x</j:PersonInvolvement><j:PersonSSNID>x</j:PersonSSNID>"
         L"<card:PersonSexCode>x</card:PersonSexCode>"
         L"<ext:PersonBirthDate>x</ext:PersonBirthDate>");
-    support::ExpectEmptyTexts(card->Dispatch(), kTexts);
+    support::ExpectEmptyTexts(card->Dispatch(), kPersonTexts);
     EXPECT_EQ(std::nullopt, card->BirthDate->Date());
 }
 

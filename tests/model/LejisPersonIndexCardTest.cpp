@@ -15,7 +15,7 @@ using support::NewDocument;
 using support::Reparsed;
 using support::SameXml;
 
-using Card = platform::Ref<LejisPersonIndexCard>;
+using Person = platform::Ref<LejisPersonIndexCard>;
 
 constexpr wchar_t kOrganization[] =
     L"<j:IncidentJurisdictionalOrganization><j:OrganizationName/></j:IncidentJurisdictionalOrganization>";
@@ -31,7 +31,7 @@ std::wstring CardWith(const std::wstring& children) {
            L"</card:RMSPersonIndexCards>";
 }
 
-testing::AssertionResult Writes(const Card& card, const std::wstring& xml) {
+testing::AssertionResult Writes(const Person& card, const std::wstring& xml) {
     const auto document = NewDocument();
     EXPECT_OK(document->put_preserveWhiteSpace(VARIANT_TRUE));
     return SameXml(Reparsed(card->Write(document).Get()).Get(), xml);

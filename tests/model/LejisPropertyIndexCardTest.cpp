@@ -16,9 +16,10 @@ using support::NewDocument;
 using support::ParseElement;
 using support::SameXml;
 
-const support::Names kTexts = {L"NibrsCategoryCode", L"Category", L"Make", L"Model", L"SerialID", L"CaveatText"};
+const support::Names kPropertyTexts = {L"NibrsCategoryCode", L"Category",  L"Make", L"Model",
+                                       L"SerialID",          L"CaveatText"};
 
-constexpr wchar_t kFullCard[] =
+constexpr wchar_t kFullProperty[] =
     L"<card:RMSPropertyIndexCards>"
     L"<j:PropertyCategoryCode.nibrsPropertyCategory>26</j:PropertyCategoryCode.nibrsPropertyCategory>"
     L"<j:PropertyTypeText>TELEVISION</j:PropertyTypeText>"
@@ -29,26 +30,26 @@ constexpr wchar_t kFullCard[] =
     L"<ext:CautionIndicatorFlag>true</ext:CautionIndicatorFlag>"
     L"</card:RMSPropertyIndexCards>";
 
-constexpr wchar_t kEmptyCard[] =
+constexpr wchar_t kEmptyProperty[] =
     L"<card:RMSPropertyIndexCards><ext:CautionIndicatorFlag>false</ext:CautionIndicatorFlag>"
     L"</card:RMSPropertyIndexCards>";
 
-using Card = platform::Ref<LejisPropertyIndexCard>;
+using Property = platform::Ref<LejisPropertyIndexCard>;
 
-Card Read(const std::wstring& xml) {
+Property ReadProperty(const std::wstring& xml) {
     auto card = platform::Create<LejisPropertyIndexCard>();
     card->Read(ElementReader(ParseElement(xml)));
     return card;
 }
 
-testing::AssertionResult Writes(const Card& card, const std::wstring& xml) {
+testing::AssertionResult Writes(const Property& card, const std::wstring& xml) {
     const auto document = NewDocument();
     EXPECT_OK(document->put_preserveWhiteSpace(VARIANT_TRUE));
     return SameXml(card->Write(document).Get(), xml);
 }
 
-void ExpectEmpty(const Card& card) {
-    support::ExpectEmptyTexts(card->Dispatch(), kTexts);
+void ExpectEmpty(const Property& card) {
+    support::ExpectEmptyTexts(card->Dispatch(), kPropertyTexts);
     EXPECT_FALSE(card->CautionIndicator);
 }
 
@@ -61,18 +62,18 @@ TEST(LejisPropertyIndexCard, HasItsMembersInTheirOrder) {
 
 TEST(LejisPropertyIndexCard, KeepsWhatItsFieldsAreGiven) {
     const auto card = platform::Create<LejisPropertyIndexCard>();
-    support::ExpectTextFields(card->Dispatch(), kTexts);
+    support::ExpectTextFields(card->Dispatch(), kPropertyTexts);
     support::ExpectFlagField(card->Dispatch(), L"CautionIndicator");
 }
 
 TEST(LejisPropertyIndexCard, IsEmptiedByLoadDefaults) {
-    const Card card = Read(kFullCard);
+    const Property card = ReadProperty(kFullProperty);
     EXPECT_OK(card->LoadDefaults());
     ExpectEmpty(card);
 }
 
 TEST(LejisPropertyIndexCard, WritesOnlyTheFlagWhenNew) {
-    EXPECT_TRUE(Writes(platform::Create<LejisPropertyIndexCard>(), kEmptyCard));
+    EXPECT_TRUE(Writes(platform::Create<LejisPropertyIndexCard>(), kEmptyProperty));
 }
 
 TEST(LejisPropertyIndexCard, WritesAllFieldsInTheirOrder) {
@@ -84,8 +85,8 @@ TEST(LejisPropertyIndexCard, WritesAllFieldsInTheirOrder) {
     card->SerialID = L"S-1";
     card->CaveatText = L"scratched";
     card->CautionIndicator = true;
-    EXPECT_TRUE(Writes(card, kFullCard));
-    EXPECT_TRUE(Writes(card, kFullCard));
+    EXPECT_TRUE(Writes(card, kFullProperty));
+    EXPECT_TRUE(Writes(card, kFullProperty));
 }
 
 TEST(LejisPropertyIndexCard, WritesBlanksAsContent) {
@@ -99,7 +100,7 @@ TEST(LejisPropertyIndexCard, WritesBlanksAsContent) {
 }
 
 TEST(LejisPropertyIndexCard, ReadsAllFields) {
-    const Card card = Read(kFullCard);
+    const Property card = ReadProperty(kFullProperty);
     EXPECT_EQ(L"26", card->NibrsCategoryCode);
     EXPECT_EQ(L"TELEVISION", card->Category);
     EXPECT_EQ(L"SONY", card->Make);
@@ -107,19 +108,19 @@ TEST(LejisPropertyIndexCard, ReadsAllFields) {
     EXPECT_EQ(L"S-1", card->SerialID);
     EXPECT_EQ(L"scratched", card->CaveatText);
     EXPECT_TRUE(card->CautionIndicator);
-    EXPECT_TRUE(Writes(card, kFullCard));
+    EXPECT_TRUE(Writes(card, kFullProperty));
 }
 
 TEST(LejisPropertyIndexCard, ClearsWhatTheElementLacks) {
-    const Card card = Read(kFullCard);
+    const Property card = ReadProperty(kFullProperty);
     card->Read(ElementReader(ParseElement(L"<card:RMSPropertyIndexCards/>")));
     ExpectEmpty(card);
 }
 
 TEST(LejisPropertyIndexCard, ReadsTheFlagInAnyLetterCaseAndIgnoresOtherTexts) {
     const auto flag = [](const wchar_t* text) {
-        return Read(std::wstring(L"<card:RMSPropertyIndexCards><ext:CautionIndicatorFlag>") + text +
-                    L"</ext:CautionIndicatorFlag></card:RMSPropertyIndexCards>")
+        return ReadProperty(std::wstring(L"<card:RMSPropertyIndexCards><ext:CautionIndicatorFlag>") + text +
+                            L"</ext:CautionIndicatorFlag></card:RMSPropertyIndexCards>")
             ->CautionIndicator;
     };
     for (const wchar_t* text : {L"true", L"True", L"2"}) EXPECT_TRUE(flag(text)) << support::Utf8(text);
@@ -128,18 +129,18 @@ TEST(LejisPropertyIndexCard, ReadsTheFlagInAnyLetterCaseAndIgnoresOtherTexts) {
 
 TEST(LejisPropertyIndexCard, ReadsEachFieldFromItsOwnNamespace) {
     ExpectEmpty(
-        Read(L"<card:RMSPropertyIndexCards><ext:PropertyTypeText>x</ext:PropertyTypeText>"
-             L"<ext:PropertyMakeName>x</ext:PropertyMakeName><PropertyModelName>x</PropertyModelName>"
-             L"<j:PropertySerialID>x</j:PropertySerialID><card:CaveatText>x</card:CaveatText>"
-             L"<j:CautionIndicatorFlag>true</j:CautionIndicatorFlag></card:RMSPropertyIndexCards>"));
+        ReadProperty(L"<card:RMSPropertyIndexCards><ext:PropertyTypeText>x</ext:PropertyTypeText>"
+                     L"<ext:PropertyMakeName>x</ext:PropertyMakeName><PropertyModelName>x</PropertyModelName>"
+                     L"<j:PropertySerialID>x</j:PropertySerialID><card:CaveatText>x</card:CaveatText>"
+                     L"<j:CautionIndicatorFlag>true</j:CautionIndicatorFlag></card:RMSPropertyIndexCards>"));
 }
 
 TEST(LejisPropertyIndexCard, ConvertsForClientsToAndFromElements) {
     const auto card = platform::Create<LejisPropertyIndexCard>();
     Microsoft::WRL::ComPtr<IDispatch> element;
-    EXPECT_OK(card->FromXmlElement(ParseElement(kFullCard).Get()));
+    EXPECT_OK(card->FromXmlElement(ParseElement(kFullProperty).Get()));
     EXPECT_OK(card->ToXmlElement(NewDocument().Get(), element.GetAddressOf()));
-    EXPECT_TRUE(SameXml(element.Get(), kFullCard));
+    EXPECT_TRUE(SameXml(element.Get(), kFullProperty));
     EXPECT_TRUE(FailedWith(card->FromXmlElement(nullptr), support::kInvalidArgument, L"elem cannot be Nothing"));
     EXPECT_TRUE(FailedWith(card->ToXmlElement(nullptr, element.ReleaseAndGetAddressOf()), support::kObjectRequired,
                            L"Object required"));

@@ -17,8 +17,8 @@ using support::ParseElement;
 using support::Raises;
 using support::SameXml;
 
-const support::Names kTexts = {L"StreetFullText",  L"StreetName", L"StreetType", L"StreetDirection",
-                               L"StreetExtension", L"City",       L"State",      L"ZIP"};
+const support::Names kAddressTexts = {L"StreetFullText",  L"StreetName", L"StreetType", L"StreetDirection",
+                                      L"StreetExtension", L"City",       L"State",      L"ZIP"};
 
 constexpr wchar_t kEmptyStreet[] =
     L"<j:LocationStreet><j:StreetFullText/><j:StreetNumberText/><j:StreetPredirectionalText/><j:StreetName/>"
@@ -59,7 +59,7 @@ testing::AssertionResult Writes(const Address& address, const std::wstring& xml)
 }
 
 void ExpectEmpty(const Address& address) {
-    support::ExpectEmptyTexts(address->Dispatch(), kTexts);
+    support::ExpectEmptyTexts(address->Dispatch(), kAddressTexts);
     EXPECT_EQ(std::nullopt, address->StreetNumber->Number());
 }
 
@@ -72,7 +72,7 @@ TEST(LejisStreetAddress, HasItsMembersInTheirOrder) {
 
 TEST(LejisStreetAddress, KeepsWhatItsFieldsAreGiven) {
     const auto address = platform::Create<LejisStreetAddress>();
-    support::ExpectTextFields(address->Dispatch(), kTexts);
+    support::ExpectTextFields(address->Dispatch(), kAddressTexts);
     EXPECT_EQ(std::nullopt, address->StreetNumber->Number());
 }
 

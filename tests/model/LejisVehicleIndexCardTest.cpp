@@ -16,10 +16,10 @@ using support::NewDocument;
 using support::ParseElement;
 using support::SameXml;
 
-const support::Names kTexts = {L"Make", L"Model",     L"Style", L"Color", L"LicensePlate", L"LicensePlateState",
-                               L"VIN",  L"CaveatText"};
+const support::Names kVehicleTexts = {L"Make", L"Model",     L"Style", L"Color", L"LicensePlate", L"LicensePlateState",
+                                      L"VIN",  L"CaveatText"};
 
-constexpr wchar_t kFullCard[] =
+constexpr wchar_t kFullVehicle[] =
     L"<card:RMSVehicleIndexCards>"
     L"<ext:VehicleMakeText>FORD</ext:VehicleMakeText>"
     L"<j:VehicleModelCodeText>F150</j:VehicleModelCodeText>"
@@ -33,23 +33,23 @@ constexpr wchar_t kFullCard[] =
     L"<ext:CautionIndicatorFlag>true</ext:CautionIndicatorFlag>"
     L"</card:RMSVehicleIndexCards>";
 
-constexpr wchar_t kEmptyCard[] =
+constexpr wchar_t kEmptyVehicle[] =
     L"<card:RMSVehicleIndexCards><ext:CautionIndicatorFlag>false</ext:CautionIndicatorFlag>"
     L"</card:RMSVehicleIndexCards>";
 
-using Card = platform::Ref<LejisVehicleIndexCard>;
+using Vehicle = platform::Ref<LejisVehicleIndexCard>;
 
-Card Read(const std::wstring& xml) {
+Vehicle ReadVehicle(const std::wstring& xml) {
     auto card = platform::Create<LejisVehicleIndexCard>();
     card->Read(ElementReader(ParseElement(xml)));
     return card;
 }
 
-Card ReadWith(const std::wstring& children) {
-    return Read(L"<card:RMSVehicleIndexCards>" + children + L"</card:RMSVehicleIndexCards>");
+Vehicle ReadVehicleWith(const std::wstring& children) {
+    return ReadVehicle(L"<card:RMSVehicleIndexCards>" + children + L"</card:RMSVehicleIndexCards>");
 }
 
-testing::AssertionResult Writes(const Card& card, const std::wstring& xml) {
+testing::AssertionResult Writes(const Vehicle& card, const std::wstring& xml) {
     const auto document = NewDocument();
     EXPECT_OK(document->put_preserveWhiteSpace(VARIANT_TRUE));
     return SameXml(card->Write(document).Get(), xml);
@@ -64,13 +64,13 @@ TEST(LejisVehicleIndexCard, HasItsMembersInTheirOrder) {
 
 TEST(LejisVehicleIndexCard, KeepsWhatItsFieldsAreGiven) {
     const auto card = platform::Create<LejisVehicleIndexCard>();
-    support::ExpectTextFields(card->Dispatch(), kTexts);
+    support::ExpectTextFields(card->Dispatch(), kVehicleTexts);
     support::ExpectFlagField(card->Dispatch(), L"CautionIndicator");
     EXPECT_EQ(std::nullopt, card->Year->Number());
 }
 
 TEST(LejisVehicleIndexCard, WritesOnlyTheFlagWhenNew) {
-    EXPECT_TRUE(Writes(platform::Create<LejisVehicleIndexCard>(), kEmptyCard));
+    EXPECT_TRUE(Writes(platform::Create<LejisVehicleIndexCard>(), kEmptyVehicle));
 }
 
 TEST(LejisVehicleIndexCard, WritesAllFieldsInTheirOrder) {
@@ -85,17 +85,17 @@ TEST(LejisVehicleIndexCard, WritesAllFieldsInTheirOrder) {
     card->CautionIndicator = true;
     card->CaveatText = L"dented";
     card->Year->Set(short{2004});
-    EXPECT_TRUE(Writes(card, kFullCard));
-    EXPECT_TRUE(Writes(card, kFullCard));
+    EXPECT_TRUE(Writes(card, kFullVehicle));
+    EXPECT_TRUE(Writes(card, kFullVehicle));
 }
 
 TEST(LejisVehicleIndexCard, WritesThePlateOnlyWithItsState) {
     const auto card = platform::Create<LejisVehicleIndexCard>();
     card->LicensePlate = L"ABC1234";
-    EXPECT_TRUE(Writes(card, kEmptyCard));
+    EXPECT_TRUE(Writes(card, kEmptyVehicle));
     card->LicensePlate = L"";
     card->LicensePlateState = L"PA";
-    EXPECT_TRUE(Writes(card, kEmptyCard));
+    EXPECT_TRUE(Writes(card, kEmptyVehicle));
 }
 
 TEST(LejisVehicleIndexCard, WritesBlanksAsContent) {
@@ -109,7 +109,7 @@ TEST(LejisVehicleIndexCard, WritesBlanksAsContent) {
 }
 
 TEST(LejisVehicleIndexCard, ReadsAllFields) {
-    const Card card = Read(kFullCard);
+    const Vehicle card = ReadVehicle(kFullVehicle);
     EXPECT_EQ(L"FORD", card->Make);
     EXPECT_EQ(L"F150", card->Model);
     EXPECT_EQ(L"PK", card->Style);
@@ -120,14 +120,14 @@ TEST(LejisVehicleIndexCard, ReadsAllFields) {
     EXPECT_TRUE(card->CautionIndicator);
     EXPECT_EQ(L"dented", card->CaveatText);
     EXPECT_EQ(short{2004}, card->Year->Number());
-    EXPECT_TRUE(Writes(card, kFullCard));
+    EXPECT_TRUE(Writes(card, kFullVehicle));
 }
 
 TEST(LejisVehicleIndexCard, ClearsWhatTheElementLacks) {
-    const Card card = Read(kFullCard);
+    const Vehicle card = ReadVehicle(kFullVehicle);
     const auto yearBefore = card->Year;
     card->Read(ElementReader(ParseElement(L"<card:RMSVehicleIndexCards/>")));
-    support::ExpectEmptyTexts(card->Dispatch(), kTexts);
+    support::ExpectEmptyTexts(card->Dispatch(), kVehicleTexts);
     EXPECT_FALSE(card->CautionIndicator);
     EXPECT_EQ(std::nullopt, card->Year->Number());
     EXPECT_NE(yearBefore.Get(), card->Year.Get());
@@ -136,21 +136,21 @@ TEST(LejisVehicleIndexCard, ClearsWhatTheElementLacks) {
 
 TEST(LejisVehicleIndexCard, LeavesYearNullWhenItsTextIsNotAShortNumber) {
     for (const wchar_t* text : {L"abc", L"40000", L"32768", L"", L"2004-01-01"}) {
-        const Card card = ReadWith(std::wstring(L"<j:VehicleModelYearDate>") + text + L"</j:VehicleModelYearDate>" +
-                                   L"<j:CaveatText>after</j:CaveatText>");
+        const Vehicle card = ReadVehicleWith(std::wstring(L"<j:VehicleModelYearDate>") + text +
+                                             L"</j:VehicleModelYearDate>" + L"<j:CaveatText>after</j:CaveatText>");
         EXPECT_EQ(std::nullopt, card->Year->Number()) << support::Utf8(text);
         EXPECT_EQ(L"after", card->CaveatText) << support::Utf8(text);
     }
 }
 
 TEST(LejisVehicleIndexCard, RoundsTheYearItReads) {
-    EXPECT_EQ(short{2004}, ReadWith(L"<j:VehicleModelYearDate>2004.5</j:VehicleModelYearDate>")->Year->Number());
-    EXPECT_EQ(short{2006}, ReadWith(L"<j:VehicleModelYearDate>2005.5</j:VehicleModelYearDate>")->Year->Number());
+    EXPECT_EQ(short{2004}, ReadVehicleWith(L"<j:VehicleModelYearDate>2004.5</j:VehicleModelYearDate>")->Year->Number());
+    EXPECT_EQ(short{2006}, ReadVehicleWith(L"<j:VehicleModelYearDate>2005.5</j:VehicleModelYearDate>")->Year->Number());
 }
 
 TEST(LejisVehicleIndexCard, ReadsTheFlagInAnyLetterCaseAndIgnoresOtherTexts) {
     const auto flag = [](const wchar_t* text) {
-        return ReadWith(std::wstring(L"<ext:CautionIndicatorFlag>") + text + L"</ext:CautionIndicatorFlag>")
+        return ReadVehicleWith(std::wstring(L"<ext:CautionIndicatorFlag>") + text + L"</ext:CautionIndicatorFlag>")
             ->CautionIndicator;
     };
     for (const wchar_t* text : {L"true", L"TRUE", L"1", L"-1"}) EXPECT_TRUE(flag(text)) << support::Utf8(text);
@@ -158,21 +158,21 @@ TEST(LejisVehicleIndexCard, ReadsTheFlagInAnyLetterCaseAndIgnoresOtherTexts) {
 }
 
 TEST(LejisVehicleIndexCard, ReadsEachFieldFromItsOwnNamespace) {
-    const Card card = ReadWith(
+    const Vehicle card = ReadVehicleWith(
         L"<j:VehicleMakeText>x</j:VehicleMakeText><ext:VehicleModelCodeText>x"
         L"</ext:VehicleModelCodeText><j:VehicleStyleText>x</j:VehicleStyleText>"
         L"<ext:CaveatText>x</ext:CaveatText><j:CautionIndicatorFlag>true"
         L"</j:CautionIndicatorFlag><j:VehicleID>x</j:VehicleID>");
-    support::ExpectEmptyTexts(card->Dispatch(), kTexts);
+    support::ExpectEmptyTexts(card->Dispatch(), kVehicleTexts);
     EXPECT_FALSE(card->CautionIndicator);
 }
 
 TEST(LejisVehicleIndexCard, ConvertsForClientsToAndFromElements) {
     const auto card = platform::Create<LejisVehicleIndexCard>();
     Microsoft::WRL::ComPtr<IDispatch> element;
-    EXPECT_OK(card->FromXmlElement(ParseElement(kFullCard).Get()));
+    EXPECT_OK(card->FromXmlElement(ParseElement(kFullVehicle).Get()));
     EXPECT_OK(card->ToXmlElement(NewDocument().Get(), element.GetAddressOf()));
-    EXPECT_TRUE(SameXml(element.Get(), kFullCard));
+    EXPECT_TRUE(SameXml(element.Get(), kFullVehicle));
     EXPECT_TRUE(FailedWith(card->FromXmlElement(nullptr), support::kInvalidArgument, L"elem cannot be Nothing"));
     EXPECT_TRUE(FailedWith(card->ToXmlElement(nullptr, element.ReleaseAndGetAddressOf()), support::kObjectRequired,
                            L"Object required"));

@@ -3,6 +3,7 @@
 
 #include "support/ComCheck.h"
 #include "support/Printing.h"
+#include "unit_support/Doubles.h"
 #include "unit_support/Raises.h"
 
 #include <gtest/gtest.h>
@@ -12,14 +13,14 @@
 #include <cmath>
 #include <limits>
 
+using support::kInfinity;
+using support::kNoNumber;
+
 namespace platform {
 namespace {
 
 using support::Raises;
 using support::Utf8;
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 
 TEST(Conversions, TakesTheValueOfAReference) {
     _variant_t text(L"Q1");

@@ -22,7 +22,7 @@ namespace lejis {
 namespace {
 
 constexpr long kSchemaError = static_cast<long>(0x80040301);
-constexpr wchar_t kUrl[] = L"http://lejis-interface/submission?wsdl";
+constexpr wchar_t kWsdlUrl[] = L"http://lejis-interface/submission?wsdl";
 
 // One element of that name, in a namespace of that name, that holds a whole number.
 std::string Schema(const std::string& name) {
@@ -58,7 +58,7 @@ protected:
 
     void Validate(const std::wstring& wsdl, const std::wstring& payload) {
         http.script.responseText = wsdl;
-        SchemaUtils::ValidateSchemaFromWSDL(Request(payload), kUrl);
+        SchemaUtils::ValidateSchemaFromWSDL(Request(payload), kWsdlUrl);
     }
 
     ScriptedHttp http;
@@ -69,7 +69,7 @@ protected:
 TEST_F(SchemaUtilsTest, FetchesTheWsdlByGetWithoutBody) {
     EXPECT_NO_THROW(Validate(Wsdl(L""), L"<x/>"));
     EXPECT_EQ(L"GET", http.Last().Seen().method);
-    EXPECT_EQ(kUrl, http.Last().Seen().url);
+    EXPECT_EQ(kWsdlUrl, http.Last().Seen().url);
     EXPECT_FALSE(http.Last().Seen().bodyIsText);
     EXPECT_FALSE(http.Last().Seen().isUserGiven);
 }
@@ -176,7 +176,7 @@ TEST_F(SchemaUtilsTest, RaisesTheNumberOfAnAddressThatIsNoneBeforeAnythingIsSent
 
 TEST_F(SchemaUtilsTest, RaisesWithoutDocumentBeforeAnyRequest) {
     EXPECT_TRUE(Raises(kSchemaError, L"ValidateSchemaFromWSDL error: doc parameter was Nothing",
-                       [] { SchemaUtils::ValidateSchemaFromWSDL(nullptr, kUrl); }));
+                       [] { SchemaUtils::ValidateSchemaFromWSDL(nullptr, kWsdlUrl); }));
     EXPECT_TRUE(http.requests.empty());
 }
 
@@ -208,7 +208,7 @@ TEST_F(SchemaUtilsTest, PassesEverythingWhenTheWsdlHasNoTypes) {
 TEST_F(SchemaUtilsTest, StillDemandsThatTheRequestParsesWhenTheWsdlHasNoTypes) {
     http.script.responseText = Wsdl(L"");
     try {
-        SchemaUtils::ValidateSchemaFromWSDL(support::NewDocument(), kUrl);
+        SchemaUtils::ValidateSchemaFromWSDL(support::NewDocument(), kWsdlUrl);
         ADD_FAILURE() << "a document without a root passed";
     } catch (...) {
         const platform::ComError error = platform::CaughtError();
@@ -318,7 +318,7 @@ TEST_F(SchemaUtilsTest, RaisesWhatTheServerSaysInsteadOfAWsdl) {
     for (const Refusal& refusal : refusals) {
         http.script = refusal.script;
         EXPECT_TRUE(Raises(kSchemaError, refusal.description,
-                           [] { SchemaUtils::ValidateSchemaFromWSDL(Request(L"<x/>"), kUrl); }));
+                           [] { SchemaUtils::ValidateSchemaFromWSDL(Request(L"<x/>"), kWsdlUrl); }));
     }
 }
 

@@ -27,7 +27,7 @@ using support::ScriptedHttp;
 namespace lejis {
 namespace {
 
-struct Row {
+struct FaultRow {
     const char* name;
     // What a synchronous request does, and what an asynchronous one.
     Script synchronous;
@@ -38,9 +38,9 @@ constexpr HRESULT kUnreachable = static_cast<HRESULT>(0x800C0005);
 
 Script Broken(long status) { return {.status = status, .hasStatusText = false}; }
 
-Row AsStatus(const char* name, long status) { return {name, Broken(status), Broken(status)}; }
+FaultRow AsStatus(const char* name, long status) { return {name, Broken(status), Broken(status)}; }
 
-const Row kRows[] = {
+const FaultRow kFaultRows[] = {
     AsStatus("ResetInTheBody", 12031),
     AsStatus("RedirectWithoutEnd", 12156),
     AsStatus("TimeLimitOfThePlatform", 12002),
@@ -55,7 +55,7 @@ const Row kRows[] = {
     {"SilenceWithoutEnd", {.readyStates = {1}}, {.readyStates = {1, 1, 4}}},
 };
 
-class ScriptedFault : public testing::TestWithParam<Row> {
+class ScriptedFault : public testing::TestWithParam<FaultRow> {
 protected:
     ScriptedFault() { service->URL = L"http://lejis-interface/submission"; }
 
@@ -111,7 +111,7 @@ TEST_P(ScriptedFault, IsToldOnceToWhoeverSearches) {
     EXPECT_EQ(std::vector<std::wstring>{L"SearchCompleted: 1 cards"}, log->events);
 }
 
-INSTANTIATE_TEST_SUITE_P(Matrix, ScriptedFault, testing::ValuesIn(kRows),
+INSTANTIATE_TEST_SUITE_P(Matrix, ScriptedFault, testing::ValuesIn(kFaultRows),
                          [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "support/DeepXml.h"
 #include "support/Messages.h"
 #include "support/ServiceTexts.h"
+#include "unit_support/Addresses.h"
 #include "unit_support/Answers.h"
 #include "unit_support/EventLog.h"
 #include "unit_support/ScriptedRequest.h"
@@ -15,6 +16,7 @@
 using support::AnsweredCard;
 using support::EventLog;
 using support::InquiryResponse;
+using support::kSearchUrl;
 using support::Script;
 using support::ScriptedHttp;
 using support::Soap;
@@ -22,7 +24,7 @@ using support::Soap;
 namespace lejis {
 namespace {
 
-struct EventRow {
+struct SearchEventRow {
     const char* name;
     Script script;
     // Empty: no event at all.
@@ -56,7 +58,7 @@ std::wstring ManyCards(int count) {
     return cards;
 }
 
-const EventRow kRows[] = {
+const SearchEventRow kSearchEventRows[] = {
     {"OneCard", Answered(InquiryResponse(AnsweredCard(L"1") + Counted(L"1"))), L"SearchCompleted: 1 cards"},
     {"TwoCards", Answered(InquiryResponse(AnsweredCard(L"1") + AnsweredCard(L"2") + Counted(L"2"))),
      L"SearchCompleted: 2 cards"},
@@ -129,9 +131,7 @@ const EventRow kRows[] = {
     {"WinInet12031", WithoutText(12031), L"NetworkError: Network error: Connection reset."},
 };
 
-constexpr wchar_t kUrl[] = L"http://lejis-interface/search";
-
-class SearchEvents : public testing::TestWithParam<EventRow> {};
+class SearchEvents : public testing::TestWithParam<SearchEventRow> {};
 
 std::vector<std::wstring> Expected(const std::wstring& event) {
     return event.empty() ? std::vector<std::wstring>{} : std::vector<std::wstring>{event};
@@ -141,7 +141,7 @@ TEST_P(SearchEvents, AreAsDocumented) {
     ScriptedHttp http(GetParam().script);
     http.script.readyStates = {1, 2, 3, 4};
     const auto service = platform::Create<LejisSearchWebService>();
-    service->URL = kUrl;
+    service->URL = kSearchUrl;
     const auto log = EventLog::ForSearches();
     log->ConnectTo(service->Dispatch());
     const auto request = platform::Create<LejisSearchRequest>();
@@ -162,10 +162,10 @@ TEST_P(SearchEvents, AreAsDocumented) {
     EXPECT_EQ(Expected(L"SearchCompleted: 1 cards"), log->events);
 }
 
-INSTANTIATE_TEST_SUITE_P(Answers, SearchEvents, testing::ValuesIn(kRows),
+INSTANTIATE_TEST_SUITE_P(Answers, SearchEvents, testing::ValuesIn(kSearchEventRows),
                          [](const auto& row) { return std::string(row.param.name); });
 
-const EventRow kSendingFailures[] = {
+const SearchEventRow kSearchSendingFailures[] = {
     {"InvalidUrl", {.openResult = MK_E_SYNTAX}, L"ConfigurationError: Invalid URL 'http://lejis-interface/search'."},
     {"InvalidUrlAsInvalidArgument",
      {.openResult = E_INVALIDARG},
@@ -177,12 +177,12 @@ const EventRow kSendingFailures[] = {
     {"Other", {.openResult = E_ACCESSDENIED}, L"ConfigurationError: Internal error -2147024891: Access denied."},
 };
 
-class SearchSendingFailure : public testing::TestWithParam<EventRow> {};
+class SearchSendingFailure : public testing::TestWithParam<SearchEventRow> {};
 
 TEST_P(SearchSendingFailure, IsAnEventAtOnceAndNoError) {
     const ScriptedHttp http(GetParam().script);
     const auto service = platform::Create<LejisSearchWebService>();
-    service->URL = kUrl;
+    service->URL = kSearchUrl;
     const auto log = EventLog::ForSearches();
     log->ConnectTo(service->Dispatch());
     EXPECT_EQ(S_OK, service->Search(platform::Create<LejisSearchRequest>().Get()));
@@ -192,7 +192,7 @@ TEST_P(SearchSendingFailure, IsAnEventAtOnceAndNoError) {
     EXPECT_EQ(1u, log->events.size());
 }
 
-INSTANTIATE_TEST_SUITE_P(Failures, SearchSendingFailure, testing::ValuesIn(kSendingFailures),
+INSTANTIATE_TEST_SUITE_P(Failures, SearchSendingFailure, testing::ValuesIn(kSearchSendingFailures),
                          [](const auto& row) { return std::string(row.param.name); });
 
 TEST(SearchAddress, ThatIsNoneIsAnEventAtOnceAndNothingIsSent) {
@@ -216,7 +216,7 @@ TEST(SearchAddress, ThatIsNoneIsAnEventAtOnceAndNothingIsSent) {
 TEST(SearchEventsOfAStricterPlatform, ComeToAHandlerThatIsCalledWithoutParameters) {
     ScriptedHttp http({.responseText = InquiryResponse(AnsweredCard(L"1")), .callsWithoutParameters = true});
     const auto service = platform::Create<LejisSearchWebService>();
-    service->URL = kUrl;
+    service->URL = kSearchUrl;
     const auto log = EventLog::ForSearches();
     log->ConnectTo(service->Dispatch());
     EXPECT_EQ(S_OK, service->Search(platform::Create<LejisSearchRequest>().Get()));
@@ -228,7 +228,7 @@ TEST(SearchEventsOfAStricterPlatform, ComeToAHandlerThatIsCalledWithoutParameter
 TEST(SearchEventsOfAStricterPlatform, PartTheServiceFromARequestThatKeepsItsHandler) {
     ScriptedHttp http({.responseText = InquiryResponse(AnsweredCard(L"1")), .clearHandlerResult = E_FAIL});
     Microsoft::WRL::ComPtr<LejisSearchWebService> service = platform::Create<LejisSearchWebService>();
-    service->URL = kUrl;
+    service->URL = kSearchUrl;
     const auto log = EventLog::ForSearches();
     log->ConnectTo(service->Dispatch());
     EXPECT_EQ(S_OK, service->Search(platform::Create<LejisSearchRequest>().Get()));

@@ -3,6 +3,7 @@
 
 #include "platform/Registry.h"
 #include "support/Messages.h"
+#include "unit_support/Addresses.h"
 #include "unit_support/Answers.h"
 #include "unit_support/EventLog.h"
 #include "unit_support/ScriptedRequest.h"
@@ -16,6 +17,7 @@ using Microsoft::WRL::ComPtr;
 using support::AnsweredCard;
 using support::EventLog;
 using support::InquiryResponse;
+using support::kSearchUrl;
 using support::ScriptedHttp;
 using support::ScriptedRequest;
 
@@ -24,13 +26,12 @@ namespace {
 
 using Events = std::vector<std::wstring>;
 
-constexpr wchar_t kUrl[] = L"http://lejis-interface/search";
 constexpr wchar_t kFound[] = L"SearchCompleted: 1 cards";
 
 class SearchReplacement : public testing::Test {
 protected:
     SearchReplacement() {
-        service->URL = kUrl;
+        service->URL = kSearchUrl;
         service->Username = L"jdoe";
         log->ConnectTo(service->Dispatch());
     }
@@ -111,7 +112,7 @@ TEST_F(SearchReplacement, DoesNotComeOfACheckAgainstTheSchemasThatFails) {
     http.script = {.status = 404, .responseText = L"There is no such service."};
     Search();
     EXPECT_EQ(2u, http.requests.size());
-    EXPECT_EQ(std::wstring(kUrl) + L"?wsdl", http.Last().Seen().url);
+    EXPECT_EQ(std::wstring(kSearchUrl) + L"?wsdl", http.Last().Seen().url);
     ExpectBoth(first, L"ConfigurationError: Internal error -2147220735: There is no such service.");
 }
 

@@ -5,6 +5,7 @@
 #include "support/DeepXml.h"
 #include "support/Messages.h"
 #include "support/ServiceTexts.h"
+#include "unit_support/Addresses.h"
 #include "unit_support/EventLog.h"
 #include "unit_support/Incidents.h"
 #include "unit_support/ScriptedRequest.h"
@@ -14,22 +15,23 @@
 
 using Microsoft::WRL::ComPtr;
 using support::EventLog;
+using support::kSubmissionUrl;
 using support::Script;
 using support::ScriptedHttp;
 
 namespace lejis {
 namespace {
 
-struct EventRow {
+struct SubmissionEventRow {
     const char* name;
     Script script;
     // Empty: no event at all.
     std::wstring event;
 };
 
-const std::wstring kUnexpectedAnswer = L"ServiceError: " + support::kUnexpectedAnswer;
+const std::wstring kUnexpectedEvent = L"ServiceError: " + support::kUnexpectedAnswer;
 
-const EventRow kRows[] = {
+const SubmissionEventRow kSubmissionEventRows[] = {
     {"Taken", {.responseText = support::SubmissionResponse(L"0")}, L"SubmissionCompleted"},
     {"TakenWhateverTheCode", {.responseText = support::SubmissionResponse(L"100")}, L"SubmissionCompleted"},
     {"TakenWithoutAnswer", {.hasResponseXml = false}, L"SubmissionCompleted"},
@@ -43,20 +45,18 @@ const EventRow kRows[] = {
      L"ServiceError: bad card"},
     {"NoFault", {.status = 500, .responseText = support::Soap(L"<x/>")}, L"ServiceError: Unknown error"},
     {"Forbidden", {.status = 403, .responseText = support::Soap(L"<x/>")}, L"ServiceError: Unknown error"},
-    {"EmptyAnswer", {.status = 500}, kUnexpectedAnswer},
-    {"NotXml", {.status = 404, .responseText = L"no such page"}, kUnexpectedAnswer},
+    {"EmptyAnswer", {.status = 500}, kUnexpectedEvent},
+    {"NotXml", {.status = 404, .responseText = L"no such page"}, kUnexpectedEvent},
     {"NotSoap",
      {.status = 500, .responseText = L"<html/>"},
      L"ServiceError: Internal error in web service code: Object required"},
     {"NestedVeryDeep",
      {.status = 500, .responseText = support::SoapFault(L"a", support::Nested(support::kVeryDeep))},
-     kUnexpectedAnswer},
+     kUnexpectedEvent},
     {"NoDocument", {.status = 500, .hasResponseXml = false}, L""},
 };
 
-constexpr wchar_t kUrl[] = L"http://lejis-interface/submission";
-
-class SubmissionEvents : public testing::TestWithParam<EventRow> {};
+class SubmissionEvents : public testing::TestWithParam<SubmissionEventRow> {};
 
 platform::Ref<LejisSubmissionDocument> Document() {
     auto document = platform::Create<LejisSubmissionDocument>();
@@ -68,7 +68,7 @@ TEST_P(SubmissionEvents, AreAsDocumented) {
     ScriptedHttp http(GetParam().script);
     http.script.readyStates = {1, 2, 3, 4};
     const auto service = platform::Create<LejisSubmissionWebService>();
-    service->URL = kUrl;
+    service->URL = kSubmissionUrl;
     const auto log = EventLog::ForSubmissions();
     log->ConnectTo(service->Dispatch());
     service->SubmitAsync(*Document());
@@ -82,7 +82,7 @@ TEST_P(SubmissionEvents, AreAsDocumented) {
     EXPECT_FALSE(http.Last().HasHandler()) << "the request and the service no longer hold each other";
 }
 
-INSTANTIATE_TEST_SUITE_P(Answers, SubmissionEvents, testing::ValuesIn(kRows),
+INSTANTIATE_TEST_SUITE_P(Answers, SubmissionEvents, testing::ValuesIn(kSubmissionEventRows),
                          [](const auto& row) { return std::string(row.param.name); });
 
 struct SendingFailure {
@@ -94,7 +94,7 @@ struct SendingFailure {
 const SendingFailure kSendingFailures[] = {
     {"InvalidUrl",
      {.openResult = MK_E_SYNTAX},
-     L"ConfigurationError: Invalid URL 'http://lejis-interface/submission'."},
+     L"ConfigurationError: Invalid URL 'http://lejis-interface:8080/submission'."},
     {"Unreachable", {.sendResult = static_cast<HRESULT>(0x800C0005)}, L"NetworkError: The server is down."},
     {"Other",
      {.openResult = E_ACCESSDENIED},
@@ -106,7 +106,7 @@ class SubmissionSendingFailure : public testing::TestWithParam<SendingFailure> {
 TEST_P(SubmissionSendingFailure, IsAnEventAtOnce) {
     const ScriptedHttp http(GetParam().script);
     const auto service = platform::Create<LejisSubmissionWebService>();
-    service->URL = kUrl;
+    service->URL = kSubmissionUrl;
     const auto log = EventLog::ForSubmissions();
     log->ConnectTo(service->Dispatch());
     service->SubmitAsync(*Document());
@@ -120,7 +120,7 @@ INSTANTIATE_TEST_SUITE_P(Failures, SubmissionSendingFailure, testing::ValuesIn(k
 class SubmissionEventsLifetime : public testing::Test {
 protected:
     SubmissionEventsLifetime() {
-        service->URL = kUrl;
+        service->URL = kSubmissionUrl;
         log->ConnectTo(service->Dispatch());
     }
 

@@ -4,6 +4,7 @@
 #include "support/DeepXml.h"
 #include "support/Printing.h"
 #include "support/ServiceTexts.h"
+#include "unit_support/Addresses.h"
 #include "unit_support/Incidents.h"
 #include "unit_support/Raises.h"
 #include "unit_support/ScriptedRequest.h"
@@ -12,6 +13,7 @@
 #include <gtest/gtest.h>
 
 using support::CleanIncident;
+using support::kSubmissionUrl;
 using support::kUnexpectedAnswer;
 using support::kUnexpectedError;
 using support::kVeryDeep;
@@ -25,8 +27,6 @@ using support::SubmissionResponse;
 
 namespace lejis {
 namespace {
-
-constexpr wchar_t kUrl[] = L"http://lejis-interface:8080/submission";
 
 struct Outcome {
     const char* name;
@@ -153,7 +153,7 @@ class SubmissionOutcome : public testing::TestWithParam<Outcome> {};
 TEST_P(SubmissionOutcome, IsAsDocumented) {
     const ScriptedHttp http(GetParam().script);
     const auto service = platform::Create<LejisSubmissionWebService>();
-    service->URL = kUrl;
+    service->URL = kSubmissionUrl;
     const auto submit = [&] { service->Submit(*CleanIncident()); };
     if (GetParam().number == 0) {
         EXPECT_NO_THROW(submit());
@@ -166,7 +166,7 @@ TEST_P(SubmissionOutcome, IsAsDocumented) {
 TEST_P(SubmissionOutcome, IsTheSameForADeletion) {
     const ScriptedHttp http(GetParam().script);
     const auto service = platform::Create<LejisSubmissionWebService>();
-    service->URL = kUrl;
+    service->URL = kSubmissionUrl;
     const auto withdraw = [&] { service->Withdraw(*CleanIncident()); };
     if (GetParam().number == 0) {
         EXPECT_NO_THROW(withdraw());
@@ -181,7 +181,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, SubmissionOutcome, testing::ValuesIn(kOutcomes
 TEST(SubmissionService, SucceedsAfterAFailure) {
     ScriptedHttp http(Answered(503, L""));
     const auto service = platform::Create<LejisSubmissionWebService>();
-    service->URL = kUrl;
+    service->URL = kSubmissionUrl;
     EXPECT_TRUE(support::Raises(tvTransientError, PartiallyOffline(503), [&] { service->Submit(*CleanIncident()); }));
     http.script = Accepted(L"0");
     EXPECT_NO_THROW(service->Submit(*CleanIncident()));

@@ -40,10 +40,10 @@ private:
             if (count > 0) head.append(buffer, static_cast<size_t>(count));
         }
         Sleep(kDelay);
-        static constexpr std::string_view kAnswer =
+        static constexpr std::string_view kWsdlAnswer =
             "HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\nConnection: close\r\nContent-Length: 68\r\n\r\n"
             "<wsdl:definitions xmlns:wsdl='http://schemas.xmlsoap.org/wsdl/'   />";
-        send(client, kAnswer.data(), static_cast<int>(kAnswer.size()), 0);
+        send(client, kWsdlAnswer.data(), static_cast<int>(kWsdlAnswer.size()), 0);
         shutdown(client, SD_SEND);
         while (recv(client, buffer, sizeof buffer, 0) > 0) continue;
         closesocket(client);

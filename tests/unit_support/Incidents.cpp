@@ -1,6 +1,8 @@
 #include "unit_support/Incidents.h"
 
 #include "platform/Conversions.h"
+#include "support/ComCheck.h"
+#include "support/Xml.h"
 
 using Microsoft::WRL::ComPtr;
 
@@ -30,6 +32,12 @@ platform::Ref<lejis::LejisIncidentIndexCard> FullIncident() {
     incident->VehicleIndexCards->AddObject(vehicle->Dispatch());
     incident->PropertyIndexCards->AddObject(item->Dispatch());
     return incident;
+}
+
+std::wstring XmlOf(const platform::Ref<lejis::LejisIncidentIndexCard>& incident) {
+    BSTR text = nullptr;
+    EXPECT_OK(incident->Write(NewDocument())->get_xml(&text));
+    return Take(text);
 }
 
 }  // namespace support

@@ -10,7 +10,7 @@
 namespace lejis_client {
 namespace {
 
-constexpr const wchar_t* kNames[] = {L"32-bit classes", L"64-bit classes"};
+constexpr const wchar_t* kClassesNames[] = {L"32-bit classes", L"64-bit classes"};
 
 std::wstring FaultOfCreation(const CLSID& classId) {
     try {
@@ -41,7 +41,7 @@ std::wstring FaultOf(Bitness bitness, const CLSID& classId) {
 
 }  // namespace
 
-const wchar_t* ClassesNameOf(Bitness bitness) { return kNames[bitness == Bitness::k64]; }
+const wchar_t* ClassesNameOf(Bitness bitness) { return kClassesNames[bitness == Bitness::k64]; }
 
 Finding CheckClasses(Bitness bitness, const std::wstring& file) {
     const wchar_t* const subject = ClassesNameOf(bitness);

@@ -9,11 +9,11 @@
 namespace lejis_client {
 namespace {
 
-constexpr wchar_t kSubject[] = L"Debug dumps";
+constexpr wchar_t kDumpSubject[] = L"Debug dumps";
 constexpr wchar_t kFiles[] = L"Dump files";
 
-constexpr const wchar_t* kNames[] = {L"LejisSubmitRequest.xml", L"LejisSubmitResponse.xml", L"LejisSearchRequest.xml",
-                                     L"LejisSearchResponse.xml"};
+constexpr const wchar_t* kDumpNames[] = {L"LejisSubmitRequest.xml", L"LejisSubmitResponse.xml",
+                                         L"LejisSearchRequest.xml", L"LejisSearchResponse.xml"};
 
 // Without the suite the library itself makes the folder on its first use. The doctor changes nothing.
 std::wstring DumpFolder() {
@@ -29,11 +29,12 @@ std::wstring DumpFolder() {
 
 Finding FlagThatIsOn() {
     try {
-        return {kSubject, Health::kWarning,
+        return {kDumpSubject, Health::kWarning,
                 L"on for this user: requests and answers, with personal data, are written to " + DumpFolder(),
                 L"Set DebugLejis to \"N\" when you have seen what you looked for, and delete the files."};
     } catch (const platform::ComError& error) {
-        return {kSubject, Health::kFailed, L"on for this user, but there is no folder for them: " + error.Description(),
+        return {kDumpSubject, Health::kFailed,
+                L"on for this user, but there is no folder for them: " + error.Description(),
                 L"Set DebugLejis to \"N\", or repair the suite's diagnostics folder: submissions fail until then."};
     }
 }
@@ -41,9 +42,9 @@ Finding FlagThatIsOn() {
 Finding CheckFlag() {
     if (lejis::LejisUtils::DebugFlagIsOn()) return FlagThatIsOn();
     const std::wstring value = DebugFlagAsWritten();
-    if (!LooksOn(value)) return {kSubject, Health::kOk, L"off for this user", {}};
+    if (!LooksOn(value)) return {kDumpSubject, Health::kOk, L"off for this user", {}};
     return {
-        kSubject, Health::kWarning,
+        kDumpSubject, Health::kWarning,
         L"off for this user, though DebugLejis is " + value + L": only the text \"Y\", in upper case, turns them on",
         L"Set DebugLejis to \"Y\" if you want dumps, and to \"N\" if you do not."};
 }
@@ -51,7 +52,7 @@ Finding CheckFlag() {
 // The names of those that are there, one after the other.
 std::wstring DumpsIn(const std::wstring& folder) {
     std::wstring found;
-    for (const wchar_t* name : kNames) {
+    for (const wchar_t* name : kDumpNames) {
         if (FileExists(folder + L'\\' + name)) found += (found.empty() ? L"" : L", ") + std::wstring(name);
     }
     return found;
@@ -73,7 +74,7 @@ Finding CheckFiles() {
 }  // namespace
 
 void CheckDumps(Diagnosis& diagnosis) {
-    diagnosis.Examine(Late(kSubject), CheckFlag);
+    diagnosis.Examine(Late(kDumpSubject), CheckFlag);
     diagnosis.Examine(Late(kFiles), CheckFiles);
 }
 

@@ -7,7 +7,7 @@
 namespace lejis_client {
 namespace {
 
-using Texts = std::vector<std::wstring>;
+using Names = std::vector<std::wstring>;
 
 // The host of a namespace or SOAP action of LEJIS; empty for those of others.
 std::wstring HostOf(const std::wstring& uri) {
@@ -18,14 +18,14 @@ std::wstring HostOf(const std::wstring& uri) {
     return uri.substr(kScheme.size(), end - kScheme.size());
 }
 
-void CollectHosts(const Texts& uris, Texts& hosts) {
+void CollectHosts(const Names& uris, Names& hosts) {
     for (const std::wstring& uri : uris) {
         const std::wstring host = HostOf(uri);
         if (!host.empty() && std::find(hosts.begin(), hosts.end(), host) == hosts.end()) hosts.push_back(host);
     }
 }
 
-std::wstring Listed(const Texts& texts) { return Enumerated({texts.begin(), texts.end()}); }
+std::wstring Listed(const Names& texts) { return Enumerated({texts.begin(), texts.end()}); }
 
 Finding OtherHost(const Service& service, const std::wstring& lejisHost, const std::wstring& hosts) {
     return {service.host, Health::kFailed,
@@ -36,16 +36,16 @@ Finding OtherHost(const Service& service, const std::wstring& lejisHost, const s
 }  // namespace
 
 Finding CheckHost(const Service& service, const ServiceDescription& description, const std::wstring& lejisHost) {
-    Texts hosts;
+    Names hosts;
     CollectHosts(description.namespaces, hosts);
     CollectHosts(description.soapActions, hosts);
     if (hosts.empty()) {
         return {service.host, Health::kWarning, L"the service's WSDL names no LEJIS host to compare the library's with",
                 L"See that the address is that of the LEJIS " + std::wstring(service.name) + L"."};
     }
-    if (hosts != Texts{lejisHost}) return OtherHost(service, lejisHost, Listed(hosts));
+    if (hosts != Names{lejisHost}) return OtherHost(service, lejisHost, Listed(hosts));
     const std::wstring action = L"http://" + lejisHost + service.actionPath;
-    const Texts& actions = description.soapActions;
+    const Names& actions = description.soapActions;
     if (!actions.empty() && std::find(actions.begin(), actions.end(), action) == actions.end()) {
         return {service.host, Health::kFailed,
                 L"the library sends the SOAP action " + action + L", but the service's WSDL names " + Listed(actions),

@@ -5,7 +5,7 @@
 namespace lejis_client {
 namespace {
 
-constexpr wchar_t kSubject[] = L"Proxy";
+constexpr wchar_t kProxySubject[] = L"Proxy";
 
 std::wstring Named(const Proxy& proxy) {
     if (!proxy.script.empty()) return L"chosen by the script " + proxy.script;
@@ -19,7 +19,7 @@ std::wstring Named(const Proxy& proxy) {
 
 void CheckProxy(Diagnosis& diagnosis) {
     // The question to the network whether it has a script can take its time.
-    diagnosis.Examine(Late(kSubject), [] { return Finding{kSubject, Health::kOk, Named(ReadProxy()), {}}; });
+    diagnosis.Examine(Late(kProxySubject), [] { return Finding{kProxySubject, Health::kOk, Named(ReadProxy()), {}}; });
 }
 
 }  // namespace lejis_client

@@ -6,7 +6,7 @@
 namespace lejis_client {
 namespace {
 
-constexpr const wchar_t* kNames[] = {L"32-bit library", L"64-bit library"};
+constexpr const wchar_t* kLibraryNames[] = {L"32-bit library", L"64-bit library"};
 
 const std::wstring& ProgramVersion() {
     static const std::string narrow = PUBLIC_VERSION;
@@ -51,7 +51,7 @@ std::wstring Bits(Bitness bitness) { return std::to_wstring(static_cast<int>(bit
 
 std::wstring InstallAgain(Bitness bitness) { return L"Install or register the " + Bits(bitness) + L" library again."; }
 
-const wchar_t* LibraryNameOf(Bitness bitness) { return kNames[bitness == Bitness::k64]; }
+const wchar_t* LibraryNameOf(Bitness bitness) { return kLibraryNames[bitness == Bitness::k64]; }
 
 Finding CheckRegistration(Bitness bitness) {
     const auto file = RegisteredFile(bitness);
