@@ -12,10 +12,9 @@ from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 from typing import NamedTuple
 
-PROJECT = Path(__file__).resolve().parents[2]
 BUILD = Path(os.environ["LEJIS_BUILD"])
-# A source of the tests of the library's inside: the snippets are compiled as it is.
-MODEL = "tests/foundation/ElementReaderTest.cpp"
+# Sources of the tests of the library's inside, compiled as one piece. The snippets are compiled as it is.
+MODEL = "tests_foundation_cxx.cxx"
 
 DELETED = "use of deleted function"
 DROPPED = "ignoring return value"
@@ -146,7 +145,7 @@ def compiler():
     """The command of MODEL for a source on the standard input, and its folder."""
     entries = json.loads((BUILD / "compile_commands.json").read_text(encoding="utf-8"))
     entry = next(entry for entry in entries
-                 if entry["file"] == str(PROJECT / MODEL) and "unit_tests" in entry["command"])
+                 if entry["file"].endswith(MODEL) and "unit_tests" in entry["command"])
     command, words = [], iter(shlex.split(entry["command"]))
     for word in words:
         if word in ("-o", "-MT", "-MF"):
