@@ -30,6 +30,7 @@ const std::string kPieces[] = {
     " ",
     "  ",
     "\xC0\x80",
+    "\xC1\xA1",
     "\x80",
     "\xC3",
     "\xC3\x9F",

@@ -13,7 +13,7 @@
 
 #include <gtest/gtest.h>
 
-namespace msxml {
+namespace platform::msxml {
 namespace {
 
 using support::Raises;
@@ -189,4 +189,4 @@ TEST(Document, ReportsWhetherItsLastLoadFailed) {
 }
 
 }  // namespace
-}  // namespace msxml
+}  // namespace platform::msxml

@@ -9,7 +9,7 @@
 
 #include <ostream>
 
-namespace msxml {
+namespace platform::msxml {
 namespace {
 
 struct Case {
@@ -68,4 +68,4 @@ INSTANTIATE_TEST_SUITE_P(All, LeafTextOf, testing::ValuesIn(kCases),
                          [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace
-}  // namespace msxml
+}  // namespace platform::msxml

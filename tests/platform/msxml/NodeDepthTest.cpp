@@ -11,7 +11,7 @@
 
 using Microsoft::WRL::ComPtr;
 
-namespace msxml {
+namespace platform::msxml {
 namespace {
 
 using support::Nested;
@@ -110,4 +110,4 @@ TEST(Depth, OfTextIsLimitedByTheParser) {
 }
 
 }  // namespace
-}  // namespace msxml
+}  // namespace platform::msxml

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-namespace msxml {
+namespace platform::msxml {
 namespace {
 
 using support::NewDocument;
@@ -157,4 +157,4 @@ TEST(Node, LeavesTheElementWhereItIsWhenWritingMarkup) {
 }
 
 }  // namespace
-}  // namespace msxml
+}  // namespace platform::msxml

@@ -16,7 +16,7 @@
 
 using Microsoft::WRL::ComPtr;
 
-namespace msxml {
+namespace platform::msxml {
 namespace {
 
 constexpr wchar_t kNamespace[] = L"urn:lejis-tests";
@@ -158,4 +158,4 @@ TEST(SchemaCache, SaysWhichSchemaItCannotLoad) {
 }
 
 }  // namespace
-}  // namespace msxml
+}  // namespace platform::msxml

@@ -14,7 +14,7 @@ using platform::Check;
 using platform::InText;
 using platform::ToBstr;
 
-namespace msxml {
+namespace platform::msxml {
 namespace {
 
 // The class may be called from any thread. It stays valid when the client leaves COM and comes back, because this holds
@@ -154,4 +154,4 @@ ParseError LastParseError(const Document& document) {
     return Read(error.Get());
 }
 
-}  // namespace msxml
+}  // namespace platform::msxml

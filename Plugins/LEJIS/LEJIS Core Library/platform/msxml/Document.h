@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace msxml {
+namespace platform::msxml {
 
 // Releases the class of documents, which is otherwise kept. Call it while COM is still there.
 void ReleaseDocumentClass() noexcept;
@@ -56,4 +56,4 @@ ParseError Read(IXMLDOMParseError* error);
 // The outcome of the document's last load.
 ParseError LastParseError(const Document& document);
 
-}  // namespace msxml
+}  // namespace platform::msxml

@@ -7,7 +7,7 @@
 
 using platform::Check;
 
-namespace msxml {
+namespace platform::msxml {
 
 bool IsTheSameInAnElement(std::wstring_view text) {
     bool blankBefore = true;
@@ -39,4 +39,4 @@ std::optional<platform::OutText> LoneText(std::wstring_view markup) {
     }
 }
 
-}  // namespace msxml
+}  // namespace platform::msxml

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string_view>
 
-namespace msxml {
+namespace platform::msxml {
 
 // The text of an element that holds one text node or nothing at all, as Text gives it and in a third of its time;
 // nothing for an element that holds more.
@@ -19,4 +19,4 @@ bool IsTheSameInAnElement(std::wstring_view text);
 // The text that MSXML gives of an element with this markup alone in it; nothing for a markup that MSXML does not parse.
 std::optional<platform::OutText> LoneText(std::wstring_view markup);
 
-}  // namespace msxml
+}  // namespace platform::msxml

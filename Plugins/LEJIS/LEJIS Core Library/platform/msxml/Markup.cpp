@@ -12,7 +12,7 @@ using Microsoft::WRL::ComPtr;
 using platform::Check;
 using platform::InText;
 
-namespace msxml {
+namespace platform::msxml {
 namespace {
 
 bool IsOfAnotherApartment(const Node& node) {
@@ -55,4 +55,4 @@ std::wstring Markup(const Document& document) {
     return markup;
 }
 
-}  // namespace msxml
+}  // namespace platform::msxml

@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace msxml {
+namespace platform::msxml {
 
 // The element as XML text that stands alone, with the declarations that it has from its ancestors.
 std::wstring Markup(const Element& element);
@@ -14,4 +14,4 @@ std::wstring Markup(const Element& element);
 // than the document. An MSXML may write characters as references.
 std::wstring Markup(const Document& document);
 
-}  // namespace msxml
+}  // namespace platform::msxml

@@ -6,10 +6,13 @@
 #include <windows.h>
 #include <wrl/client.h>
 
-namespace msxml {
+namespace platform::msxml {
 
 using Document = Microsoft::WRL::ComPtr<IXMLDOMDocument2>;
 using Element = Microsoft::WRL::ComPtr<IXMLDOMElement>;
 using Node = Microsoft::WRL::ComPtr<IXMLDOMNode>;
 
-}  // namespace msxml
+}  // namespace platform::msxml
+
+// As the rooms above the platform call it.
+namespace msxml = platform::msxml;

@@ -13,7 +13,7 @@ using Microsoft::WRL::ComPtr;
 using platform::Check;
 using platform::InText;
 
-namespace msxml {
+namespace platform::msxml {
 namespace {
 
 using TextGetter = HRESULT (STDMETHODCALLTYPE IXMLDOMNode::*)(BSTR*);
@@ -173,4 +173,4 @@ void RequireBoundedDepth(const Node& node) {
     if (IsTooDeep(node)) RaiseTooDeep();
 }
 
-}  // namespace msxml
+}  // namespace platform::msxml

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-namespace msxml {
+namespace platform::msxml {
 
 // A new, unattached element; `qualifiedName` is written as it stands.
 Element CreateElement(const Document& document, std::wstring_view qualifiedName, std::wstring_view namespaceUri);
@@ -68,4 +68,4 @@ inline constexpr int kMaximumDepth = 260;
 // Throws when elements are nested kMaximumDepth levels deep in the node, or deeper.
 void RequireBoundedDepth(const Node& node);
 
-}  // namespace msxml
+}  // namespace platform::msxml

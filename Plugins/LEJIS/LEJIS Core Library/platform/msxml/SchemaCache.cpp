@@ -12,7 +12,7 @@ using Microsoft::WRL::ComPtr;
 using platform::Check;
 using platform::ToBstr;
 
-namespace msxml {
+namespace platform::msxml {
 namespace {
 
 // Validation reports this for an element without a known schema.
@@ -67,4 +67,4 @@ bool SchemaCache::Contains(const std::wstring& namespaceUri) const {
     return false;
 }
 
-}  // namespace msxml
+}  // namespace platform::msxml

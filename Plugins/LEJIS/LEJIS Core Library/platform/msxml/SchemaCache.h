@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-namespace msxml {
+namespace platform::msxml {
 
 class SchemaCache {
 public:
@@ -26,4 +26,4 @@ private:
     Microsoft::WRL::ComPtr<IXMLDOMSchemaCollection2> schemas_;
 };
 
-}  // namespace msxml
+}  // namespace platform::msxml
