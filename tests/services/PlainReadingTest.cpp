@@ -52,6 +52,10 @@ Script Whole(const std::wstring& text) { return {.responseText = text}; }
 
 const std::wstring kEnvelope = L"<soap:Envelope xmlns:soap='http://schemas.xmlsoap.org/soap/envelope/'>";
 const std::wstring kResponse = L"<l:LEJISIndexInquiryResponse xmlns:l='http://lejis.example/lejis/jxdm/1.0/service'/>";
+// Its event is another one.
+const std::wstring kOtherResponse =
+    L"<l:LEJISIndexInquiryResponse xmlns:l='http://lejis.example/lejis/jxdm/1.0/service'>"
+    L"<l:incidentcount>5</l:incidentcount></l:LEJISIndexInquiryResponse>";
 
 const Row kRows[] = {
     {"Answer", Whole(kAnswer), true},
@@ -97,6 +101,14 @@ const Row kRows[] = {
     {"Doctype", Whole(L"<!DOCTYPE x>" + kAnswer), false},
     {"HeaderBefore",
      Whole(kEnvelope + L"<soap:Header><x/></soap:Header><soap:Body>" + kResponse + L"</soap:Body></soap:Envelope>"),
+     true},
+    {"AnotherResponseInTheHeader",
+     Whole(kEnvelope + L"<soap:Header>" + kOtherResponse + L"</soap:Header><soap:Body>" + kResponse +
+           L"</soap:Body></soap:Envelope>"),
+     true},
+    {"BodyOfAnotherNamespaceBefore",
+     Whole(kEnvelope + L"<x:Body xmlns:x='urn:x'>" + kOtherResponse + L"</x:Body><soap:Body>" + kResponse +
+           L"</soap:Body></soap:Envelope>"),
      true},
     {"ElementsAfter",
      Whole(kEnvelope + L"<soap:Body>" + kResponse + L"<x/></soap:Body><soap:Body/><y/></soap:Envelope>"), true},
