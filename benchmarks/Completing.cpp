@@ -47,6 +47,20 @@ std::vector<Figure> Completing() {
     return figures;
 }
 
+std::vector<Figure> CompletingBlanks() {
+    const std::wstring text = LargeAnswerText(1000);
+    CompletedSearch one(LargeAnswer(1000, 1));
+    CompletedSearch eight(LargeAnswer(1000, 8));
+    CompletedSearch nine(LargeAnswer(1000, 9));
+    const std::vector<Series> series = Measure({
+        {"loadXML of its text", [&] { msxml::LoadXml(msxml::CreateDocument(), text); }},
+        {"1,000 incidents, a text of each with a blank at its end", [&] { one.Complete(); }},
+        {"1,000 incidents, eight such texts in each", [&] { eight.Complete(); }},
+        {"1,000 incidents, nine such texts in each", [&] { nine.Complete(); }},
+    });
+    return {Ratio(series[1], series[0], {}), Ratio(series[2], series[0], {}), Ratio(series[3], series[0], {})};
+}
+
 std::vector<Figure> CompletingMore() {
     CompletedSearch one(LargeAnswer(1000));
     CompletedSearch four(LargeAnswer(4000));

@@ -31,11 +31,21 @@ std::string Ascii(const std::wstring& text) {
     return ascii;
 }
 
+// Puts a blank to the end of the first texts.
+std::string WithBlanks(std::string card, int texts) {
+    for (size_t end = card.find("</"); texts > 0; end = card.find("</", end + 2)) {
+        if (card.at(end - 1) == '>') continue;
+        card.insert(end++, 1, ' ');
+        --texts;
+    }
+    return card;
+}
+
 }  // namespace
 
-std::string LargeAnswer(int incidents) {
+std::string LargeAnswer(int incidents, int textsWithBlank) {
     const msxml::Document document = msxml::CreateDocument();
-    const std::string card = Ascii(Compact(msxml::Xml(TypicalIncident()->Write(document))));
+    const std::string card = WithBlanks(Ascii(Compact(msxml::Xml(TypicalIncident()->Write(document)))), textsWithBlank);
     const std::string begin =
         Ascii(L"<soap:Envelope" + Declarations() + L"><soap:Body><lejis:LEJISIndexInquiryResponse>");
     const std::string end = "<lejis:incidentcount>" + std::to_string(incidents) +

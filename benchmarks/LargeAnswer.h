@@ -7,7 +7,8 @@
 namespace benchmarks {
 
 // An answer to a search with this many typical incidents, as a server sends it, and the same as text.
-std::string LargeAnswer(int incidents);
+// In each incident this many texts end with a blank.
+std::string LargeAnswer(int incidents, int textsWithBlank = 0);
 std::wstring LargeAnswerText(int incidents);
 msxml::Document LoadedAnswer(int incidents);
 

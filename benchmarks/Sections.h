@@ -10,6 +10,7 @@ namespace benchmarks {
 std::vector<Figure> Reading();
 std::vector<Figure> ReadingMore();
 std::vector<Figure> Completing();
+std::vector<Figure> CompletingBlanks();
 std::vector<Figure> CompletingMore();
 std::vector<Figure> PeakMemory();
 std::vector<Figure> WalkingCards();

@@ -24,12 +24,19 @@ struct Section {
 };
 
 constexpr Section kSections[] = {
-    {"reading", Reading},          {"reading-more", ReadingMore},
-    {"completing", Completing},    {"completing-more", CompletingMore},
-    {"peak-memory", PeakMemory},   {"walking", WalkingCards},
-    {"held-bytes", HeldBytes},     {"submission", Submission},
-    {"many-persons", ManyPersons}, {"ncic-lookup", NcicLookup},
-    {"waiting", Waiting},          {"first-object", FirstObject},
+    {"reading", Reading},
+    {"reading-more", ReadingMore},
+    {"completing", Completing},
+    {"completing-more", CompletingMore},
+    {"completing-blanks", CompletingBlanks},
+    {"peak-memory", PeakMemory},
+    {"walking", WalkingCards},
+    {"held-bytes", HeldBytes},
+    {"submission", Submission},
+    {"many-persons", ManyPersons},
+    {"ncic-lookup", NcicLookup},
+    {"waiting", Waiting},
+    {"first-object", FirstObject},
 };
 
 struct Arguments {
