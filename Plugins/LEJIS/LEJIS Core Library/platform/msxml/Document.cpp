@@ -10,9 +10,6 @@
 #include <mutex>
 
 using Microsoft::WRL::ComPtr;
-using platform::Check;
-using platform::InText;
-using platform::ToBstr;
 
 namespace platform::msxml {
 namespace {

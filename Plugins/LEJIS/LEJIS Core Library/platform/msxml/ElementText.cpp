@@ -5,8 +5,6 @@
 #include "platform/msxml/Node.h"
 #include "platform/Text.h"
 
-using platform::Check;
-
 namespace platform::msxml {
 
 bool IsTheSameInAnElement(std::wstring_view text) {

@@ -10,8 +10,6 @@
 #include <vector>
 
 using Microsoft::WRL::ComPtr;
-using platform::Check;
-using platform::InText;
 
 namespace platform::msxml {
 namespace {

@@ -9,8 +9,6 @@
 #include <comutil.h>
 
 using Microsoft::WRL::ComPtr;
-using platform::Check;
-using platform::ToBstr;
 
 namespace platform::msxml {
 namespace {
