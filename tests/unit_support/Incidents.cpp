@@ -4,8 +4,6 @@
 #include "support/ComCheck.h"
 #include "support/Xml.h"
 
-using Microsoft::WRL::ComPtr;
-
 namespace support {
 
 platform::Ref<lejis::LejisIncidentIndexCard> CleanIncident() {

@@ -1,4 +1,4 @@
-// LEJIS_PLAIN_READING=off in the switchOfTheRun runs all tests with answers that are read from MSXML's documents.
+// LEJIS_PLAIN_READING=off in the environment runs all tests with answers that are read from MSXML's documents.
 #include "unit_support/PlainReadingSwitch.h"
 
 #include <gtest/gtest.h>
