@@ -5,14 +5,14 @@
 # that have used HTTP dies of SIGSEGV at its very end, when Wine stops a thread of its own that is just starting. Only
 # the Windows side then knows the code with which the program had ended before.
 set -uo pipefail
-launcher=$(dirname "${BASH_SOURCE[0]}")/../build/launch.exe
+launcher=${BASH_SOURCE[0]%/*}/../build/launch.exe
 program=$1
 [[ $program != /* ]] || program=Z:${program//\//\\}
 
 # On a busy machine Wine fails at times to start a program. The launcher removes the mark first, so that nothing is
 # ever run twice.
 mark=$(mktemp)
-trap 'rm -f "$mark"' EXIT
+trap '[[ ! -e $mark ]] || rm -f "$mark"' EXIT
 for tries in 1 2 3; do
   code=0
   LAUNCHED=Z:${mark//\//\\} wine "$launcher" "$program" "${@:2}" || code=$?
