@@ -21,13 +21,14 @@ MSIEXEC = "msiexec" if wine_version.major() >= 10 else r"C:\windows\syswow64\msi
 
 # What Wine keeps for itself. The installer's empty folders and keys stay after the first product that was installed.
 # Wine finds its devices little by little, and gives them the time of the last start. The first use of the web leaves a
-# cache and settings.
+# cache and settings. The first 32-bit program that draws leaves a key for its fonts.
 KEPT_BY_WINE = re.compile(
     r"""system\.reg\ \[Software\\\\Classes\\\\Installer\\\\(Features|Products|UpgradeCodes)\]$
       | system\.reg\ \[Software\\\\Microsoft\\\\Windows\\\\CurrentVersion\\\\Installer\\\\
             (UpgradeCodes|UserData\\\\S-1-5-18\\\\(Components|Products))\]$
       | system\.reg\ \[System\\\\CurrentControlSet\\\\(Control\\\\(Class|DeviceClasses)|Enum)\\\\
       | system\.reg\ \[Software\\\\Microsoft\\\\Windows\ NT\\\\CurrentVersion\\\\NetworkCards\]$
+      | system\.reg\ \[Software\\\\Wow6432Node\\\\Microsoft\\\\Windows\\\\CurrentVersion\\\\Fonts\]$
       | disk\ windows/Installer$
       | disk\ users/[^/]+/(Temp|AppData/Local/Temp)(/|$)
       | disk\ users/[^/]+/AppData/Local/Microsoft/Windows/INet(Cache|Cookies)/
