@@ -6,9 +6,9 @@ set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/../../tools/shell-support.sh"
 
 export LEJIS_EXE=$project/build/$1/bin/lejis.exe
-# The browser must leave no trace in the user's home.
+# The browser must leave no trace, in the user's home or beside it.
 HOME=$(mktemp -d)
-export HOME
+export HOME TMPDIR=$HOME
 
 # shellcheck disable=SC2317  # clean_up_with calls it
 remove_home() { rm -rf "$HOME"; }
