@@ -117,7 +117,7 @@ run "$project/build.sh" "$selection" "${targets[@]}"
 [[ $is_whole == no ]] || run "$project/package.sh" --kit "$selection"
 
 architectures=$(tested_architectures)
-make_launcher
+make_wine_programs
 for architecture in $architectures; do
   start_lane "$architecture" "$project/tests/suite/architecture.sh" "$architecture"
 done

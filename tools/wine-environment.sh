@@ -45,23 +45,32 @@ windows_programs() {
 # run_program PROGRAM [ARGUMENT...]: a program that ends soon.
 run_program() { run timeout --kill-after=10 60 "$project/tools/wine-program.sh" "$@"; }
 
-# What wine-program.sh starts. Programs of both bitnesses can be started by one of 64 bits.
-make_launcher() {
-  local source=$project/tools/launch.cpp launcher=$project/build/launch.exe
-  [[ $launcher -nt $source ]] && return
+# Programs of 64 bits can start those of both bitnesses.
+make_wine_program() {
+  local source=$project/tools/$1.cpp program=$project/build/$1.exe
+  [[ $program -nt $source ]] && return
   run x86_64-w64-mingw32-g++-posix -std=c++20 -O1 -Wall -Wextra -Werror -DUNICODE -D_UNICODE -static -s \
-    -o "$launcher.new" "$source" || fail "$source cannot be built"
-  mv "$launcher.new" "$launcher"
+    -o "$program.new" "$source" || fail "$source cannot be built"
+  mv "$program.new" "$program"
+}
+
+# What start_wine and wine-program.sh start.
+make_wine_programs() {
+  make_wine_program launch
+  make_wine_program hold-desktop
 }
 
 # Needs the lock: a server that still runs here was left by a script that was killed.
 start_wine() {
-  make_launcher
+  make_wine_programs
   stop_wine
   is_finished "$WINEPREFIX" || make_prefix
   # Without this the first program starts the server and its services, which keep that program's output open.
   wineserver --persistent </dev/null >/dev/null 2>&1 9>&- || fail "Wine's server does not start"
   run timeout --kill-after=10 60 wine cmd /c exit >/dev/null 2>&1 || fail "Wine runs no program"
+  # Ends with the server.
+  wine "$project/build/hold-desktop.exe" </dev/null >/dev/null 2>&1 8>&- 9>&- &
+  disown
 }
 
 # Ends every Wine process of this prefix and of no other.
