@@ -1,8 +1,8 @@
 #!/bin/bash
 # test.sh [x86|x64|all] [--filter PATTERN] [--clients] [--require-x86] [--require-browser] [--require-clients]
-# Builds everything and runs the tests under Wine, in lanes side by side (tests/suite): one for each architecture, one for
-# the tools and the packages, which are made first. The guides and the demonstration, which are scripts of their own, come
-# last.
+# Builds everything and runs the tests under Wine, in lanes side by side (tests/suite): for each architecture one of the
+# library and one of the programs that use it; one for the tools and the packages, which are made first; one for the kit,
+# the guides and the demonstration. Clients in many apartments come before the others.
 # PATTERN is GoogleTest's, such as "Vehicle*:-*Slow*"; scripts are chosen by their file names likewise, and the tests of
 # the tools, of the samples and of the guides are left out. Only what such tests need is built then.
 # --clients: also clients in C# and Free Pascal, whose languages are fetched: 300 MB, once.
@@ -18,6 +18,8 @@ source "$project/tools/wine-environment.sh"
 selection=all
 setup_options=()
 export LEJIS_TEST_RESULTS=$project/build/test-results LEJIS_TEST_FILTER='' LEJIS_TEST_CLIENTS=no
+LEJIS_TEST_PROCESSORS=$(/usr/bin/python3 -c 'import os; print(*sorted(os.sched_getaffinity(0)), sep=",")')
+export LEJIS_TEST_PROCESSORS
 
 read_arguments() {
   while (($#)); do
@@ -57,10 +59,19 @@ report() { run /usr/bin/python3 "$project/tests/support/test_report.py" "$@"; }
 
 # By the process.
 declare -A lanes=()
+IFS=, read -ra processors <<<"$LEJIS_TEST_PROCESSORS"
 # start_lane NAME COMMAND...
 start_lane() {
-  "${@:2}" </dev/null 9>&- &
+  LEJIS_TEST_PROCESSOR=${processors[${#lanes[@]} % ${#processors[@]}]} "${@:2}" </dev/null 9>&- &
   lanes[$!]=$1
+}
+
+# start_lanes SCRIPT: one lane for each architecture.
+start_lanes() {
+  local architecture
+  for architecture in $architectures; do
+    start_lane "$architecture $1" "$project/tests/suite/$1.sh" "$architecture"
+  done
 }
 
 # shellcheck disable=SC2317  # clean_up_with calls it
@@ -77,14 +88,6 @@ await_lanes() {
     wait "$lane" || report broke-off "$LEJIS_TEST_RESULTS" "${lanes[$lane]}"
   done
   lanes=()
-}
-
-run_guides() {
-  if [[ $selection != x64 ]] && wine_runs x86; then
-    run "$project/tests/suite/guides.sh"
-  else
-    say "The guides were not tested: they are for the 32-bit library"
-  fi
 }
 
 # What clients of which language did, and which languages were not there.
@@ -118,14 +121,23 @@ run "$project/build.sh" "$selection" "${targets[@]}"
 
 architectures=$(tested_architectures)
 make_wine_programs
-for architecture in $architectures; do
-  start_lane "$architecture" "$project/tests/suite/architecture.sh" "$architecture"
-done
-# shellcheck disable=SC2086  # one argument each
-[[ $is_whole == no ]] || start_lane tools "$project/tests/suite/tools.sh" $architectures
-await_lanes
-if [[ $is_whole == yes ]]; then
-  run_guides
-  say_clients
+if [[ $selection != coverage ]]; then
+  start_lanes apartments
+  # With a filter the lanes are not busy.
+  [[ -n $LEJIS_TEST_FILTER ]] || await_lanes
 fi
+start_lanes library
+if [[ -z $LEJIS_TEST_FILTER ]]; then
+  # Two programs that write the same counters lose some.
+  [[ $selection != coverage ]] || await_lanes
+  start_lanes programs
+fi
+if [[ $is_whole == yes ]]; then
+  # shellcheck disable=SC2086  # one argument each
+  start_lane tools "$project/tests/suite/tools.sh" $architectures
+  # shellcheck disable=SC2086
+  start_lane "kit and guides" "$project/tests/suite/kit-and-guides.sh" $architectures
+fi
+await_lanes
+[[ $is_whole == no ]] || say_clients
 report summary "$LEJIS_TEST_RESULTS"

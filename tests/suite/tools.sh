@@ -4,6 +4,7 @@
 set -euo pipefail
 # shellcheck source=tools/shell-support.sh
 source "$(dirname "${BASH_SOURCE[0]}")/../../tools/shell-support.sh"
+export WINE_LANE=tools
 # shellcheck source=tools/wine-environment.sh
 source "$project/tools/wine-environment.sh"
 # shellcheck source=tests/suite/record.sh
@@ -21,7 +22,7 @@ run_python() {
 # In a browser, with submissions from the library of this architecture.
 run_page() {
   if has_browser; then
-    run_tests - tools unittest simulator_page "$simulator" "$project/tests/simulator_page/run.sh" "$1"
+    run_tests - tools unittest simulator_page "${on_all_processors[@]}" "$simulator" "$project/tests/simulator_page/run.sh" "$1"
   else
     say "The simulator's page was not tested: Chromium is not there"
   fi
@@ -29,11 +30,10 @@ run_page() {
 
 started=$SECONDS
 clean_up_with stop_wine
+stay_on_own_processor
 start_wine
 register_dll "$1"
 run_python
 run_page "$1"
 run_tests - packages unittest packages "$simulator" "$project/tests/packages/run.sh" "$@"
-# It runs what the lanes of all architectures do.
-time_limit=1800 run_tests - kit unittest kit "$simulator" "$project/tests/packages/run.sh" --kit "$@"
 say "tools and packages tested in $((SECONDS - started)) s"
