@@ -20,8 +20,9 @@ class TextField:
             first -= 1
             begin += int(first["length_"])
         block = first.reinterpret_cast(gdb.lookup_type("platform::TextBlock").pointer()) - 1
-        character = gdb.lookup_type("wchar_t")
-        # A unique_ptr is its pointer.
+        # A unique_ptr is its pointer. In a program for Windows, a gdb of Linux takes "wchar_t" for its own, which has
+        # four bytes.
+        character = block["characters_"].type.template_argument(0).target()
         characters = block["characters_"].address.reinterpret_cast(character.pointer().pointer()).dereference()
         length = int(self.field["length_"])
         if length == 0:
