@@ -22,7 +22,8 @@ run_python() {
 # In a browser, with submissions from the library of this architecture.
 run_page() {
   if has_browser; then
-    run_tests - tools unittest simulator_page "${on_all_processors[@]}" "$simulator" "$project/tests/simulator_page/run.sh" "$1"
+    run_tests - tools unittest simulator_page "${on_all_processors[@]}" "$simulator" \
+      "$project/tests/simulator_page/run.sh" "$1"
   else
     say "The simulator's page was not tested: Chromium is not there"
   fi
