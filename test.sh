@@ -57,7 +57,7 @@ tested_architectures() {
 
 report() { run /usr/bin/python3 "$project/tests/support/test_report.py" "$@"; }
 
-# By the process.
+# The names of the running lanes, by process number.
 declare -A lanes=()
 IFS=, read -ra processors <<<"$LEJIS_TEST_PROCESSORS"
 # start_lane NAME COMMAND...

@@ -13,7 +13,7 @@ public:
     PeakSampler(const PeakSampler&) = delete;
     PeakSampler& operator=(const PeakSampler&) = delete;
 
-    // Ends the looking. The bytes that the process held at most, above those at the beginning.
+    // Stops sampling. Returns the most bytes that the process held above those at the beginning.
     double BytesAbove();
 
 private:

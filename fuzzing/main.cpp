@@ -60,7 +60,7 @@ std::optional<Options> Parse(int count, char** arguments) {
     return options;
 }
 
-// Texts would be kept for reuse, where no overrun is seen.
+// Turns off the cache of BSTRs, because the heap check sees no overrun of a cached text.
 void KeepNoTexts() {
     const auto keepNone = reinterpret_cast<void(STDMETHODCALLTYPE*)()>(
         reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"oleaut32.dll"), "SetOaNoCache")));

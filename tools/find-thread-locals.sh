@@ -2,8 +2,7 @@
 # find-thread-locals.sh FILE...
 # Prints where C++ sources have a thread_local, and ends with code 1 when one does. Comments do not count.
 # The compiler's run-time library frees the memory of a thread's objects before it destroys them, and holds the DLL
-# until the thread has left. Whether an object has a destructor is not to be seen in its line, so there is to be no
-# thread_local.
+# until the thread has left. A line does not show whether an object has a destructor, so every thread_local is refused.
 set -euo pipefail
 code=0
 grep --with-filename --line-number --extended-regexp '^([^/]|/[^/*])*\b(thread_local|__thread)\b' -- "$@" || code=$?

@@ -65,7 +65,7 @@ VARIANT DemandedObject(const Parameter& parameter, Values& values, ComPtr<IUnkno
     } else if (FAILED(object->QueryInterface(parameter.object, reinterpret_cast<void**>(kept.GetAddressOf())))) {
         return value;
     }
-    // An interface of its own, of which no one knows here what derives from what.
+    // The pointer is to the demanded interface. Its base interfaces are not known here, so it is stored as it is.
     V_BYREF(&value) = kept.Get();
     return value;
 }
@@ -76,16 +76,16 @@ std::wstring CallText(const wchar_t* road, const std::wstring& name, const std::
 
 }  // namespace
 
-void PardonConversions(HRESULT outcome, const EXCEPINFO& exception, std::span<const VARIANT> arguments, Case& one) {
+void PardonConversions(HRESULT outcome, const EXCEPINFO& exception, std::span<const VARIANT> arguments, Case& input) {
     // The library raises the type mismatch for an object that the dispatcher has refused.
     const bool isRefused = outcome == DISP_E_EXCEPTION ? exception.scode == DISP_E_TYPEMISMATCH : FAILED(outcome);
     if (!isRefused) return;
     const bool isReference =
         std::ranges::any_of(arguments, [](const VARIANT& value) { return (V_VT(&value) & VT_BYREF) != 0; });
-    if (isReference || arguments.size() > 1) one.PardonLeaks();
+    if (isReference || arguments.size() > 1) input.PardonLeaks();
 }
 
-ComPtr<IUnknown> CallDirectly(IUnknown* object, const PublicInterface& itsInterface, const Member& member, Case& one,
+ComPtr<IUnknown> CallDirectly(IUnknown* object, const PublicInterface& itsInterface, const Member& member, Case& input,
                               Values& values) {
     ComPtr<IUnknown> table;
     if (FAILED(object->QueryInterface(itsInterface.id, reinterpret_cast<void**>(table.GetAddressOf())))) return nullptr;
@@ -95,7 +95,7 @@ ComPtr<IUnknown> CallDirectly(IUnknown* object, const PublicInterface& itsInterf
     std::array<VARTYPE, kMostParameters> types{};
     const auto count = static_cast<UINT>(member.parameters.size());
     ResultPlace result(count > 0 && member.parameters.back().isResult ? member.parameters.back().type : VARTYPE{VT_I4});
-    const bool nowhere = one.OneIn(40);
+    const bool nowhere = input.OneIn(40);
     for (UINT index = 0; index < count; ++index) {
         const Parameter& parameter = member.parameters[index];
         types[index] = parameter.isResult ? VARTYPE{VT_PTR} : parameter.type;
@@ -107,55 +107,55 @@ ComPtr<IUnknown> CallDirectly(IUnknown* object, const PublicInterface& itsInterf
             arguments[index] = values.OfType(parameter.type);
         }
         pointers[index] = &arguments[index];
-        one.Trace([&] { return L"  argument " + Described(arguments[index]); });
+        input.Trace([&] { return L"  argument " + Described(arguments[index]); });
     }
     const std::wstring call = CallText(L"directly", itsInterface.name, member.name);
-    one.Trace([&] { return call; });
+    input.Trace([&] { return call; });
     VARIANT outcome{};
     BeforeCall();
     platform::Check(DispCallFunc(table.Get(), member.vtableOffset, CC_STDCALL, VT_ERROR, count, types.data(),
                                  pointers.data(), &outcome));
-    AfterCall(Road::kMember, V_ERROR(&outcome), call);
+    AfterCall(CallKind::kMember, V_ERROR(&outcome), call);
     if (FAILED(V_ERROR(&outcome)) && result.IsOwned()) {
         throw Finding{"a failure that comes with a result, from " + std::string(call.begin(), call.end())};
     }
     return result.Object();
 }
 
-ComPtr<IUnknown> CallByInvoke(IDispatch* object, const Member& member, Case& one, Values& values) {
+ComPtr<IUnknown> CallByInvoke(IDispatch* object, const Member& member, Case& input, Values& values) {
     std::array<VARIANT, kMostParameters> arguments{};
     UINT count = 0;
     for (size_t index = member.parameters.size(); index > 0; --index) {
         const Parameter& parameter = member.parameters[index - 1];
         if (parameter.isResult) continue;
         // Every second argument has the demanded type.
-        arguments[count] = one.OneIn(2) ? values.OfType(parameter.type) : values.AnyToDispatch();
-        one.Trace([&] { return L"  argument " + Described(arguments[count]); });
+        arguments[count] = input.OneIn(2) ? values.OfType(parameter.type) : values.AnyToDispatch();
+        input.Trace([&] { return L"  argument " + Described(arguments[count]); });
         ++count;
     }
     DISPID put = DISPID_PROPERTYPUT;
     const bool isPut = (member.kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
     DISPPARAMS parameters{arguments.data(), isPut ? &put : nullptr, count, isPut ? 1U : 0U};
     const std::wstring call = CallText(L"by Invoke", L"", member.name);
-    one.Trace([&] { return call; });
+    input.Trace([&] { return call; });
     ResultPlace result(VT_VARIANT);
     EXCEPINFO exception{};
     UINT wrong = 0;
     BeforeCall();
     const HRESULT outcome = object->Invoke(member.id, IID_NULL, LOCALE_USER_DEFAULT, member.kind, &parameters,
                                            static_cast<VARIANT*>(result.Address()), &exception, &wrong);
-    PardonConversions(outcome, exception, {arguments.data(), count}, one);
-    AfterCall(Road::kInvoke, outcome, call, &exception);
+    PardonConversions(outcome, exception, {arguments.data(), count}, input);
+    AfterCall(CallKind::kInvoke, outcome, call, &exception);
     return result.Object();
 }
 
-ComPtr<IUnknown> CallAny(IUnknown* object, const PublicInterface& itsInterface, const Member& member, Case& one,
+ComPtr<IUnknown> CallAny(IUnknown* object, const PublicInterface& itsInterface, const Member& member, Case& input,
                          Values& values) {
     ComPtr<IDispatch> dispatch;
-    if (one.OneIn(2) && SUCCEEDED(object->QueryInterface(IID_PPV_ARGS(dispatch.GetAddressOf())))) {
-        return CallByInvoke(dispatch.Get(), member, one, values);
+    if (input.OneIn(2) && SUCCEEDED(object->QueryInterface(IID_PPV_ARGS(dispatch.GetAddressOf())))) {
+        return CallByInvoke(dispatch.Get(), member, input, values);
     }
-    return CallDirectly(object, itsInterface, member, one, values);
+    return CallDirectly(object, itsInterface, member, input, values);
 }
 
 }  // namespace fuzzing

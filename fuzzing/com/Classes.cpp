@@ -87,7 +87,7 @@ public:
     }
 
     const PublicInterface* Find(REFIID iid) const {
-        const auto found = std::ranges::find_if(interfaces, [&](const auto& one) { return one.id == iid; });
+        const auto found = std::ranges::find_if(interfaces, [&](const auto& candidate) { return candidate.id == iid; });
         return found == interfaces.end() ? nullptr : &*found;
     }
 
@@ -138,7 +138,7 @@ const PublicClass* ClassOf(IUnknown* object) {
     if (FAILED(provider->GetClassInfo(information.GetAddressOf()))) return nullptr;
     const GUID id = TypeAttributes(information.Get())->guid;
     const auto& classes = PublicClasses();
-    const auto found = std::ranges::find_if(classes, [&](const auto& one) { return one.id == id; });
+    const auto found = std::ranges::find_if(classes, [&](const auto& candidate) { return candidate.id == id; });
     return found == classes.end() ? nullptr : &*found;
 }
 

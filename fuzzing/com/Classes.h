@@ -12,7 +12,7 @@ namespace fuzzing {
 struct Parameter {
     // The type of an argument; VT_PTR for a place that takes a result.
     VARTYPE type;
-    // Of an object that is demanded, and of one that is returned; GUID_NULL for any.
+    // The interface of an object that is demanded or returned; GUID_NULL for any.
     IID object;
     bool isResult;
 };

@@ -21,39 +21,41 @@ namespace {
 
 // The failures that need no description, each with the reason.
 struct Excuse {
-    Road road;
+    CallKind kind;
     HRESULT result;
     const char* reason;
 };
 
 constexpr Excuse kExcuses[] = {
-    {Road::kMember, E_POINTER, "no place for the result: only a mistake in a program in C++, seen when it first runs"},
+    {CallKind::kMember, E_POINTER,
+     "no place for the result: only a mistake in a program in C++, seen when it first runs"},
 
-    {Road::kInvoke, DISP_E_MEMBERNOTFOUND, "no such member, or not of this kind: IDispatch's contract"},
-    {Road::kInvoke, DISP_E_BADPARAMCOUNT, "IDispatch's contract"},
-    {Road::kInvoke, DISP_E_PARAMNOTFOUND, "a named argument that the member lacks: IDispatch's contract"},
-    {Road::kInvoke, DISP_E_PARAMNOTOPTIONAL, "IDispatch's contract"},
-    {Road::kInvoke, DISP_E_NONAMEDARGS, "IDispatch's contract"},
-    {Road::kInvoke, DISP_E_TYPEMISMATCH, "an argument that converts to no parameter: IDispatch's contract"},
-    {Road::kInvoke, DISP_E_OVERFLOW, "an argument out of its parameter's range: IDispatch's contract"},
-    {Road::kInvoke, DISP_E_BADVARTYPE, "an argument of no type: IDispatch's contract"},
-    {Road::kInvoke, DISP_E_NOTACOLLECTION, "arguments for the value of a member that has none: the dispatcher's own"},
-    {Road::kInvoke, E_INVALIDARG, "the call has no description, or an argument breaks the rules for variants"},
+    {CallKind::kInvoke, DISP_E_MEMBERNOTFOUND, "no such member, or not of this kind: IDispatch's contract"},
+    {CallKind::kInvoke, DISP_E_BADPARAMCOUNT, "IDispatch's contract"},
+    {CallKind::kInvoke, DISP_E_PARAMNOTFOUND, "a named argument that the member lacks: IDispatch's contract"},
+    {CallKind::kInvoke, DISP_E_PARAMNOTOPTIONAL, "IDispatch's contract"},
+    {CallKind::kInvoke, DISP_E_NONAMEDARGS, "IDispatch's contract"},
+    {CallKind::kInvoke, DISP_E_TYPEMISMATCH, "an argument that converts to no parameter: IDispatch's contract"},
+    {CallKind::kInvoke, DISP_E_OVERFLOW, "an argument out of its parameter's range: IDispatch's contract"},
+    {CallKind::kInvoke, DISP_E_BADVARTYPE, "an argument of no type: IDispatch's contract"},
+    {CallKind::kInvoke, DISP_E_NOTACOLLECTION,
+     "arguments for the value of a member that has none: the dispatcher's own"},
+    {CallKind::kInvoke, E_INVALIDARG, "the call has no description, or an argument breaks the rules for variants"},
 
-    {Road::kPlumbing, E_POINTER, "no place for the result"},
-    {Road::kPlumbing, E_NOINTERFACE, "QueryInterface's contract, and that of CreateInstance"},
-    {Road::kPlumbing, E_INVALIDARG, "GetIDsOfNames, GetGUID: the documented answer"},
-    {Road::kPlumbing, DISP_E_UNKNOWNNAME, "GetIDsOfNames' contract"},
-    {Road::kPlumbing, DISP_E_BADINDEX, "GetTypeInfo's contract"},
-    {Road::kPlumbing, CLASS_E_NOAGGREGATION, "CreateInstance's contract"},
-    {Road::kPlumbing, CLASS_E_CLASSNOTAVAILABLE, "DllGetClassObject's contract"},
-    {Road::kPlumbing, CONNECT_E_NOCONNECTION, "Unadvise's and FindConnectionPoint's contract"},
-    {Road::kPlumbing, CONNECT_E_CANNOTCONNECT, "Advise's contract"},
+    {CallKind::kComInterface, E_POINTER, "no place for the result"},
+    {CallKind::kComInterface, E_NOINTERFACE, "QueryInterface's contract, and that of CreateInstance"},
+    {CallKind::kComInterface, E_INVALIDARG, "GetIDsOfNames, GetGUID: the documented answer"},
+    {CallKind::kComInterface, DISP_E_UNKNOWNNAME, "GetIDsOfNames' contract"},
+    {CallKind::kComInterface, DISP_E_BADINDEX, "GetTypeInfo's contract"},
+    {CallKind::kComInterface, CLASS_E_NOAGGREGATION, "CreateInstance's contract"},
+    {CallKind::kComInterface, CLASS_E_CLASSNOTAVAILABLE, "DllGetClassObject's contract"},
+    {CallKind::kComInterface, CONNECT_E_NOCONNECTION, "Unadvise's and FindConnectionPoint's contract"},
+    {CallKind::kComInterface, CONNECT_E_CANNOTCONNECT, "Advise's contract"},
 };
 
-bool IsExcused(Road road, HRESULT result) {
+bool IsExcused(CallKind kind, HRESULT result) {
     return std::any_of(std::begin(kExcuses), std::end(kExcuses),
-                       [&](const Excuse& excuse) { return excuse.road == road && excuse.result == result; });
+                       [&](const Excuse& excuse) { return excuse.kind == kind && excuse.result == result; });
 }
 
 // A refusal (status 403) and a fault are told in the server's own words, and some servers have none.
@@ -98,7 +100,7 @@ void BeforeCall() {
     SetErrorInfo(0, stale.Get());
 }
 
-void AfterCall(Road road, HRESULT result, const std::wstring& call, EXCEPINFO* exception) {
+void AfterCall(CallKind kind, HRESULT result, const std::wstring& call, EXCEPINFO* exception) {
     std::optional<std::wstring> description;
     HRESULT failure = result;
     if (exception && result == DISP_E_EXCEPTION) {
@@ -108,7 +110,7 @@ void AfterCall(Road road, HRESULT result, const std::wstring& call, EXCEPINFO* e
         description = ThreadsDescription();
     }
     SetErrorInfo(0, nullptr);
-    if (SUCCEEDED(result) || IsExcused(road, result)) return;
+    if (SUCCEEDED(result) || IsExcused(kind, result)) return;
     if (!description || (description->empty() && !MayBeWordless(failure))) {
         Raise("error without a description:", failure, call);
     }

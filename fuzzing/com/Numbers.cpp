@@ -74,24 +74,24 @@ constexpr double kDoubles[] = {
 
 }  // namespace
 
-int64_t AnyInteger(Case& one) {
-    if (!one.OneIn(4)) return one.Pick(kIntegers);
-    const int64_t high = one.Bits();
-    return static_cast<int64_t>(static_cast<uint64_t>(high) << 32 | one.Bits());
+int64_t AnyInteger(Case& input) {
+    if (!input.OneIn(4)) return input.Pick(kIntegers);
+    const int64_t high = input.Bits();
+    return static_cast<int64_t>(static_cast<uint64_t>(high) << 32 | input.Bits());
 }
 
-double AnyDouble(Case& one) {
-    switch (one.Below(6)) {
+double AnyDouble(Case& input) {
+    switch (input.Below(6)) {
         case 4:
-            return static_cast<double>(AnyInteger(one));
+            return static_cast<double>(AnyInteger(input));
         case 5: {
-            const int64_t bits = AnyInteger(one);
+            const int64_t bits = AnyInteger(input);
             double number;
             std::memcpy(&number, &bits, sizeof number);
             return number;
         }
         default:
-            return one.Pick(kDoubles);
+            return input.Pick(kDoubles);
     }
 }
 

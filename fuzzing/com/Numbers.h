@@ -5,8 +5,8 @@
 
 namespace fuzzing {
 
-int64_t AnyInteger(Case& one);
+int64_t AnyInteger(Case& input);
 // Infinite, subnormal and no numbers among them, and days at the edges of the calendar.
-double AnyDouble(Case& one);
+double AnyDouble(Case& input);
 
 }  // namespace fuzzing

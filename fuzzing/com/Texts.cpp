@@ -60,24 +60,25 @@ const std::wstring kTexts[] = {
 
 constexpr size_t kLengths[] = {1, 5, 9, 10, 28, 29, 30, 31, 45, 46, 75, 76, 200, 201, 255, 256, 4096, 20000};
 
-std::wstring AnyCharacters(Case& one) {
-    std::wstring text(one.Below(12), L'x');
-    for (wchar_t& character : text) character = static_cast<wchar_t>(one.OneIn(3) ? one.Bits() : ' ' + one.Below(95));
+std::wstring AnyCharacters(Case& input) {
+    std::wstring text(input.Below(12), L'x');
+    for (wchar_t& character : text)
+        character = static_cast<wchar_t>(input.OneIn(3) ? input.Bits() : ' ' + input.Below(95));
     return text;
 }
 
 }  // namespace
 
-std::wstring AnyText(Case& one) {
-    switch (one.Below(8)) {
+std::wstring AnyText(Case& input) {
+    switch (input.Below(8)) {
         case 6:
-            return std::wstring(one.Pick(kLengths), static_cast<wchar_t>('A' + one.Below(26)));
+            return std::wstring(input.Pick(kLengths), static_cast<wchar_t>('A' + input.Below(26)));
         case 7:
-            return AnyCharacters(one);
+            return AnyCharacters(input);
         case 5:
-            return one.Pick(kTexts) + one.Pick(kTexts);
+            return input.Pick(kTexts) + input.Pick(kTexts);
         default:
-            return one.Pick(kTexts);
+            return input.Pick(kTexts);
     }
 }
 

@@ -8,6 +8,6 @@
 namespace fuzzing {
 
 // From empty to long: numbers, dates, markup, control characters, halves of pairs, names of members.
-std::wstring AnyText(Case& one);
+std::wstring AnyText(Case& input);
 
 }  // namespace fuzzing

@@ -159,7 +159,7 @@ SAFEARRAY* Values::NewArray(VARTYPE type) {
     if (!array) return nullptr;
     arrays_.push_back(array);
     Fill(array, type);
-    // An array that somebody holds fast, or whose memory is not its own.
+    // The flag marks an array that must not be resized.
     if (case_.OneIn(10)) array->fFeatures |= FADF_FIXEDSIZE;
     return array;
 }

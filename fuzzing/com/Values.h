@@ -21,7 +21,7 @@ public:
     using ObjectMaker = std::function<Microsoft::WRL::ComPtr<IUnknown>()>;
 
     // `makeObject` gives the objects that values hold, null among them.
-    Values(Case& one, ObjectMaker makeObject) : case_(one), makeObject_(std::move(makeObject)) {}
+    Values(Case& input, ObjectMaker makeObject) : case_(input), makeObject_(std::move(makeObject)) {}
     ~Values();
     Values(const Values&) = delete;
     Values& operator=(const Values&) = delete;

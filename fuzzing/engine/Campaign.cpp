@@ -43,10 +43,10 @@ std::string Names() {
 }
 
 // Runs `target` on the case and says what is wrong with that, if anything.
-std::optional<std::string> FaultOf(Target& target, Case& one) {
+std::optional<std::string> FaultOf(Target& target, Case& input) {
     const long living = LivingObjects();
     try {
-        target.Run(one);
+        target.Run(input);
     } catch (const Finding& finding) {
         return finding.what;
     } catch (const platform::ComError& error) {
@@ -56,7 +56,7 @@ std::optional<std::string> FaultOf(Target& target, Case& one) {
         return std::string("an exception came out: ") + error.what();
     }
     const long left = LivingObjects() - living;
-    if (left == 0 || one.AreLeaksPardoned()) return std::nullopt;
+    if (left == 0 || input.AreLeaksPardoned()) return std::nullopt;
     return "leak: " + std::to_string(left) + " objects of the library are left alive, these among them:" + Names();
 }
 
@@ -94,9 +94,9 @@ int Campaign::Run() {
 
 int Campaign::Replay() {
     const std::vector<uint32_t> choices = ReadCaseFile(options_.replay).choices;
-    Case one(choices);
-    one.SetTraced();
-    if (!RunAlone(one, choices)) return kFound;
+    Case input(choices);
+    input.SetTraced();
+    if (!RunAlone(input, choices)) return kFound;
     std::puts("no finding");
     return kNoFinding;
 }
@@ -105,8 +105,8 @@ int Campaign::Replay() {
 bool Campaign::RunCorpus() {
     for (const std::string& file : CaseFilesIn(options_.corpus + "/" + options_.target)) {
         const std::vector<uint32_t> choices = ReadCaseFile(file).choices;
-        Case one(choices);
-        if (!RunAlone(one, choices)) {
+        Case input(choices);
+        if (!RunAlone(input, choices)) {
             std::printf("  this was %s\n", file.c_str());
             return false;
         }
@@ -115,28 +115,28 @@ bool Campaign::RunCorpus() {
 }
 
 // A case that was recorded, looked at in every way.
-bool Campaign::RunAlone(Case& one, const std::vector<uint32_t>& choices) {
-    if (!RunCase(one, kNoIndex)) return false;
+bool Campaign::RunAlone(Case& input, const std::vector<uint32_t>& choices) {
+    if (!RunCase(input, kNoIndex)) return false;
     if (!HeapIsSound()) {
-        Report(one, kNoIndex, kOverrun);
+        Report(input, kNoIndex, kOverrun);
         return false;
     }
-    if (one.AreLeaksPardoned() || !GrowsAgain([&] { return Case(choices); }, kNoIndex)) return true;
-    Report(one, kNoIndex, kMemoryLeak);
+    if (input.AreLeaksPardoned() || !GrowsAgain([&] { return Case(choices); }, kNoIndex)) return true;
+    Report(input, kNoIndex, kMemoryLeak);
     return false;
 }
 
-bool Campaign::RunCase(Case& one, uint64_t index) {
-    const Watched watched(one, index);
-    const auto fault = FaultOf(target_, one);
-    if (fault) Report(one, index, fault->c_str());
+bool Campaign::RunCase(Case& input, uint64_t index) {
+    const Watched watched(input, index);
+    const auto fault = FaultOf(target_, input);
+    if (fault) Report(input, index, fault->c_str());
     return !fault;
 }
 
 bool Campaign::RunCase(uint64_t index) {
-    Case one(CaseNumber(options_.seed, index));
-    if (!RunCase(one, index)) return false;
-    if (one.AreLeaksPardoned() && pardoned_.insert(index).second) ++pardonedInAll_;
+    Case input(CaseNumber(options_.seed, index));
+    if (!RunCase(input, index)) return false;
+    if (input.AreLeaksPardoned() && pardoned_.insert(index).second) ++pardonedInAll_;
     return true;
 }
 
@@ -203,8 +203,8 @@ bool Campaign::GrowsAgain(const MakeCase& makeCase, uint64_t index) {
     const auto grownBy = [&](size_t runs) {
         const size_t before = BlocksInUse();
         for (; runs > 0; --runs) {
-            Case one = makeCase();
-            if (!RunCase(one, index)) return size_t{0};
+            Case input = makeCase();
+            if (!RunCase(input, index)) return size_t{0};
         }
         const size_t now = BlocksInUse();
         return now > before ? now - before : 0;

@@ -41,8 +41,8 @@ private:
     };
 
     bool RunCorpus();
-    bool RunAlone(Case& one, const std::vector<uint32_t>& choices);
-    bool RunCase(Case& one, uint64_t index);
+    bool RunAlone(Case& input, const std::vector<uint32_t>& choices);
+    bool RunCase(Case& input, uint64_t index);
     bool RunCase(uint64_t index);
     bool RunBatch(const Batch& batch);
     bool HeapIsSoundAfter(const Batch& batch);

@@ -5,7 +5,7 @@
 
 namespace fuzzing {
 
-// Whether an overrun by one byte is seen, which is tried.
+// Overruns a block by one byte on purpose, and tells whether the heap check sees that.
 bool HeapIsChecked();
 
 // Whether no block was overrun and no freed one written to.

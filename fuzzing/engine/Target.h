@@ -15,7 +15,7 @@ public:
     Target& operator=(const Target&) = delete;
 
     // Raises a Finding. Leaves nothing behind.
-    virtual void Run(Case& one) = 0;
+    virtual void Run(Case& input) = 0;
 };
 
 }  // namespace fuzzing

@@ -21,7 +21,7 @@ uint64_t currentIndex = 0;
 std::atomic<ULONGLONG> begun{0};
 
 [[noreturn]] void End(const char* what, UINT exitCode) noexcept {
-    if (const Case* const one = current) Report(*one, currentIndex, what);
+    if (const Case* const input = current) Report(*input, currentIndex, what);
     if (settings.beforeEnd) settings.beforeEnd();
     std::fflush(stdout);
     TerminateProcess(GetCurrentProcess(), exitCode);
@@ -88,8 +88,8 @@ void StartWatch(WatchSettings chosen) {
     std::thread(WatchTimeAndMemory, endurance::PrivateBytes()).detach();
 }
 
-Watched::Watched(const Case& one, uint64_t index) {
-    current = &one;
+Watched::Watched(const Case& input, uint64_t index) {
+    current = &input;
     currentIndex = index;
     begun = GetTickCount64();
 }
@@ -99,11 +99,11 @@ Watched::~Watched() {
     current = nullptr;
 }
 
-void Report(const Case& one, uint64_t index, const char* what) noexcept {
+void Report(const Case& input, uint64_t index, const char* what) noexcept {
     char path[1024];
     std::snprintf(path, sizeof path, "%s-%llu.case", settings.filePrefix.c_str(),
                   static_cast<unsigned long long>(index));
-    const bool saved = WriteCaseFile(path, settings.target.c_str(), what, one.Made());
+    const bool saved = WriteCaseFile(path, settings.target.c_str(), what, input.Made());
     std::printf("FINDING in %s, case %llu: %s\n  %s %s\n", settings.target.c_str(),
                 static_cast<unsigned long long>(index), what, saved ? "saved as" : "could not be saved as", path);
     std::fflush(stdout);

@@ -22,13 +22,13 @@ void StartWatch(WatchSettings settings);
 // While it lives, this is the case that runs.
 class Watched {
 public:
-    Watched(const Case& one, uint64_t index);
+    Watched(const Case& input, uint64_t index);
     ~Watched();
     Watched(const Watched&) = delete;
     Watched& operator=(const Watched&) = delete;
 };
 
 // Saves a case and says so, together with what was found.
-void Report(const Case& one, uint64_t index, const char* what) noexcept;
+void Report(const Case& input, uint64_t index, const char* what) noexcept;
 
 }  // namespace fuzzing

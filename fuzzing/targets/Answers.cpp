@@ -80,37 +80,37 @@ const std::string kPieces[] = {
 constexpr const wchar_t* kContentTypes[] = {L"text/xml", L"application/soap+xml", L"text/html", L""};
 constexpr long kOtherStatuses[] = {202, 403, 500, 502};
 
-void ChangeBytes(std::string& bytes, Case& one) {
-    const size_t at = one.Below(bytes.size() + 1);
-    switch (one.Below(5)) {
+void ChangeBytes(std::string& bytes, Case& input) {
+    const size_t at = input.Below(bytes.size() + 1);
+    switch (input.Below(5)) {
         case 0:
-            bytes.insert(at, one.Pick(kPieces));
+            bytes.insert(at, input.Pick(kPieces));
             break;
         case 1:
-            bytes.erase(at, 1 + one.Below(3));
+            bytes.erase(at, 1 + input.Below(3));
             break;
         case 2:
-            if (at < bytes.size()) bytes[at] = static_cast<char>(one.Bits());
+            if (at < bytes.size()) bytes[at] = static_cast<char>(input.Bits());
             break;
         case 3:
             // Where attributes stand.
-            bytes.insert(std::min(bytes.find('>', at), bytes.size()), one.Pick(kPieces));
+            bytes.insert(std::min(bytes.find('>', at), bytes.size()), input.Pick(kPieces));
             break;
         default:
             // Beside a tag, where most pieces mean something.
-            bytes.insert(std::min(bytes.find('<', at), bytes.size()), one.Pick(kPieces));
+            bytes.insert(std::min(bytes.find('<', at), bytes.size()), input.Pick(kPieces));
     }
 }
 
-support::Script AnyScript(std::string bytes, Case& one) {
-    for (uint32_t left = one.Below(3); left > 0; --left) ChangeBytes(bytes, one);
-    if (one.OneIn(20)) bytes.resize(one.Below(bytes.size() + 1));
+support::Script AnyScript(std::string bytes, Case& input) {
+    for (uint32_t left = input.Below(3); left > 0; --left) ChangeBytes(bytes, input);
+    if (input.OneIn(20)) bytes.resize(input.Below(bytes.size() + 1));
     support::Script script;
     // As MSXML takes it from the bytes, whatever they are.
     script.responseText = support::Wide(bytes);
     script.responseBody = std::move(bytes);
-    script.status = one.OneIn(20) ? one.Pick(kOtherStatuses) : 200;
-    if (one.OneIn(10)) script.contentType = one.Pick(kContentTypes);
+    script.status = input.OneIn(20) ? input.Pick(kOtherStatuses) : 200;
+    if (input.OneIn(10)) script.contentType = input.Pick(kContentTypes);
     return script;
 }
 
@@ -125,30 +125,30 @@ public:
     // So that it shows when hardly any answer is read plainly.
     ~AnswersTarget() override { std::printf("answers: %lu of %lu were read from their bytes\n", plain_, all_); }
 
-    void Run(Case& one) override {
-        const World world(one);
-        const std::string answer = support::Utf8(AnyAnswer(one));
+    void Run(Case& input) override {
+        const World world(input);
+        const std::string answer = support::Utf8(AnyAnswer(input));
         // To bend an answer costs more than to read one, so each is bent once and changed a few times.
-        for (uint32_t left = 1 + one.Below(16); left > 0; --left) Compare(AnyScript(answer, one), one);
+        for (uint32_t left = 1 + input.Below(16); left > 0; --left) Compare(AnyScript(answer, input), input);
     }
 
 private:
-    void Compare(const support::Script& script, Case& one) {
-        PardonMeasures(script.responseText, one);
-        one.Trace(
+    void Compare(const support::Script& script, Case& input) {
+        PardonMeasures(script.responseText, input);
+        input.Trace(
             [&] { return std::to_wstring(script.status) + L" " + script.contentType + L"\n" + script.responseText; });
         const bool isPlain = IsReadPlainly(script);
         ++all_;
         plain_ += isPlain ? 1 : 0;
         // What is not read plainly is read from the document; now and then that is looked at as well.
-        if (!isPlain && !one.OneIn(16)) return;
-        const support::SearchSeen plain = support::SearchSeenWith(script, true);
-        const support::SearchSeen document = support::SearchSeenWith(script, false);
-        one.Trace([&] { return Shown(L"from its bytes:", plain) + Shown(L"from its document:", document); });
+        if (!isPlain && !input.OneIn(16)) return;
+        const support::ObservedSearch plain = support::ObserveSearchWith(script, true);
+        const support::ObservedSearch document = support::ObserveSearchWith(script, false);
+        input.Trace([&] { return Shown(L"from its bytes:", plain) + Shown(L"from its document:", document); });
         if (!plain.SameAs(document)) throw Finding{"a client can tell which way an answer was read"};
     }
 
-    static std::wstring Shown(std::wstring text, const support::SearchSeen& seen) {
+    static std::wstring Shown(std::wstring text, const support::ObservedSearch& seen) {
         for (const std::wstring& event : seen.events) text += L"\n" + event;
         return text + L"\n" + seen.results + L"\n";
     }

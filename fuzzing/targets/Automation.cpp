@@ -54,90 +54,91 @@ const IID kInterfaces[] = {IID_NULL,
                            __uuidof(IPersistStream),
                            __uuidof(IMarshal)};
 
-IID AnyId(Case& one) {
-    switch (one.Below(5)) {
+IID AnyId(Case& input) {
+    switch (input.Below(5)) {
         case 0: {
-            const IID random = {one.Bits(), static_cast<USHORT>(one.Bits()), static_cast<USHORT>(one.Bits()), {}};
+            const IID random = {input.Bits(), static_cast<USHORT>(input.Bits()), static_cast<USHORT>(input.Bits()), {}};
             return random;
         }
         case 1:
-            return one.Pick(PublicClasses()).id;
+            return input.Pick(PublicClasses()).id;
         case 2:
-            return one.Pick(PublicClasses()).interfaces.front()->id;
+            return input.Pick(PublicClasses()).interfaces.front()->id;
         default:
-            return one.Pick(kInterfaces);
+            return input.Pick(kInterfaces);
     }
 }
 
 // Takes an interface and releases it.
-void Query(IUnknown* object, Case& one) {
+void Query(IUnknown* object, Case& input) {
     ComPtr<IUnknown> found;
-    const IID iid = AnyId(one);
+    const IID iid = AnyId(input);
     // Asked for its class, an object gives its inside, which is an interface too.
-    const bool nowhere = one.OneIn(50);
+    const bool nowhere = input.OneIn(50);
     const HRESULT result =
         object->QueryInterface(iid, nowhere ? nullptr : reinterpret_cast<void**>(found.GetAddressOf()));
-    AfterCall(Road::kPlumbing, result, L"QueryInterface");
+    AfterCall(CallKind::kComInterface, result, L"QueryInterface");
     if (FAILED(result) != (found == nullptr)) throw Finding{"QueryInterface: the result does not fit the object"};
 }
 
 class AutomationTarget final : public Target {
 public:
-    void Run(Case& one) override {
-        World world(one);
-        const PublicClass& itsClass = AnyCreatable(one);
+    void Run(Case& input) override {
+        World world(input);
+        const PublicClass& itsClass = AnyCreatable(input);
         ComPtr<IUnknown> object = CreateObject(itsClass.id);
         world.See(object);
-        one.Trace([&] { return L"create " + itsClass.name; });
-        if (itsClass.name == L"TestSearch" && !one.OneIn(50)) return;
-        for (uint32_t calls = 1 + one.Below(4); calls > 0; --calls) {
+        input.Trace([&] { return L"create " + itsClass.name; });
+        if (itsClass.name == L"TestSearch" && !input.OneIn(50)) return;
+        for (uint32_t calls = 1 + input.Below(4); calls > 0; --calls) {
             BeforeCall();
-            const ComPtr<IUnknown> result = Call(object.Get(), one, world);
+            const ComPtr<IUnknown> result = Call(object.Get(), input, world);
             world.See(result);
-            if (ClassOf(result.Get()) && one.OneIn(2)) object = result;
+            if (ClassOf(result.Get()) && input.OneIn(2)) object = result;
         }
     }
 
 private:
-    ComPtr<IUnknown> Call(IUnknown* object, Case& one, World& world) {
+    ComPtr<IUnknown> Call(IUnknown* object, Case& input, World& world) {
         ComPtr<IDispatch> dispatch;
-        switch (one.Below(10)) {
+        switch (input.Below(10)) {
             case 0:
-                Query(object, one);
+                Query(object, input);
                 return nullptr;
             case 1:
-                return UseFactory(one);
+                return UseFactory(input);
             case 2:
-                UseConnectionPoints(object, one, world);
+                UseConnectionPoints(object, input, world);
                 return nullptr;
             case 3:
-                UseEnumerator(object, one);
+                UseEnumerator(object, input);
                 return nullptr;
             case 4:
-                AskForInformation(object, one);
+                AskForInformation(object, input);
                 return nullptr;
             case 5:
             case 6:
-                if (SUCCEEDED(object->QueryInterface(IID_PPV_ARGS(dispatch.GetAddressOf())))) Name(dispatch.Get(), one);
+                if (SUCCEEDED(object->QueryInterface(IID_PPV_ARGS(dispatch.GetAddressOf()))))
+                    Name(dispatch.Get(), input);
                 return nullptr;
             default:
                 if (FAILED(object->QueryInterface(IID_PPV_ARGS(dispatch.GetAddressOf())))) return nullptr;
-                return Invoke(dispatch.Get(), one, world);
+                return Invoke(dispatch.Get(), input, world);
         }
     }
 
-    static DISPID AnyNumber(Case& one) {
-        switch (one.Below(4)) {
+    static DISPID AnyNumber(Case& input) {
+        switch (input.Below(4)) {
             case 0:
-                return one.Pick(kNumbers);
+                return input.Pick(kNumbers);
             case 1:
-                return static_cast<DISPID>(one.Bits());
+                return static_cast<DISPID>(input.Bits());
             default:
-                return static_cast<DISPID>(one.Below(26));
+                return static_cast<DISPID>(input.Below(26));
         }
     }
 
-    static WORD AnyKind(Case& one) {
+    static WORD AnyKind(Case& input) {
         static constexpr WORD kKinds[] = {DISPATCH_METHOD,
                                           DISPATCH_PROPERTYGET,
                                           DISPATCH_METHOD | DISPATCH_PROPERTYGET,
@@ -146,7 +147,7 @@ private:
                                           DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF,
                                           0,
                                           0xFFFF};
-        return one.OneIn(8) ? static_cast<WORD>(one.Bits()) : one.Pick(kKinds);
+        return input.OneIn(8) ? static_cast<WORD>(input.Bits()) : input.Pick(kKinds);
     }
 
     // A call that gives arguments to a property without parameters is passed on to the object that the property holds.
@@ -157,25 +158,25 @@ private:
         return member == kResults && SUCCEEDED(object->QueryInterface(IID_PPV_ARGS(service.GetAddressOf())));
     }
 
-    ComPtr<IUnknown> Invoke(IDispatch* object, Case& one, World& world) {
+    ComPtr<IUnknown> Invoke(IDispatch* object, Case& input, World& world) {
         std::array<VARIANT, kMostArguments> arguments{};
         std::array<DISPID, kMostArguments> names{};
-        const DISPID member = AnyNumber(one);
-        UINT count = one.OneIn(6) ? one.Below(kMostArguments) : one.Below(3);
+        const DISPID member = AnyNumber(input);
+        UINT count = input.OneIn(6) ? input.Below(kMostArguments) : input.Below(3);
         if (BreaksDispatcher(object, member)) count = 0;
-        UINT named = one.OneIn(3) ? one.Below(count + 1) : 0;
-        const WORD kind = AnyKind(one);
+        UINT named = input.OneIn(3) ? input.Below(count + 1) : 0;
+        const WORD kind = AnyKind(input);
         for (UINT index = 0; index < count; ++index) arguments[index] = world.Any().AnyToDispatch();
-        for (UINT index = 0; index < named; ++index) names[index] = AnyNumber(one);
-        if ((kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) && count > 0 && !one.OneIn(4)) {
+        for (UINT index = 0; index < named; ++index) names[index] = AnyNumber(input);
+        if ((kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) && count > 0 && !input.OneIn(4)) {
             named = std::max(named, 1U);
             names[0] = DISPID_PROPERTYPUT;
         }
         // More names than arguments, and counts of what is not there.
-        if (one.OneIn(30)) named = count + one.Below(3);
-        DISPPARAMS parameters{one.OneIn(30) ? nullptr : arguments.data(), one.OneIn(30) ? nullptr : names.data(), count,
-                              named};
-        one.Trace([&] {
+        if (input.OneIn(30)) named = count + input.Below(3);
+        DISPPARAMS parameters{input.OneIn(30) ? nullptr : arguments.data(), input.OneIn(30) ? nullptr : names.data(),
+                              count, named};
+        input.Trace([&] {
             std::wstring text = L"Invoke " + std::to_wstring(member) + L" kind " + std::to_wstring(kind) + L" named " +
                                 std::to_wstring(named);
             for (UINT index = 0; index < count; ++index) text += L" " + Described(arguments[index]);
@@ -184,143 +185,151 @@ private:
         _variant_t result;
         EXCEPINFO exception{};
         UINT wrong = 0;
-        const bool hasException = !one.OneIn(20);
-        const HRESULT outcome = object->Invoke(member, one.OneIn(20) ? AnyId(one) : IID_NULL,
-                                               one.OneIn(4) ? one.Bits() : LOCALE_USER_DEFAULT, kind,
-                                               one.OneIn(60) ? nullptr : &parameters, one.OneIn(8) ? nullptr : &result,
-                                               hasException ? &exception : nullptr, one.OneIn(8) ? nullptr : &wrong);
-        PardonConversions(outcome, exception, {arguments.data(), count}, one);
+        const bool hasException = !input.OneIn(20);
+        const HRESULT outcome = object->Invoke(
+            member, input.OneIn(20) ? AnyId(input) : IID_NULL, input.OneIn(4) ? input.Bits() : LOCALE_USER_DEFAULT,
+            kind, input.OneIn(60) ? nullptr : &parameters, input.OneIn(8) ? nullptr : &result,
+            hasException ? &exception : nullptr, input.OneIn(8) ? nullptr : &wrong);
+        PardonConversions(outcome, exception, {arguments.data(), count}, input);
         // Without a place for it, the description is on the thread alone, or lost.
-        if (hasException) AfterCall(Road::kInvoke, outcome, L"Invoke", &exception);
+        if (hasException) AfterCall(CallKind::kInvoke, outcome, L"Invoke", &exception);
         const bool isObject = V_VT(&result) == VT_DISPATCH || V_VT(&result) == VT_UNKNOWN;
         if (FAILED(outcome) && isObject && V_UNKNOWN(&result))
             throw Finding{"Invoke: a failure that comes with a result"};
         return isObject ? ComPtr<IUnknown>(V_UNKNOWN(&result)) : nullptr;
     }
 
-    static std::wstring AnyMemberName(Case& one) {
-        const auto& members = one.Pick(PublicClasses()).interfaces.front()->members;
-        const Member& member = one.Pick(members);
+    static std::wstring AnyMemberName(Case& input) {
+        const auto& members = input.Pick(PublicClasses()).interfaces.front()->members;
+        const Member& member = input.Pick(members);
         std::wstring name = member.name;
-        if (!member.parameterNames.empty() && one.OneIn(3)) name = one.Pick(member.parameterNames);
-        if (one.OneIn(4) && !name.empty()) name[one.Below(name.size())] ^= 0x20;
+        if (!member.parameterNames.empty() && input.OneIn(3)) name = input.Pick(member.parameterNames);
+        if (input.OneIn(4) && !name.empty()) name[input.Below(name.size())] ^= 0x20;
         return name;
     }
 
-    void Name(IDispatch* object, Case& one) {
+    void Name(IDispatch* object, Case& input) {
         std::array<std::wstring, 6> texts;
         std::array<LPOLESTR, 6> names{};
         std::array<DISPID, 6> numbers{};
-        const UINT count = one.Below(texts.size() + 1);
+        const UINT count = input.Below(texts.size() + 1);
         for (UINT index = 0; index < count; ++index) {
-            texts[index] = one.OneIn(4) ? AnyText(one) : AnyMemberName(one);
-            names[index] = one.OneIn(30) ? nullptr : texts[index].data();
-            one.Trace([&] { return L"  name " + (names[index] ? texts[index] : L"null"); });
+            texts[index] = input.OneIn(4) ? AnyText(input) : AnyMemberName(input);
+            names[index] = input.OneIn(30) ? nullptr : texts[index].data();
+            input.Trace([&] { return L"  name " + (names[index] ? texts[index] : L"null"); });
         }
-        one.Trace([] { return std::wstring(L"GetIDsOfNames"); });
+        input.Trace([] { return std::wstring(L"GetIDsOfNames"); });
         const HRESULT result = object->GetIDsOfNames(
-            one.OneIn(10) ? AnyId(one) : IID_NULL, one.OneIn(40) ? nullptr : names.data(), count,
-            one.OneIn(4) ? one.Bits() : LOCALE_USER_DEFAULT, one.OneIn(40) ? nullptr : numbers.data());
-        AfterCall(Road::kPlumbing, result, L"GetIDsOfNames");
+            input.OneIn(10) ? AnyId(input) : IID_NULL, input.OneIn(40) ? nullptr : names.data(), count,
+            input.OneIn(4) ? input.Bits() : LOCALE_USER_DEFAULT, input.OneIn(40) ? nullptr : numbers.data());
+        AfterCall(CallKind::kComInterface, result, L"GetIDsOfNames");
     }
 
-    ComPtr<IUnknown> UseFactory(Case& one) {
+    ComPtr<IUnknown> UseFactory(Case& input) {
         ComPtr<IUnknown> found;
         ComPtr<IClassFactory> factory;
         ComPtr<IUnknown> object;
-        HRESULT result = DllGetClassObject(AnyId(one), one.OneIn(3) ? AnyId(one) : __uuidof(IClassFactory),
+        HRESULT result = DllGetClassObject(AnyId(input), input.OneIn(3) ? AnyId(input) : __uuidof(IClassFactory),
                                            reinterpret_cast<void**>(found.GetAddressOf()));
-        AfterCall(Road::kPlumbing, result, L"DllGetClassObject");
+        AfterCall(CallKind::kComInterface, result, L"DllGetClassObject");
         if (FAILED(result) || FAILED(found.As(&factory))) return nullptr;
-        Query(factory.Get(), one);
-        const bool outer = one.OneIn(6);
+        Query(factory.Get(), input);
+        const bool outer = input.OneIn(6);
         result =
-            factory->CreateInstance(outer ? factory.Get() : nullptr, one.OneIn(2) ? AnyId(one) : __uuidof(IUnknown),
-                                    one.OneIn(40) ? nullptr : reinterpret_cast<void**>(object.GetAddressOf()));
-        AfterCall(Road::kPlumbing, result, L"CreateInstance");
+            factory->CreateInstance(outer ? factory.Get() : nullptr, input.OneIn(2) ? AnyId(input) : __uuidof(IUnknown),
+                                    input.OneIn(40) ? nullptr : reinterpret_cast<void**>(object.GetAddressOf()));
+        AfterCall(CallKind::kComInterface, result, L"CreateInstance");
         factory->LockServer(TRUE);
         factory->LockServer(FALSE);
         return object;
     }
 
-    void UseConnectionPoints(IUnknown* object, Case& one, World& world) {
+    void UseConnectionPoints(IUnknown* object, Case& input, World& world) {
         ComPtr<IConnectionPointContainer> container;
         ComPtr<IConnectionPoint> point;
         if (FAILED(object->QueryInterface(IID_PPV_ARGS(container.GetAddressOf())))) return;
         ComPtr<IEnumConnectionPoints> points;
-        AfterCall(Road::kPlumbing, container->EnumConnectionPoints(points.GetAddressOf()), L"EnumConnectionPoints");
-        Walk<IConnectionPoint*>(points.Get(), one, [](IConnectionPoint*& item) { item->Release(); });
-        AfterCall(Road::kPlumbing,
-                  container->FindConnectionPoint(AnyId(one), one.OneIn(40) ? nullptr : point.ReleaseAndGetAddressOf()),
-                  L"FindConnectionPoint");
+        AfterCall(CallKind::kComInterface, container->EnumConnectionPoints(points.GetAddressOf()),
+                  L"EnumConnectionPoints");
+        Walk<IConnectionPoint*>(points.Get(), input, [](IConnectionPoint*& item) { item->Release(); });
+        AfterCall(
+            CallKind::kComInterface,
+            container->FindConnectionPoint(AnyId(input), input.OneIn(40) ? nullptr : point.ReleaseAndGetAddressOf()),
+            L"FindConnectionPoint");
         points->Reset();
         if (!point && FAILED(points->Next(1, point.GetAddressOf(), nullptr))) return;
-        Connect(point.Get(), one, world);
+        Connect(point.Get(), input, world);
     }
 
-    void Connect(IConnectionPoint* point, Case& one, World& world) {
+    void Connect(IConnectionPoint* point, Case& input, World& world) {
         std::array<DWORD, 4> cookies{};
-        for (uint32_t steps = one.Below(8); steps > 0; --steps) {
-            DWORD& cookie = one.Pick(cookies);
+        for (uint32_t steps = input.Below(8); steps > 0; --steps) {
+            DWORD& cookie = input.Pick(cookies);
             IID iid;
             ComPtr<IConnectionPointContainer> container;
             ComPtr<IEnumConnections> connections;
-            switch (one.Below(5)) {
+            switch (input.Below(5)) {
                 case 0: {
                     // Not the container itself: it would hold itself.
                     ComPtr<IUnknown> sink =
-                        one.OneIn(2) ? support::EventLog::ForSearches().Get() : AnyClient(one, world);
+                        input.OneIn(2) ? support::EventLog::ForSearches().Get() : AnyClient(input, world);
                     if (ClassOf(sink.Get())) sink = nullptr;
                     if (cookie) point->Unadvise(cookie);
                     cookie = 0;
-                    AfterCall(Road::kPlumbing, point->Advise(sink.Get(), one.OneIn(40) ? nullptr : &cookie), L"Advise");
+                    AfterCall(CallKind::kComInterface, point->Advise(sink.Get(), input.OneIn(40) ? nullptr : &cookie),
+                              L"Advise");
                     break;
                 }
                 case 1:
-                    AfterCall(Road::kPlumbing, point->Unadvise(one.OneIn(2) ? cookie : one.Bits()), L"Unadvise");
+                    AfterCall(CallKind::kComInterface, point->Unadvise(input.OneIn(2) ? cookie : input.Bits()),
+                              L"Unadvise");
                     break;
                 case 2:
-                    AfterCall(Road::kPlumbing, point->EnumConnections(connections.GetAddressOf()), L"EnumConnections");
-                    Walk<CONNECTDATA>(connections.Get(), one, [](CONNECTDATA& item) { item.pUnk->Release(); });
+                    AfterCall(CallKind::kComInterface, point->EnumConnections(connections.GetAddressOf()),
+                              L"EnumConnections");
+                    Walk<CONNECTDATA>(connections.Get(), input, [](CONNECTDATA& item) { item.pUnk->Release(); });
                     break;
                 case 3:
-                    AfterCall(Road::kPlumbing, point->GetConnectionPointContainer(container.GetAddressOf()),
+                    AfterCall(CallKind::kComInterface, point->GetConnectionPointContainer(container.GetAddressOf()),
                               L"GetConnectionPointContainer");
                     break;
                 default:
-                    AfterCall(Road::kPlumbing, point->GetConnectionInterface(one.OneIn(40) ? nullptr : &iid),
+                    AfterCall(CallKind::kComInterface, point->GetConnectionInterface(input.OneIn(40) ? nullptr : &iid),
                               L"GetConnectionInterface");
             }
         }
     }
 
-    static ComPtr<IUnknown> AnyClient(Case& one, World& world) { return one.OneIn(3) ? nullptr : world.AnyObject(); }
+    static ComPtr<IUnknown> AnyClient(Case& input, World& world) {
+        return input.OneIn(3) ? nullptr : world.AnyObject();
+    }
 
     // Next, Skip, Reset and Clone in any order.
     template <typename Item, typename Enumerator, typename Clear>
-    void Walk(Enumerator* enumerator, Case& one, Clear&& clear) {
+    void Walk(Enumerator* enumerator, Case& input, Clear&& clear) {
         ComPtr<Enumerator> walker(enumerator);
-        for (uint32_t steps = one.Below(6); steps > 0; --steps) {
+        for (uint32_t steps = input.Below(6); steps > 0; --steps) {
             std::array<Item, 5> items{};
             ULONG fetched = 0;
             ComPtr<Enumerator> clone;
-            switch (one.Below(5)) {
+            switch (input.Below(5)) {
                 case 0:
-                    walker->Skip(one.OneIn(3) ? one.Bits() : one.Below(4));
+                    walker->Skip(input.OneIn(3) ? input.Bits() : input.Below(4));
                     break;
                 case 1:
                     walker->Reset();
                     break;
                 case 2:
-                    AfterCall(Road::kPlumbing, walker->Clone(one.OneIn(40) ? nullptr : clone.GetAddressOf()), L"Clone");
+                    AfterCall(CallKind::kComInterface, walker->Clone(input.OneIn(40) ? nullptr : clone.GetAddressOf()),
+                              L"Clone");
                     if (clone) walker = clone;
                     break;
                 default: {
-                    const ULONG wanted = one.Below(items.size() + 1);
-                    const bool counted = wanted != 1 || one.OneIn(2);
+                    const ULONG wanted = input.Below(items.size() + 1);
+                    const bool counted = wanted != 1 || input.OneIn(2);
                     const HRESULT result =
-                        walker->Next(wanted, one.OneIn(40) ? nullptr : items.data(), counted ? &fetched : nullptr);
-                    AfterCall(Road::kPlumbing, result, L"Next");
+                        walker->Next(wanted, input.OneIn(40) ? nullptr : items.data(), counted ? &fetched : nullptr);
+                    AfterCall(CallKind::kComInterface, result, L"Next");
                     if (!counted && result == S_OK) fetched = 1;
                     if (fetched > wanted) throw Finding{"Next: more than was wanted"};
                     std::for_each(items.begin(), items.begin() + fetched, clear);
@@ -329,21 +338,21 @@ private:
         }
     }
 
-    void UseEnumerator(IUnknown* object, Case& one) {
+    void UseEnumerator(IUnknown* object, Case& input) {
         ComPtr<ICollection> collection;
         ComPtr<IUnknown> enumerator;
         ComPtr<IEnumVARIANT> walker;
         if (FAILED(object->QueryInterface(IID_PPV_ARGS(collection.GetAddressOf())))) return;
-        AfterCall(Road::kMember, collection->get__NewEnum(enumerator.GetAddressOf()), L"_NewEnum");
+        AfterCall(CallKind::kMember, collection->get__NewEnum(enumerator.GetAddressOf()), L"_NewEnum");
         platform::Check(enumerator.As(&walker));
-        Query(walker.Get(), one);
-        Walk<VARIANT>(walker.Get(), one, [](VARIANT& item) { VariantClear(&item); });
-        if (one.OneIn(2)) collection->Add(_variant_t(L"added meanwhile"));
-        if (one.OneIn(3)) collection->Remove(1);
-        Walk<VARIANT>(walker.Get(), one, [](VARIANT& item) { VariantClear(&item); });
+        Query(walker.Get(), input);
+        Walk<VARIANT>(walker.Get(), input, [](VARIANT& item) { VariantClear(&item); });
+        if (input.OneIn(2)) collection->Add(_variant_t(L"added meanwhile"));
+        if (input.OneIn(3)) collection->Remove(1);
+        Walk<VARIANT>(walker.Get(), input, [](VARIANT& item) { VariantClear(&item); });
     }
 
-    void AskForInformation(IUnknown* object, Case& one) {
+    void AskForInformation(IUnknown* object, Case& input) {
         ComPtr<IProvideClassInfo2> provider;
         ComPtr<ISupportErrorInfo> support;
         ComPtr<IDispatch> dispatch;
@@ -353,16 +362,17 @@ private:
         if (FAILED(object->QueryInterface(IID_PPV_ARGS(provider.GetAddressOf())))) return;
         platform::Check(object->QueryInterface(IID_PPV_ARGS(support.GetAddressOf())));
         platform::Check(object->QueryInterface(IID_PPV_ARGS(dispatch.GetAddressOf())));
-        support->InterfaceSupportsErrorInfo(AnyId(one));
-        AfterCall(Road::kPlumbing, provider->GetGUID(one.OneIn(2) ? 1 : one.Bits(), one.OneIn(40) ? nullptr : &id),
-                  L"GetGUID");
-        AfterCall(Road::kPlumbing,
-                  provider->GetClassInfo(one.OneIn(40) ? nullptr : information.ReleaseAndGetAddressOf()),
+        support->InterfaceSupportsErrorInfo(AnyId(input));
+        AfterCall(CallKind::kComInterface,
+                  provider->GetGUID(input.OneIn(2) ? 1 : input.Bits(), input.OneIn(40) ? nullptr : &id), L"GetGUID");
+        AfterCall(CallKind::kComInterface,
+                  provider->GetClassInfo(input.OneIn(40) ? nullptr : information.ReleaseAndGetAddressOf()),
                   L"GetClassInfo");
-        AfterCall(Road::kPlumbing, dispatch->GetTypeInfoCount(one.OneIn(40) ? nullptr : &count), L"GetTypeInfoCount");
-        AfterCall(Road::kPlumbing,
-                  dispatch->GetTypeInfo(one.OneIn(2) ? 0 : one.Bits(), one.Bits(),
-                                        one.OneIn(40) ? nullptr : information.ReleaseAndGetAddressOf()),
+        AfterCall(CallKind::kComInterface, dispatch->GetTypeInfoCount(input.OneIn(40) ? nullptr : &count),
+                  L"GetTypeInfoCount");
+        AfterCall(CallKind::kComInterface,
+                  dispatch->GetTypeInfo(input.OneIn(2) ? 0 : input.Bits(), input.Bits(),
+                                        input.OneIn(40) ? nullptr : information.ReleaseAndGetAddressOf()),
                   L"GetTypeInfo");
     }
 };

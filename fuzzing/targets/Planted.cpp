@@ -40,12 +40,12 @@ void LeakMemory() { leaked = reinterpret_cast<ULONG_PTR>(std::malloc(100)); }
 void FailSilently() {
     BeforeCall();
     SetErrorInfo(0, nullptr);
-    AfterCall(Road::kMember, E_FAIL, L"planted");
+    AfterCall(CallKind::kMember, E_FAIL, L"planted");
 }
 
 void FailWithAnothersDescription() {
     BeforeCall();
-    AfterCall(Road::kMember, E_FAIL, L"planted");
+    AfterCall(CallKind::kMember, E_FAIL, L"planted");
 }
 
 void Hang() {
@@ -86,8 +86,8 @@ const std::map<std::string, void (*)()> kFaults = {
 // The environment says which fault, by PLANTED_FAULT.
 class PlantedTarget final : public Target {
 public:
-    void Run(Case& one) override {
-        if (one.OneIn(kOnceIn)) fault_();
+    void Run(Case& input) override {
+        if (input.OneIn(kOnceIn)) fault_();
     }
 
 private:

@@ -60,8 +60,8 @@ std::wstring TextsOf(lejis::SOAPEnvelope& envelope) {
     return all + std::to_wstring(isFault);
 }
 
-void Change(const msxml::Document& document, Case& one) {
-    switch (one.Below(4)) {
+void Change(const msxml::Document& document, Case& input) {
+    switch (input.Below(4)) {
         case 0:
             document->loadXML(platform::ToBstr(L"<a/>"), nullptr);
             break;
@@ -78,7 +78,7 @@ void Change(const msxml::Document& document, Case& one) {
 
 }  // namespace
 
-void FailedSearchLeavesTheOtherAlone(Case& one, World& world) {
+void FailedSearchLeavesTheOtherAlone(Case& input, World& world) {
     const GoodAnswers good(world);
     const auto service = platform::Create<lejis::LejisSearchWebService>();
     const auto request = platform::Create<lejis::LejisSearchRequest>();
@@ -87,7 +87,7 @@ void FailedSearchLeavesTheOtherAlone(Case& one, World& world) {
     service->URL = L"http://127.0.0.1/search";
     static_cast<ILejisSearchWebService*>(service.Get())->Search(request.Get());
     Promise(log->events.empty(), "a search has its event inside of the call");
-    service->Username = one.OneIn(2) ? L"<" : L"jdoe";
+    service->Username = input.OneIn(2) ? L"<" : L"jdoe";
     const bool isNamed = service->Username == L"jdoe";
     static_cast<ILejisSearchWebService*>(service.Get())->Search(isNamed ? nullptr : request.Get());
     Promise(log->events.size() == 1 && log->events[0].starts_with(L"ConfigurationError"),
@@ -98,24 +98,24 @@ void FailedSearchLeavesTheOtherAlone(Case& one, World& world) {
     log->Disconnect();
 }
 
-void EnvelopeKeepsItsTexts(Case& one) {
+void EnvelopeKeepsItsTexts(Case& input) {
     const std::wstring answers[] = {support::SoapFault(L"c", L"m"), support::SubmissionResponse(L" 0 "),
                                     support::Soap(L" <a> b </a> ")};
     const msxml::Document document = msxml::CreateDocument();
-    msxml::LoadXml(document, one.Pick(answers));
+    msxml::LoadXml(document, input.Pick(answers));
     const auto envelope = platform::Create<lejis::SOAPEnvelope>();
     static_cast<ISOAPEnvelope*>(envelope.Get())->FromXmlDocument(document.Get());
     const std::wstring before = TextsOf(*envelope);
-    for (uint32_t changes = 1 + one.Below(3); changes > 0; --changes) Change(document, one);
+    for (uint32_t changes = 1 + input.Below(3); changes > 0; --changes) Change(document, input);
     Promise(TextsOf(*envelope) == before, "an envelope changes with its client's document");
 }
 
-void FutureRunsRepeatedWork(Case& one, World& world) {
+void FutureRunsRepeatedWork(Case& input, World& world) {
     const auto future = platform::Create<lejis::Future>();
     const auto runnable = platform::Create<support::RecordingRunnable>();
     const auto observer = platform::Create<support::RecordingObserver>();
-    const int wanted = 1 + static_cast<int>(one.Below(3));
-    runnable->result = one.OneIn(2) ? S_OK : E_FAIL;
+    const int wanted = 1 + static_cast<int>(input.Below(3));
+    runnable->result = input.OneIn(2) ? S_OK : E_FAIL;
     runnable->onRun = [&] {
         if (runnable->runs < wanted) future->Schedule(runnable.Get(), observer.Get());
     };

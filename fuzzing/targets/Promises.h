@@ -7,12 +7,12 @@
 namespace fuzzing {
 
 // A search that cannot be sent has its own event, and leaves the search under way to its own.
-void FailedSearchLeavesTheOtherAlone(Case& one, World& world);
+void FailedSearchLeavesTheOtherAlone(Case& input, World& world);
 
 // What an envelope has read stays, whatever its client does with the document.
-void EnvelopeKeepsItsTexts(Case& one);
+void EnvelopeKeepsItsTexts(Case& input);
 
 // A future runs the work that its own work gives it, and tells the observer of each run that succeeds.
-void FutureRunsRepeatedWork(Case& one, World& world);
+void FutureRunsRepeatedWork(Case& input, World& world);
 
 }  // namespace fuzzing

@@ -40,7 +40,7 @@ ComPtr<Interface> New(REFCLSID classId) {
 // during the call, as Visual Basic does.
 class Client {
 public:
-    Client(Case& one, World& world) : case_(one), world_(world) {
+    Client(Case& input, World& world) : case_(input), world_(world) {
         world_.onYield = [this] { StepInside(); };
     }
     ~Client() {
@@ -120,7 +120,7 @@ private:
         };
     }
 
-    void Check(HRESULT result, const wchar_t* call) { AfterCall(Road::kMember, result, call); }
+    void Check(HRESULT result, const wchar_t* call) { AfterCall(CallKind::kMember, result, call); }
 
     void MakeServices() {
         search_ = New<ILejisSearchWebService>(__uuidof(::LejisSearchWebService));
@@ -150,7 +150,7 @@ private:
 
     void SubmitAsync() {
         if (!submission_) MakeServices();
-        const auto service = platform::Inside<lejis::LejisSubmissionWebService>(submission_.Get());
+        const auto service = platform::ImplementationOf<lejis::LejisSubmissionWebService>(submission_.Get());
         const auto document = platform::Create<lejis::LejisSubmissionDocument>();
         service->SubmitAsync(*document);
     }
@@ -366,9 +366,9 @@ private:
 
 class SequencesTarget final : public Target {
 public:
-    void Run(Case& one) override {
-        World world(one);
-        Client(one, world).Run();
+    void Run(Case& input) override {
+        World world(input);
+        Client(input, world).Run();
     }
 };
 

@@ -10,25 +10,25 @@ namespace fuzzing {
 namespace {
 
 // What waits, or asks a user, costs as much as hundreds of other calls.
-bool IsSlow(const PublicClass& one) { return one.name == L"TestSearch"; }
+bool IsSlow(const PublicClass& itsClass) { return itsClass.name == L"TestSearch"; }
 
 class ValuesTarget final : public Target {
 public:
-    void Run(Case& one) override {
-        World world(one);
-        const PublicClass& first = AnyCreatable(one);
-        if (IsSlow(first) && !one.OneIn(50)) return;
+    void Run(Case& input) override {
+        World world(input);
+        const PublicClass& first = AnyCreatable(input);
+        if (IsSlow(first) && !input.OneIn(50)) return;
         ComPtr<IUnknown> object = CreateObject(first.id);
         const PublicClass* itsClass = &first;
-        one.Trace([&] { return L"create " + first.name; });
-        for (uint32_t calls = 1 + one.Below(5); calls > 0; --calls) {
+        input.Trace([&] { return L"create " + first.name; });
+        for (uint32_t calls = 1 + input.Below(5); calls > 0; --calls) {
             world.See(object);
-            const PublicInterface& itsInterface = *itsClass->interfaces[one.Below(itsClass->interfaces.size())];
+            const PublicInterface& itsInterface = *itsClass->interfaces[input.Below(itsClass->interfaces.size())];
             const ComPtr<IUnknown> result =
-                CallAny(object.Get(), itsInterface, one.Pick(itsInterface.members), one, world.Any());
+                CallAny(object.Get(), itsInterface, input.Pick(itsInterface.members), input, world.Any());
             // From an object to what it holds.
             const PublicClass* const classOfResult = ClassOf(result.Get());
-            if (!classOfResult || one.OneIn(3)) continue;
+            if (!classOfResult || input.OneIn(3)) continue;
             world.See(result);
             object = result;
             itsClass = classOfResult;

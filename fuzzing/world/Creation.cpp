@@ -17,7 +17,7 @@ ComPtr<IUnknown> CreateObject(REFCLSID classId) {
     return object;
 }
 
-const PublicClass& AnyCreatable(Case& one) {
+const PublicClass& AnyCreatable(Case& input) {
     static const std::vector<PublicClass> creatable = [] {
         std::vector<PublicClass> found;
         for (const PublicClass& candidate : PublicClasses()) {
@@ -25,9 +25,9 @@ const PublicClass& AnyCreatable(Case& one) {
         }
         return found;
     }();
-    return one.Pick(creatable);
+    return input.Pick(creatable);
 }
 
-ComPtr<IUnknown> CreateAny(Case& one) { return CreateObject(AnyCreatable(one).id); }
+ComPtr<IUnknown> CreateAny(Case& input) { return CreateObject(AnyCreatable(input).id); }
 
 }  // namespace fuzzing

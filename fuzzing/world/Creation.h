@@ -10,8 +10,8 @@ namespace fuzzing {
 
 Microsoft::WRL::ComPtr<IUnknown> CreateObject(REFCLSID classId);
 
-// Of any creatable class.
-const PublicClass& AnyCreatable(Case& one);
-Microsoft::WRL::ComPtr<IUnknown> CreateAny(Case& one);
+// Picks any creatable class.
+const PublicClass& AnyCreatable(Case& input);
+Microsoft::WRL::ComPtr<IUnknown> CreateAny(Case& input);
 
 }  // namespace fuzzing

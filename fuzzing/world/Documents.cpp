@@ -44,31 +44,31 @@ void LoadDocuments(const std::string& folder) {
 
 const std::vector<std::wstring>& DocumentTexts() { return texts; }
 
-msxml::Document AnyDocument(Case& one) {
+msxml::Document AnyDocument(Case& input) {
     // New each time: what is built for a document stays in its memory until its end.
     msxml::Document document = msxml::CreateDocument();
-    if (one.OneIn(4)) msxml::LoadXml(document, one.Pick(texts));
+    if (input.OneIn(4)) msxml::LoadXml(document, input.Pick(texts));
     return document;
 }
 
-void PardonMeasures(const std::wstring& text, Case& one) {
-    if (text.find(L"Measure") != std::wstring::npos) one.PardonLeaks();
+void PardonMeasures(const std::wstring& text, Case& input) {
+    if (text.find(L"Measure") != std::wstring::npos) input.PardonLeaks();
 }
 
-msxml::Element AnyElement(Case& one) {
+msxml::Element AnyElement(Case& input) {
     const msxml::Document document = msxml::CreateDocument();
-    const std::wstring& text = one.Pick(texts);
-    PardonMeasures(text, one);
+    const std::wstring& text = input.Pick(texts);
+    PardonMeasures(text, input);
     msxml::LoadXml(document, text);
-    return AnyElementOf(document, one);
+    return AnyElementOf(document, input);
 }
 
-msxml::Element AnyElementOf(const msxml::Document& document, Case& one) {
+msxml::Element AnyElementOf(const msxml::Document& document, Case& input) {
     msxml::Element element = msxml::Root(document);
-    while (element && !one.OneIn(3)) {
+    while (element && !input.OneIn(3)) {
         std::vector<msxml::Element> children = msxml::ChildElements(element);
         if (children.empty()) break;
-        element = one.Pick(children);
+        element = input.Pick(children);
     }
     return element;
 }

@@ -11,17 +11,18 @@ namespace fuzzing {
 // Takes in the XML files of the folder.
 void LoadDocuments(const std::string& folder);
 
-// Heights and weights are written with an attribute that has a namespace; Wine keeps such a one's namespace for ever.
-void PardonMeasures(const std::wstring& text, Case& one);
+// Pardons the leaks of a text with a height or weight: their elements have an attribute in a namespace, and Wine never
+// frees the namespace of such an attribute.
+void PardonMeasures(const std::wstring& text, Case& input);
 
 // An element of a copy of one of these.
-msxml::Element AnyElement(Case& one);
+msxml::Element AnyElement(Case& input);
 // A new one, empty or a copy of one of these.
-msxml::Document AnyDocument(Case& one);
+msxml::Document AnyDocument(Case& input);
 // All of them.
 const std::vector<std::wstring>& DocumentTexts();
 
 // An element of this document, the root the likeliest; null for a document without one.
-msxml::Element AnyElementOf(const msxml::Document& document, Case& one);
+msxml::Element AnyElementOf(const msxml::Document& document, Case& input);
 
 }  // namespace fuzzing

@@ -4,7 +4,7 @@
 
 namespace fuzzing {
 
-// While it lives, message boxes of this thread are not made, as on a desktop that nobody is at: nobody is asked.
+// Suppresses the message boxes of this thread while it lives, because nobody is there to close them.
 class NoMessageBoxes {
 public:
     NoMessageBoxes();

@@ -18,9 +18,9 @@ namespace fuzzing {
 namespace {
 
 // Automation objects of clients: one that has a value, and one whose members fail.
-ComPtr<IUnknown> ClientObject(Case& one) {
-    const bool fails = one.OneIn(2);
-    const _variant_t value(AnyText(one).c_str());
+ComPtr<IUnknown> ClientObject(Case& input) {
+    const bool fails = input.OneIn(2);
+    const _variant_t value(AnyText(input).c_str());
     const auto answer = [fails, value](const std::vector<_variant_t>&, WORD) {
         if (fails) throw platform::ComError(E_FAIL, L"The client's object fails.");
         return value;
@@ -40,7 +40,7 @@ void KeepFactory(REFCLSID classId) {
 
 }  // namespace
 
-World::World(Case& one) : case_(one), values_(one, [this] { return AnyObject(); }) {
+World::World(Case& input) : case_(input), values_(input, [this] { return AnyObject(); }) {
     static const NoMessageBoxes none;
     Host().onYield = [this] { Yield(); };
     platform::SetHttpRequestFactory([this] { return MakeRequest(); });

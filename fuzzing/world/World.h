@@ -19,7 +19,7 @@ namespace fuzzing {
 
 class World {
 public:
-    explicit World(Case& one);
+    explicit World(Case& input);
     // Brings what is pending to its end, empties the collections that were seen, and forgets all of it.
     ~World();
     World(const World&) = delete;
@@ -33,7 +33,7 @@ public:
     // What the requests made from now on do and answer.
     support::Script script;
 
-    // What the host does when it is let to work, beside its own part.
+    // Runs at each yield to the host, before the requests and timers advance.
     std::function<void()> onYield = [] {};
 
     // Values whose objects are of this world.

@@ -60,17 +60,17 @@ Tree& NodeAt(Tree& tree, size_t& position) {
     return tree;
 }
 
-Tree& AnyNode(Tree& tree, Case& one) {
-    size_t position = one.Below(SizeOf(tree));
+Tree& AnyNode(Tree& tree, Case& input) {
+    size_t position = input.Below(SizeOf(tree));
     return NodeAt(tree, position);
 }
 
-Tree& AnyElementIn(Tree& tree, Case& one) {
-    Tree& node = AnyNode(tree, one);
+Tree& AnyElementIn(Tree& tree, Case& input) {
+    Tree& node = AnyNode(tree, input);
     return node.IsElement() ? node : tree;
 }
 
-const std::wstring& AnyName(Case& one) {
+const std::wstring& AnyName(Case& input) {
     static const std::vector<std::wstring> names = [] {
         std::vector<std::wstring> found = {L"a", L"soap:Body", L"Body", L"x:y", L"xml:id"};
         const auto collect = [&](const auto& self, const Tree& tree) -> void {
@@ -82,28 +82,28 @@ const std::wstring& AnyName(Case& one) {
         found.erase(std::unique(found.begin(), found.end()), found.end());
         return found;
     }();
-    return one.Pick(names);
+    return input.Pick(names);
 }
 
 Tree Markup(std::wstring text) { return {{}, std::move(text), {}, {}}; }
 
-Tree AnyMarkup(Case& one) {
-    switch (one.Below(5)) {
+Tree AnyMarkup(Case& input) {
+    switch (input.Below(5)) {
         case 0:
-            return Markup(L"<![CDATA[" + AnyText(one) + L"]]>");
+            return Markup(L"<![CDATA[" + AnyText(input) + L"]]>");
         case 1:
-            return Markup(L"<!--" + AnyText(one) + L"-->");
+            return Markup(L"<!--" + AnyText(input) + L"-->");
         case 2:
-            return Markup(L"<?pi " + AnyText(one) + L"?>");
+            return Markup(L"<?pi " + AnyText(input) + L"?>");
         case 3:
-            return Markup(L"&#x" + std::to_wstring(one.Below(11000)) + L";");
+            return Markup(L"&#x" + std::to_wstring(input.Below(11000)) + L";");
         default:
-            return Markup(AnyText(one));
+            return Markup(AnyText(input));
     }
 }
 
-void Insert(Tree& parent, Tree child, Case& one) {
-    const auto place = static_cast<std::ptrdiff_t>(one.Below(parent.children.size() + 1));
+void Insert(Tree& parent, Tree child, Case& input) {
+    const auto place = static_cast<std::ptrdiff_t>(input.Below(parent.children.size() + 1));
     parent.children.insert(parent.children.begin() + place, std::move(child));
 }
 
@@ -115,91 +115,91 @@ void Wrap(Tree& node, size_t levels, const std::wstring& name) {
     }
 }
 
-void ChangeAttributes(Tree& element, Case& one) {
+void ChangeAttributes(Tree& element, Case& input) {
     static constexpr const wchar_t* kNames[] = {L"id", L"xmlns", L"xmlns:j", L"xmlns:soap", L"xsi:nil", L"xml:space"};
-    if (!element.attributes.empty() && one.OneIn(2)) {
-        element.attributes.erase(element.attributes.begin() + one.Below(element.attributes.size()));
+    if (!element.attributes.empty() && input.OneIn(2)) {
+        element.attributes.erase(element.attributes.begin() + input.Below(element.attributes.size()));
     } else {
-        element.attributes.emplace_back(one.Pick(kNames), one.OneIn(3) ? L"urn:other" : AnyText(one));
+        element.attributes.emplace_back(input.Pick(kNames), input.OneIn(3) ? L"urn:other" : AnyText(input));
     }
 }
 
 // Copies, so that a node can be put below itself.
-void CopyElsewhere(Tree& tree, Case& one) {
-    const Tree copy = AnyNode(tree, one);
-    Tree& parent = AnyElementIn(tree, one);
-    for (size_t times = one.OneIn(8) ? 30 : 1; times > 0; --times) Insert(parent, copy, one);
+void CopyElsewhere(Tree& tree, Case& input) {
+    const Tree copy = AnyNode(tree, input);
+    Tree& parent = AnyElementIn(tree, input);
+    for (size_t times = input.OneIn(8) ? 30 : 1; times > 0; --times) Insert(parent, copy, input);
 }
 
-void Mutate(Tree& tree, Case& one) {
-    switch (one.Below(10)) {
+void Mutate(Tree& tree, Case& input) {
+    switch (input.Below(10)) {
         case 0: {
-            Tree& parent = AnyElementIn(tree, one);
+            Tree& parent = AnyElementIn(tree, input);
             if (!parent.children.empty())
-                parent.children.erase(parent.children.begin() + one.Below(parent.children.size()));
+                parent.children.erase(parent.children.begin() + input.Below(parent.children.size()));
             break;
         }
         case 1:
-            CopyElsewhere(tree, one);
+            CopyElsewhere(tree, input);
             break;
         case 2: {
-            Tree other = one.Pick(Trees());
-            const Tree copy = AnyNode(other, one);
-            Insert(AnyElementIn(tree, one), copy, one);
+            Tree other = input.Pick(Trees());
+            const Tree copy = AnyNode(other, input);
+            Insert(AnyElementIn(tree, input), copy, input);
             break;
         }
         case 3:
-            AnyElementIn(tree, one).name = AnyName(one);
+            AnyElementIn(tree, input).name = AnyName(input);
             break;
         case 4:
-            ChangeAttributes(AnyElementIn(tree, one), one);
+            ChangeAttributes(AnyElementIn(tree, input), input);
             break;
         case 5:
-            Insert(AnyElementIn(tree, one), AnyMarkup(one), one);
+            Insert(AnyElementIn(tree, input), AnyMarkup(input), input);
             break;
         case 6:
-            Wrap(AnyNode(tree, one), 1 + (one.OneIn(6) ? one.Below(kDeepest) : 0), AnyName(one));
+            Wrap(AnyNode(tree, input), 1 + (input.OneIn(6) ? input.Below(kDeepest) : 0), AnyName(input));
             break;
         case 7: {
-            Tree& parent = AnyElementIn(tree, one);
-            if (parent.children.size() > 1) std::swap(one.Pick(parent.children), one.Pick(parent.children));
+            Tree& parent = AnyElementIn(tree, input);
+            if (parent.children.size() > 1) std::swap(input.Pick(parent.children), input.Pick(parent.children));
             break;
         }
         default: {
             // The texts are what is read most.
-            Tree& node = AnyNode(tree, one);
+            Tree& node = AnyNode(tree, input);
             if (node.IsElement()) node.children.clear();
-            (node.IsElement() ? node.children.emplace_back() : node).text = Escaped(AnyText(one));
+            (node.IsElement() ? node.children.emplace_back() : node).text = Escaped(AnyText(input));
         }
     }
 }
 
-void ChangeCharacters(std::wstring& text, Case& one) {
+void ChangeCharacters(std::wstring& text, Case& input) {
     static constexpr const wchar_t* kPieces[] = {L"<",         L">",    L"&",      L"\"",    L"/>",    L"<a>",
                                                  L"</a>",      L"&lt;", L"]]>",    L"--",    L"&#x0;", L":",
                                                  L"xmlns='u'", L"\0",   L"\xFFFF", L"\xD800"};
     if (text.empty()) return;
-    const size_t at = one.Below(text.size());
-    const size_t length = std::min<size_t>(text.size() - at, 1 + one.Below(20));
-    switch (one.Below(5)) {
+    const size_t at = input.Below(text.size());
+    const size_t length = std::min<size_t>(text.size() - at, 1 + input.Below(20));
+    switch (input.Below(5)) {
         case 0:
             text.erase(at, length);
             break;
         case 1:
-            text.insert(one.Below(text.size()), text.substr(at, length));
+            text.insert(input.Below(text.size()), text.substr(at, length));
             break;
         case 2:
-            text[at] = static_cast<wchar_t>(one.OneIn(2) ? one.Bits() : one.Below(128));
+            text[at] = static_cast<wchar_t>(input.OneIn(2) ? input.Bits() : input.Below(128));
             break;
         case 3:
             text.resize(at);
             break;
         default:
-            text.insert(at, one.Pick(kPieces));
+            text.insert(at, input.Pick(kPieces));
     }
 }
 
-const wchar_t* AnyProlog(Case& one) {
+const wchar_t* AnyProlog(Case& input) {
     static constexpr const wchar_t* kPrologs[] = {
         L"<?xml version='1.0'?>",
         L"<?xml version='1.0' encoding='UTF-8' standalone='yes'?>",
@@ -210,25 +210,25 @@ const wchar_t* AnyProlog(Case& one) {
         L"\xFEFF",
         L" \r\n<!-- -->",
     };
-    return one.OneIn(6) ? one.Pick(kPrologs) : L"";
+    return input.OneIn(6) ? input.Pick(kPrologs) : L"";
 }
 
-std::wstring AnyOf(const std::vector<Tree>& trees, Case& one) {
-    Tree tree = one.Pick(trees);
-    for (uint32_t left = one.Below(6); left > 0; --left) {
+std::wstring AnyOf(const std::vector<Tree>& trees, Case& input) {
+    Tree tree = input.Pick(trees);
+    for (uint32_t left = input.Below(6); left > 0; --left) {
         Tree changed = tree;
-        Mutate(changed, one);
+        Mutate(changed, input);
         if (SizeOf(changed) < kLargest && DepthOf(changed) < kDeepest) tree = std::move(changed);
     }
-    std::wstring text = AnyProlog(one) + ToText(tree);
-    for (uint32_t left = one.OneIn(3) ? 1 + one.Below(3) : 0; left > 0; --left) ChangeCharacters(text, one);
+    std::wstring text = AnyProlog(input) + ToText(tree);
+    for (uint32_t left = input.OneIn(3) ? 1 + input.Below(3) : 0; left > 0; --left) ChangeCharacters(text, input);
     return text;
 }
 
 }  // namespace
 
-std::wstring AnyXml(Case& one) { return AnyOf(Trees(), one); }
+std::wstring AnyXml(Case& input) { return AnyOf(Trees(), input); }
 
-std::wstring AnyAnswer(Case& one) { return AnyOf(Answers(), one); }
+std::wstring AnyAnswer(Case& input) { return AnyOf(Answers(), input); }
 
 }  // namespace fuzzing

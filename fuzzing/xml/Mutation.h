@@ -8,8 +8,8 @@
 namespace fuzzing {
 
 // One of the documents that were loaded, changed in its structure, then perhaps in its characters.
-std::wstring AnyXml(Case& one);
+std::wstring AnyXml(Case& input);
 // The same of an answer to a search.
-std::wstring AnyAnswer(Case& one);
+std::wstring AnyAnswer(Case& input);
 
 }  // namespace fuzzing

@@ -22,8 +22,8 @@ std::wstring NodeName(const msxml::Node& node) {
 void ReadAttributes(const msxml::Node& node, Tree& tree) {
     ComPtr<IXMLDOMNamedNodeMap> attributes;
     if (node->get_attributes(attributes.GetAddressOf()) != S_OK) return;
-    for (msxml::Node one; attributes->nextNode(one.ReleaseAndGetAddressOf()) == S_OK && one;) {
-        tree.attributes.emplace_back(NodeName(one), std::wstring(msxml::Text(one)));
+    for (msxml::Node input; attributes->nextNode(input.ReleaseAndGetAddressOf()) == S_OK && input;) {
+        tree.attributes.emplace_back(NodeName(input), std::wstring(msxml::Text(input)));
     }
 }
 
@@ -78,8 +78,8 @@ std::wstring ToText(const Tree& tree) {
 
 std::wstring Escaped(const std::wstring& text) {
     std::wstring escaped;
-    for (const wchar_t one : text) {
-        switch (one) {
+    for (const wchar_t character : text) {
+        switch (character) {
             case L'<':
                 escaped += L"&lt;";
                 break;
@@ -90,7 +90,7 @@ std::wstring Escaped(const std::wstring& text) {
                 escaped += L"&quot;";
                 break;
             default:
-                escaped += one;
+                escaped += character;
         }
     }
     return escaped;

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kApartments = 16;
 
-// As many as LEJIS_ROUNDS says.
+// The number of rounds that LEJIS_ROUNDS demands.
 int Rounds() {
     constexpr int kRounds = 50;
     const char* const rounds = std::getenv("LEJIS_ROUNDS");

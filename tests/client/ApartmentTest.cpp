@@ -30,7 +30,7 @@ void RunInMultiThreadedApartment(const std::function<void()>& work) {
     thread.join();
 }
 
-// To where a process of its own is listened to.
+// Prints the failures to standard error, which EXPECT_EXIT shows.
 void ReportFailures() {
     const testing::TestResult& result = *testing::UnitTest::GetInstance()->current_test_info()->result();
     for (int index = 0; index < result.total_part_count(); ++index) {
@@ -39,7 +39,7 @@ void ReportFailures() {
     }
 }
 
-// The same in a process of its own, which fails with the work: Wine never lets go of a class object that it made for
+// The same in a process of its own, which fails with the work: Wine never releases a class object that it made for
 // such a thread, and the library would be in use for the rest of this process.
 void InMultiThreadedApartment(const std::function<void()>& work) {
     EXPECT_EXIT(

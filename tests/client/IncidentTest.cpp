@@ -164,7 +164,7 @@ TEST_F(FilledIncident, GoesIntoASubmissionWithItsContributingSystem) {
     EXPECT_NE(std::wstring::npos, markup.find(L">TalvexSuite<"));
 }
 
-TEST_F(FilledIncident, OfWhichACardIsNoCardFailsWhenItIsWritten) {
+TEST_F(FilledIncident, WithACardOfAnotherClassFailsWhenItIsWritten) {
     Add(&ILejisIncidentIndexCard::get_PersonIndexCards, FilledVehicle().Get());
     ComPtr<IDispatch> written;
     EXPECT_TRUE(support::FailedWith(incident_->ToXmlElement(support::NewDocument().Get(), written.GetAddressOf()),

@@ -36,7 +36,7 @@ public:
                    std::vector<DISPID> named = {}) const;
     Outcome InvokeNumber(DISPID member, WORD kind, std::vector<_variant_t> arguments = {},
                          std::vector<DISPID> named = {}) const;
-    // With the parameters as they stand, which may be none.
+    // Passes the parameters as they stand; there may be none.
     Outcome InvokeWith(DISPID member, WORD kind, DISPPARAMS* parameters) const;
 
     // DISPID_UNKNOWN where the object has no such member.

@@ -15,7 +15,7 @@ struct Member {
     DISPID number;
     INVOKEKIND kind;
     ULONG_PTR offset;
-    // Of each parameter in order, results included: its type, VT_BYREF for one that is written to.
+    // The type of each parameter in order, results included; VT_BYREF for one that is written to.
     struct Parameter {
         VARTYPE type;
         bool isResult;

@@ -83,7 +83,7 @@ TEST(Property, OfBooleanKindKeepsTrueAndFalse) {
     }
 }
 
-TEST(Property, OfBooleanKindMakesEveryTruthTheOneTruth) {
+TEST(Property, OfBooleanKindTurnsEveryTrueValueIntoVariantTrue) {
     for (const Property& property : SettableProperties(VT_BOOL)) {
         const LateBound object = CreateLateBound(property.owner->name);
         ComPtr<IUnknown> byTable;

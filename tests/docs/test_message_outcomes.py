@@ -27,7 +27,7 @@ def rows_of_the_tool():
     """Its table: who speaks of which road, how the message begins, and the words for its outcome."""
     source = SOURCE.read_text(encoding="utf-8")
     body = re.search(r"constexpr Row kRows\[\] = \{\n(.*?)\n\};", source, re.DOTALL)[1]
-    rows = re.findall(r'\{Speaker::(\w+), Road::(\w+), L"([^"]*)", Result::(\w+), (\w+),\s+\w+\}', body)
+    rows = re.findall(r'\{Speaker::(\w+), Reachability::(\w+), L"([^"]*)", Result::(\w+), (\w+),\s+\w+\}', body)
     assert len(rows) == body.count("Result::"), body
     return [Row(speaker, road, begin, WORDS[result] + AGAIN[again]) for speaker, road, begin, result, again in rows]
 

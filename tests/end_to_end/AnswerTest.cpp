@@ -58,7 +58,7 @@ protected:
     }
 };
 
-TEST_F(Address, ThatIsNoneIsNamed) {
+TEST_F(Address, ThatIsInvalidIsNamedInTheError) {
     for (const wchar_t* url : {L"", L"no url", L"://", L"lejis-interface", L"ftp://127.0.0.1/", L"file:///C:/x.xml",
                                L"http://", L"http:///services", L"http://:8080/services"}) {
         EXPECT_TRUE(support::FailedWith(SubmitTo(url), tvTransientError, L"Invalid URL '" + std::wstring(url) + L"'"));

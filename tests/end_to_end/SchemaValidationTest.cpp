@@ -88,7 +88,7 @@ TEST_F(SchemaValidation, OfAServiceThatIsDownSaysSo) {
                                     L"The LEJIS Interface service is down. It may need to be restarted."));
 }
 
-TEST_F(SchemaValidation, OfAnAddressThatIsNoneSaysSo) {
+TEST_F(SchemaValidation, OfAnInvalidAddressSaysSo) {
     EXPECT_OK(service->put_URL(support::Bstr(L"")));
     EXPECT_TRUE(support::FailedWith(Submit(NewIncident().Get()), tvTransientError, L"Invalid URL ''"));
 }

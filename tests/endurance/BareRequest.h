@@ -5,7 +5,7 @@
 
 namespace endurance {
 
-// Posts a text through MSXML, as the library does, and reads the answer. Failures are no matter.
+// Posts a text through MSXML, as the library does, and reads the answer. Failures are ignored.
 void PostBare(const std::wstring& url, const std::wstring& body);
 
 }  // namespace endurance

@@ -14,8 +14,8 @@ namespace endurance {
 //   submissions and deletions may be repeated, for they are known by agency and number.
 // - A fatal error in the server's words, at the first try: the server has refused, the index is as before.
 // - A fatal error after a transient one, or one of the library's own ("Internal error ..."), which was an answer that
-//   nobody understands: the incident is in doubt, either as before or as intended. It is settled later, by a person who
-//   has looked at it, in that the same is sent once more.
+//   nobody understands: the incident is in doubt, either as before or as intended. SettleAll sends the same once more,
+//   as a person would after looking at the incident.
 class CarefulClient {
 public:
     explicit CarefulClient(const std::wstring& url);

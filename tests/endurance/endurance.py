@@ -31,7 +31,7 @@ ABSENT, NO_DOUBT = "-", "="
 # Every third version is a full incident, with two persons.
 FULL = 3
 WARM_UP = 1000
-# Of what is held after the first thousand exchanges.
+# The share by which memory may grow over what is held after the first thousand exchanges.
 TOLERANCE = 0.02
 # Memory comes in pieces of a megabyte and more, so that what the platform loses is known about so well.
 UNCERTAINTY = 0.15

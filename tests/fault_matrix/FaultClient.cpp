@@ -159,7 +159,7 @@ Result TrySearchReplaced(const Order& order) {
     return TryGivingUp(order, [&](Searching& searching) { return searching.OutcomeAt(order.goodUrl); });
 }
 
-// The client asks nobody instead.
+// The client replaces the search by one without an address.
 Result TrySearchWithdrawn(const Order& order) {
     return TryGivingUp(order, [](Searching& searching) {
         searching.Withdraw();

@@ -27,12 +27,12 @@ def fault(message: str) -> bytes:
 
 
 def bare(data: bytes) -> bytes:
-    """Without a declaration."""
+    """The document without its declaration."""
     return _DECLARATION.sub(b"", data, count=1)
 
 
 def with_prolog(prolog: str) -> Change:
-    """With this in front of the root."""
+    """Puts this before the root."""
     return lambda data: prolog.encode() + bare(data)
 
 
@@ -43,7 +43,7 @@ def in_encoding(encoding: str, declared: str | None = None, mark: bytes = b"", w
 
 
 def inside(markup: str) -> Change:
-    """With this as the first thing in the root."""
+    """Puts this at the beginning of the root's content."""
     def change(data: bytes) -> bytes:
         data = bare(data)
         end = data.index(b">") + 1

@@ -55,7 +55,7 @@ def network_message(arrival: Arrival) -> str:
 
 
 def submission(arrival: Arrival) -> str:
-    """Of a submission or deletion that is waited for."""
+    """The outcome of a submission or deletion that is waited for."""
     if is_transient(arrival.status):
         return f"transient: {network_message(arrival)}"
     if arrival.status == 403:
@@ -80,7 +80,7 @@ def _accepted(arrival: Arrival) -> str:
 
 
 def search(arrival: Arrival) -> str:
-    """Of a search: its one event."""
+    """The outcome of a search: its one event."""
     if arrival.status == 200:
         return FOUND if arrival.content is Content.RIGHT else f"ServiceError: {NO_OBJECT}"
     if is_transient(arrival.status):
@@ -93,7 +93,7 @@ def search(arrival: Arrival) -> str:
 
 
 def schema_check(arrival: Arrival) -> str:
-    """Of a submission that is checked against a description fetched so. An error keeps it back."""
+    """The outcome of a submission that is checked against a description fetched so. An error keeps it back."""
     if is_transient(arrival.status):
         return kept_back(network_message(arrival))
     if arrival.status != 200:

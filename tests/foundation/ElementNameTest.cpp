@@ -22,7 +22,7 @@ TEST(ElementName, HasTheNamespaceOfItsPrefix) {
     }
 }
 
-TEST(ElementName, KeepsWhatStandsBehindItsPrefix) {
+TEST(ElementName, KeepsTheLocalNameAfterItsPrefix) {
     EXPECT_EQ(L"IDJurisdictionCode.ncicLSTA", ElementName(L"j:IDJurisdictionCode.ncicLSTA").LocalName());
 }
 

@@ -4,7 +4,7 @@ import unittest
 
 from fuzzer import NOTHING_FOUND, run
 
-# Of each target; with both bitnesses and the fuzzer's own tests about a minute.
+# For each target; with both bitnesses and the fuzzer's own tests that makes about a minute.
 SECONDS = 5
 
 
@@ -28,7 +28,7 @@ class Targets(unittest.TestCase):
         self.look("sequences", 100)
 
     def test_answers(self) -> None:
-        # With both bitnesses a minute.
+        # This takes a minute with both bitnesses.
         self.look("answers", 300, seconds=30)
 
 

@@ -82,7 +82,7 @@ TEST(VehicleInquiryArguments, WritesBothHalvesOfThePlateForEither) {
                         L"<j:VehicleColorPrimaryText/></inq:VehicleInquiryArguments>"));
 }
 
-TEST(VehicleInquiryArguments, ReadsAYearThatIsNoneAsNothing) {
+TEST(VehicleInquiryArguments, ReadsAnInvalidYearAsNothing) {
     const auto vehicle = platform::Create<VehicleInquiryArguments>();
     vehicle->Year->Set(short{2004});
     vehicle->Read(ElementReader(

@@ -85,7 +85,7 @@ TEST(LejisInquiryControls, ReadReplacesTheAgencies) {
     EXPECT_EQ(1u, before->Count());
 }
 
-TEST(LejisInquiryControls, ReadRaisesForALimitThatIsNoneAfterTheFlagIsSet) {
+TEST(LejisInquiryControls, ReadRaisesForAnInvalidLimitAfterTheFlagIsSet) {
     for (const wchar_t* limit : {L"", L"<lejis:maxincidents/>", L"<lejis:maxincidents>ten</lejis:maxincidents>"}) {
         const auto controls = platform::Create<LejisInquiryControls>();
         controls->MaxIncidents = 7;

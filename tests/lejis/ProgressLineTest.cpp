@@ -5,7 +5,7 @@
 namespace lejis_client {
 namespace {
 
-// Without the blanks that wipe out a longer line before it.
+// The line without the blanks that wipe out a longer line before it.
 std::wstring Line(std::size_t done, std::size_t tried, std::size_t total, ULONGLONG milliseconds) {
     const std::wstring line = ProgressLine(done, tried, total, milliseconds, L"a.xml");
     EXPECT_EQ(79u, line.size());

@@ -11,7 +11,7 @@ LOCAL = {"Library in use", "LEJIS host", "Environment", "Proxy", "Debug dumps", 
 
 
 def dump_folders():
-    """Of all users of the prefix."""
+    """The folders of all users of the prefix."""
     users = Path(os.environ["WINEPREFIX"], "drive_c", "users")
     return list(users.glob("*/AppData/Local/TalvexSuite/Diagnostics"))
 

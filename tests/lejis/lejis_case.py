@@ -25,7 +25,7 @@ from windows_program import RUNNER  # noqa: E402  (the path comes first)
 
 SAMPLES = PROJECT / "samples" / "incidents"
 TIME_LIMIT = 60
-# Without what makes root read everything.
+# The command that runs a program without the rights by which root reads everything.
 RESTRAINED = ("setpriv", "--bounding-set=-dac_override,-dac_read_search")
 
 DONE, REFUSED, TRY_AGAIN, BOTH, WRONG_USAGE, INTERRUPTED = 0, 1, 2, 3, 64, 130
@@ -111,7 +111,7 @@ class LejisCase(unittest.TestCase):
 
 
 class SimulatorCase(LejisCase):
-    """With a simulator that has forgotten everything of earlier tests."""
+    """Has a simulator that has forgotten everything of earlier tests."""
 
     def setUp(self):
         super().setUp()

@@ -38,7 +38,7 @@ def set_value(test, key, name, text, kind="REG_SZ"):
 
 
 def use_proxy(test, servers, exceptions=None):
-    """As this user's settings for the Internet name it."""
+    """Sets the proxy in this user's settings for the Internet."""
     test.addCleanup(reg, "add", INTERNET, "/v", "ProxyEnable", "/t", "REG_DWORD", "/d", "0", "/f")
     reg("add", INTERNET, "/v", "ProxyEnable", "/t", "REG_DWORD", "/d", "1", "/f")
     set_value(test, INTERNET, "ProxyServer", servers)
@@ -86,7 +86,7 @@ def register_for_other_host(test):
 
 
 def turn_into_other_bitness(file):
-    """As far as its header tells."""
+    """Changes the bitness that the file's header states, and nothing else."""
     content = bytearray(file.read_bytes())
     (header,) = struct.unpack_from("<I", content, 0x3C)
     struct.pack_into("<H", content, header + 4, _MACHINES[OTHER_BITS])

@@ -1,4 +1,4 @@
-"""lejis doctor: what it finds on a road that is whole, and on one whose server is in trouble."""
+"""lejis doctor: what it finds when all is well, and when the server is in trouble."""
 import os
 import unittest
 
@@ -46,7 +46,7 @@ class DoctorTest(DoctorCase):
         self.findings(TRY_AGAIN, "--search-url", nobody)
         self.findings(REFUSED, "--search-url", "nonsense")
 
-    def test_an_address_that_is_none(self):
+    def test_an_invalid_address(self):
         for address in ("nonsense", "ftp://127.0.0.1/x", "http://", ""):
             with self.subTest(address):
                 found = self.findings(REFUSED, "--url", address)

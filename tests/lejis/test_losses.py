@@ -229,7 +229,7 @@ class LossTest(LejisCase):
     def test_values_that_are_not_read_are_named_with_their_line(self):
         self.check_warnings(BAD_VALUES)
 
-    def test_a_submission_date_that_is_none_is_named_beside_the_error_that_it_causes(self):
+    def test_an_invalid_submission_date_is_named_beside_the_error_that_it_causes(self):
         self.write("a.xml", card().replace("2024-03-11<", "2024-02-30<"))
         self.assertEqual(self.expect(REFUSED, "check", "a.xml"),
                          "a.xml  refused: 1 error, 1 warning\n  ! Submission date is missing.\n"

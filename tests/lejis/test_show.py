@@ -10,7 +10,7 @@ LOSS = "Line 16: j:ChargeNcicCode is not read; did you mean j:ChargeNCICCode?"
 
 
 def on_the_wire(shown):
-    """Without what is there for reading alone."""
+    """The document without what is there for readers alone."""
     return re.sub(r">\n *<", "><", shown).rstrip("\n")
 
 

@@ -38,7 +38,7 @@ BINARY = (".dll", ".exe", ".tlb", ".manifest")
 
 
 def project_version():
-    """As the one place states it."""
+    """The version in the one place that states it."""
     text = (PROJECT / "CMakeLists.txt").read_text(encoding="utf-8")
     return re.search(r"project\(TVLejisCore VERSION ([\d.]+)", text)[1]
 

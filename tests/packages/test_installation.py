@@ -108,7 +108,7 @@ class InstallationTest(PackageCase):
         self.assertEqual(self.installed_versions(architecture), ["99.0.1"])
 
     def installed_versions(self, architecture):
-        """As "Apps and features" lists them."""
+        """The versions that "Apps and features" lists."""
         installed = self.expect("reg", "query", r"HKLM\Software\Microsoft\Windows\CurrentVersion\Uninstall", "/s",
                                 f"/reg:{BITS[architecture]}")
         return re.findall(r"DisplayVersion +REG_SZ +(\S+)", installed)

@@ -48,7 +48,7 @@ class SimulatorPackageTest(unittest.TestCase):
         self.assertIn(b'"outcome": "accepted"', self.get(f"{address}/control/exchanges"))
 
     def check_page(self, address):
-        """With every file that one of its files names."""
+        """Fetches the page and every file that one of its files names."""
         seen, names = set(), {"/"}
         while names - seen:
             name = sorted(names - seen)[0]

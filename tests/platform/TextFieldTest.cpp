@@ -196,7 +196,7 @@ TEST(TextField, NeedsNoMemoryForEmptyTexts) {
 TEST(TextField, StaysAsItIsWhenMemoryIsShort) {
     Card card;
     Fill(card, {L"one", L"two", L"three"});
-    // Of these characters none is looked at.
+    // The field must not look at any of these characters.
     const std::wstring_view endless(L"x", size_t{1} << 30);
     EXPECT_THROW(card.two = endless, std::bad_alloc);
     EXPECT_THROW(card.two = endless.substr(1), std::bad_alloc);

@@ -28,7 +28,7 @@ class WindowsGuideTest(SampleCase):
         self.assertEqual(self.indexed(), ["2007-000123"], "the other incident was withdrawn")
 
     def check_step(self, command, answer, settings):
-        # As the guide says for the 64-bit library.
+        # The commands are the guide's for the 64-bit library.
         run = self.wine("cmd", "/c", command.replace("SysWOW64", SYSTEM), folder=SAMPLES, environment=settings)
         self.assertEqual(run.code, DONE, run)
         self.assertTrue(answer)

@@ -12,9 +12,9 @@
 
 using support::AnsweredCard;
 using support::InquiryResponse;
+using support::ObservedSearch;
+using support::ObserveSearchWith;
 using support::Script;
-using support::SearchSeen;
-using support::SearchSeenWith;
 using support::Soap;
 
 namespace lejis {
@@ -52,7 +52,7 @@ Script Whole(const std::wstring& text) { return {.responseText = text}; }
 
 const std::wstring kEnvelope = L"<soap:Envelope xmlns:soap='http://schemas.xmlsoap.org/soap/envelope/'>";
 const std::wstring kResponse = L"<l:LEJISIndexInquiryResponse xmlns:l='http://lejis.example/lejis/jxdm/1.0/service'/>";
-// Its event is another one.
+// A second response that would raise a different event.
 const std::wstring kOtherResponse =
     L"<l:LEJISIndexInquiryResponse xmlns:l='http://lejis.example/lejis/jxdm/1.0/service'>"
     L"<l:incidentcount>5</l:incidentcount></l:LEJISIndexInquiryResponse>";
@@ -62,7 +62,7 @@ const Row kRows[] = {
     {"NoCards", InAnswer(L""), true},
     {"CountWithoutCards", InAnswer(L"<lejis:incidentcount>5</lejis:incidentcount>"), true},
     {"FractionOfACount", InAnswer(L"<lejis:incidentcount>2.5</lejis:incidentcount>"), true},
-    {"CountThatIsNoNumber", InAnswer(L"<lejis:incidentcount>many</lejis:incidentcount>"), true},
+    {"CountThatIsNotANumber", InAnswer(L"<lejis:incidentcount>many</lejis:incidentcount>"), true},
     {"CountBetweenBlanks", InAnswer(L"<lejis:incidentcount> 5\n</lejis:incidentcount>"), true},
     {"TwoCounts", InAnswer(L"<lejis:incidentcount>0</lejis:incidentcount><lejis:incidentcount>5</lejis:incidentcount>"),
      true},
@@ -143,8 +143,8 @@ const Row kRows[] = {
 class PlainReading : public testing::TestWithParam<Row> {};
 
 TEST_P(PlainReading, TellsTheClientTheSame) {
-    const SearchSeen plain = SearchSeenWith(GetParam().script, true);
-    const SearchSeen document = SearchSeenWith(GetParam().script, false);
+    const ObservedSearch plain = ObserveSearchWith(GetParam().script, true);
+    const ObservedSearch document = ObserveSearchWith(GetParam().script, false);
     EXPECT_EQ(document.events, plain.events);
     EXPECT_EQ(document.results, plain.results);
     EXPECT_EQ(GetParam().isReadPlainly, plain.isReadPlainly);
@@ -186,15 +186,15 @@ const std::pair<const wchar_t*, bool> kContentTypes[] = {
 
 TEST(PlainReadingOfContentTypes, IsOfXmlInUtf8Alone) {
     for (const auto& [contentType, isReadPlainly] : kContentTypes) {
-        const SearchSeen seen = SearchSeenWith(Typed(contentType), true);
+        const ObservedSearch seen = ObserveSearchWith(Typed(contentType), true);
         EXPECT_EQ(isReadPlainly, seen.isReadPlainly) << support::Utf8(contentType);
         EXPECT_EQ(std::vector<std::wstring>{L"SearchCompleted: 2 cards"}, seen.events) << support::Utf8(contentType);
     }
 }
 
 TEST(PlainReadingOfAll, HappensWhereItIsSwitchedOn) {
-    EXPECT_TRUE(SearchSeenWith(Whole(kAnswer), true).isReadPlainly);
-    EXPECT_FALSE(SearchSeenWith(Whole(kAnswer), false).isReadPlainly);
+    EXPECT_TRUE(ObserveSearchWith(Whole(kAnswer), true).isReadPlainly);
+    EXPECT_FALSE(ObserveSearchWith(Whole(kAnswer), false).isReadPlainly);
 }
 
 TEST(PlainReadingOfTexts, HasMsxmlAskedForAFewOfACard) {
@@ -206,13 +206,13 @@ TEST(PlainReadingOfTexts, HasMsxmlAskedForAFewOfACard) {
     const std::wstring inCity = L"ERIE</j:LocationCityName><j:LocationStreet>" + street +
                                 L"</j:LocationStreet><j:LocationPostalCodeID><j:ID> 1 </j:ID></j:LocationPostalCodeID>"
                                 L"<j:LocationCityName>";
-    EXPECT_TRUE(SearchSeenWith(WithTexts(L" 1 ", inCity), true).isReadPlainly);
+    EXPECT_TRUE(ObserveSearchWith(WithTexts(L" 1 ", inCity), true).isReadPlainly);
     const std::wstring charge =
         L" 1 </j:CaveatText><j:ChargeNCICCode> 1 </j:ChargeNCICCode>"
         L"<j:ChargeDescriptionText> 1 </j:ChargeDescriptionText><j:CaveatText>";
     const Script many = WithTexts(charge, inCity);
-    EXPECT_FALSE(SearchSeenWith(many, true).isReadPlainly);
-    EXPECT_TRUE(SearchSeenWith(many, true).SameAs(SearchSeenWith(many, false)));
+    EXPECT_FALSE(ObserveSearchWith(many, true).isReadPlainly);
+    EXPECT_TRUE(ObserveSearchWith(many, true).SameAs(ObserveSearchWith(many, false)));
 }
 
 TEST(PlainReadingThatFails, LeavesTheResultsBefore) {

@@ -162,7 +162,7 @@ TEST(WsdlUnderWine, OfAServerThatRefusesTheConnectionEndsAtOnce) {
     EXPECT_EQ(0, host.yields);
 }
 
-TEST_F(SchemaUtilsTest, RaisesTheNumberOfAnAddressThatIsNoneBeforeAnythingIsSent) {
+TEST_F(SchemaUtilsTest, RaisesTheNumberOfAnInvalidAddressBeforeAnythingIsSent) {
     for (const wchar_t* url : {L"?wsdl", L"no url?wsdl", L"ftp://host/?wsdl", L"file:///C:/x?wsdl", L"http://?wsdl"}) {
         try {
             SchemaUtils::ValidateSchemaFromWSDL(Request(L"<x/>"), url);

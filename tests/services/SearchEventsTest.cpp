@@ -67,7 +67,7 @@ const SearchEventRow kSearchEventRows[] = {
     {"CardsWithoutCount", Answered(InquiryResponse(AnsweredCard(L"1"))), L"SearchCompleted: 1 cards"},
     {"NothingFound", Answered(InquiryResponse(Counted(L"0"))), L"SearchCompleted: 0 cards"},
     {"NothingAtAll", Answered(InquiryResponse(L"")), L"SearchCompleted: 0 cards"},
-    {"CountThatIsNoNumber", Answered(InquiryResponse(Counted(L"many"))), L"SearchCompleted: 0 cards"},
+    {"CountThatIsNotANumber", Answered(InquiryResponse(Counted(L"many"))), L"SearchCompleted: 0 cards"},
     {"CountWithoutCards", Answered(InquiryResponse(Counted(L"5"))), kTooBroad},
     {"NegativeCountWithoutCards", Answered(InquiryResponse(Counted(L"-1"))), kTooBroad},
     {"CountOutOfRange", Answered(InquiryResponse(Counted(L"99999999999"))), kInternal + L"Overflow"},
@@ -195,7 +195,7 @@ TEST_P(SearchSendingFailure, IsAnEventAtOnceAndNoError) {
 INSTANTIATE_TEST_SUITE_P(Failures, SearchSendingFailure, testing::ValuesIn(kSearchSendingFailures),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST(SearchAddress, ThatIsNoneIsAnEventAtOnceAndNothingIsSent) {
+TEST(SearchAddress, ThatIsInvalidIsAnEventAtOnceAndNothingIsSent) {
     for (const std::wstring url :
          {L"", L"no url", L"ftp://host/", L"file:///C:/answer.xml", L"http://", L"http:///x"}) {
         for (const bool validates : {false, true}) {

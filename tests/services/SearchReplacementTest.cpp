@@ -130,7 +130,7 @@ TEST_F(SearchReplacement, DoesNotKeepAnAnswerThatHasComeFromItsEvent) {
     EXPECT_EQ(kFound, log->events[1]);
 }
 
-TEST_F(SearchReplacement, ComesOfAnAddressThatIsNone) {
+TEST_F(SearchReplacement, ByAnInvalidAddressReplacesTheSearch) {
     ScriptedRequest& first = Begin();
     service->URL = L"no url";
     Search();

@@ -120,7 +120,7 @@ TEST_F(SubmissionRequest, IsNotMadeForAnIncidentThatFailsValidation) {
     EXPECT_TRUE(http.requests.empty());
 }
 
-TEST_F(SubmissionRequest, IsNotSentToAnAddressThatIsNone) {
+TEST_F(SubmissionRequest, IsNotSentToAnInvalidAddress) {
     for (const std::wstring url : {L"", L"no url", L"ftp://host/", L"file:///C:/answer.xml", L"http://"}) {
         for (const bool validates : {false, true}) {
             service->URL = url;
@@ -226,7 +226,7 @@ TEST_F(SubmissionRequest, TakesNoTimeLimitFromTheTimeout) {
     EXPECT_EQ(1, service->Timeout);
 }
 
-// A careless client lets go of the service while the host works.
+// A careless client releases the service while the host works.
 TEST_F(SubmissionRequest, KeepsTheServiceUntilTheEndOfTheWait) {
     support::TestHost host;
     const auto sink = support::EventLog::ForSubmissions();

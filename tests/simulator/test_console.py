@@ -253,7 +253,7 @@ def contrast(one: str, other: str) -> float:
 
 
 def luminance(colour: str) -> float:
-    """Of three or six hexadecimal digits."""
+    """The luminance of a colour of three or six hexadecimal digits."""
     digits = colour if len(colour) == 6 else "".join(digit * 2 for digit in colour)
     parts = [int(digits[at:at + 2], 16) / 255 for at in (0, 2, 4)]
     linear = [part / 12.92 if part <= 0.04045 else ((part + 0.055) / 1.055) ** 2.4

@@ -23,7 +23,7 @@ from wire.http_request import HttpRequest
 
 
 class ListCase(SimulatorCase):
-    """With an exchange of each kind."""
+    """Has an exchange of each kind."""
 
     def search(self, **asked: Any) -> None:
         self.call("POST", SEARCH_PATH, inquiries.search(**asked), SEARCH_HEADERS)
@@ -82,7 +82,7 @@ class EntryTest(ListCase):
 
 
 class OutcomeTest(unittest.TestCase):
-    """By the answer alone."""
+    """The outcome follows from the answer alone."""
 
     def test_outcomes(self) -> None:
         end = b"</soap:Body></soap:Envelope>"
@@ -111,7 +111,7 @@ class OutcomeTest(unittest.TestCase):
 
 
 class FilterTest(ListCase):
-    """As people type it."""
+    """Filters as people type them."""
 
     def test_filters(self) -> None:
         self.fill()

@@ -31,7 +31,7 @@ class FaultOrdersTest(SimulatorCase):
         self.order("http-status", status=502, count=2)
         self.assertEqual([502, 502, 200], self.statuses(3))
 
-    def test_every_lasts_behind_next_until_cleared(self) -> None:
+    def test_every_goes_on_after_next_until_cleared(self) -> None:
         self.order("http-status", when="every", status=502)
         self.order("http-status", when="next", status=503)
         self.assertEqual([503, 502, 502], self.statuses(3))

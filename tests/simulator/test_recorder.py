@@ -210,7 +210,7 @@ class ClientThatGoesAwayTest(RecorderCase):
 
 
 class BeforeTheSimulatorTest(SimulatorCase):
-    """With a far side that does what a LEJIS Interface does."""
+    """Has a far side that does what a LEJIS Interface does."""
 
     def setUp(self) -> None:
         super().setUp()

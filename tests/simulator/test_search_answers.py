@@ -76,7 +76,7 @@ class LimitsTest(SearchCase):
 
 
 class DefaultLimitTest(SearchCase):
-    """Without the option."""
+    """The simulator runs without the option."""
 
     def test_500_are_not_too_broad_but_501_are(self) -> None:
         self.seed(*(card(f"{number:03}") for number in range(500)))

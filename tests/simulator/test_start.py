@@ -53,7 +53,7 @@ class GreetingTest(StartCase):
                           ["Searches", own + SEARCH_PATH], ["LEJIS", "host", "lejis.test"],
                           ["Data", str(data.resolve())]], lines)
 
-    def test_an_address_that_is_none_to_go_to_is_not_printed(self) -> None:
+    def test_an_address_that_cannot_be_opened_is_not_printed(self) -> None:
         program = self.start("--host", "0.0.0.0")
         port = self.port_of(program)
         self.assertEqual(["Page", f"http://127.0.0.1:{port}/"], program.stdout.readline().split())
@@ -137,7 +137,7 @@ class RefusalTest(StartCase):
 
 
 class TlsTest(StartCase):
-    """With the certificate that the README's command makes."""
+    """Uses the certificate that the README's command makes."""
 
     def setUp(self) -> None:
         super().setUp()

@@ -46,7 +46,7 @@ def start_browser():
                      "--remote-debugging-pipe"):
         options.add_argument(argument)
     if os.geteuid() == 0:
-        # Chromium's sandbox is not to be had for root.
+        # Chromium has no sandbox for root.
         options.add_argument("--no-sandbox")
     options.set_capability("goog:loggingPrefs", {"browser": "ALL"})
     return webdriver.Chrome(service=Driver("/usr/bin/chromedriver"), options=options)
@@ -97,7 +97,7 @@ class PageCase(SimulatorCase):
             return 0
 
     def submit_plainly(self, number, **more):
-        """Without the library: much faster."""
+        """Submits without the library, which is much faster."""
         return self.post(SUBMISSION_PATH, documents.submission(documents.card(number, **more)), SUBMISSION_HEADERS)
 
     def search_plainly(self, words):
@@ -151,7 +151,7 @@ class PageCase(SimulatorCase):
         return self.browser.switch_to.active_element.get_attribute(attribute)
 
     def tab_to(self, attribute, value):
-        """By the Tab key alone; gives what was passed, each of which must show that it has the focus."""
+        """Moves there by the Tab key alone. Returns what was passed, each of which must show that it has the focus."""
         passed = []
         for _ in range(120):
             if self.focused(attribute) == value:

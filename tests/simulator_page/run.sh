@@ -14,7 +14,7 @@ export HOME TMPDIR=$HOME
 remove_home() { rm -rf "$HOME"; }
 
 clean_up_with remove_home
-# One test looks for what bars people with assistive technology. Its checker comes from npm where that is to be had.
+# One test looks for what bars people with assistive technology. Its checker comes from npm where npm can fetch it.
 axe=$project/build/axe/node_modules/axe-core/axe.min.js
 if [[ ! -f $axe ]] && command -v npm >/dev/null; then
   timeout 60 npm install --silent --no-audit --no-fund --prefix "$project/build/axe" axe-core@4 >/dev/null 2>&1 || :
@@ -22,6 +22,6 @@ fi
 if [[ -f $axe ]]; then
   export LEJIS_AXE=$axe
 else
-  say "axe-core is not to be had: one test of the page is skipped"
+  say "axe-core cannot be fetched: one test of the page is skipped"
 fi
 run /usr/bin/python3 -m unittest discover -s "$project/tests/simulator_page"

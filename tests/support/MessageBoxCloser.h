@@ -23,7 +23,7 @@ public:
     const std::wstring& Text() const { return text_; }
     // The words on its buttons.
     const std::vector<std::wstring>& Buttons() const { return buttons_; }
-    // Of its picture, which the system shares among all that show it.
+    // The icon of its picture, which the system shares among all boxes that show it.
     HICON Icon() const { return icon_; }
 
 private:

@@ -18,7 +18,7 @@ enum class TimerKind {
     // Only an enumeration of the connection points shows the events, after others.
     kTellsPoints,
     kHasNoEvents,
-    // They are raised by a table as well, by a table alone, or are others; none of them ever is.
+    // The events are dual, are called by a table alone, or are different ones. None of them is ever raised.
     kHasDualEvents,
     kHasTableEvents,
     kHasOtherEvents,

@@ -12,7 +12,7 @@ public:
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-    // Without a backslash at its end.
+    // The path has no backslash at its end.
     const std::wstring& Path() const { return path_; }
 
     // Writes a file into the folder and returns its path.

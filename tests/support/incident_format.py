@@ -32,7 +32,7 @@ class Section(NamedTuple):
 
 
 def sections():
-    """By their titles."""
+    """The sections by their titles."""
     text = PAGE.read_text(encoding="utf-8")
     return {title: Section(reader, [Row(*row) for row in ROW.findall(table)])
             for title, reader, table in SECTION.findall(text)}

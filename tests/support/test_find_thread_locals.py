@@ -29,7 +29,7 @@ class FindThreadLocalsTest(unittest.TestCase):
     def test_comments_and_other_names_are_none(self):
         self.assertEqual(self.run_on(*PASSED), (0, "", ""))
 
-    def test_a_file_that_cannot_be_read_is_no_file_without_one(self):
+    def test_an_unreadable_file_is_an_error(self):
         run = subprocess.run([PROGRAM, "/nowhere/a.cpp"], capture_output=True, text=True, check=False)
         self.assertNotEqual(run.returncode, 0, run)
 

@@ -55,7 +55,7 @@ class FindUpwardIncludesTest(unittest.TestCase):
         self.assertEqual(self.run_on(changes),
                          (1, "cellar stands on no floor\n", ""))
 
-    def test_a_floor_that_is_not_there_is_no_floor_without_a_fault(self):
+    def test_a_missing_floor_is_an_error(self):
         self.assertEqual(self.run_on(floors=(*FLOORS, "attic"))[0], 2)
         self.assertEqual(self.run_on(floors=())[0], 2)
 

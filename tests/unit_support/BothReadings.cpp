@@ -7,7 +7,7 @@
 
 namespace support {
 
-SearchSeen SearchSeenWith(const Script& script, bool isPlainReadingOn) {
+ObservedSearch ObserveSearchWith(const Script& script, bool isPlainReadingOn) {
     const PlainReadingSwitch plainReading(isPlainReadingOn);
     const ScriptedHttp http(script);
     const auto service = platform::Create<lejis::LejisSearchWebService>();

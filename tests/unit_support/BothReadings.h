@@ -8,16 +8,17 @@
 namespace support {
 
 // What a client learns of a search.
-struct SearchSeen {
+struct ObservedSearch {
     std::vector<std::wstring> events;
     // The results of the service afterwards, described.
     std::wstring results;
     // MSXML's document was not asked for.
     bool isReadPlainly = false;
 
-    bool SameAs(const SearchSeen& other) const { return events == other.events && results == other.results; }
+    bool SameAs(const ObservedSearch& other) const { return events == other.events && results == other.results; }
 };
 
-// For the client of a search with this answer, read from its bytes where that is possible, or from MSXML's document.
-SearchSeen SearchSeenWith(const Script& script, bool isPlainReadingOn);
+// Runs a search whose answer is read from its bytes where that is possible, or from MSXML's document.
+ObservedSearch ObserveSearchWith(const Script& script, bool isPlainReadingOn);
+
 }  // namespace support

@@ -27,7 +27,7 @@ public:
         return outcome_;
     }
 
-    // Of a failure.
+    // The description of a failure.
     std::wstring description;
 
     STDMETHODIMP get_doctype(IXMLDOMDocumentType**) override { return E_NOTIMPL; }

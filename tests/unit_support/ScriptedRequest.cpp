@@ -76,7 +76,7 @@ STDMETHODIMP ScriptedRequest::get_responseXML(IDispatch** document) {
     VARIANT_BOOL loaded = VARIANT_FALSE;
     parsed->loadXML(Bstr(script_.responseText), &loaded);
     *document = ComPtr<IDispatch>(parsed.Get()).Detach();
-    // As the platform answers for a document without a root.
+    // The platform returns S_FALSE for a document without a root.
     return loaded ? S_OK : S_FALSE;
 }
 

@@ -36,7 +36,7 @@ struct Script {
     // The response document is parsed from the text; false: the request offers no document at all.
     bool hasResponseXml = true;
     HRESULT responseXmlResult = S_OK;
-    // Of taking the handler away.
+    // The result of clearing the handler.
     HRESULT clearHandlerResult = S_OK;
     // The handler is called without DISPPARAMS.
     bool callsWithoutParameters = false;

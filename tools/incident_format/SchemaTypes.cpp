@@ -7,7 +7,7 @@ using lejis_client::Content;
 
 struct Type {
     const wchar_t* name;
-    // Its kinds of values; other types are called by "@:" and their names.
+    // The schema text of the type. It refers to another type as "@:NAME".
     const wchar_t* definition;
     std::set<Content> contents;
 };

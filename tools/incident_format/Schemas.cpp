@@ -180,7 +180,8 @@ private:
                L"\" type=\"xsd:string\" fixed=\"" + std::wstring(row.attributeValue) + L"\"/>\n";
     }
 
-    // Among elements in any order, a key is what there has to be once, and something unique what there may be once.
+    // The elements come in any order, so constraints count them: xsd:key demands an element once, and xsd:unique
+    // allows it at most once.
     static std::wstring Constraints() {
         std::wstring fields, text;
         for (const FormatNode& child : *IncidentTree().children) {

@@ -21,7 +21,7 @@ struct Process {
     Handle thread;
 };
 
-// Ends, with its handle, what is still in it.
+// A job that ends its processes when its handle is closed.
 Handle NewJob() {
     Handle job(CreateJobObjectW(nullptr, nullptr));
     JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};

@@ -6,8 +6,8 @@
 
 namespace kit {
 
-// Each key and each value as one text: all of CLSID, Interface and TypeLib, and of the keys beside them the names, and
-// what is below this library's.
+// One text for each key and value: everything in CLSID, Interface and TypeLib; of the other keys only the names,
+// and everything below those that belong to this library.
 using RegistryPicture = std::set<std::wstring>;
 
 RegistryPicture TakePicture();

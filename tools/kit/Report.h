@@ -18,7 +18,7 @@ Json ReportOf(const Settings& settings, const std::vector<Trial>& trials, const 
 // Plain ASCII.
 std::string TextOf(const Json& report);
 
-// Nothing failed but, under Wine, what is known to.
+// Whether nothing failed, apart from what is known to fail under Wine.
 bool IsGood(const Json& report);
 
 }  // namespace kit

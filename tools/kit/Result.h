@@ -10,7 +10,7 @@ namespace kit {
 inline constexpr std::string_view kPassed = "passed";
 inline constexpr std::string_view kFailed = "failed";
 inline constexpr std::string_view kNotRun = "not run";
-// Of a point: some of its runs passed, and others were not run.
+// The end of a point some of whose runs passed, and others were not run.
 inline constexpr std::string_view kInPart = "in part";
 
 struct FailedTest {
@@ -22,7 +22,7 @@ struct Result {
     std::string_view status;
     std::string seen;
     std::vector<FailedTest> failedTests = {};
-    // Of a run that failed.
+    // The output of a run that failed.
     std::string output = {};
     double seconds = 0;
 };

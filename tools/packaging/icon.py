@@ -7,7 +7,7 @@ HEADER_SIZE, ENTRY_SIZE, BITMAP_HEADER_SIZE = 6, 16, 40
 
 
 def _colour(x, y):
-    """Of a point, in sixteenths of the width from the left and of the height from the top."""
+    """The colour of a point, given in sixteenths of the width from the left and of the height from the top."""
     if min(x, 16 - x) + min(y, 16 - y) < 1.5:
         return CLEAR  # the corners
     is_upright = 5 <= x < 7.5 and 3 <= y < 13

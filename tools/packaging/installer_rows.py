@@ -43,7 +43,7 @@ def _msiinfo(command, package, *arguments):
 
 
 def rows(package, table):
-    """Of a table, each by its columns."""
+    """The rows of a table, each as a dictionary by column."""
     names, _, _, *lines = [line.split("\t") for line in _msiinfo("export", package, table).splitlines()]
     return [dict(zip(names, line)) for line in lines]
 

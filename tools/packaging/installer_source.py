@@ -58,7 +58,7 @@ def _add_rows(component, rows, key_path=False):
 
 
 def _row_name(path):
-    """Of a file in the installer's tables, where a name has neither slashes nor blanks."""
+    """The name of a file in the installer's tables, which has neither slashes nor blanks."""
     return re.sub(r"[^A-Za-z0-9_.]", "_", path.replace("/", "."))
 
 

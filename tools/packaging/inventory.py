@@ -7,7 +7,7 @@ import time
 from typing import NamedTuple
 
 NAME = "TVLejisCore.spdx.json"
-# As Debian names its packages for them.
+# The names of the processors in the names of Debian's packages.
 PROCESSORS = {"x86": "i686", "x64": "x86-64"}
 GCC_LICENCE = "GPL-3.0-or-later WITH GCC-exception-3.1"
 BOTH = ("TVLejisCore.dll", "lejis.exe")

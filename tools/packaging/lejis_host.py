@@ -1,5 +1,5 @@
 """Which LEJIS a package is made for."""
 
-# What the sources say, and what gets another name in the packages of another.
+# The host in the sources. A package for another LEJIS puts the other host in its place.
 DEFAULT_LEJIS_HOST = "lejis.example"
 MADE_FOR = "made for the LEJIS host `{}`"

@@ -49,7 +49,7 @@ def lejis_host(architecture):
 
 
 def package_name(version, host, architecture):
-    """Without the end that tells the kind of package."""
+    """The name without the end that tells the kind of package."""
     words = ["TVLejisCore", version, architecture]
     if host != DEFAULT_LEJIS_HOST:
         words.insert(2, host)

@@ -42,7 +42,7 @@ TITLE = re.compile(r"^# (.*)$", re.MULTILINE)
 
 
 def anchor(heading, separator):
-    """As the links in the sources name it."""
+    """The anchor by which links in the sources name the heading."""
     return re.sub(r"[^\w\- ]", "", heading.lower()).replace(" ", separator)
 
 

@@ -14,7 +14,7 @@ class Row(NamedTuple):
 
 
 def class_rows(library):
-    """Of each bitness for itself."""
+    """The rows of the classes, which each bitness has separately."""
     for one in library.classes:
         key = rf"CLSID\{one.guid}"
         yield Row(key, "", one.description)
@@ -27,7 +27,7 @@ def class_rows(library):
 
 
 def interface_rows(library):
-    """Of each bitness for itself."""
+    """The rows of the interfaces, which each bitness has separately."""
     for one in library.interfaces:
         key = rf"Interface\{one.guid}"
         yield Row(key, "", one.name)

@@ -94,8 +94,8 @@ std::wstring InterfaceText(const Interface& one, bool isEvents) {
     return text + L"    }\n";
 }
 
-// What is created is a class, and what a variable is declared as an interface of the name that other languages know;
-// "new" on the interface creates the class.
+// A class that programs create becomes a C# class. The type of a variable becomes an interface with the name that other
+// languages use, and "new" on the interface creates the class.
 std::wstring ClassText(const Class& one, const Interface& face) {
     std::wstring text = L"    [ComImport, " + GuidAttribute(one.id) + L", ClassInterface(ClassInterfaceType.None)";
     if (!one.events.empty()) text += L", ComSourceInterfaces(typeof(" + one.events + L"))";

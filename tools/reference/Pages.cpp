@@ -30,7 +30,7 @@ public:
     std::map<std::wstring, std::wstring> Pages() const {
         std::map<std::wstring, std::wstring> pages;
         for (const Class& one : library_.classes) pages[FileOf(one.name)] = ClassPage(one);
-        for (const Interface* one : LooseInterfaces()) pages[FileOf(one->name)] = InterfacePage(*one);
+        for (const Interface* one : InterfacesWithoutClass()) pages[FileOf(one->name)] = InterfacePage(*one);
         for (const Enumeration& one : library_.enumerations) pages[FileOf(one.name)] = EnumerationPage(one);
         pages[L"README.md"] = IndexPage();
         return pages;
@@ -38,7 +38,7 @@ public:
 
 private:
     // Interfaces that are not the default one, nor the events, of a class: clients or the host implement them.
-    std::vector<const Interface*> LooseInterfaces() const {
+    std::vector<const Interface*> InterfacesWithoutClass() const {
         std::vector<const Interface*> loose;
         for (const auto& [name, one] : library_.interfaces) {
             if (!covered_.contains(name)) loose.push_back(&one);
@@ -151,7 +151,8 @@ private:
         text +=
             L"\n## Interfaces without a class\n\nImplemented by a client or by the host suite, or by several "
             L"classes.\n\n| Interface | |\n|---|---|\n";
-        for (const Interface* one : LooseInterfaces()) text += L"| " + Link(one->name) + L" | " + one->help + L" |\n";
+        for (const Interface* one : InterfacesWithoutClass())
+            text += L"| " + Link(one->name) + L" | " + one->help + L" |\n";
         text += L"\n## Enumerations\n\n| Enumeration | |\n|---|---|\n";
         for (const Enumeration& one : library_.enumerations) {
             text += L"| " + Link(one.name) + L" | " + one.help + L" |\n";

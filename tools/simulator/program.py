@@ -108,7 +108,7 @@ def _tls(options: argparse.Namespace) -> ssl.SSLContext | None:
 
 
 def _serve(options: argparse.Namespace, data: Path) -> None:
-    # A signal can come at any instruction; of all means to pass it on, this queue alone bears that.
+    # A signal can come at any instruction, so its handler needs SimpleQueue, the queue whose put is reentrant.
     stop: queue.SimpleQueue = queue.SimpleQueue()
     for number in (signal.SIGTERM, signal.SIGINT):
         signal.signal(number, lambda *_: stop.put("signal"))

@@ -54,7 +54,7 @@ TEST(ArgumentsByValue, AreTheCallersOwnWhenNoReferenceHoldsAnObject) {
     EXPECT_EQ(arguments, ArgumentsByValue(given).All()->rgvarg);
 }
 
-TEST(ArgumentsByValue, AreLetGoOfWhenTheMemberRefusesThem) {
+TEST(ArgumentsByValue, AreReleasedWhenTheMemberRefusesThem) {
     constexpr DISPID kExecute = 1;
     const auto stranger = Create<support::LateBoundObject>(std::map<std::wstring, support::Member>{});
     const auto future = Create<lejis::Future>();

@@ -192,20 +192,21 @@ TEST(ComObject, RefusesReferencesToNothing) {
     EXPECT_EQ(E_INVALIDARG, InvokeReader(card, {&reference, nullptr, 1, 0}));
 }
 
-TEST(Inside, FindsTheObjectOfAnInterface) {
+TEST(ImplementationOf, FindsTheObjectOfAnInterface) {
     const auto card = Create<LejisPersonIndexCard>();
-    EXPECT_EQ(card.Get(), Inside<LejisPersonIndexCard>(card->Dispatch()).Get());
-    EXPECT_EQ(card.Get(), Inside<LejisPersonIndexCard>(As<ISupportErrorInfo>(card.Get()).Get()).Get());
+    EXPECT_EQ(card.Get(), ImplementationOf<LejisPersonIndexCard>(card->Dispatch()).Get());
+    EXPECT_EQ(card.Get(), ImplementationOf<LejisPersonIndexCard>(As<ISupportErrorInfo>(card.Get()).Get()).Get());
 }
 
-TEST(Inside, RaisesForNoObjectAndForOthers) {
-    EXPECT_TRUE(Raises(support::kObjectRequired, L"Object required", [] { Inside<LejisPersonIndexCard>(nullptr); }));
-    const auto address = Create<LejisStreetAddress>();
+TEST(ImplementationOf, RaisesForNoObjectAndForOthers) {
     EXPECT_TRUE(
-        Raises(DISP_E_TYPEMISMATCH, L"Type mismatch", [&] { Inside<LejisPersonIndexCard>(address->Dispatch()); }));
+        Raises(support::kObjectRequired, L"Object required", [] { ImplementationOf<LejisPersonIndexCard>(nullptr); }));
+    const auto address = Create<LejisStreetAddress>();
+    EXPECT_TRUE(Raises(DISP_E_TYPEMISMATCH, L"Type mismatch",
+                       [&] { ImplementationOf<LejisPersonIndexCard>(address->Dispatch()); }));
     const auto foreign = Create<support::LateBoundObject>(std::map<std::wstring, support::Member>{});
     EXPECT_TRUE(Raises(DISP_E_TYPEMISMATCH, L"Type mismatch",
-                       [&] { Inside<LejisPersonIndexCard>(static_cast<IDispatch*>(foreign.Get())); }));
+                       [&] { ImplementationOf<LejisPersonIndexCard>(static_cast<IDispatch*>(foreign.Get())); }));
 }
 
 }  // namespace

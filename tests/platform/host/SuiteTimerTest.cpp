@@ -96,7 +96,7 @@ INSTANTIATE_TEST_SUITE_P(Suite, UnheardTimer,
                                          TimerKind::kHasOtherEvents, TimerKind::kRefusesSinks,
                                          TimerKind::kCannotStart));
 
-TEST(UnstoppableTimer, TicksOnUntilItIsLetGoOf) {
+TEST(UnstoppableTimer, TicksOnUntilItIsDestroyed) {
     OwnTimerClass registered(TimerKind::kCannotStop);
     int ticks = 0;
     auto timer = StartSuiteTimer(kInterval, [&] { ++ticks; });

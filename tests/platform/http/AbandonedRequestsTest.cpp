@@ -26,7 +26,7 @@ TEST(AbandonedRequests, AreHeldUntilTheyAreComplete) {
     ReleaseCompleteRequests();
     EXPECT_EQ(1u, HoldersOf(*request.Get()));
     request->Advance();
-    EXPECT_EQ(1u, HoldersOf(*request.Get())) << "not let go of inside of what the connection calls";
+    EXPECT_EQ(1u, HoldersOf(*request.Get())) << "not released inside of what the connection calls";
     HttpRequest::Create();
     EXPECT_EQ(0u, HoldersOf(*request.Get()));
 }

@@ -27,7 +27,7 @@ struct CommandWords {
 // First those that stand before any command.
 std::vector<CommandWords> WordsOfCommands();
 
-// The options whose values nothing is known of; a file's name is known to the shell.
+// The options whose values cannot be suggested. The shell itself completes the names of files.
 std::vector<std::wstring_view> OptionsWithFreeValue();
 
 }  // namespace lejis_client

@@ -16,7 +16,7 @@ std::wstring DidYouMean(std::wstring_view written, const std::vector<std::wstrin
 
 std::wstring CommandThatWasMeant(std::wstring_view written) { return DidYouMean(written, CommandNames(), {}); }
 
-// The hyphens, which all options have, make no two of them alike.
+// The comparison leaves out the leading hyphens, which would make all options look alike.
 std::wstring OptionThatWasMeant(std::wstring_view written, Action action) {
     if (!written.starts_with(kLongPrefix)) return {};
     std::vector<std::wstring_view> names;

@@ -15,7 +15,7 @@ HANDLE InterruptionEvent() {
     return event;
 }
 
-HANDLE HeededEvent() {
+HANDLE WorkEndedEvent() {
     static const HANDLE event = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     return event;
 }
@@ -23,7 +23,7 @@ HANDLE HeededEvent() {
 bool IsSet(HANDLE event) { return WaitForSingleObject(event, 0) == WAIT_OBJECT_0; }
 
 // The thread that works may be in the midst of a call that takes its time, as the one for a schema does.
-bool EndsByItself() { return WaitForSingleObject(HeededEvent(), patienceInMilliseconds) == WAIT_OBJECT_0; }
+bool EndsByItself() { return WaitForSingleObject(WorkEndedEvent(), patienceInMilliseconds) == WAIT_OBJECT_0; }
 
 bool IsInterruption(DWORD kind) { return kind == CTRL_C_EVENT || kind == CTRL_BREAK_EVENT; }
 
@@ -54,13 +54,13 @@ Interruption::Interruption(void (*tell)(), DWORD patience) {
     tellOfEnd = tell;
     patienceInMilliseconds = patience;
     InterruptionEvent();
-    ResetEvent(HeededEvent());
+    ResetEvent(WorkEndedEvent());
     SetConsoleCtrlHandler(Interrupt, TRUE);
 }
 
 Interruption::~Interruption() {
     // A handler cannot be taken away while it runs.
-    SetEvent(HeededEvent());
+    SetEvent(WorkEndedEvent());
     SetConsoleCtrlHandler(Interrupt, FALSE);
 }
 

@@ -1,4 +1,5 @@
-// Looks at everything on the road to LEJIS, and says what to do about what is wrong. It changes and sends nothing.
+// Looks at everything between this machine and LEJIS, and says what to do about what is wrong. It changes and sends
+// nothing.
 #pragma once
 
 #include "doctor/DoctorSettings.h"

@@ -62,7 +62,7 @@ Finding NotReached(const wchar_t* subject, const WebFailure& failure, const WebA
     }
     const std::wstring server = ServerFor(proxy, address.scheme);
     const bool isDead = !server.empty() && IsDead(server);
-    // Whether the proxy was used is not known where it may be passed by; but past it the server would be reached.
+    // Where the proxy may be bypassed, it is unknown whether it was used. So this tries the server without it.
     const bool mayBeServer = MayPassBy(proxy, address) && !TakesConnection(address.host, address.port);
     if (isDead && mayBeServer) {
         return Unreached(subject,

@@ -12,7 +12,7 @@ struct Service {
     const wchar_t* name;
     // The option that gives its address.
     const wchar_t* option;
-    // As its WSDL names it.
+    // The name of the operation in the service's WSDL.
     const wchar_t* operation;
     // The path of the SOAP action, on the LEJIS host.
     const wchar_t* actionPath;

@@ -29,7 +29,7 @@ msxml::Element Parse(const std::string& content) {
     return msxml::Root(document);
 }
 
-// Without the empty ones.
+// The texts that are not empty.
 std::vector<std::wstring> TextsOf(const msxml::Element& root, const wchar_t* xpath) {
     std::vector<std::wstring> texts;
     for (const msxml::Node& node : msxml::SelectNodes(root, xpath)) {

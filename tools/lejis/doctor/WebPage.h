@@ -12,7 +12,7 @@ struct WebPage {
     std::string content;
 };
 
-// A page could not be had: Windows' number for the reason.
+// The page was not fetched; `error` is Windows' number for the reason.
 struct WebFailure {
     DWORD error;
 };

@@ -12,7 +12,7 @@ namespace lejis_client {
 class ActivityTime {
 public:
     void Set(const FormatRow& row, int line, std::wstring_view value);
-    // What is lost of both, or becomes something else.
+    // What the library drops or changes when it reads the date and the time as one value; nothing when it keeps both.
     std::optional<Loss> FindLoss() const;
 
 private:

@@ -9,7 +9,7 @@ namespace lejis_client {
 inline constexpr wchar_t kStandardInput[] = L"-";
 
 struct NamedFile {
-    // As the user knows it.
+    // The name that the user knows.
     std::wstring name;
     // Whole, but for that of standard input.
     std::wstring path;

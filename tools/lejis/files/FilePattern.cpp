@@ -29,8 +29,9 @@ struct SearchCloser {
 };
 using Search = std::unique_ptr<HANDLE, SearchCloser>;
 
-// Where nothing can have the name that the user gave, nothing has it. A folder that was found is there.
-bool MeansNothing(DWORD error, bool isFound) {
+// Whether the error means that nothing matches. A folder that the search itself found exists, so only a path from the
+// user may be missing or invalid.
+bool MeansNoMatch(DWORD error, bool isFound) {
     if (error == ERROR_FILE_NOT_FOUND || error == ERROR_NO_MORE_FILES) return true;
     return !isFound && (error == ERROR_PATH_NOT_FOUND || error == ERROR_INVALID_NAME || error == ERROR_DIRECTORY ||
                         error == ERROR_BAD_PATHNAME);
@@ -55,7 +56,7 @@ std::vector<std::wstring> Entries(const std::wstring& folder, const std::wstring
     const Search search(FindFirstFileW(LongPath(WindowsPattern(folder + pattern)).c_str(), &entry));
     if (search.get() == INVALID_HANDLE_VALUE) {
         const DWORD error = GetLastError();
-        if (!MeansNothing(error, isFound)) ThrowUnreadable(folder, error);
+        if (!MeansNoMatch(error, isFound)) ThrowUnreadable(folder, error);
         return names;
     }
     do {

@@ -37,7 +37,7 @@ ComPtr<IXMLDOMDocument2> NewDocument() {
 ComPtr<IXMLDOMElement> RootOf(IXMLDOMDocument2* document, const std::string& content) {
     VARIANT_BOOL loaded = VARIANT_FALSE;
     const HRESULT result = document->load(XmlSource(content), &loaded);
-    // Windows ends the load of what is no XML with S_FALSE, Wine ends it so.
+    // For content that is not XML, the load returns S_FALSE on Windows and E_FAIL under Wine.
     if (result != E_FAIL) Check(result);
     ComPtr<IXMLDOMElement> root;
     if (loaded) Check(document->get_documentElement(&root));
@@ -89,7 +89,7 @@ void Require(bool FormatRow::*isNeeded, IXMLDOMElement* root, const std::vector<
     if (!missing.empty()) throw FileError{L"The incident card lacks " + missing + L"." + misspelt};
 }
 
-// Without a date the library withdraws the incident of no day.
+// Without a valid date the withdrawal would name no day.
 void RequireValues(IXMLDOMElement* root) {
     for (const FormatRow& row : IncidentSection().rows) {
         if (!row.isInWithdrawal || row.content != Content::kDate) continue;
@@ -123,8 +123,8 @@ void RemoveOthers(IXMLDOMElement* root) {
     }
 }
 
-// The incident keeps a person that cannot be read to the end as far as it came. In a file that is a mistake to be told,
-// not to be submitted.
+// The library keeps a person card up to the field that it cannot read. A file with such a card is reported and not
+// submitted.
 void RequireReadableCards(const std::vector<Loss>& losses) {
     std::wstring reason;
     for (const Loss& loss : losses) {

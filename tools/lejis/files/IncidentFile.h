@@ -17,7 +17,7 @@ struct IncidentFile {
 // Reads the incident in the bytes of a file. Throws FileError with the reason when they hold no incident.
 IncidentFile ReadIncident(const std::string& content);
 
-// The same with nothing but what a withdrawal sends, and wants of it: the rest of the file may be as it likes.
+// Reads only the elements that a withdrawal sends, and checks nothing else in the file.
 IncidentFile ReadIdentifiers(const std::string& content);
 
 }  // namespace lejis_client

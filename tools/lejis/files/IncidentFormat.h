@@ -21,12 +21,12 @@ enum class Content {
     kStreetNumber,
     // The library writes it, always empty, and does not read it.
     kNothing,
-    // The library goes into the first of these alone. Into elements that have no row, which stand in paths only, it
-    // goes until it has found what it looks for.
+    // An element that holds other elements, of which the library reads the first one only. The library searches
+    // elements without a row, which only stand in paths, one after the other until it finds the wanted element.
     kFirst,
-    // The same, and what stands in it has a section of its own.
+    // Like kFirst, for an element whose content has a section of its own.
     kFirstOfSection,
-    // Any number of them, each of a section of its own.
+    // Like kFirstOfSection, but the library reads every such element.
     kEachOfSection,
 };
 
@@ -46,7 +46,7 @@ struct FormatRow {
     std::wstring_view attributeValue = {};
     // The path of the value without which the library does not send this one.
     std::wstring_view partner = {};
-    // Without it there is no telling which incident it is.
+    // Without the element it is unknown which incident the file holds.
     bool isRequired = false;
     // Whether a withdrawal sends it, and so needs it.
     bool isInWithdrawal = false;

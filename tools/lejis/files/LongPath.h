@@ -4,7 +4,7 @@
 
 namespace lejis_client {
 
-// From the drive or the server on.
+// The absolute path; it begins with the drive or the server.
 std::wstring WholePath(const std::wstring& path);
 
 // The name by which Windows opens a file or folder. Names of 260 characters and more need the prefix \\?\ for that.

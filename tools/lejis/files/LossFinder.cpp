@@ -12,7 +12,7 @@
 namespace lejis_client {
 namespace {
 
-// Attributes that speak to programs that read XML, not of the incident.
+// Attributes that instruct XML parsers and say nothing about the incident.
 bool IsForPrograms(const WrittenName& name) {
     constexpr std::wstring_view kSchemaInstance = L"http://www.w3.org/2001/XMLSchema-instance";
     if (name.qualified == L"xmlns" || name.qualified.starts_with(L"xmlns:")) return true;

@@ -36,8 +36,8 @@ private:
     struct OpenElement {
         const FormatNode* node;
         int line;
-        // The place, in the open elements, of the one whose reader looks for this one: its parent, or further up when
-        // only paths lead here.
+        // The index in open_ of the element whose reader looks for the children of this one: this element itself, or an
+        // element further up when this one has no row.
         std::size_t reader;
         // Which of the elements that it looks for it has found: it reads the first one.
         std::vector<const FormatNode*> found;

@@ -85,7 +85,7 @@ public:
         try {
             ledger_->Append(EntryOf(job_, task, attempt));
         } catch (const FileError& error) {
-            // What cannot be written down is not to be done.
+            // An outcome that cannot be recorded ends the run: no other incident may be sent unrecorded.
             fault_ = error.reason;
             backlog_.Stop();
         }

@@ -1,4 +1,4 @@
-// All fields of a card by their own names, as its type information lists them: what a card has, is told.
+// All fields of a card, by the names that its type information lists, so that no field is left out.
 #pragma once
 
 #include <comutil.h>

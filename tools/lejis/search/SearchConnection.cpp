@@ -29,8 +29,8 @@ SearchConnection::SearchConnection(const SearchSettings& settings)
 
 SearchConnection::~SearchConnection() {
     point_->Unadvise(cookie_);
-    // A service that waits for its answer and the request that would bring it hold each other, and so would the library
-    // stay in use. The same search at no address takes the place of the one under way and is over at once.
+    // A service that waits and its request hold each other, which would keep the library in use. The same search
+    // without an address replaces the waiting one and ends at once.
     if (Outcome().end != SearchEnd::None || !request_) return;
     if (FAILED(service_->put_URL(nullptr)) || FAILED(service_->put_ValidateSchema(VARIANT_FALSE))) return;
     service_->Search(request_.Get());

@@ -10,7 +10,7 @@ namespace lejis_client {
 // Puts one value into a request.
 using SearchCriterion = std::function<void(ILejisSearchRequest* request)>;
 
-// The block is the part of the request, put or holder the place in it.
+// `block` names the part of the request; `put` or `holder` names the place of the value in that part.
 template <auto block, auto put>
 SearchCriterion TextCriterion(const std::wstring& text) {
     return [text](ILejisSearchRequest* request) {

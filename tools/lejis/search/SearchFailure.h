@@ -4,7 +4,7 @@
 
 namespace lejis_client {
 
-// Whether the same search can end otherwise. Of a search that failed.
+// Whether repeating the failed search can succeed.
 bool CanTryAgain(const SearchOutcome& outcome);
 
 }  // namespace lejis_client

@@ -1,4 +1,4 @@
-// Is told how far an attempt has come, for the case that nobody waits for its end.
+// Records how far an attempt has come, in case it is abandoned before it ends.
 #pragma once
 
 #include "submission/Task.h"
@@ -12,8 +12,8 @@ class AttemptWatch {
 public:
     // What is known so far.
     virtual void Learn(const Attempt& known) = 0;
-    // The service is about to be called: what is known from now on is that nobody knows. Raises Abandoned where the
-    // attempt has been told as not sent already; the service must not be called then.
+    // Call this right before the service: from then on the outcome is unknown. Raises Abandoned when the attempt has
+    // already been reported as not sent; the service must not be called then.
     virtual void BeginCall(const Attempt& known) = 0;
 
 protected:

@@ -21,7 +21,7 @@ Attempt Overdue(Attempt attempt, long seconds) {
                                                                   : L"It could not be got ready for sending within ";
     outcome.errors = {what + std::to_wstring(seconds) + L" seconds."};
     outcome.canTryAgain = true;
-    outcome.isOfRoad = true;
+    outcome.affectsEveryIncident = true;
     return attempt;
 }
 
@@ -118,7 +118,7 @@ void Backlog::AbandonOverdue() {
 void Backlog::Settle(Task task, const Attempt& attempt) {
     listener_.Tried(task, attempt);
     const Outcome& outcome = attempt.outcome;
-    if (outcome.isOfRoad) {
+    if (outcome.affectsEveryIncident) {
         failing_.insert(task.name);
     } else if (outcome.result != Result::NotSent && outcome.result != Result::LeftOut) {
         failing_.clear();

@@ -35,7 +35,7 @@ public:
     Backlog(const Backlog&) = delete;
     Backlog& operator=(const Backlog&) = delete;
 
-    // Comes back when all is done, when the user interrupts it, or when the road to LEJIS is gone.
+    // Comes back when all is done, when the user interrupts it, or when LEJIS cannot be reached any more.
     void Run(const Interruption& interruption);
 
     // Begins no more tasks.
@@ -43,7 +43,7 @@ public:
 
     // How many tasks were not begun at all.
     std::size_t Left() const { return fresh_.size(); }
-    // How many incidents in a row the road has failed, where that ended the run; 0 elsewhere.
+    // How many incidents in a row failed at the network or LEJIS as a whole, where that ended the run; 0 elsewhere.
     std::size_t FailuresInARow() const { return IsRoadGone() ? failing_.size() : 0; }
     // Whether a thread is still at work, or waits for an answer that nobody waits for any more.
     bool HasWorkersAtWork() const { return abandoned_ > 0 || IsAnyAtWork(); }
@@ -75,13 +75,13 @@ private:
     JobMaker makeJob_;
     std::deque<Task> fresh_;
     BacklogListener& listener_;
-    // By the tick at which they are due.
+    // The retries by the tick at which they are due.
     std::multimap<ULONGLONG, Retry> retries_;
     std::vector<std::unique_ptr<Worker>> workers_;
     // Set whenever a worker has done something.
     HANDLE done_;
     StartPace pace_;
-    // The names of the incidents that the road has failed since the last answer: the tries of one count once.
+    // The names of the incidents that failed so since the last answer: the tries of one count once.
     std::set<std::wstring> failing_;
     bool isStopped_ = false;
     std::size_t abandoned_ = 0;

@@ -14,7 +14,7 @@ std::vector<std::wstring> WideTexts(const Json& object, const char* member) {
     return texts;
 }
 
-// Of its members, those that somebody reads.
+// Reads only the members that callers use: warnings and times stay empty.
 LedgerEntry EntryOf(const Json& object) {
     LedgerEntry entry;
     entry.command = WideText(object, "command");

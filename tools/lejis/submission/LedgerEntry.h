@@ -17,7 +17,7 @@ struct LedgerEntry {
     std::wstring file;
     std::string digest;
     Identity identity;
-    // As the report says it: "submitted", "not sent".
+    // The report's word for the outcome: "submitted", "not sent".
     std::wstring outcome;
     bool canTryAgain = false;
     HRESULT number = S_OK;

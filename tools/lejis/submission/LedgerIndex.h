@@ -10,14 +10,14 @@ namespace lejis_client {
 
 class LedgerIndex {
 public:
-    // Of what this command has done at this address, which it calls so.
+    // Indexes the successes of this command at this address; `success` is the command's word for a success.
     LedgerIndex(std::wstring command, std::wstring url, std::wstring success);
 
     // Entries in the order of the ledger.
     void Add(const LedgerEntry& entry);
 
-    // The incident in a file with this content, where the last that was done with the file was done with this content,
-    // and where nothing else was done with the incident since.
+    // The identity of the incident, when the last entry for this file is a success with this content and no later entry
+    // changes the same incident; nothing otherwise.
     std::optional<Identity> Done(const std::wstring& file, const std::string& digest) const;
 
 private:
@@ -27,7 +27,7 @@ private:
     };
 
     void Forget(const std::wstring& file);
-    // Other files with the same content stand for the same as before.
+    // Forgets what was done with the incident, except from files with this digest, which hold the same content.
     void ForgetIncident(const Identity& identity, const std::string& exceptDigest);
 
     std::wstring command_;

@@ -3,15 +3,15 @@
 
 #include "library/LibraryError.h"
 #include "submission/Outcome.h"
-#include "submission/Road.h"
+#include "submission/Reachability.h"
 
 namespace lejis_client {
 
-// The road is what was found before the service was called.
-Outcome OutcomeOf(const LibraryError& error, Road road);
+// The reachability is what the probe found before the service was called.
+Outcome OutcomeOf(const LibraryError& error, Reachability reachability);
 
-// What the library says of a server that is not there. It is told of a closed road, for which the service is not
-// called.
+// What the library says of a server that is not there. The outcome of an unreachable server bears it, for which the
+// service is not called.
 LibraryError ServiceIsDown();
 
 }  // namespace lejis_client

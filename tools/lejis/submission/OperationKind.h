@@ -15,7 +15,7 @@ struct OperationKind {
     bool sends;
     // Whether it uses all of a file, so that it warns of what is not read.
     bool tellsLosses;
-    // What to do about an incident of which nobody knows what LEJIS made of it; empty where none can be.
+    // What to do about an incident whose outcome at LEJIS is unknown; empty for an operation that sends nothing.
     const wchar_t* adviceOnUnknown;
     std::unique_ptr<Operation> (*make)(const ServiceSettings& service);
 };

@@ -29,13 +29,13 @@ struct Outcome {
     std::wstring advice;
     // Whether the same again can end otherwise.
     bool canTryAgain = false;
-    // Whether it failed on the road or at LEJIS as a whole, so that the next incident would fail as well.
-    bool isOfRoad = false;
+    // Whether the network or LEJIS as a whole failed, so that the next incident would fail as well.
+    bool affectsEveryIncident = false;
     // The library's error number; 0 where the library raised no error.
     HRESULT number = S_OK;
 };
 
-// A file of which there is no incident to be had; the reason is a sentence.
+// The outcome for a file that holds no readable incident; the reason is a sentence.
 Outcome Unreadable(const std::wstring& reason);
 
 }  // namespace lejis_client

@@ -7,7 +7,7 @@ namespace lejis_client {
 namespace {
 
 constexpr double kFirst = 1000;
-// With the longest jitter, a minute.
+// The longest jitter turns this into a minute.
 constexpr double kLongest = 40000;
 constexpr long kMostDoublings = 10;
 

@@ -20,17 +20,17 @@ bool IsOpen(const WebAddress& address) {
     return IsListening(ParseWebAddress(L"http://" + server)) || (MayPassBy(proxy, address) && IsListening(address));
 }
 
-Road RoadTo(const std::wstring& url) {
+Reachability ReachabilityOf(const std::wstring& url) {
     const auto address = ParseWebAddress(url);
-    if (!address) return Road::NoAddress;
-    return IsOpen(*address) ? Road::Open : Road::Closed;
+    if (!address) return Reachability::InvalidAddress;
+    return IsOpen(*address) ? Reachability::Reachable : Reachability::Unreachable;
 }
 
 }  // namespace
 
-Road ServerProbe::Look() {
-    if (road_ == Road::Closed) road_ = RoadTo(url_);
-    return road_;
+Reachability ServerProbe::Look() {
+    if (reachability_ == Reachability::Unreachable) reachability_ = ReachabilityOf(url_);
+    return reachability_;
 }
 
 }  // namespace lejis_client

@@ -1,8 +1,8 @@
 // Can anything be sent to a server at all? The library says "service is down" both of a server that is not there and of
-// one that broke off with the incident in its hands. So the road is tried before the service is called.
+// one that broke off with the incident in its hands. So the probe tries the connection before the service is called.
 #pragma once
 
-#include "submission/Road.h"
+#include "submission/Reachability.h"
 
 #include <string>
 
@@ -12,13 +12,13 @@ class ServerProbe {
 public:
     explicit ServerProbe(std::wstring url) : url_(std::move(url)) {}
 
-    // Tries the road until it was open once, and again after a doubt.
-    Road Look();
-    void Doubt() { road_ = Road::Closed; }
+    // Tries the connection until it succeeds once, and again after a doubt.
+    Reachability Look();
+    void Doubt() { reachability_ = Reachability::Unreachable; }
 
 private:
     std::wstring url_;
-    Road road_ = Road::Closed;
+    Reachability reachability_ = Reachability::Unreachable;
 };
 
 }  // namespace lejis_client

@@ -12,9 +12,9 @@ ServiceOperation::ServiceOperation(const ServiceSettings& settings)
 }
 
 Outcome ServiceOperation::Run(ILejisIncidentIndexCard* incident, const std::function<void()>& beforeSending) {
-    const Road road = probe_.Look();
+    const Reachability reachability = probe_.Look();
     try {
-        if (road == Road::Closed) {
+        if (reachability == Reachability::Unreachable) {
             RequireFit(incident);
             throw ServiceIsDown();
         }
@@ -23,7 +23,7 @@ Outcome ServiceOperation::Run(ILejisIncidentIndexCard* incident, const std::func
         outcome.warnings = Ask(incident);
         return outcome;
     } catch (const LibraryError& error) {
-        const Outcome outcome = OutcomeOf(error, road);
+        const Outcome outcome = OutcomeOf(error, reachability);
         if (outcome.canTryAgain) probe_.Doubt();
         return outcome;
     }

@@ -8,7 +8,7 @@
 namespace lejis_client {
 namespace {
 
-// The tick is a coarse one: what a late look at it has missed is made up for.
+// The clock is coarse. Starts that a late look has missed are made up for, up to this many milliseconds.
 constexpr double kCatchUp = 20;
 
 }  // namespace

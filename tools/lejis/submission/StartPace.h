@@ -13,7 +13,7 @@ public:
 
     bool MayStart(ULONGLONG now) const { return static_cast<double>(now) >= next_; }
     void Started(ULONGLONG now);
-    // What was begun turned out to need no time of LEJIS.
+    // Undoes one Started, for a task that turned out not to call LEJIS.
     void TakeBack() { next_ -= interval_; }
     // The first tick at which the next one may start.
     ULONGLONG Next() const;

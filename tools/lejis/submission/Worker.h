@@ -22,8 +22,8 @@ public:
     void Begin(const Task& task);
     // What has become of the task; nothing as long as it is under way. The worker is idle afterwards.
     std::optional<Attempt> Take();
-    // Gives up a task that has taken so long before the call of the service, or within it. What is known of the task by
-    // then; nothing where the task is done or has time left. The worker is of no more use afterwards.
+    // Gives up a task whose preparation or service call has lasted this long, and returns what is known of it by then.
+    // Returns nothing when the task is done or has time left. A worker that has given up takes no other task.
     std::optional<Attempt> GiveUp(ULONGLONG milliseconds);
 
 private:

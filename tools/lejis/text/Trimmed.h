@@ -6,7 +6,7 @@ namespace lejis_client {
 
 inline constexpr std::wstring_view kWhiteSpace = L" \t\r\n";
 
-// Without the white space at its ends.
+// The text without the white space at its ends.
 std::wstring_view Trimmed(std::wstring_view text);
 
 }  // namespace lejis_client

@@ -4,7 +4,7 @@
 
 namespace lejis_client {
 
-// As ISO 8601 has it, with milliseconds: 2026-11-22T06:43:12.345Z.
+// The time in ISO 8601, with milliseconds: 2026-11-22T06:43:12.345Z.
 std::string UtcNow();
 
 }  // namespace lejis_client

@@ -9,7 +9,7 @@ namespace lejis_client {
 struct WebAddress {
     // Lower case, as in "http".
     std::wstring scheme;
-    // Without the port; numbers of IPv6 without their brackets.
+    // The host without the port; a number of IPv6 has no brackets.
     std::wstring host;
     // The scheme's own port when the address names no port.
     unsigned short port = 0;

@@ -10,7 +10,7 @@ namespace lejis_client {
 // What Windows says about an error, without a full stop or line break at its end.
 std::wstring SystemMessage(DWORD error);
 
-// As error numbers are usually written: 0x80004005.
+// The number in the usual form: 0x80004005.
 std::wstring Hexadecimal(HRESULT number);
 
 }  // namespace lejis_client

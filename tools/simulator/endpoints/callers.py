@@ -51,7 +51,7 @@ def _address(text: str) -> _Address | None:
 
 
 def _is_beyond_name_service(host: str) -> bool:
-    """Any name but these could be made to point here by whoever owns it, after its page is open."""
+    """Whether no DNS server decides where the name points: a site could redirect its own name here."""
     name, colon, port = host.rpartition(":")
     if not colon or not (port.isascii() and port.isdigit()):
         name = host

@@ -12,7 +12,7 @@ from wire.http_response import HttpResponse
 from .control_call import ControlCall
 from .router import wrong_method
 
-# By method and by a pattern of the path below /control/.
+# The actions by method and by a pattern of the path below /control/.
 Calls = dict[tuple[str, str], Callable[[ControlCall], HttpResponse]]
 
 

@@ -88,7 +88,7 @@ class ExchangeSearch:
 
 
 def _stands_in(word: str, messages: list[bytes]) -> bool:
-    """Without regard to case, and as markup writes it, too."""
+    """Finds the text without regard to case, and as markup writes it, too."""
     written = {word, escape(word)}
     if word.isascii():
         return any(one.encode() in message.lower() for message in messages for one in written)

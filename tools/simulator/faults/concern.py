@@ -32,7 +32,7 @@ class Concern:
         return cls(target, **parts)
 
     def to_json(self) -> dict[str, str]:
-        """As it is listed: without what it leaves open."""
+        """The concern as lists show it: without what it leaves open."""
         parts = {part: getattr(self, part) for part in _PARTS}
         return {"target": self.target, **{part: text for part, text in parts.items() if text}}
 

@@ -45,7 +45,7 @@ class Fault:
         return self._seen % self.one_in == 0
 
     def to_json(self) -> dict[str, Any]:
-        """As it is listed. A parameter of the kind's own named 'count' covers the other one."""
+        """The fault as lists show it. A kind's own parameter 'count' hides the number of requests."""
         when = {"when": "every"} if self.remaining is None else {"when": "next",
                                                                  "count": self.remaining}
         if self.one_in > 1:

@@ -22,7 +22,7 @@ class PatientReader(io.RawIOBase):
         self._until = None
 
     def readable(self) -> bool:
-        """As a stream must say of itself."""
+        """A stream must say that it can be read."""
         return True
 
     def readinto(self, buffer: Any) -> int:

@@ -28,7 +28,7 @@ STDMETHODIMP LejisIncidentFormatter::Format(ILejisIncidentIndexCard* incident, I
     return Guard(result, [&] {
         // The list starts before the argument is examined: a refused argument leaves no warnings of an earlier call.
         StartList();
-        return ShapedCopy(*platform::Inside<LejisIncidentIndexCard>(incident));
+        return ShapedCopy(*platform::ImplementationOf<LejisIncidentIndexCard>(incident));
     });
 }
 

@@ -28,7 +28,7 @@ STDMETHODIMP LejisIncidentValidator::Validate(ILejisIncidentIndexCard* incident,
     return Guard(result, [&] {
         // The list starts before the argument is examined: a refused argument leaves no errors of an earlier call.
         StartList();
-        return Check(*platform::Inside<LejisIncidentIndexCard>(incident));
+        return Check(*platform::ImplementationOf<LejisIncidentIndexCard>(incident));
     });
 }
 

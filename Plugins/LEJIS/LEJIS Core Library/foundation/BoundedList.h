@@ -7,10 +7,10 @@
 namespace lejis {
 
 // A list without memory of its own to allocate. Its owner looks whether it is full.
-template <typename Item, size_t kMost>
+template <typename Item, size_t kCapacity>
 class BoundedList {
 public:
-    bool IsFull() const { return count_ == kMost; }
+    bool IsFull() const { return count_ == kCapacity; }
     size_t Count() const { return count_; }
     const Item& Last() const { return items_[count_ - 1]; }
     std::span<const Item> Items() const { return {items_.data(), count_}; }
@@ -19,7 +19,7 @@ public:
     void Shorten(size_t count) { count_ = count; }
 
 private:
-    std::array<Item, kMost> items_;
+    std::array<Item, kCapacity> items_;
     size_t count_ = 0;
 };
 

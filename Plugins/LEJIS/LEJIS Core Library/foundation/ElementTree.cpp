@@ -16,7 +16,7 @@ namespace {
 
 // Enough for an incident with a few cards.
 constexpr size_t kUsualElements = 128;
-constexpr size_t kUsualParents = 32;
+constexpr size_t kUsualNodes = 32;
 constexpr size_t kUsualCharacters = 3072;
 
 // More questions than these would cost more than MSXML's document.
@@ -36,7 +36,7 @@ ElementTree::ElementTree() {
 }
 
 ElementTree::ElementTree(const Node& root) : ElementTree() {
-    parents_.reserve(kUsualParents);
+    nodes_.reserve(kUsualNodes);
     Add(root, {}, 0);
 }
 
@@ -50,26 +50,26 @@ void ElementTree::Take(PlainMarkup& markup) {
 std::wstring_view ElementTree::TextOf(size_t number) const {
     const Element& element = elements_[number];
     const std::wstring_view text = Characters(element.textBegin, element.textLength);
-    if (element.parent == kNone) return text;
-    if (element.parent == kTextMarkup) return TextOfMarkup(text);
-    if (element.parent == kScannedParent) GiveUp();
-    // There may be others in it than those of the tree.
-    msxml::RequireBoundedDepth(parents_[element.parent]);
-    return askedTexts_.emplace_back(msxml::Text(parents_[element.parent])).View();
+    if (element.content == kText) return text;
+    if (element.content == kTextMarkup) return TextOfMarkup(text);
+    if (element.content == kScannedElements) GiveUp();
+    // The node may hold elements that the tree leaves out, so its depth is checked here.
+    msxml::RequireBoundedDepth(nodes_[element.content]);
+    return askedTexts_.emplace_back(msxml::Text(nodes_[element.content])).View();
 }
 
 void ElementTree::Add(const Node& node, const ElementName& name, int depth) {
     if (depth == msxml::kMaximumDepth) msxml::RaiseTooDeep();
     const size_t number = elements_.size();
     const auto nameBegin = static_cast<uint32_t>(characters_.size());
-    elements_.push_back({name.Key(), 0, nameBegin, static_cast<uint32_t>(name.LocalName().size()), 0, 0, kNone});
+    elements_.push_back({name.Key(), 0, nameBegin, static_cast<uint32_t>(name.LocalName().size()), 0, 0, kText});
     characters_ += name.LocalName();
     Node firstChild = msxml::FirstChild(node);
     if (const auto text = msxml::LeafText(node, firstChild)) {
         SetText(number, *text);
     } else if (AddSiblings(std::move(firstChild), depth + 1)) {
-        elements_[number].parent = static_cast<uint32_t>(parents_.size());
-        parents_.push_back(node);
+        elements_[number].content = static_cast<uint32_t>(nodes_.size());
+        nodes_.push_back(node);
     } else {
         const platform::OutText whole = msxml::Text(node);
         SetText(number, whole);
@@ -104,7 +104,7 @@ void ElementTree::Add(PlainMarkup& markup) {
     plain::AppendAscii(characters_, markup.LocalName());
     const ElementName name(*markup.Namespace(), Characters(nameBegin, markup.LocalName().size()));
     elements_.push_back({name.Key(), 0, static_cast<uint32_t>(nameBegin),
-                         static_cast<uint32_t>(name.LocalName().size()), 0, 0, kScannedParent});
+                         static_cast<uint32_t>(name.LocalName().size()), 0, 0, kScannedElements});
     if (!AddChildren(markup)) SetText(number, markup);
     elements_[number].end = static_cast<uint32_t>(elements_.size());
 }
@@ -125,11 +125,11 @@ void ElementTree::SetText(size_t number, const PlainMarkup& markup) {
     const size_t begin = characters_.size();
     markup.AppendText(characters_, false);
     Element& element = elements_[number];
-    element.parent = kNone;
+    element.content = kText;
     if (begin < characters_.size() && !msxml::IsTheSameInAnElement(Characters(begin, characters_.size() - begin))) {
         characters_.resize(begin);
         markup.AppendText(characters_, true);
-        element.parent = kTextMarkup;
+        element.content = kTextMarkup;
     }
     element.textBegin = static_cast<uint32_t>(begin);
     element.textLength = static_cast<uint32_t>(characters_.size() - begin);

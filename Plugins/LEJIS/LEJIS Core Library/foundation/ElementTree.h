@@ -40,7 +40,7 @@ public:
     }
     // The number after those of the element and of all elements in it.
     size_t EndOf(size_t number) const { return elements_[number].end; }
-    // As MSXML gives it, with the texts of all descendants. Valid as long as the tree.
+    // The text as MSXML gives it, with the texts of all descendants. It is valid as long as the tree.
     std::wstring_view TextOf(size_t number) const;
 
 private:
@@ -53,14 +53,14 @@ private:
         uint32_t nameLength;
         uint32_t textBegin;
         uint32_t textLength;
-        // Where an element that holds elements stands in parents_, or one of the numbers below.
-        uint32_t parent;
+        // One of the numbers below, or the place in nodes_ of a node that holds elements.
+        uint32_t content;
     };
-    // It has a text.
-    static constexpr uint32_t kNone = UINT32_MAX;
-    // It was scanned and holds elements.
-    static constexpr uint32_t kScannedParent = UINT32_MAX - 1;
-    // It has the markup of a text instead, of which only MSXML knows what it makes.
+    // A text.
+    static constexpr uint32_t kText = UINT32_MAX;
+    // Elements, which were scanned.
+    static constexpr uint32_t kScannedElements = UINT32_MAX - 1;
+    // The markup of a text, which MSXML alone can decode.
     static constexpr uint32_t kTextMarkup = UINT32_MAX - 2;
 
     void Add(const msxml::Node& node, const ElementName& name, int depth);
@@ -78,7 +78,7 @@ private:
 
     std::vector<Element> elements_;
     std::wstring characters_;
-    std::vector<msxml::Node> parents_;
+    std::vector<msxml::Node> nodes_;
     // The namespace of the element before, which is mostly that of the next one too.
     NamespaceNumber lastNamespace_ = 0;
     // Texts that MSXML was asked for, of those few elements that need it.

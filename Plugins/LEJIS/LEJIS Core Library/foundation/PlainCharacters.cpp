@@ -29,7 +29,7 @@ char32_t Number(std::string_view digits, char32_t base) {
         if (place == std::string_view::npos) GiveUp();
         number = number * base + static_cast<char32_t>(place < 16 ? place : place - 6);
     }
-    // Without digits it is no character either.
+    // A reference without digits is not a character either.
     return Required(number);
 }
 

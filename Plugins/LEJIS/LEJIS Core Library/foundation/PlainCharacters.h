@@ -37,11 +37,11 @@ inline bool IsOf(uint8_t what, char byte) { return (kClasses[static_cast<uint8_t
 
 struct Character {
     char32_t value;
-    // Of its bytes.
+    // The number of bytes that the character takes in the markup.
     size_t length;
 };
 
-// The character that the bytes begin with, which are a reference or no ASCII.
+// Decodes the character at the beginning of `bytes`, which is a reference or is not ASCII.
 Character Decode(std::string_view bytes);
 
 void Append(std::wstring& text, char32_t character);

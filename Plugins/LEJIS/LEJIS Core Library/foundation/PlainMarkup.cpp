@@ -9,7 +9,7 @@
 namespace lejis {
 namespace {
 
-// Each of them is far less than what any MSXML takes, as are the bounds of the lists.
+// These limits, like the capacities of the lists, are far below what any MSXML accepts.
 constexpr size_t kLongestName = 1000;
 constexpr size_t kLongestText = size_t{1} << 20;
 

@@ -54,7 +54,7 @@ private:
     struct Open {
         QualifiedName name;
         NamespaceNumber number;
-        // How many bindings hold outside of it.
+        // The number of bindings that hold outside of the element.
         size_t outerBindings;
     };
 
@@ -83,7 +83,7 @@ private:
     bool isEmpty_ = false;
     BoundedList<Open, 200> open_;
     BoundedList<Binding, 100> bindings_;
-    // Of the start tag that is read.
+    // The attributes of the start tag that is being read.
     BoundedList<QualifiedName, 50> attributes_;
 };
 

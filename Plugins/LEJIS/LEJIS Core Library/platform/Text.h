@@ -75,7 +75,7 @@ public:
     OutText& operator=(const OutText&) = delete;
     ~OutText() { SysFreeString(text_); }
 
-    // For one call.
+    // The place for the [out] argument of one call.
     BSTR* Receive() { return &text_; }
 
     // A null text is an empty one.

@@ -13,10 +13,10 @@ using Traits = std::char_traits<wchar_t>;
 // Room for more, since fields are set one after another: enough for all texts of most objects.
 constexpr size_t kStep = 256;
 // No BSTR is longer, and no length of a field.
-constexpr size_t kMost = 0x3fffffff;
+constexpr size_t kMaxLength = 0x3fffffff;
 
 size_t RoundedUp(size_t length) {
-    if (length > kMost) throw std::bad_alloc();
+    if (length > kMaxLength) throw std::bad_alloc();
     return (length + kStep - 1) / kStep * kStep;
 }
 
@@ -38,16 +38,16 @@ bool TextBlock::IsOwn(std::wstring_view text) const {
 }
 
 // A shorter text is moved before those after it, for it may be a part of them; a longer one comes from elsewhere.
-void TextBlock::Replace(size_t begin, size_t oldLength, std::wstring_view text, size_t behind) {
+void TextBlock::Replace(size_t begin, size_t oldLength, std::wstring_view text, size_t lengthAfter) {
     wchar_t* const to = characters_.get() + begin;
     if (text.size() <= oldLength) Traits::move(to, text.data(), text.size());
-    Traits::move(to + text.size(), to + oldLength, behind);
+    Traits::move(to + text.size(), to + oldLength, lengthAfter);
     if (text.size() > oldLength) Traits::copy(to, text.data(), text.size());
 }
 
-void TextBlock::Rebuild(size_t begin, size_t oldLength, std::wstring_view text, size_t behind, size_t capacity) {
+void TextBlock::Rebuild(size_t begin, size_t oldLength, std::wstring_view text, size_t lengthAfter, size_t capacity) {
     auto characters = capacity > 0 ? std::make_unique_for_overwrite<wchar_t[]>(capacity) : nullptr;
-    const std::wstring_view all(characters_.get(), begin + oldLength + behind);
+    const std::wstring_view all(characters_.get(), begin + oldLength + lengthAfter);
     wchar_t* at = characters.get();
     for (const std::wstring_view part : {all.substr(0, begin), text, all.substr(begin + oldLength)}) {
         Traits::copy(at, part.data(), part.size());
@@ -73,7 +73,7 @@ void TextField::Set(std::wstring_view text) {
     } else {
         block.Replace(before, length_, text, after);
     }
-    length_ = static_cast<uint32_t>(text.size()) & kMost;
+    length_ = static_cast<uint32_t>(text.size()) & kMaxLength;
 }
 
 size_t TextField::After() const {

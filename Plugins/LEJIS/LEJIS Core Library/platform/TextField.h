@@ -34,8 +34,8 @@ private:
     TextField* First() { return reinterpret_cast<TextField*>(this + 1); }
     bool IsOwn(std::wstring_view text) const;
     // Puts `text` in the place of some characters: Replace in the present memory, Rebuild in new memory.
-    void Replace(size_t begin, size_t oldLength, std::wstring_view text, size_t behind);
-    void Rebuild(size_t begin, size_t oldLength, std::wstring_view text, size_t behind, size_t capacity);
+    void Replace(size_t begin, size_t oldLength, std::wstring_view text, size_t lengthAfter);
+    void Rebuild(size_t begin, size_t oldLength, std::wstring_view text, size_t lengthAfter, size_t capacity);
 
     std::unique_ptr<wchar_t[]> characters_;
     uint32_t capacity_ = 0;

@@ -52,7 +52,7 @@ STDMETHODIMP LejisSearchWebService::get_results(ICollection** result) {
 STDMETHODIMP LejisSearchWebService::Search(ILejisSearchRequest* request) {
     return Guard([&] {
         try {
-            Send(*platform::Inside<LejisSearchRequest>(request));
+            Send(*platform::ImplementationOf<LejisSearchRequest>(request));
         } catch (...) {
             const SendingFailure failure = ToSendingFailure(platform::CaughtError(), URL);
             FireReason(failure.isNetworkError ? SearchEvents::kNetworkError : SearchEvents::kConfigurationError,

@@ -24,11 +24,11 @@ using platform::ComError;
 namespace lejis {
 
 STDMETHODIMP LejisSubmissionWebService::SubmitIncident(ILejisIncidentIndexCard* incident, ICollection** result) {
-    return Guard(result, [&] { return Submit(*platform::Inside<LejisIncidentIndexCard>(incident)); });
+    return Guard(result, [&] { return Submit(*platform::ImplementationOf<LejisIncidentIndexCard>(incident)); });
 }
 
 STDMETHODIMP LejisSubmissionWebService::DeleteIncident(ILejisIncidentIndexCard* incident) {
-    return Guard([&] { Withdraw(*platform::Inside<LejisIncidentIndexCard>(incident)); });
+    return Guard([&] { Withdraw(*platform::ImplementationOf<LejisIncidentIndexCard>(incident)); });
 }
 
 platform::Ref<Collection> LejisSubmissionWebService::Submit(const LejisIncidentIndexCard& incident) {

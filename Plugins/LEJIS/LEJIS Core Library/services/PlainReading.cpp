@@ -28,7 +28,7 @@ bool IsCharsetUtf8(std::wstring_view parameter) {
     return EqualIgnoringCase(parameter, L"charset=utf-8") || EqualIgnoringCase(parameter, L"charset=\"utf-8\"");
 }
 
-// With no other parameter than a charset.
+// Whether the media type is XML, with no parameter or with the charset UTF-8 alone.
 bool IsXmlInUtf8(std::wstring_view contentType) {
     const size_t semicolon = contentType.find(L';');
     if (!IsXml(platform::TrimBlanks(contentType.substr(0, semicolon)))) return false;
@@ -58,7 +58,7 @@ ComPtr<LejisInquiryResponse> TryPlainReading(const Exchange& exchange) {
     if (!IsXmlInUtf8(exchange.ContentType())) return nullptr;
     const platform::ResponseBytes bytes = exchange.Bytes();
     if (!bytes) return nullptr;
-    // An answer that is not plain, and one that holds no response to an inquiry.
+    // Read gives null for an answer that is not plain or holds no response to an inquiry.
     return Read(bytes.View());
 }
 

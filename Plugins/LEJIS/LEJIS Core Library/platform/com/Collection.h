@@ -29,7 +29,7 @@ public:
     // An item as an object of a class of this library. Throws the type mismatch for any other item.
     template <typename Class>
     Ref<Class> ItemAs(long index) const {
-        return Inside<Class>(ObjectIn(Item(index)));
+        return ImplementationOf<Class>(ObjectIn(Item(index)));
     }
 
     // Passes the items to `visit` in the same way, each before it looks at the next one.
@@ -44,7 +44,7 @@ public:
     std::vector<Ref<Class>> ItemsAs() const {
         std::vector<Ref<Class>> objects;
         objects.reserve(items_.size());
-        for (const _variant_t& item : items_) objects.push_back(Inside<Class>(ObjectIn(item)));
+        for (const _variant_t& item : items_) objects.push_back(ImplementationOf<Class>(ObjectIn(item)));
         return objects;
     }
 

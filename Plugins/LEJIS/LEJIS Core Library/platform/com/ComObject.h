@@ -101,7 +101,7 @@ protected:
 
     void* Find(REFIID iid) override {
         if (iid == __uuidof(IDispatch)) return Dispatch();
-        // An object that is asked for its own class identifier gives its inside, for the function Inside.
+        // An object that is asked for its own class identifier returns itself, for ImplementationOf.
         if (iid == ClassId()) return this->First();
         return Base::Find(iid);
     }
@@ -110,14 +110,14 @@ protected:
 // The object of class `Class` that a client passes as an interface. Throws the object error for no object, and the type
 // mismatch for an object of another class or of another apartment.
 template <typename Class>
-Ref<Class> Inside(IUnknown* client) {
+Ref<Class> ImplementationOf(IUnknown* client) {
     if (!client) throw ObjectRequired();
     void* object = nullptr;
     if (FAILED(client->QueryInterface(Class::ClassId(), &object))) throw TypeMismatch();
-    const Ref<Class> inside(*static_cast<Class*>(static_cast<typename Class::DefaultInterface*>(object)));
+    const Ref<Class> implementation(*static_cast<Class*>(static_cast<typename Class::DefaultInterface*>(object)));
     // This reference came from the query.
-    inside->Release();
-    return inside;
+    implementation->Release();
+    return implementation;
 }
 
 }  // namespace platform

@@ -32,14 +32,14 @@ bool IsSound(const DISPPARAMS& parameters) {
 }
 
 // Some clients know calls alone, and read a property by one.
-WORD WithReading(WORD flags) {
+WORD AllowPropertyGet(WORD flags) {
     return flags & DISPATCH_METHOD ? static_cast<WORD>(flags | DISPATCH_PROPERTYGET) : flags;
 }
 
 // What the dispatcher returns for an argument that it cannot convert. A member's own failure is an exception.
 bool IsMismatch(HRESULT outcome) { return outcome == DISP_E_TYPEMISMATCH || outcome == E_NOINTERFACE; }
 
-// The library passes pointers for nothing else.
+// In the members of the library, every pointer that is not a result is an object.
 bool IsObject(const ELEMDESC& parameter) {
     if (parameter.paramdesc.wParamFlags & PARAMFLAG_FOUT) return false;
     const VARTYPE type = parameter.tdesc.vt;
@@ -95,7 +95,7 @@ HRESULT MemberCall::Invoke(DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* e
     DISPPARAMS none{};
     DISPPARAMS& given = parameters ? *parameters : none;
     if (!IsSound(given)) return E_INVALIDARG;
-    const WORD kinds = WithReading(flags);
+    const WORD kinds = AllowPropertyGet(flags);
     ArgumentsByValue arguments(given);
     const HRESULT outcome = information->Invoke(object, member, kinds, arguments.All(), result, exception, argument);
     // The dispatcher tells a number alone. A client's language names a value of the wrong type by itself, but no

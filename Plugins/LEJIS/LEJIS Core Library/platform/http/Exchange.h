@@ -17,7 +17,7 @@ public:
     Exchange(const Exchange&) = delete;
     Exchange& operator=(const Exchange&) = delete;
 
-    // As HttpRequest gives them.
+    // The answer, with the meanings that HttpRequest gives it.
     long Status() const;
     const std::wstring& StatusText() const;
     const std::wstring& ContentType() const;

@@ -73,7 +73,7 @@ public:
     // Empty when the answer has no such header.
     std::wstring ContentType() const;
     std::wstring ResponseText() const;
-    // Without bytes when the implementation gives none.
+    // The bytes of the answer; empty when the implementation gives none.
     ResponseBytes Bytes() const;
     // Null when the implementation offers no document; without a root when the answer is empty or not XML.
     msxml::Document ResponseXml() const;

@@ -14,5 +14,5 @@ using Node = Microsoft::WRL::ComPtr<IXMLDOMNode>;
 
 }  // namespace platform::msxml
 
-// As the rooms above the platform call it.
+// The short name for the folders above the platform.
 namespace msxml = platform::msxml;
