@@ -18,18 +18,19 @@ INTERNAL, STEP = "Internal error ", "Error in DoSubmit (line "
 
 class Row(NamedTuple):
     speaker: str
-    road: str
+    reachability: str
     begin: str
     outcome: str
 
 
 def rows_of_the_tool():
-    """Its table: who speaks of which road, how the message begins, and the words for its outcome."""
+    """Its table: who speaks of which reachability, how the message begins, and the words for its outcome."""
     source = SOURCE.read_text(encoding="utf-8")
     body = re.search(r"constexpr Row kRows\[\] = \{\n(.*?)\n\};", source, re.DOTALL)[1]
-    rows = re.findall(r'\{Speaker::(\w+), Reachability::(\w+), L"([^"]*)", Result::(\w+), (\w+),\s+\w+\}', body)
+    rows = re.findall(r'\{Speaker::(\w+), Reachability::(\w+), L"([^"]*)",\s+Result::(\w+), (\w+),\s+\w+\}', body)
     assert len(rows) == body.count("Result::"), body
-    return [Row(speaker, road, begin, WORDS[result] + AGAIN[again]) for speaker, road, begin, result, again in rows]
+    return [Row(speaker, reachability, begin, WORDS[result] + AGAIN[again])
+            for speaker, reachability, begin, result, again in rows]
 
 
 def rows_of_the_guide():
@@ -64,7 +65,7 @@ def outcome_of(message, shows):
     for row in rows_of_the_tool():
         if row.speaker == speaker and message.startswith(row.begin):
             outcomes.append(row.outcome)
-            if row.road == "Open":
+            if row.reachability == "Reachable":
                 break
     if len({outcome.removesuffix(AGAIN["true"]) for outcome in outcomes}) == 1:
         return outcomes[0]
